@@ -1,0 +1,30 @@
+# What every target of the project is built with; targets take it by linking larkspan_build.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+if(NOT CMAKE_BUILD_TYPE)
+    set(CMAKE_BUILD_TYPE Release CACHE STRING "Kind of build" FORCE)
+endif()
+
+find_program(LARKSPAN_CCACHE ccache)
+if(LARKSPAN_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    # A precompiled header carries times of its own, which would make every compile a miss.
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        ${CMAKE_COMMAND} -E env "CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime"
+        "CCACHE_BASEDIR=${CMAKE_SOURCE_DIR}" "CCACHE_NOHASHDIR=1" ${LARKSPAN_CCACHE})
+endif()
+
+add_library(larkspan_build INTERFACE)
+target_compile_options(larkspan_build INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+if(LARKSPAN_WERROR)
+    target_compile_options(larkspan_build INTERFACE -Werror)
+endif()
+if(LARKSPAN_SANITIZE)
+    target_compile_options(larkspan_build INTERFACE -fsanitize=${LARKSPAN_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    target_link_options(larkspan_build INTERFACE -fsanitize=${LARKSPAN_SANITIZE})
+endif()
+
+find_package(Threads REQUIRED)

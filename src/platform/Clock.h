@@ -1,0 +1,16 @@
+#pragma once
+
+#include "support/Time.h"
+
+namespace larkspan::platform {
+
+/// The time of day.
+class Clock {
+public:
+    virtual ~Clock() = default;
+
+    /// May be called from any thread.
+    virtual support::Time now() const = 0;
+};
+
+}  // namespace larkspan::platform

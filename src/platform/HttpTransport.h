@@ -1,0 +1,45 @@
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <stop_token>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "platform/URLError.h"
+#include "support/UniqueFunction.h"
+
+namespace larkspan::platform {
+
+struct HttpRequest {
+    std::string method;
+    std::string url;
+    std::vector<std::pair<std::string, std::string>> headers;
+    std::optional<std::string> body;
+    std::chrono::milliseconds timeout{60'000};
+
+    bool operator==(const HttpRequest&) const = default;
+};
+
+struct HttpResponse {
+    /// Absent where the answer was not HTTP.
+    std::optional<int> status;
+    std::string body;
+};
+
+/// Sends requests to the service and nowhere else. Everything happens on the client's executor.
+class HttpTransport {
+public:
+    using Result = std::variant<HttpResponse, URLError::Code>;
+
+    virtual ~HttpTransport() = default;
+
+    /// Sends `request` and calls `complete` once, never inside this call. A write is sent once, whatever happens
+    /// to the connection. Redirects are followed within the origin of the URL only; any other is a status code.
+    /// A stop ends the request with `cancelled`. A transport that goes away drops `complete` uncalled.
+    virtual void send(HttpRequest request, std::stop_token stop, support::UniqueFunction<void(Result)> complete) = 0;
+};
+
+}  // namespace larkspan::platform

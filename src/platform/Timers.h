@@ -1,0 +1,24 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+
+namespace larkspan::platform {
+
+/// A running timer; destroying it stops it, also from within its own firing.
+class Timer {
+public:
+    virtual ~Timer() = default;
+};
+
+/// Timers of the main thread.
+class Timers {
+public:
+    virtual ~Timers() = default;
+
+    /// Calls `fire` on the main thread once each `period`, the first time one period from now.
+    [[nodiscard]] virtual std::unique_ptr<Timer> every(std::chrono::milliseconds period, std::function<void()> fire) = 0;
+};
+
+}  // namespace larkspan::platform

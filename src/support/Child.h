@@ -1,0 +1,66 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "support/Completion.h"
+#include "support/Outcome.h"
+#include "support/Task.h"
+
+namespace larkspan::support {
+
+/// A task started now and awaited later, on the executor that it is awaited on. Dropped, it runs on unheard.
+template <typename T>
+class Child {
+public:
+    Child(platform::Executor& executor, Task<T> task) { start(executor, run(state_, std::move(task))); }
+
+    /// The task's result or its exception. Await it once.
+    Task<T> result() { return takeResult(state_); }
+
+    /// Ends when the task has ended, however it ended.
+    Task<void> settled() { return awaitEnd(state_); }
+
+private:
+    struct State {
+        std::optional<Outcome<T>> outcome;
+        std::optional<Completion<void>> waiter;
+    };
+    using StatePointer = std::shared_ptr<State>;
+
+    static Task<void> run(StatePointer state, Task<T> task)
+    {
+        try {
+            if constexpr (std::is_void_v<T>) {
+                co_await std::move(task);
+                state->outcome = Outcome<T>::success();
+            } else {
+                T value = co_await std::move(task);
+                state->outcome = Outcome<T>::success(std::move(value));
+            }
+        } catch (...) {
+            state->outcome = Outcome<T>::failure(std::current_exception());
+        }
+        if (auto waiter = std::exchange(state->waiter, std::nullopt)) waiter->give(Outcome<void>::success());
+    }
+
+    static Task<void> awaitEnd(StatePointer state)
+    {
+        if (state->outcome) co_return;
+        auto park = [state](Completion<void> waiter) { state->waiter.emplace(std::move(waiter)); };
+        auto end = completion<void>(std::move(park));
+        co_await std::move(end);
+    }
+
+    static Task<T> takeResult(StatePointer state)
+    {
+        auto end = awaitEnd(state);
+        co_await std::move(end);
+        co_return state->outcome->take();
+    }
+
+    StatePointer state_ = std::make_shared<State>();
+};
+
+}  // namespace larkspan::support

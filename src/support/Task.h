@@ -1,0 +1,68 @@
+#pragma once
+
+#include <asio/awaitable.hpp>
+#include <asio/co_spawn.hpp>
+#include <asio/use_awaitable.hpp>
+
+#include <exception>
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "platform/Executor.h"
+
+namespace larkspan::support {
+
+/// A `platform::Executor` as asio's coroutines see it. The executor must outlive every task that runs on it.
+class TaskExecutor {
+public:
+    explicit TaskExecutor(platform::Executor& executor)
+        : executor_(&executor)
+    {
+    }
+
+    template <typename Work>
+    void execute(Work&& work) const
+    {
+        executor_->post(std::forward<Work>(work));
+    }
+
+    static constexpr asio::execution::blocking_t query(asio::execution::blocking_t) { return asio::execution::blocking.never; }
+
+    bool operator==(const TaskExecutor&) const = default;
+
+    platform::Executor& executor() const { return *executor_; }
+
+private:
+    platform::Executor* executor_;
+};
+
+/// Asynchronous work that gives a `T` or throws; it does nothing until it is awaited or started.
+/// A coroutine takes its arguments by value, for it may outlive its caller.
+template <typename T>
+using Task = asio::awaitable<T, TaskExecutor>;
+
+namespace detail {
+
+inline constexpr asio::use_awaitable_t<TaskExecutor> awaitTask{};
+
+[[noreturn]] void endProcess(const std::exception_ptr& escaped);
+
+}  // namespace detail
+
+/// Runs `task` on `executor` with nobody waiting for it. An exception that escapes it ends the process.
+inline void start(platform::Executor& executor, Task<void> task)
+{
+    asio::co_spawn(TaskExecutor(executor), std::move(task), [](const std::exception_ptr& failure) {
+        if (failure) detail::endProcess(failure);
+    });
+}
+
+/// Runs `task` on `executor` and resumes the awaiter where it awaited, with the task's result or exception.
+template <typename T>
+Task<T> on(platform::Executor& executor, Task<T> task)
+{
+    return asio::co_spawn(TaskExecutor(executor), std::move(task), detail::awaitTask);
+}
+
+}  // namespace larkspan::support
