@@ -1,0 +1,18 @@
+#pragma once
+
+#include <functional>
+#include <utility>
+
+#include "platform/NetworkPathMonitor.h"
+
+namespace larkspan::fakes {
+
+/// A network that the test connects and cuts.
+class FakeNetworkPathMonitor final : public platform::NetworkPathMonitor {
+public:
+    void start(std::function<void(bool isSatisfied)> update) override { this->update = std::move(update); }
+
+    std::function<void(bool isSatisfied)> update;
+};
+
+}  // namespace larkspan::fakes
