@@ -1,0 +1,121 @@
+#include "support/Child.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "fakes/ManualExecutor.h"
+
+namespace larkspan::support {
+
+namespace {
+
+using fakes::ManualExecutor;
+using Log = std::vector<std::string>;
+
+Task<std::string> work(Log* log, std::string name)
+{
+    log->push_back(name + " begins");
+    co_return name;
+}
+
+Task<std::string> failing(std::string text)
+{
+    throw std::runtime_error(text);
+    co_return text;
+}
+
+Task<void> awaitBoth(platform::Executor& main, Log* log)
+{
+    Child<std::string> first(main, work(log, "first"));
+    Child<std::string> second(main, work(log, "second"));
+    log->push_back("both started");
+    auto secondResult = second.result();
+    log->push_back(co_await std::move(secondResult) + " ended");
+    auto firstResult = first.result();
+    log->push_back(co_await std::move(firstResult) + " ended");
+}
+
+TEST(Child, RunsBesideItsParentAndMayBeAwaitedInAnyOrder)
+{
+    ManualExecutor main;
+    Log log;
+    start(main, awaitBoth(main, &log));
+    main.run();
+    EXPECT_EQ(log, (Log{"both started", "first begins", "second begins", "second ended", "first ended"}));
+}
+
+Task<void> awaitFailure(platform::Executor& main, Log* log)
+{
+    Child<std::string> child(main, failing("broken"));
+    auto end = child.settled();
+    co_await std::move(end);
+    log->push_back("settled");
+    try {
+        auto result = child.result();
+        co_await std::move(result);
+    } catch (const std::runtime_error& error) {
+        log->push_back(error.what());
+    }
+}
+
+TEST(Child, SettlesWithoutThrowingAndThrowsFromItsResult)
+{
+    ManualExecutor main;
+    Log log;
+    start(main, awaitFailure(main, &log));
+    main.run();
+    EXPECT_EQ(log, (Log{"settled", "broken"}));
+}
+
+Task<void> awaitVoid(platform::Executor& main, platform::Executor& elsewhere, Log* log)
+{
+    struct Note {
+        static Task<void> down(Log* into)
+        {
+            into->push_back("elsewhere");
+            co_return;
+        }
+    };
+    Child<void> child(main, on(elsewhere, Note::down(log)));
+    auto result = child.result();
+    co_await std::move(result);
+    log->push_back("home");
+}
+
+TEST(Child, WithoutAResultCanBeAwaitedToo)
+{
+    ManualExecutor main;
+    ManualExecutor elsewhere;
+    Log log;
+    start(main, awaitVoid(main, elsewhere, &log));
+    main.run();
+    elsewhere.run();
+    EXPECT_EQ(log, (Log{"elsewhere"}));
+    main.run();
+    EXPECT_EQ(log, (Log{"elsewhere", "home"}));
+}
+
+Task<void> dropAtOnce(platform::Executor& main, Log* log)
+{
+    {
+        const Child<std::string> child(main, work(log, "child"));
+    }
+    log->push_back("parent ended");
+    co_return;
+}
+
+TEST(Child, DroppedItRunsOnUnheard)
+{
+    ManualExecutor main;
+    Log log;
+    start(main, dropAtOnce(main, &log));
+    main.run();
+    EXPECT_EQ(log, (Log{"parent ended", "child begins"}));
+}
+
+}  // namespace
+
+}  // namespace larkspan::support
