@@ -18,7 +18,8 @@ public:
     virtual ~Timers() = default;
 
     /// Calls `fire` on the main thread once each `period`, the first time one period from now.
-    [[nodiscard]] virtual std::unique_ptr<Timer> every(std::chrono::milliseconds period, std::function<void()> fire) = 0;
+    [[nodiscard]] virtual std::unique_ptr<Timer> every(std::chrono::milliseconds period, std::function<void()> fire)
+        = 0;
 };
 
 }  // namespace larkspan::platform

@@ -32,15 +32,15 @@ Task<T> completion(Begin begin)
 {
     auto initiate = [begin = std::move(begin)](auto handler) mutable {
         const auto executor = asio::get_associated_executor(handler);
-        UniqueFunction<void(Outcome<T>)> resume
-            = [executor, handler = std::move(handler)](Outcome<T> outcome) mutable {
-                  executor.execute([handler = std::move(handler), outcome = std::move(outcome)]() mutable {
-                      std::move(handler)(std::move(outcome));
-                  });
-              };
+        UniqueFunction<void(Outcome<T>)> resume = [executor, handler = std::move(handler)](Outcome<T> outcome) mutable {
+            executor.execute([handler = std::move(handler), outcome = std::move(outcome)]() mutable {
+                std::move(handler)(std::move(outcome));
+            });
+        };
         begin(Completion<T>(std::move(resume)));
     };
-    auto answer = asio::async_initiate<decltype(detail::awaitTask), void(Outcome<T>)>(std::move(initiate), detail::awaitTask);
+    auto answer
+        = asio::async_initiate<decltype(detail::awaitTask), void(Outcome<T>)>(std::move(initiate), detail::awaitTask);
     Outcome<T> outcome = co_await std::move(answer);
     co_return outcome.take();
 }

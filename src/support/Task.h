@@ -27,7 +27,10 @@ public:
         executor_->post(std::forward<Work>(work));
     }
 
-    static constexpr asio::execution::blocking_t query(asio::execution::blocking_t) { return asio::execution::blocking.never; }
+    static constexpr asio::execution::blocking_t query(asio::execution::blocking_t)
+    {
+        return asio::execution::blocking.never;
+    }
 
     bool operator==(const TaskExecutor&) const = default;
 

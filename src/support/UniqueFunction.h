@@ -1,6 +1,5 @@
 #pragma once
 
-#include <concepts>
 #include <memory>
 #include <type_traits>
 #include <utility>
@@ -14,12 +13,16 @@ class UniqueFunction;
 
 template <typename Result, typename... Arguments>
 class UniqueFunction<Result(Arguments...)> {
+    template <typename Callable>
+    static constexpr bool isAnother = std::is_same_v<std::remove_cvref_t<Callable>, UniqueFunction>;
+    template <typename Callable>
+    static constexpr bool canHold = std::is_invocable_r_v<Result, std::decay_t<Callable>&, Arguments...>;
+
 public:
     UniqueFunction() = default;
 
     template <typename Callable>
-        requires(!std::same_as<std::remove_cvref_t<Callable>, UniqueFunction>
-                 && std::is_invocable_r_v<Result, std::decay_t<Callable>&, Arguments...>)
+        requires(!isAnother<Callable> && canHold<Callable>)
     UniqueFunction(Callable&& callable)
         : target_(std::make_unique<Holder<std::decay_t<Callable>>>(std::forward<Callable>(callable)))
     {

@@ -26,7 +26,8 @@ public:
     {
     }
 
-    void send(platform::HttpRequest request, std::stop_token stop, support::UniqueFunction<void(Result)> complete) override
+    void send(
+        platform::HttpRequest request, std::stop_token stop, support::UniqueFunction<void(Result)> complete) override
     {
         requests.push_back(request);
         const auto scripted = answers_.find(request.url);

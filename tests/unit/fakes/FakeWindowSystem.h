@@ -14,7 +14,10 @@ class FakeWindow final : public platform::Window {
 public:
     bool isVisible() const override { return visible; }
     bool canBecomeKeyWindow() const override { return canBecomeKey; }
-    void setDelegate(std::weak_ptr<platform::WindowDelegate> newDelegate) override { delegate = std::move(newDelegate); }
+    void setDelegate(std::weak_ptr<platform::WindowDelegate> newDelegate) override
+    {
+        delegate = std::move(newDelegate);
+    }
     void miniaturize() override { calls.emplace_back("miniaturize"); }
     void deminiaturize() override { calls.emplace_back("deminiaturize"); }
     void makeKeyAndOrderFront() override { calls.emplace_back("makeKeyAndOrderFront"); }

@@ -40,8 +40,7 @@ public:
     /// Destroys what is queued without running it, and what that queues in turn.
     void drop()
     {
-        while (next()) {
-        }
+        while (next()) {}
     }
 
 private:
