@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "account/StatusPage.h"
+
+namespace larkspan::simulator {
+
+/// How many pages a name stands for: "empty", "tiny", "small", "large", or a number up to 100,000.
+std::optional<std::size_t> seedSize(std::string_view name);
+
+/// Believable pages, each name and id once; the same for the same count. All are operational but for
+/// a degraded one in each nine, a down one in each eleven and one under maintenance in each thirteen.
+std::vector<StatusPage> seededPages(std::size_t count);
+
+}  // namespace larkspan::simulator

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "support/Time.h"
+
+namespace larkspan::simulator {
+
+/// How a page stands; each resource words it in a vocabulary of its own.
+enum class PageHealth { operational, degraded, majorOutage, maintenance };
+
+struct PageMetric {
+    std::string period;
+    std::optional<double> uptime;
+    std::optional<std::int64_t> incidents;
+};
+
+/// A status page of the account. `status` and `overview` are the words sent, whatever they are,
+/// so that an account can be put into states that the service should never reach.
+struct StatusPage {
+    struct Overview {
+        std::string code;
+        std::string label;
+    };
+
+    /// Puts both words to what the service says of a page in that state.
+    void setHealth(PageHealth health);
+
+    std::string id;
+    std::string name;
+    std::optional<std::string> slug;
+    std::optional<std::string> url;
+    std::optional<std::string> description;
+    std::optional<std::string> status;
+    std::optional<Overview> overview;
+    std::optional<support::Time> createdAt;
+    std::optional<support::Time> updatedAt;
+    std::optional<std::vector<PageMetric>> metrics;
+};
+
+}  // namespace larkspan::simulator

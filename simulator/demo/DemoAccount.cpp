@@ -1,0 +1,29 @@
+#include "demo/DemoAccount.h"
+
+#include "account/Seed.h"
+
+namespace larkspan::simulator {
+
+namespace {
+
+Account smallAccount()
+{
+    Account account;
+    account.keys.emplace(DemoAccount::key, KeyRights::full);
+    account.statusPages = seededPages(*seedSize("small"));
+    return account;
+}
+
+}  // namespace
+
+DemoAccount::DemoAccount(
+    const platform::Clock& clock, const platform::CredentialItem& item, std::chrono::milliseconds latency)
+    : service_(smallAccount())
+    , transport_(std::in_place, service_, worker_, worker_)
+{
+    service_.live(Storyline::ordinaryDay(), clock);
+    service_.inject({fault::Delay{latency}});
+    credentialStore_.add(item, key);
+}
+
+}  // namespace larkspan::simulator

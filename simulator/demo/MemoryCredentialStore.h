@@ -1,0 +1,22 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <utility>
+
+#include "platform/CredentialStore.h"
+
+namespace larkspan::simulator {
+
+/// Secrets that end with the process. Used from one thread, as the port says.
+class MemoryCredentialStore final : public platform::CredentialStore {
+public:
+    std::optional<std::string> find(const platform::CredentialItem& item) override;
+    bool add(const platform::CredentialItem& item, const std::string& secret) override;
+    void remove(const platform::CredentialItem& item) override;
+
+private:
+    std::map<std::pair<std::string, std::string>, std::string> secrets_;
+};
+
+}  // namespace larkspan::simulator

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <chrono>
+
+#include "support/UniqueFunction.h"
+
+namespace larkspan::simulator {
+
+/// Work that runs after a while. May be asked from any thread.
+class Delays {
+public:
+    virtual ~Delays() = default;
+
+    /// Runs `work` when `wait` is over, never inside this call.
+    virtual void after(std::chrono::milliseconds wait, support::UniqueFunction<void()> work) = 0;
+};
+
+}  // namespace larkspan::simulator

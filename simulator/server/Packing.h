@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace larkspan::simulator {
+
+/// `text` and so many blanks behind it, as a gzip stream.
+std::string packed(std::string_view text, std::uint64_t blanks);
+
+}  // namespace larkspan::simulator

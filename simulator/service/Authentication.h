@@ -1,0 +1,14 @@
+#pragma once
+
+#include <optional>
+
+#include "account/Account.h"
+#include "service/Exchange.h"
+
+namespace larkspan::simulator {
+
+/// The status with which the service turns the request away, if it does: 401 unless both headers carry the same known
+/// key, 403 for a key without rights.
+std::optional<int> refusal(const Request& request, const Account& account);
+
+}  // namespace larkspan::simulator

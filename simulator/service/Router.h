@@ -1,0 +1,52 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "account/Account.h"
+#include "service/Exchange.h"
+#include "json/Json.h"
+
+namespace larkspan::simulator {
+
+/// A request on its way into a handler.
+struct Call {
+    const Request& request;
+    Account& account;
+    /// What stood in the path where the route has a "*", in order.
+    std::vector<std::string> wildcards;
+};
+
+/// What a handler answers: a status and the result, which is put into its shape later. A status outside 200 to 299
+/// carries its result as it is.
+struct Answer {
+    int status = 200;
+    std::optional<Json> result = {};
+    Headers headers = {};
+};
+
+using Handler = std::function<Answer(const Call&)>;
+
+/// From method and path to the handler.
+class Router {
+public:
+    /// In `pattern` a "*" stands for any one segment of the path.
+    void add(std::string method, std::string_view pattern, Handler handler);
+
+    /// 404 where no route has the path, 405 where none of those has the method.
+    Answer route(const Request& request, Account& account) const;
+
+private:
+    struct Route {
+        std::string method;
+        std::vector<std::string> segments;
+        Handler handler;
+    };
+
+    std::vector<Route> routes_;
+};
+
+}  // namespace larkspan::simulator

@@ -1,0 +1,107 @@
+#include "service/Service.h"
+
+#include <utility>
+
+#include "service/Authentication.h"
+#include "service/StatusPagesResource.h"
+
+namespace larkspan::simulator {
+
+Service::Service(Account account)
+    : account_(std::move(account))
+{
+    addStatusPagesRoutes(router_);
+}
+
+Reply Service::answer(const Request& request)
+{
+    const std::scoped_lock lock(mutex_);
+    record(request);
+    if (life_) {
+        const auto now = life_->clock->now();
+        life_->story.tellUpTo(now - life_->start, now, account_);
+    }
+    const auto faults = faults_.take(request);
+    auto reply = replyTo(request, faults);
+    for (const auto& fault : faults) spoil(fault, reply);
+    return reply;
+}
+
+void Service::withAccount(const std::function<void(Account&)>& use)
+{
+    const std::scoped_lock lock(mutex_);
+    use(account_);
+}
+
+void Service::live(Storyline story, const platform::Clock& clock)
+{
+    const std::scoped_lock lock(mutex_);
+    life_.emplace(Life{std::move(story), &clock, clock.now()});
+}
+
+void Service::setShape(ResultShape shape)
+{
+    const std::scoped_lock lock(mutex_);
+    shape_ = shape;
+}
+
+void Service::inject(FaultRule rule)
+{
+    const std::scoped_lock lock(mutex_);
+    faults_.add(std::move(rule));
+}
+
+void Service::clearFaults()
+{
+    const std::scoped_lock lock(mutex_);
+    faults_.clear();
+}
+
+std::vector<Request> Service::received() const
+{
+    const std::scoped_lock lock(mutex_);
+    return {received_.begin(), received_.end()};
+}
+
+void Service::forgetReceived()
+{
+    const std::scoped_lock lock(mutex_);
+    received_.clear();
+}
+
+Reply Service::replyTo(const Request& request, const std::vector<Fault>& faults)
+{
+    auto answer = answerOfResource(request);
+    Reply reply;
+    reply.status = answer.status;
+    reply.headers = std::move(answer.headers);
+    if (!answer.result) return reply;
+
+    auto& result = *answer.result;
+    const bool isSuccess = answer.status >= 200 && answer.status < 300;
+    if (isSuccess) {
+        for (const auto& fault : faults) spoil(fault, result);
+        if (shape_ == ResultShape::underData) result = Json::object({{"data", std::move(result)}});
+    }
+    reply.body = result.text();
+    return reply;
+}
+
+Answer Service::answerOfResource(const Request& request)
+{
+    if (!request.path().starts_with("/user/api/")) return {404, Json::object({{"error", "Not found"}})};
+    if (const auto status = refusal(request, account_)) {
+        const auto* reason = *status == 401 ? "Unauthorized" : "Forbidden";
+        return {*status, Json::object({{"error", reason}})};
+    }
+    return router_.route(request, account_);
+}
+
+void Service::record(const Request& request)
+{
+    constexpr std::size_t most = 10'000;
+    if (received_.size() == most) received_.pop_front();
+    received_.push_back(request);
+}
+
+}  // namespace larkspan::simulator

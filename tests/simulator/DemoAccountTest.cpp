@@ -1,0 +1,58 @@
+#include "demo/DemoAccount.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <future>
+
+#include "fakes/ManualClock.h"
+#include "json/Json.h"
+
+namespace larkspan::simulator {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr platform::CredentialItem item{"service", "account"};
+
+std::string fetchPages(DemoAccount& account)
+{
+    const auto key = account.credentialStore().find(item).value_or("");
+    platform::HttpRequest request{"GET", "https://kestrune.example/user/api/v1/status-pages",
+        {{"Authorization", "Bearer " + key}, {"X-API-Key", key}}, std::nullopt};
+    std::promise<std::string> body;
+    account.transport().send(std::move(request), {}, [&body](platform::HttpTransport::Result result) {
+        body.set_value(std::get<platform::HttpResponse>(result).body);
+    });
+    return body.get_future().get();
+}
+
+TEST(DemoAccount, ShowsItsPagesToTheKeyInItsStoreAndLives)
+{
+    fakes::ManualClock clock;
+    DemoAccount account(clock, item, 1ms);
+
+    const auto before = Json::parse(fetchPages(account));
+    clock.time += 1min;
+    const auto after = Json::parse(fetchPages(account));
+
+    EXPECT_EQ(before.find("data")->array()->size(), 12u);
+    EXPECT_NE(before, after);
+}
+
+TEST(MemoryCredentialStore, HoldsEachItemByBothAttributes)
+{
+    MemoryCredentialStore store;
+
+    EXPECT_TRUE(store.add(item, "one"));
+    EXPECT_FALSE(store.add(item, "two"));
+    EXPECT_TRUE(store.add({"service", "other"}, "three"));
+
+    EXPECT_EQ(store.find(item), "one");
+    store.remove(item);
+    EXPECT_EQ(store.find(item), std::nullopt);
+    EXPECT_EQ(store.find({"service", "other"}), "three");
+}
+
+}  // namespace
+}  // namespace larkspan::simulator

@@ -1,0 +1,43 @@
+#include "json/Json.h"
+#include "json/WireDate.h"
+
+#include <gtest/gtest.h>
+
+namespace larkspan::simulator {
+namespace {
+
+using namespace std::chrono_literals;
+
+TEST(Json, KeepsEachKindOfValueAndTheOrderOfMembersThroughTextAndBack)
+{
+    const std::string text = R"({"b":[1,-2,2.5,true,false,null],"a":{"text":"line\u000a \"quoted\" \\ ø"},"empty":[]})";
+
+    EXPECT_EQ(Json::parse(text).text(), text);
+}
+
+TEST(Json, OfAMissingMemberFindsNothing)
+{
+    const auto json = Json::object({{"present", 1}});
+
+    ASSERT_NE(json.find("present"), nullptr);
+    EXPECT_EQ(json.find("present")->integer(), 1);
+    EXPECT_EQ(json.find("absent"), nullptr);
+    EXPECT_EQ(Json("text").find("present"), nullptr);
+}
+
+TEST(Json, OfTextThatIsNoJsonIsMalformed)
+{
+    EXPECT_THROW(Json::parse("{\"open\":"), Json::Malformed);
+    EXPECT_THROW(Json::parse(""), Json::Malformed);
+}
+
+TEST(WireDate, HasAFractionOnlyWhereTheMomentHasOne)
+{
+    const support::Time whole = std::chrono::sys_days(std::chrono::year(2026) / 3 / 1) + 9h + 5min + 7s;
+
+    EXPECT_EQ(wireDate(whole), "2026-03-01T09:05:07Z");
+    EXPECT_EQ(wireDate(whole + 12ms), "2026-03-01T09:05:07.012Z");
+}
+
+}  // namespace
+}  // namespace larkspan::simulator

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+#include "account/Account.h"
+#include "account/Seed.h"
+#include "service/Exchange.h"
+
+namespace larkspan::simulator::samples {
+
+inline const std::string key = "kst_test_key";
+inline const std::string keyWithoutRights = "kst_read_nothing";
+inline const std::string pagesPath = "/user/api/v1/status-pages";
+inline const std::string overviewPath = "/user/api/status-pages/status";
+
+/// An account of so many seeded pages with a key that may do everything and one that may do nothing.
+inline Account account(std::size_t pages = 3)
+{
+    return {{{key, KeyRights::full}, {keyWithoutRights, KeyRights::none}}, seededPages(pages)};
+}
+
+/// A request as the client sends it.
+inline Request request(std::string target, std::string method = "GET", const std::string& withKey = key)
+{
+    return {std::move(method), std::move(target), {{"Authorization", "Bearer " + withKey}, {"X-API-Key", withKey}}, {}};
+}
+
+}  // namespace larkspan::simulator::samples
