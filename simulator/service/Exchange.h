@@ -44,6 +44,8 @@ struct Delivery {
 
     Ending ending = Ending::whole;
     std::uint64_t bodyBytes = 0;
+    /// The end of the body is told by the end of the connection only.
+    bool hidesLength = false;
     /// Before the first byte.
     std::chrono::milliseconds delay{0};
     /// Behind each `dripBytes` of the body; no drip where this is zero.

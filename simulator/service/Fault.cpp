@@ -64,7 +64,12 @@ struct SpoilReply {
     }
 
     void operator()(const fault::Reset& reset) const { cut(Delivery::Ending::reset, reset.afterBodyBytes); }
-    void operator()(const fault::Truncation& cutOff) const { cut(Delivery::Ending::truncated, cutOff.afterBodyBytes); }
+    void operator()(const fault::Truncation& truncation) const
+    {
+        reply.delivery.hidesLength = truncation.hidesLength;
+        cut(Delivery::Ending::truncated, truncation.afterBodyBytes);
+    }
+
     void operator()(const fault::ClosedBeforeFirstByte&) const
     {
         reply.delivery.ending = Delivery::Ending::closedBeforeFirstByte;

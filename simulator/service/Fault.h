@@ -33,11 +33,13 @@ struct Drip {
 
 /// Where a cut says no number of bytes, it falls in the middle of the body.
 struct Reset {
-    std::optional<std::uint64_t> afterBodyBytes;
+    std::optional<std::uint64_t> afterBodyBytes = {};
 };
 
+/// With its length hidden, the body looks whole to all who miss the end of TLS.
 struct Truncation {
-    std::optional<std::uint64_t> afterBodyBytes;
+    std::optional<std::uint64_t> afterBodyBytes = {};
+    bool hidesLength = false;
 };
 
 struct ClosedBeforeFirstByte {};

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <filesystem>
+
+#include "server/Certificate.h"
+
+namespace larkspan::simulator {
+
+/// The simulator's own authority, made on first use and kept in a directory, so that a machine trusts it once.
+class AuthorityStore {
+public:
+    /// Makes the directory where it is missing. Throws std::runtime_error with a sentence.
+    explicit AuthorityStore(std::filesystem::path directory);
+
+    const Identity& authority() const { return authority_; }
+
+    /// The authority's certificate, without its key.
+    const std::filesystem::path& certificateFile() const { return certificateFile_; }
+
+private:
+    std::filesystem::path certificateFile_;
+    Identity authority_;
+};
+
+/// Where the authority is kept unless told: in the user's data directory.
+std::filesystem::path defaultAuthorityDirectory();
+
+}  // namespace larkspan::simulator

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <stdexcept>
+
+#include "service/FaultPlan.h"
+#include "json/Json.h"
+
+namespace larkspan::simulator {
+
+/// What was asked of the simulator makes no sense; the message says what.
+class BadOrder : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// A fault in JSON: its name under "fault" ("status", "delay", "hang", "drip", "reset", "truncation",
+/// "closed_before_first_byte", "not_http", "body", "garbage", "wrong_shape", "bad_element", "deep_nesting",
+/// "huge_body", "redirect"), what it needs ("code", "milliseconds", "bytes", "after", "text", "content_type", "depth",
+/// "packed", "location"), and whom it befalls ("path", "method", "times"). Throws `BadOrder`.
+FaultRule readFaultRule(const Json& json);
+
+}  // namespace larkspan::simulator

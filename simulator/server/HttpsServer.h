@@ -1,0 +1,31 @@
+#pragma once
+
+#include <memory>
+#include <thread>
+
+#include "server/ServerCertificates.h"
+#include "service/Service.h"
+
+namespace larkspan::simulator {
+
+/// The service and its control over HTTPS on 127.0.0.1.
+class HttpsServer {
+public:
+    /// Takes connections at once; port 0 means any that is free. Throws std::runtime_error with a sentence.
+    /// The service and the certificates outlive the server.
+    HttpsServer(Service& service, ServerCertificates& certificates, int port);
+
+    /// Ends all connections, whatever they wait for.
+    ~HttpsServer();
+
+    int port() const { return port_; }
+
+private:
+    class Listener;
+
+    std::unique_ptr<Listener> listener_;
+    int port_ = 0;
+    std::jthread thread_;
+};
+
+}  // namespace larkspan::simulator

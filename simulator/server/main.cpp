@@ -1,0 +1,74 @@
+#include <csignal>
+#include <exception>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "account/Seed.h"
+#include "platform/Clock.h"
+#include "server/AuthorityStore.h"
+#include "server/HttpsServer.h"
+#include "server/Options.h"
+
+namespace {
+
+using namespace larkspan;
+
+class SystemClock final : public platform::Clock {
+public:
+    support::Time now() const override
+    {
+        return std::chrono::time_point_cast<std::chrono::milliseconds>(std::chrono::system_clock::now());
+    }
+};
+
+/// Signals wait for `waitForSignal`, in this thread and all that it starts.
+sigset_t holdSignals()
+{
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGTERM);
+    sigaddset(&signals, SIGINT);
+    sigaddset(&signals, SIGHUP);
+    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+    // A client that goes away in the middle is an ordinary thing.
+    std::signal(SIGPIPE, SIG_IGN);
+    return signals;
+}
+
+void serve(const simulator::Options& options)
+{
+    const auto signals = holdSignals();
+    const SystemClock clock;
+    simulator::Service service(
+        {{{options.key, simulator::KeyRights::full}}, simulator::seededPages(*simulator::seedSize(options.seed))});
+    service.setShape(options.shape);
+    if (options.isLiving) service.live(simulator::Storyline::ordinaryDay(), clock);
+
+    const simulator::AuthorityStore store(options.directory);
+    simulator::ServerCertificates certificates(store.authority(), options.certificate);
+    const simulator::HttpsServer server(service, certificates, options.port);
+    std::cout << "https://localhost:" << server.port() << "\nauthority: " << store.certificateFile().string()
+              << std::endl;
+
+    int signal = 0;
+    sigwait(&signals, &signal);
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    const auto asked = simulator::readOptions({argv + 1, argv + argc});
+    if (const auto* explanation = std::get_if<simulator::Explanation>(&asked)) {
+        (explanation->isError ? std::cerr : std::cout) << explanation->text;
+        return explanation->isError ? 2 : 0;
+    }
+    try {
+        serve(std::get<simulator::Options>(asked));
+    } catch (const std::exception& error) {
+        std::cerr << "larkspan-simulator: " << error.what() << '\n';
+        return 1;
+    }
+    return 0;
+}

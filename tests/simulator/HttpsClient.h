@@ -1,0 +1,44 @@
+#pragma once
+
+#include <curl/curl.h>
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "service/Exchange.h"
+
+namespace larkspan::simulator {
+
+/// What came of a request.
+struct HttpsResult {
+    CURLcode code = CURLE_OK;
+    long status = 0;
+    std::string body;
+    std::string head;
+};
+
+/// A client that trusts one authority and lets each connection be used for several requests.
+class HttpsClient {
+public:
+    HttpsClient(std::string base, std::filesystem::path authority);
+
+    HttpsResult send(const Request& request);
+
+    /// An order to the simulator's control, trusting whatever certificate it shows.
+    HttpsResult order(const std::string& method, const std::string& path, const std::string& body = {});
+
+private:
+    HttpsResult perform(CURL* handle, const Request& request) const;
+
+    struct Cleanup {
+        void operator()(CURL* handle) const { curl_easy_cleanup(handle); }
+    };
+    using Handle = std::unique_ptr<CURL, Cleanup>;
+
+    std::string base_;
+    std::filesystem::path authority_;
+    Handle handle_;
+};
+
+}  // namespace larkspan::simulator
