@@ -1,0 +1,73 @@
+#include "adapters/http/ClientLoop.h"
+
+#include <gtest/gtest.h>
+
+#include <future>
+#include <thread>
+#include <vector>
+
+namespace larkspan::adapters {
+namespace {
+
+TEST(ClientLoop, RunsWorkOnItsOwnThreadInTheOrderPosted)
+{
+    std::vector<int> order;
+    std::thread::id thread;
+    {
+        ClientLoop loop;
+        loop.post([&] { order.push_back(1); });
+        loop.post([&] { order.push_back(2); });
+        loop.post([&] { thread = std::this_thread::get_id(); });
+    }
+    EXPECT_EQ(order, (std::vector{1, 2}));
+    EXPECT_NE(thread, std::thread::id());
+    EXPECT_NE(thread, std::this_thread::get_id());
+}
+
+TEST(ClientLoop, IsWokenByAPostWhileItWaits)
+{
+    ClientLoop loop;
+    for (int i = 0; i < 100; ++i) {
+        std::promise<void> ran;
+        loop.post([&] { ran.set_value(); });
+        ASSERT_EQ(ran.get_future().wait_for(std::chrono::seconds(5)), std::future_status::ready);
+    }
+}
+
+TEST(ClientLoop, RunsWhatIsQueuedAndWhatThatQueuesBeforeItEnds)
+{
+    int ran = 0;
+    {
+        ClientLoop loop;
+        loop.post([&] {
+            ++ran;
+            loop.post([&] {
+                ++ran;
+                loop.post([&] { ++ran; });
+            });
+        });
+    }
+    EXPECT_EQ(ran, 3);
+}
+
+TEST(ClientLoop, TakesWorkFromManyThreadsAndKeepsTheOrderOfEach)
+{
+    constexpr int threads = 8;
+    constexpr int posts = 2'000;
+    std::vector<std::vector<int>> seen(threads);
+    {
+        ClientLoop loop;
+        std::vector<std::jthread> posters;
+        for (int thread = 0; thread < threads; ++thread)
+            posters.emplace_back([&loop, &seen, thread] {
+                for (int i = 0; i < posts; ++i)
+                    loop.post([&seen, thread, i] { seen[static_cast<std::size_t>(thread)].push_back(i); });
+            });
+    }
+    std::vector<int> expected(posts);
+    for (int i = 0; i < posts; ++i) expected[static_cast<std::size_t>(i)] = i;
+    for (const auto& own : seen) EXPECT_EQ(own, expected);
+}
+
+}  // namespace
+}  // namespace larkspan::adapters
