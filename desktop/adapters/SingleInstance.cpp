@@ -1,0 +1,95 @@
+#include "adapters/SingleInstance.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusReply>
+
+#include <utility>
+
+namespace larkspan::adapters {
+
+namespace {
+
+using BusInterface = QDBusConnectionInterface;
+
+// Owners that come and go faster than this are no reason to keep the user waiting.
+constexpr int mostRounds = 3;
+
+}  // namespace
+
+SingleInstance::SingleInstance(QDBusConnection bus, std::chrono::milliseconds patience, QObject* parent)
+    : QObject(parent)
+    , bus_(std::move(bus))
+    , patience_(patience)
+{
+    connect(&service_, &ApplicationService::activated, this, &SingleInstance::activated);
+}
+
+SingleInstance::~SingleInstance()
+{
+    bus_.unregisterObject(objectPath);
+    bus_.unregisterService(serviceName);
+}
+
+SingleInstance::Standing SingleInstance::claim(const QString& activationToken)
+{
+    if (!bus_.isConnected()) return Standing::first;
+
+    // Before the name is owned, so that nobody who finds the owner finds it without the object.
+    bus_.registerObject(objectPath, &service_, QDBusConnection::ExportScriptableSlots);
+    for (int round = 0; round < mostRounds; ++round) {
+        if (ownName(false)) {
+            watchForReplacement();
+            return Standing::first;
+        }
+        const auto first = owner();
+        if (first.isEmpty()) continue;
+        if (activate(first, activationToken)) return Standing::second;
+        if (first == owner() && ownName(true)) break;
+    }
+    watchForReplacement();
+    return Standing::first;
+}
+
+bool SingleInstance::ownName(bool replacing)
+{
+    const auto whenTaken = replacing ? BusInterface::ReplaceExistingService : BusInterface::DontQueueService;
+    const auto reply = bus_.interface()->registerService(serviceName, whenTaken, BusInterface::AllowReplacement);
+    return reply.isValid() && reply.value() == BusInterface::ServiceRegistered;
+}
+
+QString SingleInstance::owner() const
+{
+    return bus_.interface()->serviceOwner(serviceName);
+}
+
+bool SingleInstance::activate(const QString& owner, const QString& activationToken)
+{
+    QVariantMap platformData;
+    if (!activationToken.isEmpty()) {
+        platformData.insert(ApplicationService::activationTokenKey, activationToken);
+        platformData.insert(ApplicationService::startupIdKey, activationToken);
+    }
+    // The owner's own name: a call to the well-known one could start a program.
+    auto call = QDBusMessage::createMethodCall(owner, objectPath, "org.freedesktop.Application", "Activate");
+    call << platformData;
+    const auto reply = bus_.call(call, QDBus::Block, static_cast<int>(patience_.count()));
+    // Any answer, a refusal too, comes from somebody who is alive; these come from the bus or from nobody.
+    switch (QDBusError(reply).type()) {
+    case QDBusError::NoReply:
+    case QDBusError::Timeout:
+    case QDBusError::TimedOut:
+    case QDBusError::ServiceUnknown:
+    case QDBusError::Disconnected: return false;
+    default: return true;
+    }
+}
+
+void SingleInstance::watchForReplacement()
+{
+    connect(bus_.interface(), &BusInterface::serviceUnregistered, this, [this](const QString& name) {
+        if (name == serviceName) emit replaced();
+    });
+}
+
+}  // namespace larkspan::adapters

@@ -1,0 +1,38 @@
+// A program that does nothing but be one instance, and says what happens to it.
+
+#include <QCoreApplication>
+
+#include <cstdio>
+
+#include "adapters/ActivationToken.h"
+#include "adapters/SingleInstance.h"
+
+using larkspan::adapters::SingleInstance;
+
+namespace {
+
+void say(const QString& line)
+{
+    std::puts(line.toUtf8().constData());
+    std::fflush(stdout);
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    const auto token = larkspan::adapters::launchActivationToken();
+    const QCoreApplication application(argc, argv);
+    SingleInstance instance(QDBusConnection::sessionBus(), std::chrono::milliseconds(1500));
+    if (instance.claim(token) == SingleInstance::Standing::second) {
+        say("second");
+        return 0;
+    }
+    say("first");
+    QObject::connect(&instance, &SingleInstance::activated, [](const QString& given) { say("activated " + given); });
+    QObject::connect(&instance, &SingleInstance::replaced, [] {
+        say("replaced");
+        QCoreApplication::quit();
+    });
+    return QCoreApplication::exec();
+}

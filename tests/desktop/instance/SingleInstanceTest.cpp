@@ -1,0 +1,209 @@
+#include "adapters/SingleInstance.h"
+
+#include <QDBusMessage>
+#include <QProcess>
+#include <QProcessEnvironment>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <memory>
+#include <vector>
+
+#include "peers/EventLoop.h"
+#include "peers/PrivateBus.h"
+
+namespace larkspan::adapters {
+namespace {
+
+using peers::PrivateBus;
+using peers::turnUntil;
+
+/// Another process that starts the program.
+class Start {
+public:
+    explicit Start(const QString& busAddress, const QString& tokenVariable = {}, const QString& token = {})
+    {
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("DBUS_SESSION_BUS_ADDRESS", busAddress);
+        for (const auto* const variable : {"XDG_ACTIVATION_TOKEN", "DESKTOP_STARTUP_ID", "DISPLAY"}) {
+            environment.remove(variable);
+        }
+        if (!tokenVariable.isEmpty()) environment.insert(tokenVariable, token);
+        process_.setProcessEnvironment(environment);
+        process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        process_.start(LARKSPAN_INSTANCE_PROBE);
+        process_.waitForStarted();
+    }
+    ~Start()
+    {
+        process_.kill();
+        process_.waitForFinished();
+    }
+
+    /// The next thing that it says; empty if it says nothing in time.
+    QString hear()
+    {
+        turnUntil([this] { return process_.canReadLine() || hasEnded(); });
+        return QString::fromUtf8(process_.readLine()).trimmed();
+    }
+
+    bool hasEnded() const { return process_.state() == QProcess::NotRunning; }
+    bool endsWell()
+    {
+        return turnUntil([this] { return hasEnded(); }) && process_.exitStatus() == QProcess::NormalExit
+            && process_.exitCode() == 0;
+    }
+    void signal(int number) { ::kill(static_cast<pid_t>(process_.processId()), number); }
+
+private:
+    QProcess process_;
+};
+
+QDBusMessage callApplication(const PrivateBus& bus, const QString& method, const QVariantList& arguments)
+{
+    auto call = QDBusMessage::createMethodCall(
+        SingleInstance::serviceName, SingleInstance::objectPath, "org.freedesktop.Application", method);
+    call.setArguments(arguments);
+    return bus.connect().call(call);
+}
+
+TEST(SingleInstance, ASecondStartActivatesTheFirstAndEnds)
+{
+    const PrivateBus bus;
+    Start first(bus.address());
+    ASSERT_EQ(first.hear(), "first");
+
+    Start second(bus.address());
+
+    EXPECT_EQ(second.hear(), "second");
+    EXPECT_TRUE(second.endsWell());
+    EXPECT_EQ(first.hear(), "activated");
+    EXPECT_FALSE(first.hasEnded());
+}
+
+TEST(SingleInstance, ASecondStartHandsOverItsActivationToken)
+{
+    const PrivateBus bus;
+    Start first(bus.address());
+    ASSERT_EQ(first.hear(), "first");
+
+    Start wayland(bus.address(), "XDG_ACTIVATION_TOKEN", "token-of-wayland");
+    EXPECT_EQ(first.hear(), "activated token-of-wayland");
+
+    Start x11(bus.address(), "DESKTOP_STARTUP_ID", "launcher-1_TIME42");
+    EXPECT_EQ(first.hear(), "activated launcher-1_TIME42");
+}
+
+TEST(SingleInstance, OfManyStartsAtOnceExactlyOneIsFirst)
+{
+    const PrivateBus bus;
+    std::vector<std::unique_ptr<Start>> starts;
+    for (int count = 0; count < 6; ++count) starts.push_back(std::make_unique<Start>(bus.address()));
+
+    int firsts = 0;
+    int seconds = 0;
+    for (auto& start : starts) {
+        const auto standing = start->hear();
+        firsts += standing == "first";
+        seconds += standing == "second";
+    }
+
+    EXPECT_EQ(firsts, 1);
+    EXPECT_EQ(seconds, 5);
+}
+
+TEST(SingleInstance, AFirstThatDoesNotAnswerIsReplacedAndQuitsWhenItWakes)
+{
+    const PrivateBus bus;
+    Start stuck(bus.address());
+    ASSERT_EQ(stuck.hear(), "first");
+    stuck.signal(SIGSTOP);
+
+    Start successor(bus.address());
+    ASSERT_EQ(successor.hear(), "first");
+    stuck.signal(SIGCONT);
+
+    // It answers the call that it was woken by, although nobody waits any more.
+    EXPECT_EQ(stuck.hear(), "activated");
+    EXPECT_EQ(stuck.hear(), "replaced");
+    EXPECT_TRUE(stuck.endsWell());
+    Start third(bus.address());
+    EXPECT_EQ(third.hear(), "second");
+    EXPECT_EQ(successor.hear(), "activated");
+}
+
+TEST(SingleInstance, AFirstThatDiesWhileItIsAskedIsSucceeded)
+{
+    const PrivateBus bus;
+    Start dying(bus.address());
+    ASSERT_EQ(dying.hear(), "first");
+    dying.signal(SIGSTOP);
+    Start successor(bus.address());
+    peers::turnFor(std::chrono::milliseconds(300));
+
+    dying.signal(SIGKILL);
+
+    EXPECT_EQ(successor.hear(), "first");
+}
+
+TEST(SingleInstance, TheNameIsFreeAgainWhenTheFirstHasEnded)
+{
+    const PrivateBus bus;
+    {
+        Start first(bus.address());
+        ASSERT_EQ(first.hear(), "first");
+    }
+    Start next(bus.address());
+
+    EXPECT_EQ(next.hear(), "first");
+}
+
+TEST(SingleInstance, WithoutASessionBusEveryoneIsFirst)
+{
+    Start first("unix:path=/nonexistent/bus");
+    Start second("unix:path=/nonexistent/bus");
+
+    EXPECT_EQ(first.hear(), "first");
+    EXPECT_EQ(second.hear(), "first");
+}
+
+TEST(SingleInstance, OutlivesTheSessionBus)
+{
+    PrivateBus bus;
+    Start first(bus.address());
+    ASSERT_EQ(first.hear(), "first");
+
+    bus.stop();
+    peers::turnFor(std::chrono::milliseconds(300));
+
+    EXPECT_FALSE(first.hasEnded());
+}
+
+TEST(ApplicationService, BeingHandedFilesIsAnActivation)
+{
+    const PrivateBus bus;
+    Start first(bus.address());
+    ASSERT_EQ(first.hear(), "first");
+
+    const auto reply = callApplication(
+        bus, "Open", {QStringList{"file:///tmp/a"}, QVariantMap{{"activation-token", "token-of-a-file-manager"}}});
+
+    EXPECT_EQ(reply.type(), QDBusMessage::ReplyMessage);
+    EXPECT_EQ(first.hear(), "activated token-of-a-file-manager");
+}
+
+TEST(ApplicationService, AnActionIsRefusedInWords)
+{
+    const PrivateBus bus;
+    Start first(bus.address());
+    ASSERT_EQ(first.hear(), "first");
+
+    const auto reply = callApplication(bus, "ActivateAction", {"reboot", QVariantList{}, QVariantMap{}});
+
+    EXPECT_EQ(reply.errorName(), "org.freedesktop.DBus.Error.InvalidArgs");
+    EXPECT_EQ(reply.errorMessage(), "There is no action \"reboot\".");
+}
+
+}  // namespace
+}  // namespace larkspan::adapters
