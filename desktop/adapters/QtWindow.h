@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QWindow>
+
+#include "platform/WindowSystem.h"
+
+namespace larkspan::adapters {
+
+/// A `QWindow` (a `QQuickWindow` is one) as the program's core sees it. Main thread only.
+class QtWindow final : public QObject, public platform::Window {
+public:
+    explicit QtWindow(QWindow& window);
+
+    /// Whether the window still exists.
+    bool exists() const { return !window_.isNull(); }
+
+    /// From now on a close is granted without asking the delegate: the program ends.
+    void grantClosing() { closingIsGranted_ = true; }
+
+    /// The token with which the next `makeKeyAndOrderFront` takes the focus.
+    void setActivationToken(const QString& token) { activationToken_ = token; }
+
+    bool isVisible() const override;
+    bool canBecomeKeyWindow() const override;
+    void setDelegate(std::weak_ptr<platform::WindowDelegate> delegate) override;
+    /// On a desktop that cannot minimise, the window stays as it is.
+    void miniaturize() override;
+    void deminiaturize() override;
+    void makeKeyAndOrderFront() override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    bool isMinimized() const;
+    void forgetRefusedMinimizing();
+
+    QPointer<QWindow> window_;
+    std::weak_ptr<platform::WindowDelegate> delegate_;
+    QString activationToken_;
+    bool closingIsGranted_ = false;
+    bool wasMinimized_ = false;
+};
+
+}  // namespace larkspan::adapters

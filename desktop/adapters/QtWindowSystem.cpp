@@ -1,0 +1,53 @@
+#include "adapters/QtWindowSystem.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+
+#include <vector>
+
+namespace larkspan::adapters {
+
+QtWindowSystem::QtWindowSystem()
+{
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    qGuiApp->installEventFilter(this);
+}
+
+void QtWindowSystem::add(QWindow& window)
+{
+    windows_.push_back(std::make_shared<QtWindow>(window));
+}
+
+void QtWindowSystem::setActivationToken(const QString& token)
+{
+    for (const auto& window : windows_) window->setActivationToken(token);
+}
+
+std::vector<std::shared_ptr<platform::Window>> QtWindowSystem::windows()
+{
+    forgetLostWindows();
+    return {windows_.begin(), windows_.end()};
+}
+
+void QtWindowSystem::activateIgnoringOtherApps() {}
+
+void QtWindowSystem::terminate()
+{
+    QMetaObject::invokeMethod(qGuiApp, &QCoreApplication::quit, Qt::QueuedConnection);
+}
+
+bool QtWindowSystem::eventFilter(QObject* watched, QEvent* event)
+{
+    // Qt answers a quit by closing each window, and gives up at the first that stays.
+    if (event->type() == QEvent::Quit) {
+        for (const auto& window : windows_) window->grantClosing();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void QtWindowSystem::forgetLostWindows()
+{
+    std::erase_if(windows_, [](const auto& window) { return !window->exists(); });
+}
+
+}  // namespace larkspan::adapters
