@@ -18,6 +18,7 @@ Stands in for the service over HTTPS on 127.0.0.1 and prints its address. The se
 signed by an authority of its own, made on first use; the path of its certificate is printed, too.
 
   --port NUMBER        the port; 0, the default, means any that is free
+  --host NAME          a further name that its certificate is for, where this machine stands in under it
   --seed NAME          the account: empty, tiny (3 pages), small (12, the default), large (1000) or a number
   --key TEXT           the API key that it takes; "simulator" unless told
   --shape NAME         how results are wrapped: data (the default) or bare
@@ -32,6 +33,14 @@ bool readPort(Options& options, const std::string& value)
     const auto* const end = value.data() + value.size();
     const auto [stop, error] = std::from_chars(value.data(), end, options.port);
     return error == std::errc{} && stop == end && options.port >= 0 && options.port <= 65'535;
+}
+
+bool readHost(Options& options, const std::string& value)
+{
+    // Anything else would say more than a name in the certificate.
+    constexpr const char* ofNames = "abcdefghijklmnopqrstuvwxyz0123456789.-";
+    options.host = value;
+    return !value.empty() && value.find_first_not_of(ofNames) == std::string::npos;
 }
 
 bool readSeed(Options& options, const std::string& value)
@@ -68,8 +77,8 @@ bool readDirectory(Options& options, const std::string& value)
 const std::map<std::string, std::function<bool(Options&, const std::string&)>>& optionReaders()
 {
     static const std::map<std::string, std::function<bool(Options&, const std::string&)>> readers{{"--port", readPort},
-        {"--seed", readSeed}, {"--key", readKey}, {"--shape", readShape}, {"--certificate", readCertificate},
-        {"--directory", readDirectory}};
+        {"--host", readHost}, {"--seed", readSeed}, {"--key", readKey}, {"--shape", readShape},
+        {"--certificate", readCertificate}, {"--directory", readDirectory}};
     return readers;
 }
 

@@ -13,6 +13,7 @@ namespace larkspan::simulator {
 /// What `larkspan-simulator` was asked to be.
 struct Options {
     int port = 0;
+    std::string host = "localhost";
     std::string seed = "small";
     std::string key = "simulator";
     ResultShape shape = ResultShape::underData;

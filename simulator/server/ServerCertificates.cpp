@@ -29,10 +29,10 @@ std::optional<CertificateKind> certificateKind(std::string_view name)
     return static_cast<CertificateKind>(found - names.begin());
 }
 
-ServerCertificates::ServerCertificates(const Identity& authority, CertificateKind kind)
+ServerCertificates::ServerCertificates(const Identity& authority, CertificateKind kind, const std::string& host)
     : kind_(kind)
 {
-    const std::string here = "DNS:localhost,IP:127.0.0.1";
+    const std::string here = "DNS:localhost,IP:127.0.0.1,DNS:" + host;
     const Validity now{-1h, std::chrono::years(1)};
     const Validity past{-std::chrono::years(1), -24h};
     const auto stranger = makeAuthority("Nobody's authority");

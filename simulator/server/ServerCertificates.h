@@ -3,6 +3,7 @@
 #include <array>
 #include <atomic>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "server/AuthorityStore.h"
@@ -18,7 +19,8 @@ std::optional<CertificateKind> certificateKind(std::string_view name);
 /// One TLS context for each kind. The kind in use may change at any time, from any thread.
 class ServerCertificates {
 public:
-    ServerCertificates(const Identity& authority, CertificateKind kind);
+    /// The valid certificate is good for this machine and for `host`.
+    ServerCertificates(const Identity& authority, CertificateKind kind, const std::string& host = "localhost");
 
     void use(CertificateKind kind) { kind_ = kind; }
 

@@ -46,7 +46,7 @@ void serve(const simulator::Options& options)
     if (options.isLiving) service.live(simulator::Storyline::ordinaryDay(), clock);
 
     const simulator::AuthorityStore store(options.directory);
-    simulator::ServerCertificates certificates(store.authority(), options.certificate);
+    simulator::ServerCertificates certificates(store.authority(), options.certificate, options.host);
     const simulator::HttpsServer server(service, certificates, options.port);
     std::cout << "https://localhost:" << server.port() << "\nauthority: " << store.certificateFile().string()
               << std::endl;

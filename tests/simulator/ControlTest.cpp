@@ -166,11 +166,12 @@ TEST(FaultRule, ReadsWhatTheFaultNeedsAndWhomItBefalls)
 
 TEST(Options, AreReadInAnyOrder)
 {
-    const auto asked = readOptions({"--live", "--seed", "10000", "--port", "8443", "--key", "k", "--shape", "bare",
-        "--certificate", "wrong-name", "--directory", "/d"});
+    const auto asked = readOptions({"--live", "--seed", "10000", "--port", "8443", "--host", "h.example", "--key", "k",
+        "--shape", "bare", "--certificate", "wrong-name", "--directory", "/d"});
 
     const auto& options = std::get<Options>(asked);
     EXPECT_EQ(options.port, 8443);
+    EXPECT_EQ(options.host, "h.example");
     EXPECT_EQ(options.seed, "10000");
     EXPECT_EQ(options.key, "k");
     EXPECT_EQ(options.shape, ResultShape::bare);
@@ -182,7 +183,8 @@ TEST(Options, AreReadInAnyOrder)
 TEST(Options, ThatAreWrongAreExplained)
 {
     const std::vector<std::vector<std::string>> wrong{{"--nope"}, {"--port"}, {"--port", "70000"}, {"--port", "1x"},
-        {"--seed", "huge"}, {"--shape", "round"}, {"--certificate", "gold"}, {"--key", ""}};
+        {"--host", "h.example,IP:1.2.3.4"}, {"--seed", "huge"}, {"--shape", "round"}, {"--certificate", "gold"},
+        {"--key", ""}};
     for (const auto& arguments : wrong) {
         const auto asked = readOptions(arguments);
         ASSERT_TRUE(std::holds_alternative<Explanation>(asked)) << arguments.front();

@@ -2,6 +2,7 @@
 
 import json
 import signal
+import socket
 import ssl
 import subprocess
 import sys
@@ -41,6 +42,16 @@ class Program(unittest.TestCase):
         process.send_signal(signal.SIGTERM)
         rest, errors = process.communicate(timeout=5)
         self.assertEqual((process.returncode, rest, errors), (0, "", ""))
+
+    def test_stands_in_under_the_name_of_another_host(self):
+        process = self.start("--host", "status.example")
+        port = process.stdout.readline().strip().rpartition(":")[2]
+        authority = process.stdout.readline().strip().removeprefix("authority: ")
+
+        trust = ssl.create_default_context(cafile=authority)
+        with socket.create_connection(("127.0.0.1", int(port)), timeout=5) as plain:
+            with trust.wrap_socket(plain, server_hostname="status.example") as secure:
+                self.assertEqual(secure.server_hostname, "status.example")
 
     def test_says_in_a_sentence_that_its_port_is_taken(self):
         first = self.start()
