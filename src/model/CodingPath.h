@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace larkspan::model {
+
+/// Where in a body a value stands. A chain of links back to the root, each on the stack of whoever reads that level, so
+/// that a path costs nothing until a failure asks for its text. A link's parent must outlive it.
+class CodingPath {
+public:
+    CodingPath() = default;
+    CodingPath(const CodingPath* parent, std::string_view wireKey);
+    CodingPath(const CodingPath* parent, std::size_t index);
+
+    /// As in `data[3].created_at`; empty for the root.
+    std::string text() const;
+
+private:
+    const CodingPath* parent_ = nullptr;
+    std::string_view wireKey_;
+    std::size_t index_ = 0;
+    enum class Step { root, key, index } step_ = Step::root;
+};
+
+}  // namespace larkspan::model

@@ -1,0 +1,162 @@
+#pragma once
+
+#include <array>
+#include <concepts>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include "model/ISO8601.h"
+#include "model/JSONValue.h"
+#include "model/KeyTable.h"
+#include "model/RawTexts.h"
+#include "model/URL.h"
+
+namespace larkspan::model {
+
+/// `value` as a `T`: a text, a number, a date, a URL, a word of an enumeration, a list, or a record with a `KeyTable`.
+template <typename T>
+T decode(const JSONValue& value);
+
+/// What an object holds for one key name of its record's table.
+class KeyedValue {
+public:
+    KeyedValue(const JSONValue& object, std::string_view keyName, const std::optional<JSONValue::Member>& member)
+        : object_(object)
+        , keyName_(keyName)
+        , member_(member)
+    {
+    }
+
+    template <typename T>
+    T required() const
+    {
+        if (!member_) object_.failMissing(keyName_);
+        return decode<T>(JSONValue(object_, *member_));
+    }
+
+    template <typename T>
+    std::optional<T> optional() const
+    {
+        if (!member_ || member_->element.is_null()) return std::nullopt;
+        return decode<T>(JSONValue(object_, *member_));
+    }
+
+    /// The moment of decoding.
+    support::Time now() const { return object_.now(); }
+
+private:
+    const JSONValue& object_;
+    std::string_view keyName_;
+    const std::optional<JSONValue::Member>& member_;
+};
+
+template <typename Record, typename Field>
+void read(const Required<Record, Field>& row, Record& record, const KeyedValue& value)
+{
+    record.*row.field = value.required<Field>();
+}
+
+template <typename Record, typename Field>
+void read(const Optional<Record, Field>& row, Record& record, const KeyedValue& value)
+{
+    record.*row.field = value.optional<Field>();
+}
+
+template <typename Record, typename Field, typename Default>
+void read(const Defaulted<Record, Field, Default>& row, Record& record, const KeyedValue& value)
+{
+    record.*row.field = value.optional<Field>().value_or(row.otherwise);
+}
+
+template <typename Record>
+void read(const Derived<Record>& row, Record& record, const KeyedValue& value)
+{
+    row.derive(record, value);
+}
+
+template <typename Record>
+Record decodeRecord(const JSONValue& value)
+{
+    return std::apply(
+        [&value](const auto&... rows) {
+            constexpr std::size_t count = sizeof...(rows);
+            const std::array<std::string_view, count> keyNames{rows.key...};
+            std::array<std::optional<JSONValue::Member>, count> members;
+            value.find(keyNames, members);
+
+            Record record{};
+            std::size_t at = 0;
+            (read(rows, record, KeyedValue(value, rows.key, members[at++])), ...);
+            return record;
+        },
+        KeyTable<Record>::rows);
+}
+
+template <typename Element>
+std::vector<Element> decodeList(const JSONValue& value)
+{
+    std::vector<Element> list;
+    for (const auto element : value.list()) list.push_back(decode<Element>(JSONValue(value, list.size(), element)));
+    return list;
+}
+
+template <typename Enumeration>
+Enumeration decodeWord(const JSONValue& value)
+{
+    const auto word = value.text();
+    for (const auto& row : RawTexts<Enumeration>::table) {
+        if (row.text == word) return row.value;
+    }
+    value.failCorrupted("Unknown word: ", word);
+}
+
+inline support::Time decodeDate(const JSONValue& value)
+{
+    const auto text = value.text();
+    if (const auto date = readISO8601(text)) return *date;
+    value.failCorrupted("Cannot decode date: ", text);
+}
+
+inline URL decodeURL(const JSONValue& value)
+{
+    const auto text = value.text();
+    if (auto url = URL::parse(text)) return *std::move(url);
+    value.failCorrupted("Not a valid URL: ", text);
+}
+
+template <typename T>
+struct IsList : std::false_type {
+};
+
+template <typename Element>
+struct IsList<std::vector<Element>> : std::true_type {
+};
+
+template <typename T>
+T decode(const JSONValue& value)
+{
+    if constexpr (std::same_as<T, std::string>)
+        return std::string(value.text());
+    else if constexpr (std::same_as<T, std::int64_t>)
+        return value.integer();
+    else if constexpr (std::same_as<T, double>)
+        return value.number();
+    else if constexpr (std::same_as<T, support::Time>)
+        return decodeDate(value);
+    else if constexpr (std::same_as<T, URL>)
+        return decodeURL(value);
+    else if constexpr (std::is_enum_v<T>)
+        return decodeWord<T>(value);
+    else if constexpr (IsList<T>::value)
+        return decodeList<typename T::value_type>(value);
+    else
+        return decodeRecord<T>(value);
+}
+
+}  // namespace larkspan::model

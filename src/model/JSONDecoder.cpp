@@ -1,0 +1,81 @@
+#include "model/JSONDecoder.h"
+
+#include <simdjson.h>
+
+#include "model/DataResponse.h"
+#include "model/Decoding.h"
+#include "model/EmptyResponseKeys.h"
+#include "model/StatusPageKeys.h"
+#include "model/StatusPagesStatusEnvelopeKeys.h"
+
+namespace larkspan::model {
+
+namespace {
+
+std::string_view problem(simdjson::error_code error)
+{
+    switch (error) {
+    case simdjson::DEPTH_ERROR: return "Nested too deeply";
+    case simdjson::CAPACITY:
+    case simdjson::MEMALLOC: return "Too large";
+    case simdjson::UTF8_ERROR: return "Not valid UTF-8";
+    case simdjson::NUMBER_ERROR: return "A number in it cannot be read";
+    default: return "Not valid JSON";
+    }
+}
+
+/// A body as it was parsed; everything that is read from it lives as long as this.
+class Document {
+public:
+    explicit Document(std::string_view body)
+    {
+        if (body.starts_with("\xEF\xBB\xBF")) body.remove_prefix(3);
+        if (const auto error = parser_.parse(body.data(), body.size()).get(root_)) {
+            throw DecodingError(DecodingError::Kind::dataCorrupted, "", problem(error));
+        }
+    }
+
+    simdjson::dom::element root() const { return root_; }
+
+private:
+    simdjson::dom::parser parser_;
+    simdjson::dom::element root_;
+};
+
+template <typename T>
+T decodeShapes(const JSONValue& root)
+{
+    try {
+        return decode<DataResponse<T>>(root).data;
+    } catch (const DecodingError&) {
+        try {
+            return decode<T>(root);
+        } catch (const DecodingError&) {
+            if constexpr (IsList<T>::value) {
+                const auto data = root.exactly("data");
+                if (data && data->is_null()) return {};
+            }
+        }
+        throw;
+    }
+}
+
+}  // namespace
+
+JSONDecoder::JSONDecoder(const platform::Clock& clock)
+    : clock_(clock)
+{
+}
+
+template <typename T>
+T JSONDecoder::decodeResult(std::string_view body) const
+{
+    const Document document(body);
+    return decodeShapes<T>(JSONValue(document.root(), clock_.now()));
+}
+
+template EmptyResponse JSONDecoder::decodeResult(std::string_view) const;
+template StatusPagesStatusEnvelope JSONDecoder::decodeResult(std::string_view) const;
+template std::vector<StatusPage> JSONDecoder::decodeResult(std::string_view) const;
+
+}  // namespace larkspan::model

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string_view>
+
+#include "platform/Clock.h"
+
+namespace larkspan::model {
+
+/// Reads the service's answers. Safe to share between threads; `clock` must outlive it.
+///
+/// A wire key counts for the key name that it converts to (`created_at` for `createdAt`); of several that convert alike
+/// the first counts. Unknown keys are ignored. A byte order mark is skipped. A number beyond a double or, without
+/// fraction, beyond 64 bits makes the body unreadable wherever it stands, as does nesting deeper than 1024.
+class JSONDecoder {
+public:
+    explicit JSONDecoder(const platform::Clock& clock);
+
+    /// The result in `body`: under the key `data` of an object, else the body as a whole, else, where a list is wanted
+    /// and `data` is null, an empty list. Throws the `DecodingError` of the first of these attempts. Instantiated for
+    /// every type of result that the service gives.
+    template <typename T>
+    T decodeResult(std::string_view body) const;
+
+private:
+    const platform::Clock& clock_;
+};
+
+}  // namespace larkspan::model

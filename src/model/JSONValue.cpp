@@ -1,0 +1,145 @@
+#include "model/JSONValue.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+#include "model/KeyConversion.h"
+#include "model/LegibleText.h"
+
+namespace larkspan::model {
+
+namespace {
+
+constexpr std::size_t longestQuotation = 200;
+
+std::string_view nameOf(simdjson::dom::element_type type)
+{
+    using Type = simdjson::dom::element_type;
+    switch (type) {
+    case Type::ARRAY: return "a list";
+    case Type::OBJECT: return "an object";
+    case Type::STRING: return "a string";
+    case Type::BOOL: return "a boolean";
+    case Type::NULL_VALUE: return "null";
+    case Type::INT64:
+    case Type::UINT64:
+    case Type::DOUBLE: break;
+    }
+    return "a number";
+}
+
+std::string written(double number)
+{
+    std::array<char, 32> text;
+    const auto end = std::to_chars(text.begin(), text.end(), number).ptr;
+    return {text.begin(), end};
+}
+
+}  // namespace
+
+JSONValue::JSONValue(simdjson::dom::element root, support::Time now)
+    : element_(root)
+    , now_(now)
+{
+}
+
+JSONValue::JSONValue(const JSONValue& parent, const Member& member)
+    : element_(member.element)
+    , path_(&parent.path_, member.wireKey)
+    , now_(parent.now_)
+{
+}
+
+JSONValue::JSONValue(const JSONValue& parent, std::size_t index, simdjson::dom::element element)
+    : element_(element)
+    , path_(&parent.path_, index)
+    , now_(parent.now_)
+{
+}
+
+bool JSONValue::isNull() const
+{
+    return element_.is_null();
+}
+
+std::string_view JSONValue::text() const
+{
+    std::string_view text;
+    if (element_.get(text) != simdjson::SUCCESS) failMismatch("a string");
+    return text;
+}
+
+double JSONValue::number() const
+{
+    double number = 0;
+    if (element_.get(number) != simdjson::SUCCESS) failMismatch("a number");
+    return number;
+}
+
+std::int64_t JSONValue::integer() const
+{
+    constexpr double exactUpTo = 9'007'199'254'740'991;  // 2^53 - 1
+
+    std::int64_t integer = 0;
+    if (element_.get(integer) == simdjson::SUCCESS) return integer;
+    if (!element_.is_number()) failMismatch("an integer");
+    const double number = this->number();
+    if (std::trunc(number) != number || std::abs(number) > exactUpTo) {
+        failCorrupted("Not a 64-bit integer: ", written(number));
+    }
+    return static_cast<std::int64_t>(number);
+}
+
+simdjson::dom::array JSONValue::list() const
+{
+    simdjson::dom::array list;
+    if (element_.get(list) != simdjson::SUCCESS) failMismatch("a list");
+    return list;
+}
+
+void JSONValue::find(std::span<const std::string_view> keyNames, std::span<std::optional<Member>> found) const
+{
+    simdjson::dom::object object;
+    if (element_.get(object) != simdjson::SUCCESS) failMismatch("an object");
+
+    std::string buffer;
+    for (const auto [wireKey, element] : object) {
+        const auto key = fromSnakeCase(wireKey, buffer);
+        for (std::size_t at = 0; at < keyNames.size(); ++at) {
+            if (keyNames[at] != key) continue;
+            if (!found[at]) found[at] = Member{wireKey, element};
+            break;
+        }
+    }
+}
+
+std::optional<simdjson::dom::element> JSONValue::exactly(std::string_view wireKey) const
+{
+    simdjson::dom::object object;
+    simdjson::dom::element element;
+    if (element_.get(object) != simdjson::SUCCESS) return std::nullopt;
+    if (object.at_key(wireKey).get(element) != simdjson::SUCCESS) return std::nullopt;
+    return element;
+}
+
+void JSONValue::failMissing(std::string_view keyName) const
+{
+    const auto wireKey = toSnakeCase(keyName);
+    throw DecodingError(DecodingError::Kind::keyNotFound, CodingPath(&path_, wireKey).text(), "The key is missing");
+}
+
+void JSONValue::failCorrupted(std::string_view problem, std::string_view received) const
+{
+    throw DecodingError(
+        DecodingError::Kind::dataCorrupted, path_.text(), std::string(problem) + legible(received, longestQuotation));
+}
+
+void JSONValue::failMismatch(std::string_view wanted) const
+{
+    const auto kind = isNull() ? DecodingError::Kind::valueNotFound : DecodingError::Kind::typeMismatch;
+    throw DecodingError(
+        kind, path_.text(), "Expected " + std::string(wanted) + " but found " + std::string(nameOf(element_.type())));
+}
+
+}  // namespace larkspan::model

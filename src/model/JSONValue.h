@@ -1,0 +1,66 @@
+#pragma once
+
+#include <simdjson.h>
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+
+#include "model/CodingPath.h"
+#include "model/DecodingError.h"
+#include "support/Time.h"
+
+namespace larkspan::model {
+
+/// A value of a parsed body and its place in it. It reads as exactly one type, strictly: no text is taken for a number,
+/// no number for a boolean. What it is not, it throws as a `DecodingError`. Lives on the stack of its reader only.
+class JSONValue {
+public:
+    /// One key of an object as it was sent, with its value.
+    struct Member {
+        std::string_view wireKey;
+        simdjson::dom::element element;
+    };
+
+    /// The root of a body that is decoded at `now`.
+    JSONValue(simdjson::dom::element root, support::Time now);
+
+    /// A value inside of `parent`, at a key or an index.
+    JSONValue(const JSONValue& parent, const Member& member);
+    JSONValue(const JSONValue& parent, std::size_t index, simdjson::dom::element element);
+
+    JSONValue(const JSONValue&) = delete;
+    JSONValue& operator=(const JSONValue&) = delete;
+
+    bool isNull() const;
+    std::string_view text() const;
+    double number() const;
+
+    /// A number with a fraction of zero is an integer (`1.0`, `1e3`), as long as a double can still tell it from its
+    /// neighbours (below 2^53); anything else that does not fit into 64 bits is corrupted.
+    std::int64_t integer() const;
+
+    simdjson::dom::array list() const;
+
+    /// Puts each key that converts to one of `keyNames` at that name's place in `found`, which has as many. Where
+    /// several keys convert to one name the first counts, whatever the others hold.
+    void find(std::span<const std::string_view> keyNames, std::span<std::optional<Member>> found) const;
+
+    /// The value of the object's key spelled exactly `wireKey`; nothing if this is no object or has none.
+    std::optional<simdjson::dom::element> exactly(std::string_view wireKey) const;
+
+    [[noreturn]] void failMissing(std::string_view keyName) const;
+    [[noreturn]] void failCorrupted(std::string_view problem, std::string_view received) const;
+
+    support::Time now() const { return now_; }
+
+private:
+    [[noreturn]] void failMismatch(std::string_view wanted) const;
+
+    simdjson::dom::element element_;
+    CodingPath path_;
+    support::Time now_;
+};
+
+}  // namespace larkspan::model
