@@ -48,7 +48,7 @@ HttpsResult HttpsClient::perform(CURL* handle, const Request& request) const
     curl_easy_setopt(handle, CURLOPT_NOPROXY, "*");
     curl_easy_setopt(handle, CURLOPT_CUSTOMREQUEST, request.method.c_str());
     curl_easy_setopt(handle, CURLOPT_HTTPHEADER, headers);
-    curl_easy_setopt(handle, CURLOPT_TIMEOUT_MS, 2'000L);
+    curl_easy_setopt(handle, CURLOPT_TIMEOUT_MS, static_cast<long>(patience_.count()));
     curl_easy_setopt(handle, CURLOPT_WRITEFUNCTION, append);
     curl_easy_setopt(handle, CURLOPT_WRITEDATA, &result.body);
     curl_easy_setopt(handle, CURLOPT_HEADERFUNCTION, append);

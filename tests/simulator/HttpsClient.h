@@ -2,6 +2,7 @@
 
 #include <curl/curl.h>
 
+#include <chrono>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -23,6 +24,9 @@ class HttpsClient {
 public:
     HttpsClient(std::string base, std::filesystem::path authority);
 
+    /// How long an answer may take, two seconds unless told.
+    void setPatience(std::chrono::milliseconds patience) { patience_ = patience; }
+
     HttpsResult send(const Request& request);
 
     /// An order to the simulator's control, trusting whatever certificate it shows.
@@ -38,6 +42,7 @@ private:
 
     std::string base_;
     std::filesystem::path authority_;
+    std::chrono::milliseconds patience_{2'000};
     Handle handle_;
 };
 

@@ -1,0 +1,26 @@
+"""What a measurement is, and how a program that measures is run."""
+
+import subprocess
+
+
+class Unable(Exception):
+    """A measurement cannot be taken; the message is a sentence for a person."""
+
+
+def measurement(name, value, unit, reference, goal=None):
+    ratio = value / reference
+    return {"name": name, "value": value, "unit": unit, "reference": reference, "ratio": ratio, "goal": goal}
+
+
+def program(build, name):
+    path = build / "bin" / name
+    if not path.exists():
+        raise Unable(f"{path} is missing; ./dev bench builds it.")
+    return path
+
+
+def output_of(command, **options):
+    ended = subprocess.run(command, capture_output=True, text=True, **options)
+    if ended.returncode != 0:
+        raise Unable(f"{command[0]} failed: {ended.stderr.strip()}")
+    return ended
