@@ -10,7 +10,7 @@ namespace larkspan::fakes {
 /// A network that the test connects and cuts.
 class FakeNetworkPathMonitor final : public platform::NetworkPathMonitor {
 public:
-    void start(std::function<void(bool isSatisfied)> update) override { this->update = std::move(update); }
+    void start(std::function<void(bool isSatisfied)> handler) override { update = std::move(handler); }
 
     std::function<void(bool isSatisfied)> update;
 };

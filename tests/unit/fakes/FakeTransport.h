@@ -45,6 +45,9 @@ public:
         script(url, platform::HttpResponse{.status = status, .body = std::move(body)});
     }
 
+    /// From now on requests for `url` wait again.
+    void forget(const std::string& url) { answers_.erase(url); }
+
     /// Answers the oldest waiting request.
     void answer(Result result)
     {

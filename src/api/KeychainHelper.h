@@ -1,0 +1,25 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/CredentialStore.h"
+
+namespace larkspan::api {
+
+/// The one secret that outlives the program: the API key, as UTF-8 text in the user's credential store.
+/// Nothing is cached. The store may block, so these are called on the client's executor.
+struct KeychainHelper {
+    static constexpr platform::CredentialItem item{.service = "KestruneAPIKeyService", .account = "KestruneAPIKey"};
+
+    /// The stored key, which may be empty; absent if there is none, the store fails or the bytes are no UTF-8.
+    static std::optional<std::string> readAPIKey(platform::CredentialStore& store);
+
+    /// Replaces the stored key and says whether `key` is stored now. If only the adding fails, no key is left.
+    static bool saveAPIKey(platform::CredentialStore& store, const std::string& key);
+
+    /// Removes the key; silent if there is none.
+    static void deleteAPIKey(platform::CredentialStore& store);
+};
+
+}  // namespace larkspan::api

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace larkspan::api {
+
+/// The URL of `path` under `base`; one leading "/" of the path is dropped. A path with a query is joined as text
+/// and throws `APIError::invalidURL` if no URL comes of it; a path without one is escaped where it must be.
+std::string requestURL(std::string_view base, std::string_view path);
+
+}  // namespace larkspan::api

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <exception>
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+#include "api/KestruneAPI.h"
+#include "api/KeychainHelper.h"
+#include "fakes/FakeCredentialStore.h"
+#include "fakes/FakeTransport.h"
+#include "fakes/ManualClock.h"
+#include "fakes/ManualExecutor.h"
+#include "support/Outcome.h"
+#include "support/Task.h"
+
+namespace larkspan::fakes {
+
+/// A client on a fake service, with a key stored, and both threads of the program in the test's hand.
+struct Service {
+    static constexpr auto host = "service.example";
+    static constexpr auto pagesURL = "https://service.example/user/api/v1/status-pages";
+    static constexpr auto overviewURL = "https://service.example/user/api/status-pages/status";
+
+    Service() { api::KeychainHelper::saveAPIKey(credentials, "k-123"); }
+
+    /// Turns both executors until neither has work left.
+    void run()
+    {
+        while (main.run() + client.run() > 0) {}
+    }
+
+    /// The result of `task`, or its exception; fails loudly if it did not end.
+    template <typename T>
+    T result(support::Task<T> task)
+    {
+        support::Outcome<T> outcome
+            = support::Outcome<T>::failure(std::make_exception_ptr(std::logic_error("still waiting")));
+        support::start(main, store(std::move(task), &outcome));
+        run();
+        return outcome.take();
+    }
+
+    ManualExecutor main;
+    ManualExecutor client;
+    FakeTransport transport{client};
+    FakeCredentialStore credentials;
+    ManualClock clock;
+    api::KestruneAPI api{{client, transport, credentials, clock}, host};
+
+private:
+    template <typename T>
+    static support::Task<void> store(support::Task<T> task, support::Outcome<T>* outcome)
+    {
+        try {
+            if constexpr (std::is_void_v<T>) {
+                co_await std::move(task);
+                *outcome = support::Outcome<T>::success();
+            } else {
+                T value = co_await std::move(task);
+                *outcome = support::Outcome<T>::success(std::move(value));
+            }
+        } catch (...) {
+            *outcome = support::Outcome<T>::failure(std::current_exception());
+        }
+    }
+};
+
+}  // namespace larkspan::fakes
