@@ -1,0 +1,94 @@
+#pragma once
+
+#include <chrono>
+#include <exception>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "api/KestruneAPI.h"
+#include "core/APIKeyVerification.h"
+#include "core/AccountFetch.h"
+#include "core/OverallStatus.h"
+#include "model/StatusPage.h"
+#include "platform/Clock.h"
+#include "platform/Executor.h"
+#include "platform/NetworkPathMonitor.h"
+#include "platform/NotificationCenter.h"
+#include "platform/Timers.h"
+#include "support/Observable.h"
+#include "support/Task.h"
+#include "support/Time.h"
+
+namespace larkspan::core {
+
+/// The account as last fetched, and the poll that keeps it fresh. Everything that the tray and the dashboard show
+/// comes from its published fields. Main thread only; its tasks keep it alive.
+class AppStateManager final : public support::Observable, public std::enable_shared_from_this<AppStateManager> {
+public:
+    /// What it works with; all of it must outlive the tasks that run here.
+    struct Ports {
+        platform::Executor& main;
+        platform::Timers& timers;
+        const platform::Clock& clock;
+        platform::NotificationCenter& notifications;
+        platform::NetworkPathMonitor& networkMonitor;
+        api::KestruneAPI& api;
+    };
+
+    using Interval = std::chrono::duration<double>;
+    static constexpr Interval shortestInterval{30.0};
+
+    /// Asks for notification authorization and starts to watch the network. Fetches nothing yet.
+    static std::shared_ptr<AppStateManager> make(const Ports& ports);
+
+    support::Published<std::vector<model::StatusPage>> statusPages{*this};
+    support::Published<OverallStatus> overallStatus{*this, OverallStatus::unknown};
+    /// A cycle runs and there is nothing to show yet.
+    support::Published<bool> isLoading{*this, false};
+    /// The end of the last cycle that succeeded.
+    support::Published<std::optional<support::Time>> lastRefresh{*this};
+    /// Why the latest cycle failed; null if it did not. Cleared when a cycle begins.
+    support::Published<std::exception_ptr> refreshError{*this};
+    support::Published<bool> isReachable{*this, true};
+    /// A cycle has succeeded since the start or since the key was deleted.
+    support::Published<bool> hasCompletedInitialFetch{*this, false};
+
+    /// One cycle; it never throws. During a running cycle it does nothing at all.
+    support::Task<void> refresh();
+
+    /// Starts a cycle and returns at once.
+    void refreshNow();
+
+    /// Starts or restarts the poll; its first cycle comes one interval from now.
+    void startPollTimer();
+
+    Interval refreshInterval() const { return refreshInterval_; }
+
+    /// Polls at `interval`, or at the shortest one allowed, counted from now. Forgotten when the program ends.
+    void setRefreshInterval(Interval interval);
+
+    /// Asks the service about `key`, trimmed. Neither the store nor any field is touched; it never throws.
+    support::Task<APIKeyVerificationResult> verifyAPIKey(std::string key);
+
+    /// Forgets the account after its key was deleted. A running cycle may still publish what it fetches.
+    void clearAccountData();
+
+private:
+    explicit AppStateManager(const Ports& ports);
+
+    static support::Task<void> runCycle(std::shared_ptr<AppStateManager> self);
+    static support::Task<APIKeyVerificationResult> verify(std::shared_ptr<AppStateManager> self, std::string key);
+    void publish(AccountLists lists);
+    void endInFailure(std::exception_ptr failure);
+    void updateOverallStatus();
+    void watchNetwork();
+
+    Ports ports_;
+    Interval refreshInterval_{60.0};
+    std::unique_ptr<platform::Timer> pollTimer_;
+    bool isFetching_ = false;
+};
+
+}  // namespace larkspan::core

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/Executor.h"
+#include "platform/WindowSystem.h"
+
+namespace larkspan::core {
+
+/// The rules of the one window: closing it minimises it, and whatever needs it brings it back. Main thread only.
+class MainWindowLifecycleDelegate final : public platform::WindowDelegate,
+                                          public std::enable_shared_from_this<MainWindowLifecycleDelegate> {
+public:
+    MainWindowLifecycleDelegate(platform::WindowSystem& windows, platform::Executor& main);
+
+    void applicationDidFinishLaunching();
+    void applicationDidBecomeActive();
+
+    /// The program was started again, or picked in the launcher, while it runs. Always handled.
+    bool applicationShouldHandleReopen(bool hasVisibleWindows);
+
+    bool windowShouldClose() override;
+
+    /// Takes the first window that is visible or could be the active one, unless one is held already.
+    void adoptDashboardWindow();
+
+    /// Adopts if need be, and brings the window forward if there is one.
+    void bringDashboardWindowForward();
+
+private:
+    platform::WindowSystem& windows_;
+    platform::Executor& main_;
+    std::weak_ptr<platform::Window> dashboardWindow_;
+};
+
+/// Activates the program and brings the dashboard forward; with no `delegate`, every window that can be active.
+void showDashboardWindow(platform::WindowSystem& windows, MainWindowLifecycleDelegate* delegate);
+
+}  // namespace larkspan::core

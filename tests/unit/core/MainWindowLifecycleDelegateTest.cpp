@@ -1,0 +1,133 @@
+#include "core/MainWindowLifecycleDelegate.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "fakes/FakeWindowSystem.h"
+#include "fakes/ManualExecutor.h"
+
+namespace larkspan::core {
+
+namespace {
+
+using Calls = std::vector<std::string>;
+
+const Calls broughtForward{"deminiaturize", "makeKeyAndOrderFront"};
+
+class WindowLifecycle : public testing::Test {
+protected:
+    fakes::ManualExecutor main;
+    fakes::FakeWindowSystem windows;
+    std::shared_ptr<MainWindowLifecycleDelegate> delegate
+        = std::make_shared<MainWindowLifecycleDelegate>(windows, main);
+};
+
+TEST_F(WindowLifecycle, ClosingMinimisesTheWindowAndDoesNotCloseIt)
+{
+    const auto window = windows.addWindow();
+    delegate->adoptDashboardWindow();
+    EXPECT_FALSE(window->delegate.lock()->windowShouldClose());
+    EXPECT_EQ(window->calls, (Calls{"miniaturize"}));
+}
+
+TEST_F(WindowLifecycle, OpeningTheDashboardAfterClosingBringsItBack)
+{
+    const auto window = windows.addWindow();
+    delegate->adoptDashboardWindow();
+    delegate->windowShouldClose();
+    window->calls.clear();
+    showDashboardWindow(windows, delegate.get());
+    EXPECT_EQ(window->calls, broughtForward);
+    EXPECT_EQ(windows.activations, 1);
+}
+
+TEST_F(WindowLifecycle, ReopeningWithTheWindowMinimisedRestoresIt)
+{
+    const auto window = windows.addWindow();
+    EXPECT_TRUE(delegate->applicationShouldHandleReopen(false));
+    EXPECT_EQ(window->calls, broughtForward);
+}
+
+TEST_F(WindowLifecycle, ReopeningIsHandledWhateverIsVisibleAndWithoutAWindowToo)
+{
+    EXPECT_TRUE(delegate->applicationShouldHandleReopen(true));
+    EXPECT_TRUE(delegate->applicationShouldHandleReopen(false));
+}
+
+TEST_F(WindowLifecycle, LaunchingAdoptsTheWindowInALaterTurn)
+{
+    const auto window = windows.addWindow();
+    delegate->applicationDidFinishLaunching();
+    EXPECT_TRUE(window->delegate.expired());
+    main.run();
+    EXPECT_EQ(window->delegate.lock(), delegate);
+}
+
+TEST_F(WindowLifecycle, LaunchingAfterTheDelegateIsGoneDoesNothing)
+{
+    const auto window = windows.addWindow();
+    delegate->applicationDidFinishLaunching();
+    delegate.reset();
+    main.run();
+    EXPECT_TRUE(window->delegate.expired());
+}
+
+TEST_F(WindowLifecycle, TheFirstWindowThatIsVisibleOrCanBeActiveIsAdopted)
+{
+    const auto neither = windows.addWindow();
+    neither->visible = neither->canBecomeKey = false;
+    const auto onlyKey = windows.addWindow();
+    onlyKey->visible = false;
+    const auto visible = windows.addWindow();
+    delegate->adoptDashboardWindow();
+    EXPECT_TRUE(neither->delegate.expired());
+    EXPECT_FALSE(onlyKey->delegate.expired());
+    EXPECT_TRUE(visible->delegate.expired());
+}
+
+TEST_F(WindowLifecycle, WithNoSuchWindowTheNextActivationTriesAgain)
+{
+    delegate->adoptDashboardWindow();
+    const auto window = windows.addWindow();
+    delegate->applicationDidBecomeActive();
+    EXPECT_EQ(window->delegate.lock(), delegate);
+}
+
+TEST_F(WindowLifecycle, AnAdoptedWindowIsKeptWhileItLives)
+{
+    windows.addWindow();
+    delegate->adoptDashboardWindow();
+    windows.shown.insert(windows.shown.begin(), std::make_shared<fakes::FakeWindow>());
+    delegate->adoptDashboardWindow();
+    EXPECT_TRUE(windows.shown.front()->delegate.expired());
+}
+
+TEST_F(WindowLifecycle, IfTheWindowGoesAwayAllTheSameTheNextAdoptionLooksForANewOne)
+{
+    windows.addWindow();
+    delegate->adoptDashboardWindow();
+    windows.shown.clear();
+    EXPECT_FALSE(delegate->windowShouldClose());
+    const auto second = windows.addWindow();
+    showDashboardWindow(windows, delegate.get());
+    EXPECT_EQ(second->calls, broughtForward);
+}
+
+TEST_F(WindowLifecycle, WithoutADelegateEveryWindowThatCanBeActiveComesForward)
+{
+    const auto first = windows.addWindow();
+    const auto tooltip = windows.addWindow();
+    tooltip->canBecomeKey = false;
+    const auto second = windows.addWindow();
+    showDashboardWindow(windows, nullptr);
+    EXPECT_EQ(first->calls, broughtForward);
+    EXPECT_TRUE(tooltip->calls.empty());
+    EXPECT_EQ(second->calls, broughtForward);
+}
+
+}  // namespace
+
+}  // namespace larkspan::core
