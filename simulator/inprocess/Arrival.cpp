@@ -30,7 +30,7 @@ bool sendsBody(Ending ending)
 platform::HttpTransport::Result outcome(Reply& reply)
 {
     switch (reply.delivery.ending) {
-    case Ending::notHttp: return platform::HttpResponse{};
+    case Ending::notHttp: return Code::badServerResponse;
     case Ending::closedBeforeFirstByte: return Code::networkConnectionLost;
     case Ending::truncated:
     case Ending::reset:

@@ -20,14 +20,8 @@ Address addressOf(std::string_view url)
     return {std::string(url.substr(0, slash)), std::string(url.substr(slash))};
 }
 
-bool isRedirect(int status)
-{
-    return status == 301 || status == 302 || status == 303 || status == 307 || status == 308;
-}
-
 std::optional<std::string> targetWithin(const std::string& origin, const Reply& reply)
 {
-    if (!isRedirect(reply.status) || reply.delivery.ending != Delivery::Ending::whole) return std::nullopt;
     for (const auto& [name, value] : reply.headers) {
         if (name != "Location") continue;
         if (value.starts_with('/') && !value.starts_with("//")) return value;
@@ -35,6 +29,28 @@ std::optional<std::string> targetWithin(const std::string& origin, const Reply& 
         if (address.origin == origin) return std::move(address.target);
     }
     return std::nullopt;
+}
+
+/// The request that follows a redirect; absent where the reply stands. A write is repeated only where it is told that
+/// it has to be sent elsewhere as it is.
+std::optional<Request> afterRedirect(const Request& request, const std::string& origin, const Reply& reply)
+{
+    const int status = reply.status;
+    const bool isMovedAsItIs = status == 307 || status == 308;
+    const bool isResultElsewhere = status == 303;
+    const bool isMovedRead = (status == 301 || status == 302) && request.method == "GET";
+    if (!isMovedAsItIs && !isResultElsewhere && !isMovedRead) return std::nullopt;
+    if (reply.delivery.ending != Delivery::Ending::whole) return std::nullopt;
+
+    auto target = targetWithin(origin, reply);
+    if (!target) return std::nullopt;
+    auto next = request;
+    next.target = std::move(*target);
+    if (isResultElsewhere) {
+        next.method = "GET";
+        next.body.clear();
+    }
+    return next;
 }
 
 }  // namespace
@@ -47,11 +63,11 @@ Reply answerWithRedirects(Service& service, const platform::HttpRequest& request
 
     auto reply = service.answer(sent);
     std::chrono::milliseconds waited{0};
-    for (int redirects = 0; request.method == "GET" && redirects < mostRedirects; ++redirects) {
-        auto next = targetWithin(origin, reply);
+    for (int redirects = 0; redirects < mostRedirects; ++redirects) {
+        auto next = afterRedirect(sent, origin, reply);
         if (!next) break;
         waited += reply.delivery.delay;
-        sent.target = std::move(*next);
+        sent = std::move(*next);
         reply = service.answer(sent);
     }
     reply.delivery.delay += waited;

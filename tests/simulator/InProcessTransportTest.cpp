@@ -120,20 +120,10 @@ INSTANTIATE_TEST_SUITE_P(EachFault, InProcessFailure,
         FailureRow{"Reset", fault::Reset{}, 0s, Code::networkConnectionLost},
         FailureRow{"Truncation", fault::Truncation{}, 0s, Code::networkConnectionLost},
         FailureRow{"Closed", fault::ClosedBeforeFirstByte{}, 0s, Code::networkConnectionLost},
+        FailureRow{"NotHttp", fault::NotHttp{}, 0s, Code::badServerResponse},
         FailureRow{"HugeBody", fault::HugeBody{}, 0s, Code::dataLengthExceedsMaximum},
         FailureRow{"PackedHugeBody", fault::HugeBody{200'000'000, true}, 0s, Code::dataLengthExceedsMaximum}),
     [](const auto& row) { return std::string(row.param.name); });
-
-TEST_F(InProcess, GivesNoStatusToAnAnswerThatIsNotHttp)
-{
-    service_.inject({fault::NotHttp{}});
-    send();
-    executor_.run();
-
-    ASSERT_TRUE(result_.has_value());
-    EXPECT_EQ(status(), std::nullopt);
-    EXPECT_EQ(failure(), std::nullopt);
-}
 
 TEST_F(InProcess, LetsAQuickDripThrough)
 {
@@ -181,15 +171,28 @@ TEST_F(InProcess, FollowsTenRedirectsAtMost)
     EXPECT_EQ(service_.received().size(), 11u);
 }
 
-TEST_F(InProcess, SendsAWriteOnceThoughItIsRedirected)
+struct RedirectedWriteRow {
+    int code;
+    std::vector<std::string> methods;
+};
+
+class RedirectedWrite : public InProcess, public testing::WithParamInterface<RedirectedWriteRow> {};
+
+TEST_P(RedirectedWrite, IsSentElsewhereOnlyWhereTheServiceSaysSo)
 {
-    service_.inject({fault::Redirect{"/user/api/v1/status-pages", 307}});
+    service_.inject({fault::Redirect{samples::overviewPath, GetParam().code}, samples::pagesPath});
     send("https://kestrune.example/user/api/v1/status-pages", {}, "POST");
     executor_.run();
 
-    EXPECT_EQ(status(), 307);
-    EXPECT_EQ(service_.received().size(), 1u);
+    std::vector<std::string> methods;
+    for (const auto& request : service_.received()) methods.push_back(request.method);
+    EXPECT_EQ(methods, GetParam().methods);
 }
+
+INSTANTIATE_TEST_SUITE_P(EachCode, RedirectedWrite,
+    testing::Values(RedirectedWriteRow{301, {"POST"}}, RedirectedWriteRow{302, {"POST"}},
+        RedirectedWriteRow{303, {"POST", "GET"}}, RedirectedWriteRow{307, {"POST", "POST"}},
+        RedirectedWriteRow{308, {"POST", "POST"}}));
 
 TEST_F(InProcess, EndsAStoppedRequestAtOnceAndOnce)
 {
