@@ -1,0 +1,111 @@
+#include "workspace/Settings.h"
+
+#include <utility>
+
+#include "support/Trimming.h"
+
+namespace larkspan::workspace {
+
+using core::APIKeyVerificationResult;
+using support::Task;
+
+namespace {
+
+Settings::ValidationState invalid(std::string message)
+{
+    return {Settings::ValidationState::Kind::invalid, std::move(message)};
+}
+
+std::string failureText(APIKeyVerificationResult result)
+{
+    switch (result) {
+    case APIKeyVerificationResult::invalid: return "Invalid or unauthorized API key.";
+    case APIKeyVerificationResult::offline: return "Network offline. Check your connection and try again.";
+    case APIKeyVerificationResult::timedOut: return "Request timed out. Kestrune may be slow or unreachable.";
+    case APIKeyVerificationResult::serverError: return "Kestrune server error. Try again later.";
+    case APIKeyVerificationResult::valid:
+    case APIKeyVerificationResult::unknown: break;
+    }
+    return "Could not verify API key. Please try again.";
+}
+
+}  // namespace
+
+Settings::Settings(Ports ports, std::function<void()> onApiKeyDeleted)
+    : ports_(std::move(ports))
+    , onApiKeyDeleted_(std::move(onApiKeyDeleted))
+{
+}
+
+bool Settings::isSaveEnabled() const
+{
+    return !support::trimmed(*apiKey).empty() && validationState->kind != ValidationState::Kind::validating;
+}
+
+void Settings::appear()
+{
+    support::start(ports_.main, lookForKey(shared_from_this()));
+}
+
+Task<void> Settings::lookForKey(std::shared_ptr<Settings> self)
+{
+    auto looking = self->ports_.keys.hasAPIKey();
+    self->hasExistingKey = co_await std::move(looking);
+}
+
+void Settings::edit(std::string text)
+{
+    if (text == *apiKey) return;
+    apiKey = std::move(text);
+    if (validationState->kind != ValidationState::Kind::idle) validationState = {};
+}
+
+void Settings::saveAndVerify()
+{
+    std::string key(support::trimmed(*apiKey));
+    if (key.empty() || !isSaveEnabled()) return;
+    validationState = {ValidationState::Kind::validating};
+    support::start(ports_.main, verify(shared_from_this(), std::move(key)));
+}
+
+Task<void> Settings::verify(std::shared_ptr<Settings> self, std::string key)
+{
+    auto verifying = self->ports_.appState->verifyAPIKey(key);
+    const auto result = co_await std::move(verifying);
+    if (result != APIKeyVerificationResult::valid) {
+        self->validationState = invalid(failureText(result));
+        co_return;
+    }
+    auto saving = self->ports_.keys.saveAPIKey(std::move(key));
+    const bool isSaved = co_await std::move(saving);
+    if (!isSaved) {
+        self->validationState = invalid("Could not save API key to Keychain.");
+        co_return;
+    }
+    self->hasExistingKey = true;
+    self->apiKey = {};
+    self->validationState = {ValidationState::Kind::valid};
+}
+
+void Settings::confirmDelete()
+{
+    showDeleteConfirmation = true;
+}
+
+void Settings::deleteKey()
+{
+    showDeleteConfirmation = false;
+    support::start(ports_.main, removeKey(shared_from_this()));
+}
+
+Task<void> Settings::removeKey(std::shared_ptr<Settings> self)
+{
+    auto removing = self->ports_.keys.deleteAPIKey();
+    co_await std::move(removing);
+    self->apiKey = {};
+    self->hasExistingKey = false;
+    self->validationState = {};
+    if (self->onApiKeyDeleted_) self->onApiKeyDeleted_();
+}
+
+}  // namespace larkspan::workspace

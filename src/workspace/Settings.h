@@ -1,0 +1,68 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "api/APIKeyStore.h"
+#include "core/AppStateManager.h"
+#include "platform/Executor.h"
+#include "support/Observable.h"
+#include "support/Task.h"
+
+namespace larkspan::workspace {
+
+/// The settings sheet: a key is pasted, verified, stored and deleted. Main thread only. Made anew each time the
+/// sheet opens; closing it stops nothing, so a key that is being verified is still stored if it is accepted.
+class Settings final : public support::Observable, public std::enable_shared_from_this<Settings> {
+public:
+    struct Ports {
+        platform::Executor& main;
+        std::shared_ptr<core::AppStateManager> appState;
+        api::APIKeyStore& keys;
+    };
+
+    struct ValidationState {
+        enum class Kind { idle, validating, valid, invalid };
+
+        Kind kind = Kind::idle;
+        std::string message = {};
+
+        bool operator==(const ValidationState&) const = default;
+    };
+
+    explicit Settings(Ports ports, std::function<void()> onApiKeyDeleted = {});
+
+    support::Published<std::string> apiKey{*this};
+    support::Published<bool> hasExistingKey{*this, false};
+    support::Published<ValidationState> validationState{*this};
+    support::Published<bool> showDeleteConfirmation{*this, false};
+
+    /// The row "API key saved" stands in place of the field.
+    bool showsSavedKey() const { return *hasExistingKey && apiKey->empty(); }
+    bool isSaveEnabled() const;
+
+    /// The sheet came up: looks whether a key is stored.
+    void appear();
+
+    /// The user changed the field.
+    void edit(std::string text);
+
+    void saveAndVerify();
+    void confirmDelete();
+    void cancelDelete() { showDeleteConfirmation = false; }
+
+    /// The user confirmed the deletion.
+    void deleteKey();
+
+private:
+    static support::Task<void> lookForKey(std::shared_ptr<Settings> self);
+    static support::Task<void> verify(std::shared_ptr<Settings> self, std::string key);
+    static support::Task<void> removeKey(std::shared_ptr<Settings> self);
+
+    Ports ports_;
+    std::function<void()> onApiKeyDeleted_;
+};
+
+}  // namespace larkspan::workspace

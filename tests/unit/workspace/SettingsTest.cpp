@@ -1,0 +1,264 @@
+#include "workspace/Settings.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "api/KeychainHelper.h"
+#include "fakes/Account.h"
+
+namespace larkspan::workspace {
+
+namespace {
+
+using api::KeychainHelper;
+using platform::HttpResponse;
+using platform::URLError;
+using Kind = Settings::ValidationState::Kind;
+
+class SettingsSheet : public testing::Test, public fakes::Account {
+protected:
+    std::shared_ptr<Settings> opened()
+    {
+        auto settings = std::make_shared<Settings>(Settings::Ports{main, state, keys}, [this] { ++deletions; });
+        settings->appear();
+        run();
+        return settings;
+    }
+
+    std::shared_ptr<Settings> openedWithoutKey()
+    {
+        KeychainHelper::deleteAPIKey(credentials);
+        return opened();
+    }
+
+    api::APIKeyStore keys{client, credentials};
+    int deletions = 0;
+};
+
+TEST_F(SettingsSheet, WithAStoredKeyShowsThatOneIsSavedWithNoMarkerAndNeverTheKey)
+{
+    const auto settings = opened();
+    EXPECT_TRUE(*settings->hasExistingKey);
+    EXPECT_TRUE(settings->showsSavedKey());
+    EXPECT_EQ(*settings->apiKey, "");
+    EXPECT_EQ(settings->validationState->kind, Kind::idle);
+}
+
+TEST_F(SettingsSheet, WithoutAStoredKeyShowsTheFieldAndADisabledButton)
+{
+    const auto settings = openedWithoutKey();
+    EXPECT_FALSE(settings->showsSavedKey());
+    EXPECT_FALSE(settings->isSaveEnabled());
+}
+
+TEST_F(SettingsSheet, LooksAtTheStoreOnTheClientsThreadOnly)
+{
+    const auto settings = std::make_shared<Settings>(Settings::Ports{main, state, keys});
+    const int readsBefore = credentials.reads;
+    settings->appear();
+    main.run();
+    EXPECT_EQ(credentials.reads, readsBefore);
+    client.run();
+    EXPECT_EQ(credentials.reads, readsBefore + 1);
+}
+
+TEST_F(SettingsSheet, AKeyOfWhiteSpaceOnlyLeavesTheButtonDisabledAndTheActionDoesNothing)
+{
+    const auto settings = openedWithoutKey();
+    settings->edit(" \n\t ");
+    EXPECT_FALSE(settings->isSaveEnabled());
+    settings->saveAndVerify();
+    run();
+    EXPECT_EQ(settings->validationState->kind, Kind::idle);
+    EXPECT_TRUE(transport.requests.empty());
+}
+
+TEST_F(SettingsSheet, WhileVerifyingTheButtonIsDisabledAndASecondStartDoesNothing)
+{
+    const auto settings = openedWithoutKey();
+    settings->edit("k-new");
+    EXPECT_TRUE(settings->isSaveEnabled());
+    settings->saveAndVerify();
+    EXPECT_EQ(settings->validationState->kind, Kind::validating);
+    EXPECT_FALSE(settings->isSaveEnabled());
+    settings->saveAndVerify();
+    run();
+    EXPECT_EQ(transport.requests.size(), 1u);
+}
+
+TEST_F(SettingsSheet, APastedKeyWithATrailingNewlineIsVerifiedAndStoredWithoutIt)
+{
+    transport.script(pagesURL, 200, "[]");
+    const auto settings = openedWithoutKey();
+    settings->edit("  k-new\r\n");
+    settings->saveAndVerify();
+    run();
+    EXPECT_EQ(transport.requests.at(0).headers.at(1).second, "k-new");
+    EXPECT_EQ(KeychainHelper::readAPIKey(credentials), "k-new");
+}
+
+TEST_F(SettingsSheet, AnAcceptedKeyEmptiesTheFieldAndReadsConnected)
+{
+    transport.script(pagesURL, 200, "[]");
+    const auto settings = openedWithoutKey();
+    settings->edit("k-new");
+    settings->saveAndVerify();
+    run();
+    EXPECT_TRUE(settings->showsSavedKey());
+    EXPECT_EQ(*settings->apiKey, "");
+    EXPECT_EQ(settings->validationState->kind, Kind::valid);
+}
+
+TEST_F(SettingsSheet, StartsNoRefreshOfItsOwn)
+{
+    transport.script(pagesURL, 200, "[]");
+    const auto settings = openedWithoutKey();
+    settings->edit("k-new");
+    settings->saveAndVerify();
+    run();
+    EXPECT_EQ(transport.requests.size(), 1u) << "the verification alone";
+}
+
+struct FailureRow {
+    platform::HttpTransport::Result answer;
+    std::string message;
+};
+
+class FailedVerification : public SettingsSheet, public testing::WithParamInterface<FailureRow> {};
+
+TEST_P(FailedVerification, SaysWhyKeepsTheTextAndLeavesTheStoredKeyAlone)
+{
+    transport.script(pagesURL, GetParam().answer);
+    const auto settings = opened();
+    settings->edit("k-wrong");
+    settings->saveAndVerify();
+    run();
+    EXPECT_EQ(settings->validationState->kind, Kind::invalid);
+    EXPECT_EQ(settings->validationState->message, GetParam().message);
+    EXPECT_EQ(*settings->apiKey, "k-wrong");
+    EXPECT_EQ(KeychainHelper::readAPIKey(credentials), "k-123");
+}
+
+const std::string unauthorized = "Invalid or unauthorized API key.";
+const std::string unverified = "Could not verify API key. Please try again.";
+const std::string serverError = "Kestrune server error. Try again later.";
+const std::string offline = "Network offline. Check your connection and try again.";
+
+INSTANTIATE_TEST_SUITE_P(EachResult, FailedVerification,
+    testing::Values(FailureRow{HttpResponse{401, ""}, unauthorized}, FailureRow{HttpResponse{403, ""}, unauthorized},
+        FailureRow{HttpResponse{404, ""}, unverified}, FailureRow{HttpResponse{429, ""}, unverified},
+        FailureRow{HttpResponse{500, ""}, serverError}, FailureRow{HttpResponse{599, ""}, serverError},
+        FailureRow{HttpResponse{600, ""}, unverified}, FailureRow{URLError::Code::cannotFindHost, offline},
+        FailureRow{URLError::Code::timedOut, "Request timed out. Kestrune may be slow or unreachable."},
+        FailureRow{URLError::Code::serverCertificateUntrusted, unverified}));
+
+TEST_F(SettingsSheet, AStoreThatCannotBeWrittenAfterAGoodVerificationSaysSoAndAnOlderKeyIsLost)
+{
+    transport.script(pagesURL, 200, "[]");
+    const auto settings = opened();
+    credentials.refusesToAdd = true;
+    settings->edit("k-new");
+    settings->saveAndVerify();
+    run();
+    EXPECT_EQ(settings->validationState->message, "Could not save API key to Keychain.");
+    EXPECT_EQ(*settings->apiKey, "k-new");
+    EXPECT_TRUE(credentials.items.empty());
+}
+
+TEST_F(SettingsSheet, EditingReturnsTheMarkerToIdle)
+{
+    transport.script(pagesURL, 401, "");
+    const auto settings = openedWithoutKey();
+    settings->edit("k-wrong");
+    settings->saveAndVerify();
+    run();
+    settings->edit("k-wron");
+    EXPECT_EQ(settings->validationState->kind, Kind::idle);
+}
+
+TEST_F(SettingsSheet, EditingLeavesAnIdleMarkerAlone)
+{
+    const auto settings = openedWithoutKey();
+    int changes = 0;
+    const auto subscription = settings->objectWillChange([&changes] { ++changes; });
+    settings->edit("k");
+    EXPECT_EQ(changes, 1) << "the text alone";
+}
+
+TEST_F(SettingsSheet, AnEditDuringTheVerificationIsOverriddenByItsResult)
+{
+    const auto settings = openedWithoutKey();
+    settings->edit("k-wrong");
+    settings->saveAndVerify();
+    run();
+    settings->edit("k-wron");
+    EXPECT_EQ(settings->validationState->kind, Kind::idle);
+    transport.answer(HttpResponse{401, ""});
+    run();
+    EXPECT_EQ(settings->validationState->message, unauthorized);
+}
+
+TEST_F(SettingsSheet, ClosedDuringTheVerificationItStillStoresAnAcceptedKey)
+{
+    auto settings = openedWithoutKey();
+    settings->edit("k-new");
+    settings->saveAndVerify();
+    run();
+    settings.reset();
+    transport.answer(HttpResponse{200, "[]"});
+    run();
+    EXPECT_EQ(KeychainHelper::readAPIKey(credentials), "k-new");
+}
+
+TEST_F(SettingsSheet, ReopenedAfterAFailureStartsWithoutTheOldText)
+{
+    auto settings = openedWithoutKey();
+    settings->edit("k-wrong");
+    settings = opened();
+    EXPECT_EQ(*settings->apiKey, "");
+    EXPECT_EQ(settings->validationState->kind, Kind::idle);
+}
+
+TEST_F(SettingsSheet, DeletingAsksFirstAndCancelDoesNothing)
+{
+    const auto settings = opened();
+    settings->confirmDelete();
+    EXPECT_TRUE(*settings->showDeleteConfirmation);
+    settings->cancelDelete();
+    run();
+    EXPECT_FALSE(*settings->showDeleteConfirmation);
+    EXPECT_TRUE(*settings->hasExistingKey);
+    EXPECT_EQ(deletions, 0);
+}
+
+TEST_F(SettingsSheet, DeletingRemovesTheKeyResetsTheScreenAndTellsItsOpener)
+{
+    const auto settings = opened();
+    settings->edit("half a key");
+    settings->confirmDelete();
+    settings->deleteKey();
+    run();
+    EXPECT_TRUE(credentials.items.empty());
+    EXPECT_EQ(*settings->apiKey, "");
+    EXPECT_FALSE(*settings->hasExistingKey);
+    EXPECT_EQ(settings->validationState->kind, Kind::idle);
+    EXPECT_EQ(deletions, 1);
+}
+
+TEST_F(SettingsSheet, DeletingWithNobodyToTellStillDeletesAndResets)
+{
+    const auto settings = std::make_shared<Settings>(Settings::Ports{main, state, keys});
+    settings->appear();
+    run();
+    settings->deleteKey();
+    run();
+    EXPECT_TRUE(credentials.items.empty());
+    EXPECT_FALSE(*settings->hasExistingKey);
+}
+
+}  // namespace
+
+}  // namespace larkspan::workspace
