@@ -1,0 +1,60 @@
+"""The desktop's keyring, as its user and other programs handle it."""
+
+import subprocess
+from contextlib import contextmanager
+from typing import Iterator
+
+import dbus
+
+from patience import eventually
+from processes import end, running
+from session import Session
+
+SECRETS = "org.freedesktop.secrets"
+COLLECTION = "/org/freedesktop/secrets/collection/login"
+PASSWORD = "correct horse"
+ITEM = ("service", "KestruneAPIKeyService", "account", "KestruneAPIKey")
+
+
+class Keyring:
+    def __init__(self, session: Session) -> None:
+        self._session = session
+
+    def store(self, key: bytes) -> None:
+        subprocess.run(["secret-tool", "store", "--label", "Kestrune API key", *ITEM],
+                       input=key, env=self._session.surroundings, check=True)
+
+    def lookup(self) -> bytes:
+        return subprocess.run(["secret-tool", "lookup", *ITEM],
+                              capture_output=True, env=self._session.surroundings, check=False).stdout
+
+    def remove(self) -> None:
+        subprocess.run(["secret-tool", "clear", *ITEM], env=self._session.surroundings, check=True)
+
+    def lock(self) -> None:
+        self._call("org.freedesktop.Secret.Service", "Lock", "ao", ([dbus.ObjectPath(COLLECTION)],))
+
+    def unlock(self) -> None:
+        """As the keyring's own manager would, without a prompt."""
+        _, session = self._call("org.freedesktop.Secret.Service", "OpenSession", "sv", ("plain", dbus.String("", variant_level=1)))
+        secret = dbus.Struct((session, dbus.ByteArray(b""), dbus.ByteArray(PASSWORD.encode()), "text/plain"), signature="oayays")
+        self._call("org.gnome.keyring.InternalUnsupportedGuiltRiddenInterface", "UnlockWithMasterPassword", "o(oayays)",
+                   (dbus.ObjectPath(COLLECTION), secret))
+
+    def _call(self, interface: str, method: str, signature: str, arguments: tuple):
+        return self._session.bus.call_blocking(SECRETS, "/org/freedesktop/secrets", interface, method, signature, arguments)
+
+
+@contextmanager
+def keyring(session: Session) -> Iterator[Keyring]:
+    """A fresh and unlocked one."""
+    with running("gnome-keyring-daemon", "--foreground", "--components=secrets", "--unlock", env=session.surroundings,
+                 stdin=subprocess.PIPE, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL) as daemon:
+        daemon.stdin.write(PASSWORD.encode())
+        daemon.stdin.close()
+        eventually(lambda: session.has(SECRETS), "no keyring came")
+        yield Keyring(session)
+
+
+def stop_service(process: subprocess.Popen) -> None:
+    end(process)

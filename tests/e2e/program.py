@@ -1,0 +1,48 @@
+"""The shipped program, started as a user's desktop starts it."""
+
+import os
+import signal
+import subprocess
+from contextlib import contextmanager
+from pathlib import Path
+from typing import Iterator
+
+from display import Display
+from processes import running
+from screen import Screen
+from session import Session
+
+BINARY = Path(os.environ["LARKSPAN_E2E_BINARIES"], "larkspan")
+
+
+class Program:
+    def __init__(self, process: subprocess.Popen, session: Session, display: Display) -> None:
+        self.process = process
+        self.display = display
+        self.screen = Screen(session, process.pid)
+
+    def is_running(self) -> bool:
+        return self.process.poll() is None
+
+    def window(self) -> str:
+        return self.display.window(self.process.pid)
+
+    def terminate(self) -> int:
+        """Its exit code after being asked to end."""
+        self.process.send_signal(signal.SIGTERM)
+        return self.process.wait(5)
+
+
+def surroundings(session: Session) -> dict[str, str]:
+    return session.surroundings | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "QT_QPA_PLATFORM": "xcb", "QT_QUICK_BACKEND": "software"}
+
+
+@contextmanager
+def program(session: Session, display: Display) -> Iterator[Program]:
+    with running(str(BINARY), env=surroundings(session)) as process:
+        yield Program(process, session, display)
+
+
+def start_again(session: Session) -> int:
+    """The exit code of a second start."""
+    return subprocess.run([str(BINARY)], env=surroundings(session), timeout=10, check=False).returncode

@@ -1,0 +1,94 @@
+"""The program's window as a screen reader has it."""
+
+from typing import Callable, Iterator, NamedTuple
+
+import dbus
+
+from patience import eventually
+from session import Session
+
+ACCESSIBLE = "org.a11y.atspi.Accessible"
+ACTION = "org.a11y.atspi.Action"
+ROOT = "/org/a11y/atspi/accessible/root"
+ENABLED, FOCUSED, SHOWING, VISIBLE = 8, 12, 25, 30
+
+
+class Thing(NamedTuple):
+    owner: str
+    path: str
+    role: str
+    name: str
+    description: str
+    states: int
+
+    def is_in(self, state: int) -> bool:
+        return bool(self.states >> state & 1)
+
+
+class Screen:
+    def __init__(self, session: Session, process_id: int) -> None:
+        self._bus = session.accessibility_bus()
+        self._process_id = process_id
+
+    def things(self) -> list[Thing]:
+        """All that shows, in reading order."""
+        try:
+            return [thing for owner in self._owners() for thing in self._below(owner, ROOT)]
+        except dbus.DBusException:
+            # Something went away while it was read, so what was read is no one moment's state.
+            return []
+
+    def texts(self) -> list[str]:
+        return [text for thing in self.things() for text in (thing.name, thing.description) if text]
+
+    def shows(self, text: str) -> bool:
+        return text in self.texts()
+
+    def rows(self) -> list[str]:
+        return [thing.name for thing in self.things() if thing.role == "list item"]
+
+    def wait_for(self, text: str, seconds: float = 10) -> None:
+        eventually(lambda: self.shows(text), lambda: f"\"{text}\" does not show; this does: {self.texts()}", seconds)
+
+    def wait_until_gone(self, text: str, seconds: float = 10) -> None:
+        # An empty window is one that could not be read.
+        eventually(lambda: (shown := self.texts()) and text not in shown, lambda: f"\"{text}\" still shows: {self.texts()}", seconds)
+
+    def wait_for_rows(self, names: list[str], seconds: float = 10) -> None:
+        eventually(lambda: self.rows() == names, lambda: f"the rows are {self.rows()}; this shows: {self.texts()}", seconds)
+
+    def button(self, name: str) -> Thing:
+        return self._find(lambda thing: thing.role == "push button" and thing.name == name, f"button \"{name}\"")
+
+    def press(self, name: str) -> None:
+        button = self.button(name)
+        self._call(button.owner, button.path, ACTION, "DoAction", "i", (0,))
+
+    def _find(self, fits: Callable[[Thing], bool], what: str) -> Thing:
+        return eventually(lambda: next(filter(fits, self.things()), None),
+                          lambda: f"there is no {what}; this shows: {[thing[2:5] for thing in self.things()]}")
+
+    def _owners(self) -> list[str]:
+        applications = self._call("org.a11y.atspi.Registry", ROOT, ACCESSIBLE, "GetChildren", "", ())
+        return [str(owner) for owner, _ in applications if self._belongs(str(owner))]
+
+    def _belongs(self, owner: str) -> bool:
+        return int(self._bus.get_object("org.freedesktop.DBus", "/", introspect=False).GetConnectionUnixProcessID(
+            owner, dbus_interface="org.freedesktop.DBus")) == self._process_id
+
+    def _below(self, owner: str, path: str) -> Iterator[Thing]:
+        for child_owner, child in self._call(owner, path, ACCESSIBLE, "GetChildren", "", ()):
+            thing = self._read(str(child_owner), str(child))
+            if thing.is_in(SHOWING) and thing.is_in(VISIBLE):
+                yield thing
+                yield from self._below(thing.owner, thing.path)
+
+    def _read(self, owner: str, path: str) -> Thing:
+        low, high = self._call(owner, path, ACCESSIBLE, "GetState", "", ())
+        role = self._call(owner, path, ACCESSIBLE, "GetRoleName", "", ())
+        named = [self._call(owner, path, "org.freedesktop.DBus.Properties", "Get", "ss", (ACCESSIBLE, field))
+                 for field in ("Name", "Description")]
+        return Thing(owner, path, str(role), str(named[0]), str(named[1]), int(high) << 32 | int(low))
+
+    def _call(self, owner: str, path: str, interface: str, method: str, signature: str, arguments: tuple):
+        return self._bus.call_blocking(owner, path, interface, method, signature, arguments, timeout=5)

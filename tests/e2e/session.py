@@ -1,0 +1,76 @@
+"""A desktop session: a home, a message bus that starts only what the test wants, and the accessibility bus."""
+
+import os
+import subprocess
+from contextlib import contextmanager
+from pathlib import Path
+from typing import Iterator
+
+import dbus
+import dbus.bus
+
+from display import Display
+from processes import running
+
+ACCESSIBILITY = ("org.a11y.Bus",)
+PROMPTS = ("org.gnome.keyring.SystemPrompter", "org.gnome.keyring.PrivatePrompter")
+
+BUS = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
+ "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
+<busconfig>
+  <type>session</type>
+  <listen>unix:path={runtime}/bus</listen>
+  <auth>EXTERNAL</auth>
+  <servicedir>{services}</servicedir>
+  <policy context="default">
+    <allow send_destination="*" eavesdrop="true"/>
+    <allow eavesdrop="true"/>
+    <allow own="*"/>
+  </policy>
+</busconfig>
+"""
+
+
+class Session:
+    def __init__(self, surroundings: dict[str, str]) -> None:
+        self.surroundings = surroundings
+        self.bus = dbus.bus.BusConnection(surroundings["DBUS_SESSION_BUS_ADDRESS"])
+        self.bus.set_exit_on_disconnect(False)
+
+    def has(self, name: str) -> bool:
+        return bool(self.bus.name_has_owner(name))
+
+    def accessibility_bus(self) -> dbus.bus.BusConnection:
+        address = self.bus.call_blocking("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", "", ())
+        connection = dbus.bus.BusConnection(str(address))
+        connection.set_exit_on_disconnect(False)
+        return connection
+
+
+@contextmanager
+def session(display: Display, home: Path) -> Iterator[Session]:
+    runtime, services = home / "run", home / "services"
+    for folder in (runtime, services, home / "data"):
+        folder.mkdir(mode=0o700)
+    for service in ACCESSIBILITY + PROMPTS:
+        (services / f"{service}.service").symlink_to(f"/usr/share/dbus-1/services/{service}.service")
+    (home / "bus.conf").write_text(BUS.format(runtime=runtime, services=services), encoding="utf-8")
+
+    surroundings = os.environ | {
+        "HOME": str(home),
+        "XDG_RUNTIME_DIR": str(runtime),
+        "XDG_DATA_HOME": str(home / "data"),
+        "DISPLAY": display.name,
+        "DBUS_SESSION_BUS_ADDRESS": f"unix:path={runtime}/bus",
+        "LC_ALL": "C.UTF-8",
+        "NO_AT_BRIDGE": "0",
+        "GSETTINGS_BACKEND": "memory",
+    }
+    with running("dbus-daemon", f"--config-file={home}/bus.conf", "--nofork", "--print-address", env=surroundings,
+                 stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True) as daemon:
+        daemon.stdout.readline()
+        made = Session(surroundings)
+        try:
+            yield made
+        finally:
+            made.bus.close()
