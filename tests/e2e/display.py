@@ -43,6 +43,9 @@ class Display:
         """What the window manager sends when the button in the title bar is pressed."""
         self._ask("wmctrl", "-i", "-c", hex(int(window)))
 
+    def type_text(self, text: str) -> None:
+        self._ask("xdotool", "type", "--delay", "5", text)
+
     def press_key(self, key: str) -> None:
         self._ask("xdotool", "key", key)
 

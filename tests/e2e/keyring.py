@@ -17,8 +17,9 @@ ITEM = ("service", "KestruneAPIKeyService", "account", "KestruneAPIKey")
 
 
 class Keyring:
-    def __init__(self, session: Session) -> None:
+    def __init__(self, session: Session, daemon: subprocess.Popen) -> None:
         self._session = session
+        self._daemon = daemon
 
     def store(self, key: bytes) -> None:
         subprocess.run(["secret-tool", "store", "--label", "Kestrune API key", *ITEM],
@@ -30,6 +31,9 @@ class Keyring:
 
     def remove(self) -> None:
         subprocess.run(["secret-tool", "clear", *ITEM], env=self._session.surroundings, check=True)
+
+    def die(self) -> None:
+        end(self._daemon)
 
     def lock(self) -> None:
         self._call("org.freedesktop.Secret.Service", "Lock", "ao", ([dbus.ObjectPath(COLLECTION)],))
@@ -53,8 +57,4 @@ def keyring(session: Session) -> Iterator[Keyring]:
         daemon.stdin.write(PASSWORD.encode())
         daemon.stdin.close()
         eventually(lambda: session.has(SECRETS), "no keyring came")
-        yield Keyring(session)
-
-
-def stop_service(process: subprocess.Popen) -> None:
-    end(process)
+        yield Keyring(session, daemon)

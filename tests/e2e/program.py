@@ -18,6 +18,7 @@ BINARY = Path(os.environ["LARKSPAN_E2E_BINARIES"], "larkspan")
 class Program:
     def __init__(self, process: subprocess.Popen, session: Session, display: Display) -> None:
         self.process = process
+        self.surroundings = surroundings(session)
         self.display = display
         self.screen = Screen(session, process.pid)
 
@@ -43,6 +44,6 @@ def program(session: Session, display: Display) -> Iterator[Program]:
         yield Program(process, session, display)
 
 
-def start_again(session: Session) -> int:
-    """The exit code of a second start."""
-    return subprocess.run([str(BINARY)], env=surroundings(session), timeout=10, check=False).returncode
+def start_again(first: Program) -> int:
+    """The exit code of a second start in the same session."""
+    return subprocess.run([str(BINARY)], env=first.surroundings, timeout=10, check=False).returncode
