@@ -6,8 +6,7 @@ from typing import NamedTuple
 import pytest
 
 import program
-from patience import eventually
-from service import BUNDLE, NAMES, PAGES
+from service import NAMES, PAGES
 from test_day import STALE
 
 LOST = "The network connection was lost."

@@ -2,9 +2,6 @@
 
 import pytest
 
-import keyring
-import session
-from patience import eventually
 from service import KEY, NAMES
 from test_day import STALE
 

@@ -4,7 +4,6 @@ from pathlib import Path
 
 import pytest
 
-import service
 from service import NAMES, service_host
 from test_day import STALE
 
