@@ -1,0 +1,96 @@
+#pragma once
+
+#include <array>
+#include <chrono>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/AppStateManager.h"
+#include "platform/Clock.h"
+#include "platform/Timers.h"
+#include "presentation/Tone.h"
+#include "support/Observable.h"
+#include "support/Time.h"
+
+namespace larkspan::workspace {
+
+/// The dashboard: which of its states shows, and every word in it. It owns no data; all comes from the account's state.
+/// Main thread only.
+class Dashboard final : public support::Observable {
+public:
+    struct Ports {
+        platform::Timers& timers;
+        const platform::Clock& clock;
+        std::shared_ptr<core::AppStateManager> appState;
+    };
+
+    enum class Content { loading, error, empty, list };
+
+    /// What stands in the middle of the window while there is no list.
+    struct Placeholder {
+        std::string symbol;
+        presentation::Tone tone = presentation::Tone::secondary;
+        std::string title;
+        std::string text;
+        bool showsProgress = false;
+        bool offersRetry = false;
+
+        bool operator==(const Placeholder&) const = default;
+    };
+
+    struct Row {
+        std::string id;
+        std::string name;
+        std::string symbol;
+        presentation::Tone tone = presentation::Tone::gray;
+        std::string label;
+
+        bool operator==(const Row&) const = default;
+    };
+
+    struct StatusText {
+        std::string text;
+        bool showsProgress = false;
+        bool showsWarning = false;
+
+        bool operator==(const StatusText&) const = default;
+    };
+
+    static constexpr std::string_view windowTitle = "Kestrune";
+    static constexpr std::string_view listHeading = "Status Pages";
+    static constexpr std::string_view refreshFailedText = "Refresh failed. Data may be stale.";
+    static constexpr std::array<std::chrono::seconds, 4> refreshIntervals{
+        std::chrono::seconds(30), std::chrono::seconds(60), std::chrono::seconds(120), std::chrono::seconds(300)};
+
+    explicit Dashboard(Ports ports);
+
+    /// The reference of the text after "Updated "; it ticks, so that the text ages on screen.
+    support::Published<support::Time> currentTime;
+
+    /// Calls `observer` before anything changes that the dashboard shows, the account's state included.
+    [[nodiscard]] std::array<support::Subscription, 2> observe(const std::function<void()>& observer);
+
+    Content content() const;
+    Placeholder placeholder() const;
+    std::vector<Row> rows() const;
+    bool showsRefreshFailure() const;
+    StatusText statusText() const;
+    bool isRefreshEnabled() const;
+
+    void refresh();
+    void chooseRefreshInterval(std::chrono::seconds interval);
+
+private:
+    const core::AppStateManager& state() const { return *ports_.appState; }
+
+    Ports ports_;
+    std::unique_ptr<platform::Timer> tick_;
+};
+
+/// The label of one interval choice: "Every 30 seconds", "Every 1 minute", "Every 2 minutes".
+std::string refreshIntervalLabel(std::chrono::seconds interval);
+
+}  // namespace larkspan::workspace
