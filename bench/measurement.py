@@ -1,6 +1,9 @@
 """What a measurement is, and how a program that measures is run."""
 
 import subprocess
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent
 
 
 class Unable(Exception):

@@ -73,7 +73,7 @@ std::map<std::string, KeyRights, std::less<>> readKeys(const Json& order)
         } else if (rights == Json("none")) {
             keys.emplace(key, KeyRights::none);
         } else {
-            throw BadOrder("A key's rights are \"full\" or \"none\".");
+            throw BadOrder(R"(A key's rights are "full" or "none".)");
         }
     }
     return keys;

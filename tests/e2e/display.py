@@ -51,13 +51,19 @@ class Display:
 
 
 @contextmanager
-def display() -> Iterator[Display]:
+def server() -> Iterator[Display]:
+    """A display without a window manager."""
     reading, writing = os.pipe()
     with running("Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x960x24", "-nolisten", "tcp", "-noreset",
                  pass_fds=[writing], stderr=subprocess.DEVNULL):
         os.close(writing)
         with os.fdopen(reading) as announced:
             made = Display(f":{announced.readline().strip()}")
-        with running("openbox", env=os.environ | {"DISPLAY": made.name}, stderr=subprocess.DEVNULL):
-            eventually(lambda: "window id" in made._ask("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "no window manager came")
-            yield made
+        yield made
+
+
+@contextmanager
+def display() -> Iterator[Display]:
+    with server() as made, running("openbox", env=os.environ | {"DISPLAY": made.name}, stderr=subprocess.DEVNULL):
+        eventually(lambda: "window id" in made._ask("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "no window manager came")
+        yield made

@@ -41,7 +41,9 @@ HttpsResult HttpsClient::perform(CURL* handle, const Request& request) const
     const auto url = base_ + request.target;
     curl_slist* headers = nullptr;
     for (const auto& [name, value] : request.headers) {
-        headers = curl_slist_append(headers, (name + ": " + value).c_str());
+        std::string line = name;
+        line.append(": ").append(value);
+        headers = curl_slist_append(headers, line.c_str());
     }
     HttpsResult result;
     curl_easy_setopt(handle, CURLOPT_URL, url.c_str());

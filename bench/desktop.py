@@ -1,0 +1,94 @@
+"""usage: desktop.py first_frame|resident_after_cycle RESULT
+
+Starts larkspan and the bare window in turn, by the same hand in the same session, and writes the medians to RESULT as
+JSON. It runs in the world of the end-to-end tests, with their stand-ins around the programs.
+"""
+
+import json
+import os
+import re
+import statistics
+import subprocess
+import sys
+import tempfile
+import time
+from contextlib import contextmanager
+from pathlib import Path
+
+from measurement import ROOT, Unable, output_of
+
+sys.path.append(str(ROOT / "tests/e2e"))
+
+import display
+import keyring
+import service
+import session
+from patience import eventually
+from processes import running
+
+BINARIES = Path(os.environ["LARKSPAN_E2E_BINARIES"])
+PROGRAMS = {"larkspan": BINARIES / "larkspan", "bare": BINARIES / "larkspan-bench-bare"}
+FRAME_ROUNDS = 9
+RESIDENT_ROUNDS = 3
+SETTLING_SECONDS = 2
+OVERVIEW_PATH = "/user/api/status-pages/status"
+
+
+@contextmanager
+def desktop():
+    """Surroundings in which the program finds its key and its service; no window manager, which takes time of its own."""
+    with (tempfile.TemporaryDirectory(prefix="larkspan-bench-") as home, service.simulator() as simulator,
+          display.server() as screen, session.session(screen, Path(home)) as around, keyring.keyring(around) as keys):
+        simulator.trust_authority()
+        keys.store(service.KEY.encode())
+        yield simulator, around.surroundings
+
+
+def first_frames():
+    times = {name: [] for name in PROGRAMS}
+    with desktop() as (_, surroundings):
+        for _ in range(FRAME_ROUNDS + 1):
+            for name, path in PROGRAMS.items():
+                watched = output_of([BINARIES / "larkspan-bench-first-frame", path], env=surroundings)
+                times[name].append(float(watched.stdout))
+    # The first round reads the programs from the disk.
+    return {name: statistics.median(found[1:]) for name, found in times.items()}
+
+
+def resident():
+    sizes = {name: [] for name in PROGRAMS}
+    with desktop() as (simulator, surroundings):
+        for _ in range(RESIDENT_ROUNDS):
+            simulator.reset()
+            sizes["larkspan"].append(size_of("larkspan", surroundings, lambda: await_cycle(simulator)))
+            sizes["bare"].append(size_of("bare", surroundings, lambda: None))
+    return {name: {kind: statistics.median(size[kind] for size in found) for kind in ("Rss", "Pss")}
+            for name, found in sizes.items()}
+
+
+def await_cycle(simulator):
+    """Until the service is asked for the overview, the last request of a cycle."""
+    eventually(lambda: any(request["target"] == OVERVIEW_PATH for request in simulator.requests()), "no cycle came", 30)
+
+
+def size_of(name, surroundings, await_readiness):
+    """What the program holds, in MiB."""
+    with running(PROGRAMS[name], env=surroundings, stderr=subprocess.DEVNULL) as process:
+        await_readiness()
+        time.sleep(SETTLING_SECONDS)
+        if process.poll() is not None:
+            raise Unable(f"{name} ended by itself.")
+        rollup = Path(f"/proc/{process.pid}/smaps_rollup").read_text()
+        return {kind: int(re.search(rf"^{kind}: +(\d+) kB", rollup, re.M).group(1)) / 1024 for kind in ("Rss", "Pss")}
+
+
+def main(what, result):
+    found = first_frames() if what == "first_frame" else resident()
+    Path(result).write_text(json.dumps(found))
+
+
+if __name__ == "__main__":
+    try:
+        main(*sys.argv[1:])
+    except (Unable, AssertionError) as reason:
+        sys.exit(f"bench: {reason}")

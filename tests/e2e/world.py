@@ -1,0 +1,86 @@
+"""usage: world.py BINARIES HOST COMMAND...
+
+Runs a command in a world of its own, made of namespaces that end with it: no network but loopback, where the service's
+HOST is this machine, and an /etc of its own, whose bundle of authorities it may write. So the very program that users
+get talks verified HTTPS to a stand-in, and the machine's settings are never touched.
+"""
+
+import fcntl
+import os
+import shutil
+import socket
+import struct
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+CANNOT_BE_HERE = 77
+
+
+def namespaces() -> list[str] | None:
+    """The command that gives a process mounts and a network of its own; none where the machine forbids that."""
+    own = ["unshare", "--mount", "--net"]
+    # The user stays who they are, since the bus asks. Root needs no such thing, but in a plain chroot
+    # the mounts cannot be cut off from those outside.
+    ways = [[*own, "--propagation", "unchanged"]] if os.geteuid() == 0 else []
+    ways = [own, *ways] if os.geteuid() == 0 else [["unshare", "--map-current-user", "--keep-caps", *own[1:]]]
+    for way in ways:
+        if subprocess.run([*way, "true"], capture_output=True, check=False).returncode == 0:
+            return way
+    return None
+
+
+def run(binaries: str, host: str, command: list[str]) -> int:
+    """The command's exit code."""
+    if not shutil.which("unshare"):
+        sys.exit("unshare is missing; it is in the package util-linux.")
+    way = namespaces()
+    if way is None:
+        print("This machine lets its users have no namespaces (unshare), so the program cannot be run in a world of its own.")
+        return CANNOT_BE_HERE
+    with tempfile.TemporaryDirectory(prefix="larkspan-e2e-") as world:
+        etc = Path(world, "etc")
+        # What the user may not read, no program of theirs needs.
+        subprocess.run(["cp", "--archive", "/etc/.", etc], stderr=subprocess.DEVNULL, check=False)
+        name = host.partition(":")[0]
+        (etc / "hosts").unlink(missing_ok=True)
+        (etc / "hosts").write_text(f"127.0.0.1 localhost {name}\n", encoding="utf-8")
+        # A link would lead out of this copy.
+        bundle = etc / "ssl/certs/ca-certificates.crt"
+        authorities = bundle.read_bytes()
+        bundle.unlink()
+        bundle.write_bytes(authorities)
+        surroundings = os.environ | {
+            "LARKSPAN_E2E_BINARIES": binaries,
+            "LARKSPAN_E2E_HOST": host,
+            "LARKSPAN_E2E_WORLD": world,
+            # What the machine's own services and settings say must decide nothing here.
+            "DBUS_SYSTEM_BUS_ADDRESS": f"unix:path={world}/no-system-bus",
+        }
+        for name in list(surroundings):
+            if name.lower().endswith("_proxy") or name.startswith(("QT_", "QML", "WAYLAND_", "XDG_", "GTK_", "DBUS_SESSION")):
+                del surroundings[name]
+        return subprocess.run([*way, sys.executable, __file__, "--inside", *command], env=surroundings, check=False).returncode
+
+
+def inside(command: list[str]) -> int:
+    world = os.environ["LARKSPAN_E2E_WORLD"]
+    subprocess.run(["mount", "--bind", f"{world}/etc", "/etc"], check=True)
+    try:
+        bring_loopback_up()
+        return subprocess.run(command, check=False).returncode
+    finally:
+        subprocess.run(["umount", "--lazy", "/etc"], check=False)
+
+
+def bring_loopback_up() -> None:
+    set_flags, up_and_running = 0x8914, 0x1 | 0x40
+    with socket.socket(socket.AF_INET, socket.SOCK_DGRAM) as any_socket:
+        fcntl.ioctl(any_socket, set_flags, struct.pack("16sh", b"lo", up_and_running))
+
+
+if __name__ == "__main__":
+    if sys.argv[1] == "--inside":
+        sys.exit(inside(sys.argv[2:]))
+    sys.exit(run(sys.argv[1], sys.argv[2], sys.argv[3:]))
