@@ -1,38 +1,64 @@
 #pragma once
 
-#include <functional>
+#include <curl/curl.h>
+
+#include <chrono>
+#include <map>
+#include <memory>
 #include <mutex>
 #include <thread>
+#include <unordered_map>
 #include <vector>
 
 #include "platform/Executor.h"
 
-using CURLM = void;
-
 namespace larkspan::adapters {
 
-/// The client's own thread: runs what is posted and drives the transfers of one libcurl multi handle, in one wait.
+/// The client's own thread: what is posted, libcurl's transfers and alarms, all in one wait.
 class ClientLoop final : public platform::Executor {
 public:
+    using Clock = std::chrono::steady_clock;
+    using Work = support::UniqueFunction<void()>;
+    using TransferEnd = support::UniqueFunction<void(CURLcode)>;
+
+    /// Dropped, the alarm doesn't go off.
+    using Alarm = std::shared_ptr<const void>;
+
     ClientLoop();
 
-    /// Runs what is queued, and what that queues, and ends the thread. Transfers must be gone by now.
+    /// Runs what is queued and what that queues, then ends the thread. Transfers are gone by then.
     ~ClientLoop() override;
     ClientLoop(const ClientLoop&) = delete;
     ClientLoop& operator=(const ClientLoop&) = delete;
 
-    void post(support::UniqueFunction<void()> work) override;
+    void post(Work work) override;
+
+    bool isOnItsThread() const { return std::this_thread::get_id() == thread_.get_id(); }
+
+    // The rest belongs to the loop's thread.
+
+    [[nodiscard]] Alarm at(Clock::time_point due, Work work);
+
+    /// Drives `transfer` until it ends or is dropped; `ended` may drop it and anything else.
+    void begin(CURL* transfer, TransferEnd ended);
+    void drop(CURL* transfer);
 
 private:
-    using Work = support::UniqueFunction<void()>;
-
     void run();
+    void open();
+    void close();
     bool runPosted();
+    void runEndedTransfers();
+    void runDueAlarms();
+    int millisecondsToWait();
 
-    CURLM* multi_;
     std::mutex mutex_;
     std::vector<Work> posted_;
     bool isEnding_ = false;
+    CURLM* multi_ = nullptr;
+
+    std::unordered_map<CURL*, TransferEnd> transfers_;
+    std::multimap<Clock::time_point, std::weak_ptr<Work>> alarms_;
     std::thread thread_;
 };
 

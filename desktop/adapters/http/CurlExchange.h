@@ -1,0 +1,69 @@
+#pragma once
+
+#include <curl/curl.h>
+
+#include <cstddef>
+#include <optional>
+#include <string>
+
+#include "adapters/http/ClientLoop.h"
+#include "adapters/http/CurlHandles.h"
+#include "adapters/http/ResponseHead.h"
+#include "adapters/http/TlsSession.h"
+#include "adapters/http/TransportSettings.h"
+#include "platform/HttpTransport.h"
+
+namespace larkspan::adapters {
+
+/// One request under way, with its redirects, until its answer is whole. Dropped, it ends the connection that it used
+/// and is not heard of again. Lives on the loop's thread.
+class CurlExchange {
+public:
+    using Result = platform::HttpTransport::Result;
+    using Finished = support::UniqueFunction<void(Result)>;
+
+    /// Sends `request` through `proxy`: empty for none, absent for what the environment says. `finished` is called
+    /// once, never from here, and may drop the exchange. `loop` and `settings` outlive it.
+    CurlExchange(ClientLoop& loop, const TransportSettings& settings, platform::HttpRequest request,
+        std::optional<std::string> proxy, Finished finished);
+    ~CurlExchange();
+    CurlExchange(const CurlExchange&) = delete;
+    CurlExchange& operator=(const CurlExchange&) = delete;
+
+private:
+    void send();
+    void setTransport();
+    void setReceivers();
+    void ended(CURLcode result);
+    Result outcome(CURLcode result);
+    bool isWhole() const;
+    bool followRedirect();
+    void finish(Result result);
+
+    void sawBytes();
+    void watchForSilence();
+
+    static std::size_t receiveHeader(char* bytes, std::size_t, std::size_t size, void* exchange);
+    static std::size_t receiveBody(char* bytes, std::size_t, std::size_t size, void* exchange);
+    static int observeProgress(void* exchange, curl_off_t, curl_off_t received, curl_off_t, curl_off_t sent);
+
+    ClientLoop& loop_;
+    const TransportSettings& settings_;
+    platform::HttpRequest request_;
+    const std::optional<std::string> proxy_;
+    Finished finished_;
+
+    HeaderList headers_;
+    TransferHandle transfer_;
+    int redirects_ = 0;
+    ResponseHead head_;
+    TlsSession session_;
+    std::string body_;
+    bool isBodyTooLarge_ = false;
+
+    curl_off_t bytesSeen_ = 0;
+    ClientLoop::Clock::time_point lastByte_;
+    ClientLoop::Alarm silence_;
+};
+
+}  // namespace larkspan::adapters

@@ -1,0 +1,96 @@
+#include "adapters/http/RequestOptions.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace larkspan::adapters {
+
+namespace {
+
+bool isTokenCharacter(char character)
+{
+    const auto byte = static_cast<unsigned char>(character);
+    return std::isalnum(byte) != 0 || std::string_view("!#$%&'*+-.^_`|~").find(character) != std::string_view::npos;
+}
+
+bool isToken(std::string_view text)
+{
+    return !text.empty() && std::ranges::all_of(text, isTokenCharacter);
+}
+
+bool staysOnItsLine(std::string_view value)
+{
+    return value.find_first_of(std::string_view("\r\n\0", 3)) == std::string_view::npos;
+}
+
+void append(HeaderList& list, const std::string& line)
+{
+    auto* grown = curl_slist_append(list.get(), line.c_str());
+    if (!grown) support::fatalError("out of memory");
+    static_cast<void>(list.release());
+    list.reset(grown);
+}
+
+HeaderList headerLines(const platform::HttpRequest& request)
+{
+    HeaderList lines;
+    for (const auto& [name, value] : request.headers) append(lines, value.empty() ? name + ";" : name + ": " + value);
+
+    // What libcurl would add on its own account; a name with nothing behind it takes the header away.
+    for (const std::string_view unwanted : {"Accept", "Content-Type", "Expect", "User-Agent"}) {
+        const auto isGiven = [unwanted](const auto& header) { return isNamed(header, unwanted); };
+        if (std::ranges::none_of(request.headers, isGiven)) append(lines, std::string(unwanted) + ":");
+    }
+    return lines;
+}
+
+}  // namespace
+
+bool isRead(const platform::HttpRequest& request)
+{
+    return request.method == "GET" || request.method == "HEAD";
+}
+
+bool isNamed(const std::pair<std::string, std::string>& header, std::string_view name)
+{
+    const auto lower = [](unsigned char character) { return std::tolower(character); };
+    return std::ranges::equal(header.first, name, {}, lower, lower);
+}
+
+bool canBeSent(const platform::HttpRequest& request)
+{
+    return isToken(request.method) && request.url.starts_with("https://")
+        && std::ranges::all_of(
+            request.headers, [](const auto& header) { return isToken(header.first) && staysOnItsLine(header.second); });
+}
+
+HeaderList setRequest(CURL* transfer, const platform::HttpRequest& request)
+{
+    setOption(transfer, CURLOPT_URL, request.url.c_str());
+    setOption(transfer, CURLOPT_PATH_AS_IS, 1L);
+    setOption(transfer, CURLOPT_PROTOCOLS_STR, "https");
+    setOption(transfer, CURLOPT_DISALLOW_USERNAME_IN_URL, 1L);
+    // One exchange per connection at a time: a write shares its connection with nothing, an answer that hangs holds up
+    // no other, and no frame of the protocol ever asks for a request to be sent anew.
+    setOption(transfer, CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
+    setOption(transfer, CURLOPT_ACCEPT_ENCODING, "");
+
+    if (request.method == "HEAD") setOption(transfer, CURLOPT_NOBODY, 1L);
+    const bool carriesLength = request.body || (!isRead(request) && request.method != "DELETE");
+    if (carriesLength) {
+        const auto& body = request.body;
+        setOption(transfer, CURLOPT_POST, 1L);
+        setOption(transfer, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(body ? body->size() : 0));
+        setOption(transfer, CURLOPT_POSTFIELDS, body ? body->c_str() : "");
+    }
+    setOption(transfer, CURLOPT_CUSTOMREQUEST, request.method.c_str());
+
+    // A connection at hand may be dying, and then libcurl sends anew on another one. That is right for a read only.
+    if (!isRead(request)) setOption(transfer, CURLOPT_FRESH_CONNECT, 1L);
+
+    auto lines = headerLines(request);
+    setOption(transfer, CURLOPT_HTTPHEADER, lines.get());
+    return lines;
+}
+
+}  // namespace larkspan::adapters

@@ -1,0 +1,44 @@
+#include "adapters/http/TlsSession.h"
+
+namespace larkspan::adapters {
+
+namespace {
+
+int noteIndex()
+{
+    static const int index = SSL_get_ex_new_index(0, nullptr, nullptr, nullptr, nullptr);
+    return index;
+}
+
+// The session's own record of it (SSL_get_shutdown) is gone by the time that the transfer has ended.
+void noteClosure(const SSL* session, int event, int alert)
+{
+    constexpr int descriptionBits = 0xFF;
+    static int closed = 1;
+    if (event == SSL_CB_READ_ALERT && (alert & descriptionBits) == SSL_AD_CLOSE_NOTIFY)
+        SSL_set_ex_data(const_cast<SSL*>(session), noteIndex(), &closed);
+}
+
+}  // namespace
+
+TlsSession::TlsSession(CURL* transfer)
+{
+    const curl_tlssessioninfo* information = nullptr;
+    curl_easy_getinfo(transfer, CURLINFO_TLS_SSL_PTR, &information);
+    if (!information || !information->internals) return;
+    auto* session = static_cast<SSL*>(information->internals);
+    SSL_up_ref(session);
+    session_.reset(session);
+}
+
+bool TlsSession::isClosedByPeer() const
+{
+    return session_ && SSL_get_ex_data(session_.get(), noteIndex()) != nullptr;
+}
+
+void TlsSession::observe(SSL_CTX* context)
+{
+    SSL_CTX_set_info_callback(context, &noteClosure);
+}
+
+}  // namespace larkspan::adapters

@@ -1,0 +1,108 @@
+#include "adapters/http/TransportOperations.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "adapters/http/EnvironmentProxies.h"
+#include "adapters/http/RequestOptions.h"
+
+namespace larkspan::adapters {
+
+namespace {
+
+using Code = platform::URLError::Code;
+
+}  // namespace
+
+TransportOperations::TransportOperations(ClientLoop& loop, TransportSettings settings)
+    : loop_(loop)
+    , settings_(std::move(settings))
+{
+}
+
+void TransportOperations::begin(platform::HttpRequest request, std::stop_token stop, Complete complete)
+{
+    if (stop.stop_requested()) return complete(Code::cancelled);
+    if (!canBeSent(request)) return complete(Code::unknown);
+
+    const auto id = ++lastId_;
+    const auto end = ClientLoop::Clock::now() + request.timeout;
+    auto& operation = operations_[id];
+    operation.request = std::move(request);
+    operation.complete = std::move(complete);
+    operation.deadline = loop_.at(end, [this, id] { finish(id, Code::timedOut); });
+    operation.onStop.emplace(std::move(stop), StopNotice{loop_, weak_from_this(), id});
+    findProxy(id);
+}
+
+void TransportOperations::StopNotice::operator()() const
+{
+    loop.post([requests = operations, stopped = id] {
+        if (const auto alive = requests.lock()) alive->finish(stopped, Code::cancelled);
+    });
+}
+
+void TransportOperations::dropAll()
+{
+    operations_.clear();
+}
+
+void TransportOperations::findProxy(Id id)
+{
+    // libcurl reads the environment by itself.
+    if (!settings_.proxies || environmentNamesProxy()) return awaitTurn(id);
+
+    auto answer = [&loop = loop_, operations = weak_from_this(), id](std::string proxy) {
+        loop.post([operations, id, proxy = std::move(proxy)]() mutable {
+            const auto alive = operations.lock();
+            if (!alive) return;
+            const auto found = alive->operations_.find(id);
+            if (found == alive->operations_.end()) return;
+            found->second.proxy = std::move(proxy);
+            alive->awaitTurn(id);
+        });
+    };
+    settings_.proxies->findProxy(operations_.at(id).request.url, std::move(answer));
+}
+
+void TransportOperations::awaitTurn(Id id)
+{
+    auto& operation = operations_.at(id);
+    if (!isRead(operation.request) || !isReading()) return exchange(id);
+    operation.endOfPatience = loop_.at(ClientLoop::Clock::now() + settings_.patience, [this, id] { exchange(id); });
+}
+
+bool TransportOperations::isReading() const
+{
+    return std::ranges::any_of(
+        operations_, [](const auto& entry) { return entry.second.exchange && isRead(entry.second.request); });
+}
+
+void TransportOperations::exchange(Id id)
+{
+    auto& operation = operations_.at(id);
+    operation.endOfPatience.reset();
+    operation.exchange = std::make_unique<CurlExchange>(loop_, settings_, operation.request, operation.proxy,
+        [this, id](Result result) { finish(id, std::move(result)); });
+}
+
+void TransportOperations::startNextRead()
+{
+    if (isReading()) return;
+    const auto next
+        = std::ranges::find_if(operations_, [](const auto& entry) { return entry.second.endOfPatience != nullptr; });
+    if (next != operations_.end()) exchange(next->first);
+}
+
+void TransportOperations::finish(Id id, Result result)
+{
+    auto ended = operations_.extract(id);
+    if (!ended) return;
+    auto complete = std::move(ended.mapped().complete);
+    ended = {};
+    startNextRead();
+    // What is called may let go of the transport.
+    complete(std::move(result));
+}
+
+}  // namespace larkspan::adapters

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <stop_token>
+#include <string>
+
+#include "adapters/http/ClientLoop.h"
+#include "adapters/http/CurlExchange.h"
+#include "adapters/http/TransportSettings.h"
+#include "platform/HttpTransport.h"
+
+namespace larkspan::adapters {
+
+/// The requests of a transport from their arrival to their completion: their time, their cancellation, their proxy
+/// and, for reads, their turn. Lives on the loop's thread.
+///
+/// Reads take turns on one connection, so that the polls of an idle program cost one handshake at most; a read whose
+/// turn is long in coming gets a connection of its own. Writes wait for nothing.
+class TransportOperations : public std::enable_shared_from_this<TransportOperations> {
+public:
+    using Result = platform::HttpTransport::Result;
+    using Complete = support::UniqueFunction<void(Result)>;
+
+    TransportOperations(ClientLoop& loop, TransportSettings settings);
+
+    void begin(platform::HttpRequest request, std::stop_token stop, Complete complete);
+
+    /// Forgets every request, its completion uncalled.
+    void dropAll();
+
+private:
+    using Id = std::uint64_t;
+
+    struct StopNotice {
+        ClientLoop& loop;
+        std::weak_ptr<TransportOperations> operations;
+        Id id;
+
+        void operator()() const;
+    };
+
+    struct Operation {
+        platform::HttpRequest request;
+        Complete complete;
+        ClientLoop::Alarm deadline;
+        std::optional<std::stop_callback<StopNotice>> onStop;
+        std::optional<std::string> proxy;
+        ClientLoop::Alarm endOfPatience;
+        std::unique_ptr<CurlExchange> exchange;
+    };
+
+    void findProxy(Id id);
+    void awaitTurn(Id id);
+    bool isReading() const;
+    void exchange(Id id);
+    void startNextRead();
+    void finish(Id id, Result result);
+
+    ClientLoop& loop_;
+    const TransportSettings settings_;
+    std::map<Id, Operation> operations_;
+    Id lastId_ = 0;
+};
+
+}  // namespace larkspan::adapters

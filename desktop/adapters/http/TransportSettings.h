@@ -1,0 +1,30 @@
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <string>
+
+#include "adapters/http/ProxySettings.h"
+#include "adapters/http/TlsPolicy.h"
+
+namespace larkspan::adapters {
+
+/// What a transport holds its requests to; the defaults are the program's.
+struct TransportSettings {
+    /// The authorities that vouch for the service, and no others.
+    std::string certificateBundle = systemCertificateBundle();
+
+    /// How long a request lives while no byte comes or goes. The time for the whole of it is the request's own.
+    std::chrono::milliseconds idleTimeout = std::chrono::seconds(30);
+
+    /// The most bytes that a body may have once it is unpacked.
+    std::size_t largestBody = 64 * 1024 * 1024;
+
+    /// How long a read waits for the connection of another one before it gets a connection of its own.
+    std::chrono::milliseconds patience{500};
+
+    /// Asked where the environment names no proxy. Outlives the transport, and the loop outlives it.
+    ProxySettings* proxies = nullptr;
+};
+
+}  // namespace larkspan::adapters
