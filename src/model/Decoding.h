@@ -23,6 +23,11 @@ namespace larkspan::model {
 template <typename T>
 T decode(const JSONValue& value);
 
+/// A text that may stand as an integer on the wire.
+struct IdentifierText {
+    std::string text;
+};
+
 /// What an object holds for one key name of its record's table.
 class KeyedValue {
 public:
@@ -72,6 +77,12 @@ template <typename Record, typename Field, typename Default>
 void read(const Defaulted<Record, Field, Default>& row, Record& record, const KeyedValue& value)
 {
     record.*row.field = value.optional<Field>().value_or(row.otherwise);
+}
+
+template <typename Record>
+void read(const Identifier<Record>& row, Record& record, const KeyedValue& value)
+{
+    record.*row.field = value.required<IdentifierText>().text;
 }
 
 template <typename Record>
@@ -130,6 +141,12 @@ inline URL decodeURL(const JSONValue& value)
     value.failCorrupted("Not a valid URL: ", text);
 }
 
+inline IdentifierText decodeIdentifier(const JSONValue& value)
+{
+    if (const auto number = value.asInteger()) return {std::to_string(*number)};
+    return {std::string(value.text())};
+}
+
 template <typename T>
 struct IsList : std::false_type {
 };
@@ -151,6 +168,8 @@ T decode(const JSONValue& value)
         return decodeDate(value);
     else if constexpr (std::same_as<T, URL>)
         return decodeURL(value);
+    else if constexpr (std::same_as<T, IdentifierText>)
+        return decodeIdentifier(value);
     else if constexpr (std::is_enum_v<T>)
         return decodeWord<T>(value);
     else if constexpr (IsList<T>::value)

@@ -5,6 +5,9 @@
 #include "model/DataResponse.h"
 #include "model/Decoding.h"
 #include "model/EmptyResponseKeys.h"
+#include "model/IncidentKeys.h"
+#include "model/IncidentStateKeys.h"
+#include "model/MaintenanceKeys.h"
 #include "model/StatusPageKeys.h"
 #include "model/StatusPagesStatusEnvelopeKeys.h"
 
@@ -75,7 +78,12 @@ T JSONDecoder::decodeResult(std::string_view body) const
 }
 
 template EmptyResponse JSONDecoder::decodeResult(std::string_view) const;
+template Incident JSONDecoder::decodeResult(std::string_view) const;
+template IncidentStatesEnvelope JSONDecoder::decodeResult(std::string_view) const;
+template Maintenance JSONDecoder::decodeResult(std::string_view) const;
 template StatusPagesStatusEnvelope JSONDecoder::decodeResult(std::string_view) const;
+template std::vector<Incident> JSONDecoder::decodeResult(std::string_view) const;
+template std::vector<Maintenance> JSONDecoder::decodeResult(std::string_view) const;
 template std::vector<StatusPage> JSONDecoder::decodeResult(std::string_view) const;
 
 }  // namespace larkspan::model

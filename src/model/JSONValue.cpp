@@ -77,18 +77,23 @@ double JSONValue::number() const
     return number;
 }
 
-std::int64_t JSONValue::integer() const
+std::optional<std::int64_t> JSONValue::asInteger() const
 {
     constexpr double exactUpTo = 9'007'199'254'740'991;  // 2^53 - 1
 
     std::int64_t integer = 0;
     if (element_.get(integer) == simdjson::SUCCESS) return integer;
-    if (!element_.is_number()) failMismatch("an integer");
-    const double number = this->number();
-    if (std::trunc(number) != number || std::abs(number) > exactUpTo) {
-        failCorrupted("Not a 64-bit integer: ", written(number));
-    }
+    double number = 0;
+    if (element_.get(number) != simdjson::SUCCESS) return std::nullopt;
+    if (std::trunc(number) != number || std::abs(number) > exactUpTo) return std::nullopt;
     return static_cast<std::int64_t>(number);
+}
+
+std::int64_t JSONValue::integer() const
+{
+    if (const auto integer = asInteger()) return *integer;
+    if (!element_.is_number()) failMismatch("an integer");
+    failCorrupted("Not a 64-bit integer: ", written(number()));
 }
 
 simdjson::dom::array JSONValue::list() const

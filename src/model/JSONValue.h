@@ -37,8 +37,11 @@ public:
     std::string_view text() const;
     double number() const;
 
-    /// A number with a fraction of zero is an integer (`1.0`, `1e3`), as long as a double can still tell it from its
-    /// neighbours (below 2^53); anything else that does not fit into 64 bits is corrupted.
+    /// The integer that this is, if it is one within 64 bits. A number with a fraction of zero is one too (`1.0`,
+    /// `1e3`), as long as a double can still tell it from its neighbours (below 2^53).
+    std::optional<std::int64_t> asInteger() const;
+
+    /// As `asInteger`; any other number is corrupted.
     std::int64_t integer() const;
 
     simdjson::dom::array list() const;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 #include <tuple>
 
@@ -33,6 +34,12 @@ struct Defaulted {
 };
 
 template <typename Record>
+struct Identifier {
+    std::string_view key;
+    std::string Record::*field;
+};
+
+template <typename Record>
 struct Derived {
     std::string_view key;
     void (*derive)(Record&, const KeyedValue&);
@@ -57,6 +64,13 @@ template <typename Record, typename Field, typename Default>
 constexpr Defaulted<Record, Field, Default> defaulted(std::string_view key, Field Record::*field, Default otherwise)
 {
     return {key, field, otherwise};
+}
+
+/// As `required`, with an integer taken as well and kept as its decimal text.
+template <typename Record>
+constexpr Identifier<Record> identifier(std::string_view key, std::string Record::*field)
+{
+    return {key, field};
 }
 
 /// `derive` works out fields of the record from what the key holds and from the rows above, which are read already.
