@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+#include <QtQml/qqmlregistration.h>
+
+#include <array>
+#include <memory>
+
+#include "bridge/ChangeNotice.h"
+#include "bridge/StatusPageListModel.h"
+#include "bridge/ToneNames.h"
+#include "support/Observable.h"
+#include "workspace/Dashboard.h"
+
+namespace larkspan::bridge {
+
+/// The dashboard's state for QML; everything here is worded and decided by `workspace::Dashboard`.
+class DashboardBridge : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the application")
+    Q_PROPERTY(QString windowTitle READ windowTitle CONSTANT)
+    Q_PROPERTY(bool showsList READ showsList NOTIFY changed)
+    Q_PROPERTY(QString placeholderSymbol READ placeholderSymbol NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::Tone::Value placeholderTone READ placeholderTone NOTIFY changed)
+    Q_PROPERTY(QString placeholderTitle READ placeholderTitle NOTIFY changed)
+    Q_PROPERTY(QString placeholderText READ placeholderText NOTIFY changed)
+    Q_PROPERTY(bool placeholderShowsProgress READ placeholderShowsProgress NOTIFY changed)
+    Q_PROPERTY(bool placeholderOffersRetry READ placeholderOffersRetry NOTIFY changed)
+    Q_PROPERTY(QString listHeading READ listHeading CONSTANT)
+    Q_PROPERTY(larkspan::bridge::StatusPageListModel* rows READ rows CONSTANT)
+    Q_PROPERTY(bool showsRefreshFailure READ showsRefreshFailure NOTIFY changed)
+    Q_PROPERTY(QString refreshFailedText READ refreshFailedText CONSTANT)
+    Q_PROPERTY(QString statusText READ statusText NOTIFY changed)
+    Q_PROPERTY(bool statusShowsProgress READ statusShowsProgress NOTIFY changed)
+    Q_PROPERTY(bool statusShowsWarning READ statusShowsWarning NOTIFY changed)
+    Q_PROPERTY(bool isRefreshEnabled READ isRefreshEnabled NOTIFY changed)
+    Q_PROPERTY(QStringList refreshIntervalLabels READ refreshIntervalLabels CONSTANT)
+
+public:
+    DashboardBridge(
+        std::shared_ptr<workspace::Dashboard> dashboard, platform::Executor& main, QObject* parent = nullptr);
+
+    QString windowTitle() const;
+    bool showsList() const;
+    QString placeholderSymbol() const { return QString::fromStdString(placeholder_.symbol); }
+    Tone::Value placeholderTone() const { return toneOf(placeholder_.tone); }
+    QString placeholderTitle() const { return QString::fromStdString(placeholder_.title); }
+    QString placeholderText() const { return QString::fromStdString(placeholder_.text); }
+    bool placeholderShowsProgress() const { return placeholder_.showsProgress; }
+    bool placeholderOffersRetry() const { return placeholder_.offersRetry; }
+    QString listHeading() const;
+    StatusPageListModel* rows() { return &rows_; }
+    bool showsRefreshFailure() const { return dashboard_->showsRefreshFailure(); }
+    QString refreshFailedText() const;
+    QString statusText() const { return QString::fromStdString(statusText_.text); }
+    bool statusShowsProgress() const { return statusText_.showsProgress; }
+    bool statusShowsWarning() const { return statusText_.showsWarning; }
+    bool isRefreshEnabled() const { return dashboard_->isRefreshEnabled(); }
+    QStringList refreshIntervalLabels() const;
+
+    Q_INVOKABLE void refresh() { dashboard_->refresh(); }
+    Q_INVOKABLE void chooseRefreshInterval(int choice);
+
+signals:
+    void changed();
+
+private:
+    void readState();
+
+    std::shared_ptr<workspace::Dashboard> dashboard_;
+    workspace::Dashboard::Placeholder placeholder_;
+    workspace::Dashboard::StatusText statusText_;
+    StatusPageListModel rows_;
+    ChangeNotice notice_;
+    std::array<support::Subscription, 2> subscriptions_;
+};
+
+}  // namespace larkspan::bridge

@@ -1,0 +1,28 @@
+#include "qml/MainWindow.h"
+
+#include <QQuickWindow>
+#include <QtQml/QQmlExtensionPlugin>
+
+#include <utility>
+
+Q_IMPORT_QML_PLUGIN(LarkspanPlugin)
+Q_IMPORT_QML_PLUGIN(Larkspan_BridgePlugin)
+
+namespace larkspan {
+
+MainWindow::MainWindow(std::shared_ptr<workspace::Dashboard> dashboard, platform::Executor& main)
+    : dashboard_(std::move(dashboard), main)
+{
+    engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine_.setInitialProperties({
+        {QStringLiteral("dashboard"), QVariant::fromValue(&dashboard_)},
+        {QStringLiteral("appearance"), QVariant::fromValue(&appearance_)},
+    });
+    engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Larkspan/Main.qml")));
+    if (engine_.rootObjects().isEmpty()) qFatal("the main window's QML does not load");
+    window_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().constFirst());
+    // Named only in QML, so a string is the one way to reach it.
+    connect(window_, SIGNAL(quitRequested()), this, SIGNAL(quitRequested()));
+}
+
+}  // namespace larkspan

@@ -1,0 +1,172 @@
+import QtQuick
+import QtQuick.Templates as T
+import Larkspan
+import Larkspan.Bridge
+
+FocusScope {
+    id: view
+    required property DashboardBridge dashboard
+
+    // The list has the focus from the start; its ring shows only to those who use the keyboard.
+    property bool isKeyboardInUse: false
+    Keys.onPressed: event => {
+        isKeyboardInUse = true
+        event.accepted = false
+    }
+    TapHandler {
+        onPressedChanged: if (pressed) view.isKeyboardInUse = false
+    }
+
+    HeaderBar {
+        id: header
+        width: parent.width
+        z: 1
+        title: view.dashboard.windowTitle
+
+        ToolbarButton {
+            id: intervalButton
+            symbol: "timer"
+            help: qsTr("Refresh Interval")
+            onClicked: intervalMenu.popup(intervalButton, 0, intervalButton.height + Theme.halfUnit)
+
+            KitMenu {
+                id: intervalMenu
+                Repeater {
+                    model: view.dashboard.refreshIntervalLabels
+                    KitMenuItem {
+                        required property int index
+                        required property string modelData
+                        text: modelData
+                        onTriggered: view.dashboard.chooseRefreshInterval(index)
+                    }
+                }
+            }
+        }
+
+        trailing: [
+            StatusText {
+                anchors.verticalCenter: parent.verticalCenter
+                dashboard: view.dashboard
+            },
+            ToolbarButton {
+                symbol: "arrow.clockwise"
+                help: qsTr("Refresh Now")
+                enabled: view.dashboard.isRefreshEnabled
+                onClicked: view.dashboard.refresh()
+            }
+        ]
+    }
+
+    PlaceholderState {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: header.height + Math.round((parent.height - header.height - height) / 2)
+        width: Math.min(Theme.placeholderWidth * Theme.scale, parent.width - 2 * Theme.margin)
+        visible: !view.dashboard.showsList
+        symbol: view.dashboard.placeholderSymbol
+        tone: view.dashboard.placeholderTone
+        title: view.dashboard.placeholderTitle
+        text: view.dashboard.placeholderText
+        showsProgress: view.dashboard.placeholderShowsProgress
+
+        CommandButton {
+            visible: view.dashboard.placeholderOffersRetry
+            text: qsTr("Retry")
+            isProminent: true
+            onClicked: view.dashboard.refresh()
+        }
+    }
+
+    ListView {
+        id: list
+        anchors.fill: parent
+        anchors.topMargin: header.height
+        visible: view.dashboard.showsList
+        focus: true
+        activeFocusOnTab: true
+        clip: true
+        topMargin: Theme.margin
+        bottomMargin: notice.visible ? notice.height + 2 * Theme.margin : Theme.margin
+        leftMargin: Theme.margin
+        rightMargin: Theme.margin
+        model: view.dashboard.rows
+        reuseItems: true
+        keyNavigationEnabled: true
+        boundsBehavior: Flickable.DragOverBounds
+        highlightMoveDuration: Theme.quick
+        Accessible.role: Accessible.List
+        Accessible.name: view.dashboard.listHeading
+
+        header: Item {
+            width: ListView.view.width - 2 * Theme.margin
+            implicitHeight: heading.implicitHeight + Theme.unit
+            Label {
+                id: heading
+                x: Theme.halfUnit
+                text: view.dashboard.listHeading
+                font.pointSize: Theme.subheadline
+                font.weight: Font.DemiBold
+                color: Theme.secondary
+                Accessible.role: Accessible.Heading
+            }
+        }
+
+        delegate: StatusPageRow {
+            width: ListView.view.width - 2 * Theme.margin
+            showsFocus: view.isKeyboardInUse && Accessible.focused
+        }
+
+        // One card under all rows, however many of them exist.
+        Rectangle {
+            parent: list.contentItem
+            y: 0
+            z: -1
+            width: list.width - 2 * Theme.margin
+            height: list.contentHeight - (list.headerItem ? list.headerItem.height : 0)
+            radius: Theme.cardRadius
+            color: Theme.card
+            border.width: Theme.hairline
+            border.color: Theme.line
+        }
+
+        T.ScrollBar.vertical: SlimScrollBar {
+            parent: view
+            anchors.right: parent.right
+            anchors.top: list.top
+            anchors.bottom: list.bottom
+        }
+
+        onDragEnded: if (verticalOvershoot < -Theme.pullDistance) view.dashboard.refresh()
+        Keys.onPressed: event => {
+            event.accepted = false
+            const page = Math.max(1, Math.floor(height / Theme.rowHeight) - 1)
+            const target = {
+                [Qt.Key_Home]: 0,
+                [Qt.Key_End]: count - 1,
+                [Qt.Key_PageUp]: Math.max(0, currentIndex - page),
+                [Qt.Key_PageDown]: Math.min(count - 1, currentIndex + page)
+            }[event.key]
+            if (target === undefined) return
+            currentIndex = target
+            event.accepted = true
+        }
+    }
+
+    RefreshFailureNotice {
+        id: notice
+        dashboard: view.dashboard
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        anchors.margins: Theme.margin
+        opacity: view.dashboard.showsRefreshFailure ? 1 : 0
+        visible: opacity > 0
+        Behavior on opacity {
+            NumberAnimation { duration: Theme.calm; easing.type: Easing.OutCubic }
+        }
+    }
+
+    Shortcut {
+        sequences: ["F5", "Ctrl+R"]
+        enabled: view.dashboard.isRefreshEnabled
+        onActivated: view.dashboard.refresh()
+    }
+}

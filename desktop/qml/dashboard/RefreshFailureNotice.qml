@@ -1,0 +1,45 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// Says over the list that what it shows may be old.
+Rectangle {
+    id: notice
+    required property DashboardBridge dashboard
+
+    implicitWidth: content.implicitWidth + 3 * Theme.unit
+    implicitHeight: content.implicitHeight + 2 * Theme.unit
+    radius: Theme.cardRadius
+    color: Theme.card
+    border.width: Theme.hairline
+    border.color: Theme.line
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: dashboard.refreshFailedText
+
+    Row {
+        id: content
+        anchors.centerIn: parent
+        spacing: Theme.unit + Theme.halfUnit
+
+        Symbol {
+            anchors.verticalCenter: parent.verticalCenter
+            width: Theme.iconSize
+            height: Theme.iconSize
+            name: "exclamationmark.triangle.fill"
+            color: Theme.orange
+        }
+        Label {
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, notice.parent.width - 6 * Theme.margin - retry.width)
+            text: notice.dashboard.refreshFailedText
+            font.pointSize: Theme.subheadline
+            wrapMode: Text.Wrap
+        }
+        CommandButton {
+            id: retry
+            anchors.verticalCenter: parent.verticalCenter
+            text: qsTr("Retry")
+            onClicked: notice.dashboard.refresh()
+        }
+    }
+}

@@ -1,0 +1,41 @@
+import QtQuick
+import Larkspan
+
+// Something is under way. With reduced motion it stands still.
+Item {
+    id: indicator
+    property string name: qsTr("In progress")
+    property color color: Theme.secondary
+
+    implicitWidth: Theme.iconSize
+    implicitHeight: Theme.iconSize
+    Accessible.role: Accessible.ProgressBar
+    Accessible.name: name
+
+    Repeater {
+        model: 8
+        Rectangle {
+            required property int index
+            width: indicator.width / 8
+            height: indicator.height / 3.4
+            radius: width / 2
+            x: (indicator.width - width) / 2
+            color: indicator.color
+            opacity: (index + 1) / 8
+            transformOrigin: Item.Center
+            transform: Rotation {
+                origin.x: width / 2
+                origin.y: indicator.height / 2
+                angle: index * 45
+            }
+        }
+    }
+
+    RotationAnimator on rotation {
+        from: 0
+        to: 360
+        duration: Theme.turn
+        loops: Animation.Infinite
+        running: indicator.visible && !Theme.reducesMotion
+    }
+}

@@ -1,0 +1,32 @@
+import QtQuick
+import QtQuick.Templates as T
+import Larkspan
+
+T.Menu {
+    id: menu
+    implicitWidth: contentItem.childrenRect.width + leftPadding + rightPadding
+    implicitHeight: contentItem.contentHeight + topPadding + bottomPadding
+    margins: Theme.unit
+    padding: Theme.halfUnit
+
+    delegate: KitMenuItem {}
+
+    contentItem: ListView {
+        implicitHeight: contentHeight
+        interactive: contentHeight > height
+        clip: true
+        currentIndex: menu.currentIndex
+        model: menu.contentModel
+    }
+
+    background: Rectangle {
+        radius: Theme.controlRadius
+        color: Theme.card
+        border.width: Theme.hairline
+        border.color: Theme.line
+    }
+
+    enter: Transition {
+        NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.quick; easing.type: Easing.OutCubic }
+    }
+}

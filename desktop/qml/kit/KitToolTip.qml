@@ -1,0 +1,28 @@
+import QtQuick
+import QtQuick.Templates as T
+import Larkspan
+
+T.ToolTip {
+    id: tip
+    x: parent ? Math.round((parent.width - implicitWidth) / 2) : 0
+    y: parent ? parent.height + Theme.halfUnit : 0
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    margins: Theme.unit
+    padding: Theme.unit
+    topPadding: Theme.halfUnit
+    bottomPadding: Theme.halfUnit
+    delay: 600
+    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
+
+    contentItem: Label {
+        text: tip.text
+        font.pointSize: Theme.caption
+        color: Theme.card
+        Accessible.ignored: true
+    }
+    background: Rectangle {
+        radius: Theme.pillRadius
+        color: Theme.text
+    }
+}

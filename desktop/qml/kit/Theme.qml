@@ -1,0 +1,75 @@
+pragma Singleton
+import QtQuick
+import Larkspan.Bridge
+
+// Every colour and every size of the program.
+QtObject {
+    id: theme
+
+    property bool isDark: false
+    property bool hasHighContrast: false
+    property bool reducesMotion: false
+
+    readonly property color window: isDark ? "#1b1d21" : "#f4f5f7"
+    readonly property color card: isDark ? "#25282d" : "#ffffff"
+    readonly property color line: hasHighContrast ? secondary : isDark ? "#34383f" : "#e3e6ea"
+    readonly property color text: isDark ? "#eceef1" : "#1d2127"
+    readonly property color secondary: hasHighContrast ? text : isDark ? "#b0b7c1" : "#5a6068"
+    readonly property color accent: isDark ? "#2f6fd0" : "#1a5bbd"
+    readonly property color accentText: "#ffffff"
+    readonly property color green: isDark ? "#5bd68f" : "#17703b"
+    readonly property color orange: isDark ? "#f3ad5e" : "#964a00"
+    readonly property color yellow: isDark ? "#e8ca5c" : "#705700"
+    readonly property color red: isDark ? "#ff938c" : "#b32823"
+    readonly property color blue: isDark ? "#8dbbfa" : "#1a5bbd"
+    readonly property color gray: isDark ? "#b0b7c1" : "#5a6068"
+    readonly property color focus: isDark ? blue : accent
+    readonly property color hover: Qt.alpha(text, 0.06)
+    readonly property color pressed: Qt.alpha(text, 0.12)
+    readonly property color shadow: isDark ? "#80000000" : "#30000000"
+    readonly property real pillOpacity: 0.15
+
+    readonly property real base: Qt.application.font.pointSize > 0 ? Qt.application.font.pointSize : 10
+    readonly property real title: base * 1.8
+    readonly property real title2: base * 1.45
+    readonly property real title3: base * 1.2
+    readonly property real body: base
+    readonly property real subheadline: base * 0.93
+    readonly property real caption: base * 0.86
+    readonly property real caption2: base * 0.79
+
+    // Lengths that hold text grow with it; the rhythm between things does not.
+    readonly property real scale: Math.max(1, base / 10)
+    readonly property int unit: 8
+    readonly property int halfUnit: 4
+    readonly property int margin: 20
+    readonly property int cardRadius: 12
+    readonly property int controlRadius: 8
+    readonly property int pillRadius: 6
+    readonly property int hairline: 1
+    readonly property int focusWidth: 2
+    readonly property int iconSize: Math.round(16 * scale)
+    readonly property int largeIconSize: Math.round(44 * scale)
+    readonly property int controlHeight: Math.round(32 * scale)
+    readonly property int headerHeight: Math.round(48 * scale)
+    readonly property int rowHeight: Math.round(44 * scale)
+    readonly property int placeholderWidth: 420
+    readonly property int pullDistance: 64
+
+    readonly property int quick: reducesMotion ? 0 : 120
+    readonly property int calm: reducesMotion ? 0 : 180
+    readonly property int turn: 900
+
+    function toneColor(tone: int): color {
+        switch (tone) {
+        case Tone.Primary: return theme.text
+        case Tone.Green: return theme.green
+        case Tone.Orange: return theme.orange
+        case Tone.Yellow: return theme.yellow
+        case Tone.Red: return theme.red
+        case Tone.Blue: return theme.blue
+        case Tone.Gray: return theme.gray
+        }
+        return theme.secondary
+    }
+}

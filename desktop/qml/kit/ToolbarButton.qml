@@ -1,0 +1,43 @@
+import QtQuick
+import QtQuick.Templates as T
+import Larkspan
+import Larkspan.Bridge
+
+// A button of the header bar: a symbol, its help as name and tool tip.
+T.Button {
+    id: button
+    required property string symbol
+    required property string help
+
+    implicitWidth: Theme.controlHeight
+    implicitHeight: Theme.controlHeight
+    hoverEnabled: true
+    opacity: enabled ? 1 : 0.4
+    Accessible.name: help
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
+
+    contentItem: Item {
+        Symbol {
+            anchors.centerIn: parent
+            width: Theme.iconSize
+            height: Theme.iconSize
+            name: button.symbol
+            color: Theme.text
+        }
+    }
+
+    background: Rectangle {
+        radius: Theme.controlRadius
+        color: button.down ? Theme.pressed : button.hovered ? Theme.hover : "transparent"
+        Behavior on color {
+            ColorAnimation { duration: Theme.quick }
+        }
+        FocusRing { control: button }
+    }
+
+    KitToolTip {
+        text: button.help
+        visible: button.hovered && !button.down
+    }
+}
