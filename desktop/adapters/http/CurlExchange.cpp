@@ -47,7 +47,7 @@ void CurlExchange::send()
     setTransport();
     setReceivers();
 
-    sawBytes();
+    lastByte_ = ClientLoop::Clock::now();
     watchForSilence();
     loop_.begin(transfer_.get(), [this](CURLcode result) { ended(result); });
 }
@@ -122,11 +122,6 @@ void CurlExchange::finish(Result result)
     std::exchange(finished_, {})(std::move(result));
 }
 
-void CurlExchange::sawBytes()
-{
-    lastByte_ = ClientLoop::Clock::now();
-}
-
 void CurlExchange::watchForSilence()
 {
     const auto end = lastByte_ + settings_.idleTimeout;
@@ -137,7 +132,6 @@ void CurlExchange::watchForSilence()
 std::size_t CurlExchange::receiveHeader(char* bytes, std::size_t, std::size_t size, void* exchange)
 {
     auto& self = *static_cast<CurlExchange*>(exchange);
-    self.sawBytes();
     self.head_.read({bytes, size});
     if (self.head_.isWhole() && !self.head_.tellsLength()) self.session_ = TlsSession(self.transfer_.get());
     return self.head_.isTooLarge() ? 0 : size;
@@ -155,10 +149,12 @@ std::size_t CurlExchange::receiveBody(char* bytes, std::size_t, std::size_t size
     return size;
 }
 
-int CurlExchange::observeProgress(void* exchange, curl_off_t, curl_off_t received, curl_off_t, curl_off_t sent)
+// libcurl's own counts leave out the head of an answer, so the connection's are taken.
+int CurlExchange::observeProgress(void* exchange, curl_off_t, curl_off_t, curl_off_t, curl_off_t)
 {
     auto& self = *static_cast<CurlExchange*>(exchange);
-    if (received + sent != std::exchange(self.bytesSeen_, received + sent)) self.sawBytes();
+    const auto moved = TlsSession::bytesMoved(self.transfer_.get());
+    if (moved != std::exchange(self.bytesSeen_, moved)) self.lastByte_ = ClientLoop::Clock::now();
     return 0;
 }
 

@@ -3,6 +3,7 @@
 #include <curl/curl.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -40,12 +41,11 @@ private:
     bool followRedirect();
     void finish(Result result);
 
-    void sawBytes();
     void watchForSilence();
 
     static std::size_t receiveHeader(char* bytes, std::size_t, std::size_t size, void* exchange);
     static std::size_t receiveBody(char* bytes, std::size_t, std::size_t size, void* exchange);
-    static int observeProgress(void* exchange, curl_off_t, curl_off_t received, curl_off_t, curl_off_t sent);
+    static int observeProgress(void* exchange, curl_off_t, curl_off_t, curl_off_t, curl_off_t);
 
     ClientLoop& loop_;
     const TransportSettings& settings_;
@@ -61,7 +61,7 @@ private:
     std::string body_;
     bool isBodyTooLarge_ = false;
 
-    curl_off_t bytesSeen_ = 0;
+    std::uint64_t bytesSeen_ = 0;
     ClientLoop::Clock::time_point lastByte_;
     ClientLoop::Alarm silence_;
 };

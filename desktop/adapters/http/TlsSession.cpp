@@ -19,16 +19,26 @@ void noteClosure(const SSL* session, int event, int alert)
         SSL_set_ex_data(const_cast<SSL*>(session), noteIndex(), &closed);
 }
 
-}  // namespace
-
-TlsSession::TlsSession(CURL* transfer)
+SSL* sessionOf(CURL* transfer)
 {
     const curl_tlssessioninfo* information = nullptr;
     curl_easy_getinfo(transfer, CURLINFO_TLS_SSL_PTR, &information);
-    if (!information || !information->internals) return;
-    auto* session = static_cast<SSL*>(information->internals);
-    SSL_up_ref(session);
-    session_.reset(session);
+    return information ? static_cast<SSL*>(information->internals) : nullptr;
+}
+
+}  // namespace
+
+TlsSession::TlsSession(CURL* transfer)
+    : session_(sessionOf(transfer))
+{
+    if (session_) SSL_up_ref(session_.get());
+}
+
+std::uint64_t TlsSession::bytesMoved(CURL* transfer)
+{
+    const auto* session = sessionOf(transfer);
+    auto* wire = session ? SSL_get_rbio(session) : nullptr;
+    return wire ? BIO_number_read(wire) + BIO_number_written(wire) : 0;
 }
 
 bool TlsSession::isClosedByPeer() const

@@ -3,6 +3,7 @@
 #include <curl/curl.h>
 #include <openssl/ssl.h>
 
+#include <cstdint>
 #include <memory>
 
 namespace larkspan::adapters {
@@ -14,6 +15,9 @@ public:
 
     /// Of a transfer that is receiving.
     explicit TlsSession(CURL* transfer);
+
+    /// How many bytes have come and gone on the connection of `transfer`, the handshake's included.
+    static std::uint64_t bytesMoved(CURL* transfer);
 
     /// Whether the peer has said that nothing follows. libcurl takes the end of the stream for it, with which anyone
     /// on the way could cut an answer short.

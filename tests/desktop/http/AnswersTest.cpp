@@ -1,34 +1,18 @@
-#include <zlib.h>
+#include <algorithm>
 
+#include "Packing.h"
 #include "TransportTest.h"
 
 namespace larkspan::adapters {
 namespace {
 
-using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::UnorderedElementsAre;
+using testing::UnorderedElementsAreArray;
 
 /// What every request carries for the protocol's sake, whatever its method.
 std::vector<std::string> headersOfTheProtocol(const FaultServer& server)
 {
     return {"Host: 127.0.0.1:" + std::to_string(server.port()), "Accept-Encoding: deflate, gzip, br, zstd"};
-}
-
-std::string gzip(const std::string& text)
-{
-    constexpr int gzipFormat = 15 + 16;
-    z_stream stream{};
-    deflateInit2(&stream, Z_BEST_COMPRESSION, Z_DEFLATED, gzipFormat, 8, Z_DEFAULT_STRATEGY);
-    std::string packed(deflateBound(&stream, text.size()), '\0');
-    stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(text.data()));
-    stream.avail_in = static_cast<uInt>(text.size());
-    stream.next_out = reinterpret_cast<Bytef*>(packed.data());
-    stream.avail_out = static_cast<uInt>(packed.size());
-    deflate(&stream, Z_FINISH);
-    packed.resize(stream.total_out);
-    deflateEnd(&stream);
-    return packed;
 }
 
 TEST_F(Transport, GivesStatusAndBodyOfAnAnswer)
@@ -109,7 +93,7 @@ TEST_F(Transport, SendsTheHeadersOfTheClientAndThoseOfTheProtocolOnly)
 
     auto expected = headersOfTheProtocol(server);
     expected.insert(expected.end(), {"Authorization: Bearer key", "X-API-Key: key", "X-Empty:"});
-    EXPECT_THAT(server.requests().at(0).headers, testing::UnorderedElementsAreArray(expected));
+    EXPECT_THAT(server.requests().at(0).headers, UnorderedElementsAreArray(expected));
 }
 
 TEST_F(Transport, SendsABodyWithItsLengthAndTheTypeGivenAndWaitsForNoLeave)
@@ -122,7 +106,7 @@ TEST_F(Transport, SendsABodyWithItsLengthAndTheTypeGivenAndWaitsForNoLeave)
 
     auto expected = headersOfTheProtocol(server);
     expected.insert(expected.end(), {"Content-Type: application/json", "Content-Length: 2000000"});
-    EXPECT_THAT(server.requests().at(0).headers, testing::UnorderedElementsAreArray(expected));
+    EXPECT_THAT(server.requests().at(0).headers, UnorderedElementsAreArray(expected));
     EXPECT_TRUE(server.requests().at(0).body == body);
 }
 
@@ -145,7 +129,7 @@ TEST_P(EachMethod, ArrivesWithItsBodyAndNoTypeOfItsOwn)
     expected.insert(expected.end(), lengthHeader.begin(), lengthHeader.end());
     EXPECT_EQ(arrived.line, method + " /thing HTTP/1.1");
     EXPECT_EQ(arrived.body, body.value_or(""));
-    EXPECT_THAT(arrived.headers, testing::UnorderedElementsAreArray(expected));
+    EXPECT_THAT(arrived.headers, UnorderedElementsAreArray(expected));
 }
 
 INSTANTIATE_TEST_SUITE_P(WithAndWithoutBody, EachMethod,

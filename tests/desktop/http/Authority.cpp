@@ -61,10 +61,10 @@ std::string writeBundle(X509* certificate)
 
 }  // namespace
 
-Authority::Authority()
+Authority::Authority(const char* name)
 {
     self_.key = newKey();
-    self_.certificate = newCertificate(self_.key.get(), "Authority of the tests", {});
+    self_.certificate = newCertificate(self_.key.get(), name, {});
     auto* own = self_.certificate.get();
     addExtension(own, own, NID_basic_constraints, "critical,CA:TRUE");
     addExtension(own, own, NID_key_usage, "critical,keyCertSign");

@@ -37,7 +37,7 @@ struct CertificateTerms {
 /// A private authority, made anew for each run of the tests, with its bundle in a file of its own.
 class Authority {
 public:
-    Authority();
+    explicit Authority(const char* name = "Authority of the tests");
     ~Authority();
     Authority(const Authority&) = delete;
     Authority& operator=(const Authority&) = delete;

@@ -100,6 +100,12 @@ std::optional<ReceivedRequest> Conversation::read()
     return request;
 }
 
+void Conversation::ignore()
+{
+    std::array<char, 4096> bytes;
+    while (recv(socket_, bytes.data(), bytes.size(), 0) > 0) {}
+}
+
 void Conversation::interrupt()
 {
     shutdown(socket_, SHUT_RDWR);

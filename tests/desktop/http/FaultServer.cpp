@@ -104,6 +104,7 @@ void FaultServer::serve(Peer& peer, int number)
 {
     ignoreBrokenPipes();
     auto& conversation = *peer.conversation;
+    if (isMute_) return conversation.ignore();
     if (!conversation.shakeHands()) return conversation.cut();
     ++handshakes_;
     while (auto request = conversation.read()) {

@@ -56,6 +56,7 @@ public:
 
     // For the server.
     bool shakeHands() { return SSL_accept(tls_.get()) == 1; }
+    void ignore();
     std::optional<ReceivedRequest> read();
     void interrupt();
 
@@ -85,6 +86,9 @@ public:
     FaultServer(const FaultServer&) = delete;
     FaultServer& operator=(const FaultServer&) = delete;
 
+    /// From now on connections are taken and nothing is said on them.
+    void stopShakingHands() { isMute_ = true; }
+
     int port() const { return port_; }
     std::string url(const std::string& target = "/") const;
 
@@ -113,6 +117,7 @@ private:
     int port_ = 0;
     std::atomic<int> connections_{0};
     std::atomic<int> handshakes_{0};
+    std::atomic<bool> isMute_{false};
     std::atomic<bool> isEnding_{false};
     mutable std::mutex mutex_;
     std::vector<ReceivedRequest> requests_;
