@@ -1,28 +1,34 @@
 #include "adapters/SingleInstance.h"
 
 #include <QDBusMessage>
-#include <QProcess>
 #include <QProcessEnvironment>
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <csignal>
 #include <memory>
-#include <vector>
 
 #include "peers/EventLoop.h"
+#include "peers/Peer.h"
 #include "peers/PrivateBus.h"
 
 namespace larkspan::adapters {
 namespace {
 
 using peers::PrivateBus;
-using peers::turnUntil;
 
 /// Another process that starts the program.
-class Start {
+class Start : public peers::Peer {
 public:
     explicit Start(const QString& busAddress, const QString& tokenVariable = {}, const QString& token = {})
+        : Peer(LARKSPAN_INSTANCE_PROBE, {}, environment(busAddress, tokenVariable, token))
+    {
+    }
+
+private:
+    static QProcessEnvironment environment(
+        const QString& busAddress, const QString& tokenVariable, const QString& token)
     {
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert("DBUS_SESSION_BUS_ADDRESS", busAddress);
@@ -30,34 +36,8 @@ public:
             environment.remove(variable);
         }
         if (!tokenVariable.isEmpty()) environment.insert(tokenVariable, token);
-        process_.setProcessEnvironment(environment);
-        process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        process_.start(LARKSPAN_INSTANCE_PROBE);
-        process_.waitForStarted();
+        return environment;
     }
-    ~Start()
-    {
-        process_.kill();
-        process_.waitForFinished();
-    }
-
-    /// The next thing that it says; empty if it says nothing in time.
-    QString hear()
-    {
-        turnUntil([this] { return process_.canReadLine() || hasEnded(); });
-        return QString::fromUtf8(process_.readLine()).trimmed();
-    }
-
-    bool hasEnded() const { return process_.state() == QProcess::NotRunning; }
-    bool endsWell()
-    {
-        return turnUntil([this] { return hasEnded(); }) && process_.exitStatus() == QProcess::NormalExit
-            && process_.exitCode() == 0;
-    }
-    void signal(int number) { ::kill(static_cast<pid_t>(process_.processId()), number); }
-
-private:
-    QProcess process_;
 };
 
 QDBusMessage callApplication(const PrivateBus& bus, const QString& method, const QVariantList& arguments)
@@ -98,8 +78,8 @@ TEST(SingleInstance, ASecondStartHandsOverItsActivationToken)
 TEST(SingleInstance, OfManyStartsAtOnceExactlyOneIsFirst)
 {
     const PrivateBus bus;
-    std::vector<std::unique_ptr<Start>> starts;
-    for (int count = 0; count < 6; ++count) starts.push_back(std::make_unique<Start>(bus.address()));
+    std::array<std::unique_ptr<Start>, 6> starts;
+    for (auto& start : starts) start = std::make_unique<Start>(bus.address());
 
     int firsts = 0;
     int seconds = 0;

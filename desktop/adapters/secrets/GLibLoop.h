@@ -1,0 +1,37 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+
+#include "adapters/secrets/GLibPointers.h"
+#include "adapters/secrets/GLibStop.h"
+
+namespace larkspan::adapters {
+
+/// An event loop of GLib's on the thread that makes it, which turns only inside of these calls: what GLib offers
+/// without blocking then ends at a deadline, or when `stop` is requested. One thread only.
+class GLibLoop {
+public:
+    using Deadline = std::chrono::steady_clock::time_point;
+    using Begin = std::function<void(GCancellable* cancellable, GAsyncReadyCallback ready, gpointer data)>;
+
+    /// `stop` must outlive the loop.
+    explicit GLibLoop(const GLibStop& stop);
+    ~GLibLoop();
+    GLibLoop(const GLibLoop&) = delete;
+    GLibLoop& operator=(const GLibLoop&) = delete;
+
+    /// Begins an asynchronous operation and waits for its result, which past the deadline is that it was cancelled.
+    ObjectPointer<GAsyncResult> await(Deadline deadline, const Begin& begin);
+
+    /// Waits until `condition` holds; false if the deadline or the stop came first.
+    bool turnUntil(Deadline deadline, const std::function<bool()>& condition);
+
+    bool isStopped() const { return stop_.isRequested(); }
+
+private:
+    const GLibStop& stop_;
+    GMainContext* context_;
+};
+
+}  // namespace larkspan::adapters

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <libsecret/secret.h>
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "adapters/secrets/SecretServiceBus.h"
+#include "platform/CredentialStore.h"
+
+namespace larkspan::adapters {
+
+/// One conversation with the Secret Service, for one operation of the store, so that a service that is restarted
+/// finds nobody with a stale session. Its calls end as those of `SecretServiceBus` do. One thread only.
+class SecretServiceSession {
+public:
+    using Path = std::string;
+    /// Asked when only a prompt leads on; a refusal is as if the user had dismissed it.
+    using MayPrompt = std::function<bool()>;
+
+    struct Found {
+        std::vector<Path> unlocked;
+        std::vector<Path> locked;
+    };
+
+    SecretServiceSession(const GLibStop& stop, std::chrono::milliseconds patience);
+    ~SecretServiceSession();
+    SecretServiceSession(const SecretServiceSession&) = delete;
+    SecretServiceSession& operator=(const SecretServiceSession&) = delete;
+
+    /// Whether there is a service that answers; the other operations need one.
+    bool isOpen() const { return service_ != nullptr; }
+
+    /// The items with these attributes. Raises no prompt.
+    Found search(const platform::CredentialItem& item);
+
+    /// Unlocks an item or a collection.
+    bool unlock(const Path& path, const MayPrompt& mayPrompt);
+
+    std::optional<std::string> secret(const Path& item);
+
+    /// When the item was changed last, in seconds; 0 if the service doesn't say.
+    guint64 modificationTime(const Path& item);
+
+    void remove(const Path& item);
+
+    /// Where new items go. A user without any collection is asked to make one.
+    std::optional<Path> defaultCollection(const MayPrompt& mayPrompt);
+
+    /// Adds an item; one with the same attributes in the same collection is replaced.
+    bool create(const Path& collection, const platform::CredentialItem& item, const std::string& secret);
+
+private:
+    void open();
+    std::optional<VariantPointer> runPrompt(const Path& path, const MayPrompt& mayPrompt);
+
+    SecretServiceBus bus_;
+    ObjectPointer<SecretService> service_;
+};
+
+}  // namespace larkspan::adapters

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "peers/PrivateBus.h"
+
+namespace larkspan::adapters {
+
+/// The session bus of this process. GLib finds one and keeps it, so all tests of a process share it.
+peers::PrivateBus& sessionBus();
+
+}  // namespace larkspan::adapters
