@@ -21,7 +21,7 @@ endif()
 add_library(larkspan_build INTERFACE)
 target_compile_options(larkspan_build INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow
     # g++ 12 sees overlapping copies in the concatenation of strings, where there are none (GCC bug 105651).
-    -Wno-restrict)
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 if(LARKSPAN_WERROR)
     target_compile_options(larkspan_build INTERFACE -Werror)
 endif()

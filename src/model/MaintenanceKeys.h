@@ -23,22 +23,21 @@ inline void splitComponentIds(Maintenance& maintenance, const KeyedValue& affect
 }
 
 /// The dates decide; the service's own word counts only where none of them can.
-inline void deriveMaintenanceStatus(Maintenance& maintenance, const KeyedValue& status)
+inline std::string maintenanceStatus(const Maintenance& maintenance, const KeyedValue& status)
 {
     const auto now = status.now();
     const auto& end = maintenance.completedAt;
     const auto& start = maintenance.scheduledFor ? maintenance.scheduledFor : maintenance.startedAt;
 
-    if (end && *end < now)
-        maintenance.status = "completed";
-    else if (!start)
-        maintenance.status = status.optional<std::string>().value_or("scheduled");
-    else if (*start > now)
-        maintenance.status = "scheduled";
-    else if (end == now)
-        maintenance.status = "completed";
-    else
-        maintenance.status = "in_progress";
+    if (end && *end < now) return "completed";
+    if (!start) return status.optional<std::string>().value_or("scheduled");
+    if (*start > now) return "scheduled";
+    return end == now ? "completed" : "in_progress";
+}
+
+inline void deriveMaintenanceStatus(Maintenance& maintenance, const KeyedValue& status)
+{
+    maintenance.status = maintenanceStatus(maintenance, status);
 }
 
 template <>

@@ -1,0 +1,58 @@
+// Feeds arbitrary bytes to every decoding of an answer. Whatever they are, there is a result or a DecodingError whose
+// sentence can be shown.
+
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+#include <vector>
+
+#include "model/DecodingError.h"
+#include "model/EmptyResponse.h"
+#include "model/Incident.h"
+#include "model/IncidentState.h"
+#include "model/JSONDecoder.h"
+#include "model/Maintenance.h"
+#include "model/StatusPage.h"
+#include "model/StatusPagesStatusEnvelope.h"
+#include "support/Utf8.h"
+
+namespace {
+
+using namespace larkspan;
+
+class StandingClock final : public platform::Clock {
+public:
+    support::Time now() const override { return support::Time{std::chrono::seconds{1'772'357'400}}; }
+};
+
+bool isOneShortLine(std::string_view sentence)
+{
+    return !sentence.empty() && sentence.size() < 1'000 && sentence.find('\n') == std::string_view::npos
+        && support::isValidUtf8(sentence);
+}
+
+template <typename... Results>
+void decodeAll(const model::JSONDecoder& decoder, std::string_view body)
+{
+    const auto decode = [&]<typename Result>(const Result*) {
+        try {
+            decoder.decodeResult<Result>(body);
+        } catch (const model::DecodingError& error) {
+            if (!isOneShortLine(error.localizedDescription())) std::abort();
+        }
+    };
+    (decode(static_cast<const Results*>(nullptr)), ...);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const StandingClock clock;
+    const model::JSONDecoder decoder(clock);
+    const std::string_view body(reinterpret_cast<const char*>(data), size);
+    decodeAll<model::EmptyResponse, model::Incident, model::IncidentStatesEnvelope, model::Maintenance,
+        model::StatusPagesStatusEnvelope, std::vector<model::Incident>, std::vector<model::Maintenance>,
+        std::vector<model::StatusPage>>(decoder, body);
+    return 0;
+}
