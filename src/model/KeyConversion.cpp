@@ -29,6 +29,9 @@ char raised(char letter)
 
 std::string_view fromSnakeCase(std::string_view wireKey, std::string& buffer)
 {
+    // Most keys are one word, so this is what a long list of records asks again and again.
+    if (wireKey.find('_') == std::string_view::npos) return wireKey;
+
     const auto begin = wireKey.find_first_not_of('_');
     if (begin == std::string_view::npos) return wireKey;
     const auto end = wireKey.find_last_not_of('_') + 1;
