@@ -10,6 +10,8 @@ T.MenuItem {
     rightPadding: leftPadding
     hoverEnabled: true
     Accessible.name: text
+    // Qt 6.4 tells assistive technologies of the action, but does nothing when they take it.
+    Accessible.onPressAction: if (enabled) triggered()
 
     contentItem: Label {
         text: item.text
