@@ -15,19 +15,25 @@ CurlTransport::CurlTransport(ClientLoop& loop, TransportSettings settings)
 
 CurlTransport::~CurlTransport()
 {
+    if (!isStopped_) stop();
+}
+
+void CurlTransport::stop()
+{
+    isStopped_ = true;
     if (loop_.isOnItsThread()) {
-        operations_->dropAll();
+        operations_->stop();
         return;
     }
 
-    std::promise<void> dropped;
-    auto isDropped = dropped.get_future();
-    loop_.post([operations = std::move(operations_), dropped = std::move(dropped)]() mutable {
-        operations->dropAll();
+    std::promise<void> stopped;
+    auto isStopped = stopped.get_future();
+    loop_.post([operations = operations_, stopped = std::move(stopped)]() mutable {
+        operations->stop();
         operations.reset();
-        dropped.set_value();
+        stopped.set_value();
     });
-    isDropped.wait();
+    isStopped.wait();
 }
 
 void CurlTransport::send(

@@ -16,10 +16,14 @@ public:
     /// Completes on `loop`, which outlives the transport.
     explicit CurlTransport(ClientLoop& loop, TransportSettings settings = {});
 
-    /// Drops what is under way, its completions uncalled. Waits for what the loop is running just now.
+    /// Stops, if that has not been done. The loop must still be there then.
     ~CurlTransport() override;
     CurlTransport(const CurlTransport&) = delete;
     CurlTransport& operator=(const CurlTransport&) = delete;
+
+    /// Drops what is under way and whatever is sent later, completions uncalled: the program ends. Waits for what the
+    /// loop is running just now, and needs the loop no more afterwards. Once, from the thread that owns the transport.
+    void stop();
 
     /// May be called from any thread.
     void send(
@@ -28,6 +32,7 @@ public:
 private:
     ClientLoop& loop_;
     std::shared_ptr<TransportOperations> operations_;
+    bool isStopped_ = false;
 };
 
 }  // namespace larkspan::adapters

@@ -22,6 +22,7 @@ TransportOperations::TransportOperations(ClientLoop& loop, TransportSettings set
 
 void TransportOperations::begin(platform::HttpRequest request, std::stop_token stop, Complete complete)
 {
+    if (isStopped_) return;
     if (stop.stop_requested()) return complete(Code::cancelled);
     if (!canBeSent(request)) return complete(Code::unknown);
 
@@ -42,8 +43,9 @@ void TransportOperations::StopNotice::operator()() const
     });
 }
 
-void TransportOperations::dropAll()
+void TransportOperations::stop()
 {
+    isStopped_ = true;
     operations_.clear();
 }
 

@@ -28,8 +28,8 @@ public:
 
     void begin(platform::HttpRequest request, std::stop_token stop, Complete complete);
 
-    /// Forgets every request, its completion uncalled.
-    void dropAll();
+    /// Forgets every request, also those that come later, their completions uncalled.
+    void stop();
 
 private:
     using Id = std::uint64_t;
@@ -63,6 +63,7 @@ private:
     const TransportSettings settings_;
     std::map<Id, Operation> operations_;
     Id lastId_ = 0;
+    bool isStopped_ = false;
 };
 
 }  // namespace larkspan::adapters
