@@ -14,6 +14,7 @@ public:
     std::optional<std::string> find(const platform::CredentialItem& item) override;
     bool add(const platform::CredentialItem& item, const std::string& secret) override;
     void remove(const platform::CredentialItem& item) override;
+    void allowPromptAgain() override {}
 
 private:
     std::map<std::pair<std::string, std::string>, std::string> secrets_;

@@ -26,6 +26,10 @@ public:
 
     /// Removes the item if it is there.
     virtual void remove(const CredentialItem& item) = 0;
+
+    /// The user has done something that needs the secret: a prompt of the store's that they dismissed before may come
+    /// again, once. Any thread.
+    virtual void allowPromptAgain() = 0;
 };
 
 }  // namespace larkspan::platform

@@ -95,6 +95,7 @@ bool Dashboard::isRefreshEnabled() const
 
 void Dashboard::refresh()
 {
+    ports_.credentials.allowPromptAgain();
     ports_.appState->refreshNow();
 }
 

@@ -10,6 +10,7 @@
 
 #include "core/AppStateManager.h"
 #include "platform/Clock.h"
+#include "platform/CredentialStore.h"
 #include "platform/Timers.h"
 #include "presentation/Tone.h"
 #include "support/Observable.h"
@@ -24,6 +25,7 @@ public:
     struct Ports {
         platform::Timers& timers;
         const platform::Clock& clock;
+        platform::CredentialStore& credentials;
         std::shared_ptr<core::AppStateManager> appState;
     };
 
@@ -80,6 +82,7 @@ public:
     StatusText statusText() const;
     bool isRefreshEnabled() const;
 
+    /// The user asked for a refresh. That is worth a prompt of the credential store, which a poll isn't.
     void refresh();
     void chooseRefreshInterval(std::chrono::seconds interval);
 

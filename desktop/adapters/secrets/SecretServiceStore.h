@@ -33,7 +33,7 @@ public:
     void remove(const platform::CredentialItem& item) override;
 
     /// The user has done something that asks for the secret: the next prompt may be raised. Any thread.
-    void allowPromptAgain() { mayPrompt_ = true; }
+    void allowPromptAgain() override { mayPrompt_ = true; }
 
     /// Ends the running operation and, at once, all later ones: the program ends. Any thread.
     void stop();

@@ -30,8 +30,11 @@ public:
 
     void remove(const platform::CredentialItem& item) override { items.erase(attributes(item)); }
 
+    void allowPromptAgain() override { ++promptsAllowed; }
+
     std::map<Attributes, std::string> items;
     int reads = 0;
+    int promptsAllowed = 0;
     bool refusesToAdd = false;
 
 private:

@@ -20,7 +20,7 @@ using Content = Dashboard::Content;
 
 class DashboardScreen : public testing::Test, public fakes::Account {
 protected:
-    Dashboard dashboard{{timers, clock, state}};
+    Dashboard dashboard{{timers, clock, credentials, state}};
 };
 
 TEST_F(DashboardScreen, BeforeTheFirstCycleIsEmpty)
@@ -100,6 +100,15 @@ TEST_F(DashboardScreen, ARefreshWithPagesOnScreenStaysEnabledAndKeepsTheLastUpda
     ASSERT_EQ(transport.pending.size(), 1u);
     EXPECT_TRUE(dashboard.isRefreshEnabled());
     EXPECT_EQ(dashboard.statusText().text, "Updated just now");
+}
+
+TEST_F(DashboardScreen, ARefreshThatTheUserAsksForIsWorthAPromptAPollIsNot)
+{
+    state->refreshNow();
+    run();
+    EXPECT_EQ(credentials.promptsAllowed, 0);
+    dashboard.refresh();
+    EXPECT_EQ(credentials.promptsAllowed, 1);
 }
 
 TEST_F(DashboardScreen, TheUpdatedTextAgesWithTheTickOfTenSeconds)
