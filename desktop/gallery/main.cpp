@@ -31,6 +31,7 @@ struct NoOutside final : platform::HttpTransport,
     std::optional<std::string> find(const platform::CredentialItem&) override { return std::nullopt; }
     bool add(const platform::CredentialItem&, const std::string&) override { return false; }
     void remove(const platform::CredentialItem&) override {}
+    void allowPromptAgain() override {}
     void requestAuthorization() override {}
     void start(std::function<void(bool)>) override {}
 };
@@ -59,7 +60,7 @@ public:
 
         auto state = core::AppStateManager::make({main_, timers_, clock_, outside_, outside_, api_});
         scene.arrange(*state);
-        auto dashboard = std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{timers_, clock_, state});
+        auto dashboard = std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{timers_, clock_, outside_, state});
         MainWindow mainWindow(dashboard, main_);
         mainWindow.appearance().setProperty("isDark", isDark);
         mainWindow.appearance().setProperty("reducesMotion", true);

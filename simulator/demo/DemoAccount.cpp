@@ -26,4 +26,12 @@ DemoAccount::DemoAccount(
     credentialStore_.add(item, key);
 }
 
+void DemoAccount::stop()
+{
+    worker_.stop();
+    // What waited for an answer unwinds over the worker, which runs nothing any more.
+    transport_.reset();
+    worker_.stop();
+}
+
 }  // namespace larkspan::simulator

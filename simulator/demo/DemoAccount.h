@@ -28,8 +28,8 @@ public:
     /// Where the transport completes: the executor for the application's client.
     platform::Executor& executor() { return worker_; }
 
-    /// Ends the transport and drops what is under way, as the application does when it stops. Call it once.
-    void stopTransport() { transport_.reset(); }
+    /// Ends transport and executor and drops what is under way: the application ends. Call it once.
+    void stop();
 
 private:
     Service service_;

@@ -11,8 +11,13 @@ WorkerThread::WorkerThread()
 
 WorkerThread::~WorkerThread()
 {
+    stop();
+}
+
+void WorkerThread::stop()
+{
     thread_.request_stop();
-    thread_.join();
+    if (thread_.joinable()) thread_.join();
     drop();
 }
 

@@ -18,6 +18,9 @@ public:
     WorkerThread();
     ~WorkerThread() override;
 
+    /// Ends the thread and destroys unrun what is left, also what came since an earlier stop.
+    void stop();
+
     void post(support::UniqueFunction<void()> work) override;
     void after(std::chrono::milliseconds wait, support::UniqueFunction<void()> work) override;
 

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "adapters/FreedesktopNotificationCenter.h"
+#include "adapters/MainExecutor.h"
+#include "adapters/QtNetworkPathMonitor.h"
+#include "adapters/QtTimers.h"
+#include "adapters/QtWindowSystem.h"
+#include "adapters/SystemClock.h"
+#include "api/KestruneAPI.h"
+#include "core/LarkspanApp.h"
+
+namespace larkspan {
+
+class MainWindow;
+
+/// The road to the service, which the program and its demo take differently.
+struct ServiceAccess {
+    std::string host;
+    platform::Executor& client;
+    platform::HttpTransport& transport;
+    platform::CredentialStore& credentials;
+    /// Drops what is under way and ends the client's executor. Called once, at the end.
+    std::function<void()> stop;
+};
+
+/// The program, put together over a `QGuiApplication` and taken apart again. Main thread only.
+class Application final : public QObject {
+public:
+    explicit Application(ServiceAccess service);
+    ~Application() override;
+
+    /// Shows the window and runs until the program is asked to end.
+    int run();
+
+    /// The user started the program again: its window comes forward.
+    void reopen(const QString& activationToken);
+
+    /// Ends the program, also in mid-request.
+    void quit() { app_->quitApp(); }
+
+private:
+    ServiceAccess service_;
+    adapters::MainExecutor main_;
+    adapters::QtTimers timers_;
+    adapters::SystemClock clock_;
+    adapters::QtWindowSystem windows_;
+    adapters::FreedesktopNotificationCenter notifications_;
+    adapters::QtNetworkPathMonitor networkMonitor_;
+    api::KestruneAPI api_;
+    std::unique_ptr<core::LarkspanApp> app_;
+    std::unique_ptr<MainWindow> window_;
+};
+
+}  // namespace larkspan

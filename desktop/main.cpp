@@ -1,0 +1,50 @@
+#include <QDBusConnection>
+#include <QGuiApplication>
+
+#include <optional>
+
+#include "Application.h"
+#include "BuildSettings.h"
+#include "adapters/ActivationToken.h"
+#include "adapters/HardenProcess.h"
+#include "adapters/SingleInstance.h"
+#include "adapters/TerminationSignals.h"
+#include "adapters/http/ClientLoop.h"
+#include "adapters/http/CurlTransport.h"
+#include "adapters/secrets/SecretServiceStore.h"
+
+int main(int argc, char* argv[])
+{
+    using namespace larkspan;
+
+    adapters::hardenProcess();
+    const QString activationToken = adapters::launchActivationToken();
+    const QGuiApplication qt(argc, argv);
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Kestrune"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("com.kestrune.larkspan"));
+
+    adapters::SingleInstance instance(QDBusConnection::sessionBus());
+    if (instance.claim(activationToken) == adapters::SingleInstance::Standing::second) return 0;
+
+    adapters::SecretServiceStore credentials;
+    std::optional<adapters::ClientLoop> client(std::in_place);
+    adapters::CurlTransport transport(*client);
+    Application application({
+        .host = BuildSettings::serviceHost,
+        .client = *client,
+        .transport = transport,
+        .credentials = credentials,
+        .stop =
+            [&] {
+                credentials.stop();
+                transport.stop();
+                client.reset();
+            },
+    });
+
+    const adapters::TerminationSignals termination;
+    QObject::connect(&termination, &adapters::TerminationSignals::requested, &application, &Application::quit);
+    QObject::connect(&instance, &adapters::SingleInstance::replaced, &application, &Application::quit);
+    QObject::connect(&instance, &adapters::SingleInstance::activated, &application, &Application::reopen);
+    return application.run();
+}

@@ -1,0 +1,32 @@
+#include <QGuiApplication>
+
+#include <chrono>
+
+#include "Application.h"
+#include "adapters/ActivationToken.h"
+#include "adapters/SystemClock.h"
+#include "adapters/TerminationSignals.h"
+#include "api/KeychainHelper.h"
+#include "demo/DemoAccount.h"
+
+int main(int argc, char* argv[])
+{
+    using namespace larkspan;
+
+    const QGuiApplication qt(argc, argv);
+    QGuiApplication::setDesktopFileName(QStringLiteral("com.kestrune.larkspan"));
+
+    const adapters::SystemClock clock;
+    simulator::DemoAccount account(clock, api::KeychainHelper::item, std::chrono::milliseconds(250));
+    Application application({
+        .host = "demo.kestrune.example",
+        .client = account.executor(),
+        .transport = account.transport(),
+        .credentials = account.credentialStore(),
+        .stop = [&account] { account.stop(); },
+    });
+
+    const adapters::TerminationSignals termination;
+    QObject::connect(&termination, &adapters::TerminationSignals::requested, &application, &Application::quit);
+    return application.run();
+}
