@@ -15,18 +15,19 @@ Item {
     Repeater {
         model: 8
         Rectangle {
+            id: spoke
             required property int index
             width: indicator.width / 8
             height: indicator.height / 3.4
-            radius: width / 2
-            x: (indicator.width - width) / 2
+            radius: spoke.width / 2
+            x: (indicator.width - spoke.width) / 2
             color: indicator.color
-            opacity: (index + 1) / 8
+            opacity: (spoke.index + 1) / 8
             transformOrigin: Item.Center
             transform: Rotation {
-                origin.x: width / 2
+                origin.x: spoke.width / 2
                 origin.y: indicator.height / 2
-                angle: index * 45
+                angle: spoke.index * 45
             }
         }
     }

@@ -1,13 +1,15 @@
 import QtQuick
+import QtQuick.Templates as T
 import Larkspan
 
 // Shows which control the keyboard acts on.
 Rectangle {
-    required property Item control
+    id: ring
+    required property T.Control control
 
     anchors.fill: parent
     anchors.margins: -Theme.focusWidth
-    visible: control.visualFocus ?? control.activeFocus
+    visible: ring.control.visualFocus
     radius: Theme.controlRadius + Theme.focusWidth
     color: "transparent"
     border.width: Theme.focusWidth

@@ -4,16 +4,17 @@ import Larkspan
 
 T.Menu {
     id: menu
-    implicitWidth: contentItem.childrenRect.width + leftPadding + rightPadding
-    implicitHeight: contentItem.contentHeight + topPadding + bottomPadding
+    implicitWidth: list.childrenRect.width + leftPadding + rightPadding
+    implicitHeight: list.contentHeight + topPadding + bottomPadding
     margins: Theme.unit
     padding: Theme.halfUnit
 
     delegate: KitMenuItem {}
 
     contentItem: ListView {
-        implicitHeight: contentHeight
-        interactive: contentHeight > height
+        id: list
+        implicitHeight: list.contentHeight
+        interactive: list.contentHeight > list.height
         clip: true
         currentIndex: menu.currentIndex
         model: menu.contentModel

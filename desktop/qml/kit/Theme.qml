@@ -29,7 +29,7 @@ QtObject {
     readonly property color shadow: isDark ? "#80000000" : "#30000000"
     readonly property real pillOpacity: 0.15
 
-    readonly property real base: Qt.application.font.pointSize > 0 ? Qt.application.font.pointSize : 10
+    readonly property real base: Application.font.pointSize > 0 ? Application.font.pointSize : 10
     readonly property real title: base * 1.8
     readonly property real title2: base * 1.45
     readonly property real title3: base * 1.2
