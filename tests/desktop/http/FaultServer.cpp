@@ -1,6 +1,5 @@
 #include "FaultServer.h"
 
-#include <arpa/inet.h>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <pthread.h>
@@ -8,32 +7,13 @@
 #include <unistd.h>
 
 #include <csignal>
-#include <stdexcept>
 #include <utility>
+
+#include "LoopbackSocket.h"
 
 namespace larkspan::adapters {
 
 namespace {
-
-int listenOnLoopback()
-{
-    const int listener = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    const bool isListening = bind(listener, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0
-        && listen(listener, 256) == 0;
-    if (!isListening) throw std::runtime_error("no port on loopback");
-    return listener;
-}
-
-int portOf(int listener)
-{
-    sockaddr_in address{};
-    socklen_t size = sizeof address;
-    getsockname(listener, reinterpret_cast<sockaddr*>(&address), &size);
-    return ntohs(address.sin_port);
-}
 
 SSL_CTX* newContext(const Identity& identity, FaultServer::TlsVersions versions)
 {

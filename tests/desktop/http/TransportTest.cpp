@@ -1,5 +1,6 @@
 #include "TransportTest.h"
 
+#include <cstdlib>
 #include <memory>
 #include <utility>
 
@@ -29,6 +30,14 @@ HttpRequest request(std::string method, std::string url, std::optional<std::stri
 HttpRequest get(std::string url)
 {
     return request("GET", std::move(url));
+}
+
+Transport::Transport()
+{
+    // The tests' servers are not behind the proxy of whoever runs them.
+    for (const auto* name : {"https_proxy", "HTTPS_PROXY", "all_proxy", "ALL_PROXY", "no_proxy", "NO_PROXY"})
+        unsetenv(name);
+    settings.certificateBundle = authority().bundle();
 }
 
 CurlTransport& Transport::transport()

@@ -32,7 +32,7 @@ HttpRequest get(std::string url);
 /// A transport with the time limits of a test, on a loop of its own.
 class Transport : public testing::Test {
 protected:
-    Transport() { settings.certificateBundle = authority().bundle(); }
+    Transport();
 
     /// Made with the settings as they stand when it is first wanted.
     CurlTransport& transport();

@@ -1,0 +1,89 @@
+#include "adapters/http/PortalProxies.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDeadlineTimer>
+#include <QObject>
+
+#include <chrono>
+#include <string_view>
+#include <utility>
+
+namespace larkspan::adapters {
+
+namespace {
+
+using Answer = support::UniqueFunction<void(std::string)>;
+
+constexpr std::chrono::milliseconds patience{2'000};
+constexpr std::chrono::seconds restAfterFailure{60};
+
+QDBusMessage lookup(const std::string& url)
+{
+    auto call = QDBusMessage::createMethodCall("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
+        "org.freedesktop.portal.ProxyResolver", "Lookup");
+    call << QString::fromStdString(url);
+    return call;
+}
+
+}  // namespace
+
+class PortalProxies::Portal : public QObject {
+public:
+    explicit Portal(QDBusConnection bus)
+        : bus_(std::move(bus))
+    {
+    }
+
+    void findProxy(const std::string& url, Answer answer)
+    {
+        // A portal that fails costs its patience once, not with each request.
+        if (!rest_.hasExpired()) return answer({});
+
+        auto* call = new QDBusPendingCallWatcher(bus_.asyncCall(lookup(url), static_cast<int>(patience.count())), this);
+        auto held = std::make_shared<Answer>(std::move(answer));
+        connect(call, &QDBusPendingCallWatcher::finished, this, [this, call, held] {
+            call->deleteLater();
+            const QDBusPendingReply<QStringList> reply = *call;
+            if (reply.isError()) rest_.setRemainingTime(restAfterFailure);
+            (*held)(reply.isError() ? std::string() : usableProxy(reply.value()));
+        });
+    }
+
+private:
+    QDBusConnection bus_;
+    QDeadlineTimer rest_;
+};
+
+PortalProxies::PortalProxies(QDBusConnection bus, platform::Executor& main)
+    : main_(main)
+    , portal_(std::make_shared<Portal>(std::move(bus)))
+{
+}
+
+PortalProxies::~PortalProxies() = default;
+
+void PortalProxies::findProxy(std::string url, Answer answer)
+{
+    main_.post([portal = std::weak_ptr(portal_), url = std::move(url), answer = std::move(answer)]() mutable {
+        if (const auto alive = portal.lock()) alive->findProxy(url, std::move(answer));
+    });
+}
+
+std::string PortalProxies::usableProxy(const QStringList& proxies)
+{
+    for (const auto& proxy : proxies) {
+        const auto text = proxy.toStdString();
+        const auto schemeEnd = text.find("://");
+        if (schemeEnd == std::string::npos) continue;
+        const auto scheme = std::string_view(text).substr(0, schemeEnd);
+        if (scheme == "direct") return {};
+        if (scheme == "http" || scheme == "https" || scheme == "socks4" || scheme == "socks4a") return text;
+        // A name that only the proxy's network knows is the proxy's to look up.
+        if (scheme == "socks" || scheme == "socks5") return "socks5h" + text.substr(schemeEnd);
+    }
+    return {};
+}
+
+}  // namespace larkspan::adapters
