@@ -46,13 +46,22 @@ GLibLoop::GLibLoop(const GLibStop& stop)
     : stop_(stop)
     , context_(g_main_context_new())
 {
-    g_main_context_push_thread_default(context_);
 }
 
 GLibLoop::~GLibLoop()
 {
-    g_main_context_pop_thread_default(context_);
     g_main_context_unref(context_);
+}
+
+GLibLoop::Entry::Entry(GLibLoop& loop)
+    : context_(loop.context_)
+{
+    g_main_context_push_thread_default(context_);
+}
+
+GLibLoop::Entry::~Entry()
+{
+    g_main_context_pop_thread_default(context_);
 }
 
 ObjectPointer<GAsyncResult> GLibLoop::await(Deadline deadline, const Begin& begin)

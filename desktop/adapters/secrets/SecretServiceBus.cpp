@@ -8,21 +8,36 @@ SecretServiceBus::SecretServiceBus(const GLibStop& stop, std::chrono::millisecon
     : loop_(stop)
     , patience_(patience)
 {
-    restartDeadline();
-    connect();
+}
+
+bool SecretServiceBus::connect()
+{
+    if (connection_ && g_dbus_connection_is_closed(connection_.get()) == FALSE) return true;
+    // GLib hands out the old connection for as long as somebody holds it.
+    connection_.reset();
+    const auto result = loop_.await(deadline_, [](GCancellable* cancellable, GAsyncReadyCallback ready, gpointer data) {
+        g_bus_get(G_BUS_TYPE_SESSION, cancellable, ready, data);
+    });
+    connection_.reset(g_bus_get_finish(result.get(), nullptr));
+    // GLib's habit is to end the process when the session bus goes.
+    if (connection_) g_dbus_connection_set_exit_on_close(connection_.get(), FALSE);
+    return connection_ != nullptr;
+}
+
+std::string SecretServiceBus::owner()
+{
+    const auto reply = call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "GetNameOwner",
+        g_variant_new("(s)", serviceName), "(s)");
+    if (!reply) return {};
+    const char* owner = nullptr;
+    g_variant_get(reply.get(), "(&s)", &owner);
+    return owner;
 }
 
 VariantPointer SecretServiceBus::call(
     const std::string& path, const char* interface, const char* method, GVariant* arguments, const char* replyType)
 {
-    const auto result
-        = loop_.await(deadline_, [&](GCancellable* cancellable, GAsyncReadyCallback ready, gpointer data) {
-              constexpr int onlyTheDeadlineCounts = std::numeric_limits<int>::max();
-              g_dbus_connection_call(connection_.get(), serviceName, path.c_str(), interface, method, arguments,
-                  replyType ? G_VARIANT_TYPE(replyType) : nullptr, G_DBUS_CALL_FLAGS_NONE, onlyTheDeadlineCounts,
-                  cancellable, ready, data);
-          });
-    return VariantPointer(g_dbus_connection_call_finish(connection_.get(), result.get(), nullptr));
+    return call(serviceName, path, interface, method, arguments, replyType);
 }
 
 void SecretServiceBus::tell(const std::string& path, const char* interface, const char* method)
@@ -36,14 +51,16 @@ void SecretServiceBus::restartDeadline()
     deadline_ = std::chrono::steady_clock::now() + patience_;
 }
 
-void SecretServiceBus::connect()
+VariantPointer SecretServiceBus::call(const char* destination, const std::string& path, const char* interface,
+    const char* method, GVariant* arguments, const char* replyType)
 {
-    const auto result = loop_.await(deadline_, [](GCancellable* cancellable, GAsyncReadyCallback ready, gpointer data) {
-        g_bus_get(G_BUS_TYPE_SESSION, cancellable, ready, data);
-    });
-    connection_.reset(g_bus_get_finish(result.get(), nullptr));
-    // GLib's habit is to end the process when the session bus goes.
-    if (connection_) g_dbus_connection_set_exit_on_close(connection_.get(), FALSE);
+    const auto result
+        = loop_.await(deadline_, [&](GCancellable* cancellable, GAsyncReadyCallback ready, gpointer data) {
+              constexpr int onlyTheDeadlineCounts = std::numeric_limits<int>::max();
+              g_dbus_connection_call(connection_.get(), destination, path.c_str(), interface, method, arguments,
+                  G_VARIANT_TYPE(replyType), G_DBUS_CALL_FLAGS_NONE, onlyTheDeadlineCounts, cancellable, ready, data);
+          });
+    return VariantPointer(g_dbus_connection_call_finish(connection_.get(), result.get(), nullptr));
 }
 
 }  // namespace larkspan::adapters

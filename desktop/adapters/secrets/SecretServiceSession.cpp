@@ -71,27 +71,36 @@ std::vector<std::string> texts(const VariantPointer& array)
 
 }  // namespace
 
+SecretServiceSession::Conversation::Conversation(SecretServiceSession& session)
+    : entry_(session.bus_.loop())
+{
+    session.bus_.restartDeadline();
+    session.open();
+}
+
 SecretServiceSession::SecretServiceSession(const GLibStop& stop, std::chrono::milliseconds patience)
     : bus_(stop, patience)
 {
-    if (bus_.isConnected()) open();
-}
-
-SecretServiceSession::~SecretServiceSession()
-{
-    // A service keeps sessions for as long as the program stays on the bus.
-    if (isOpen()) {
-        bus_.tell(secret_service_get_session_dbus_path(service_.get()), "org.freedesktop.Secret.Session", "Close");
-    }
 }
 
 void SecretServiceSession::open()
 {
+    if (isCurrent()) return;
+    service_.reset();
+    if (!bus_.connect()) return;
     const auto result
         = bus_.loop().await(bus_.deadline(), [](GCancellable* cancellable, GAsyncReadyCallback ready, gpointer data) {
               secret_service_open(SECRET_TYPE_SERVICE, nullptr, SECRET_SERVICE_OPEN_SESSION, cancellable, ready, data);
           });
     service_.reset(secret_service_open_finish(result.get(), nullptr));
+}
+
+bool SecretServiceSession::isCurrent()
+{
+    if (!service_) return false;
+    const std::unique_ptr<char, decltype(&g_free)> owner(
+        g_dbus_proxy_get_name_owner(G_DBUS_PROXY(service_.get())), &g_free);
+    return owner && bus_.owner() == owner.get();
 }
 
 SecretServiceSession::Found SecretServiceSession::search(const platform::CredentialItem& item)

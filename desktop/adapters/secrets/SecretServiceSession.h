@@ -12,10 +12,20 @@
 
 namespace larkspan::adapters {
 
-/// One conversation with the Secret Service, for one operation of the store, so that a service that is restarted
-/// finds nobody with a stale session. Its calls end as those of `SecretServiceBus` do. One thread only.
+/// The program's session with the Secret Service, and what it asks of it. It is kept from one operation to the next,
+/// because services lose memory with every session that is opened, and opened anew after the service was restarted.
+/// The calls end as those of `SecretServiceBus` do. One thread at a time.
 class SecretServiceSession {
 public:
+    /// Encloses the calls of one operation: opens the session if it has to, and begins the deadline.
+    class Conversation {
+    public:
+        explicit Conversation(SecretServiceSession& session);
+
+    private:
+        GLibLoop::Entry entry_;
+    };
+
     using Path = std::string;
     /// Asked when only a prompt leads on; a refusal is as if the user had dismissed it.
     using MayPrompt = std::function<bool()>;
@@ -26,11 +36,8 @@ public:
     };
 
     SecretServiceSession(const GLibStop& stop, std::chrono::milliseconds patience);
-    ~SecretServiceSession();
-    SecretServiceSession(const SecretServiceSession&) = delete;
-    SecretServiceSession& operator=(const SecretServiceSession&) = delete;
 
-    /// Whether there is a service that answers; the other operations need one.
+    /// Whether there is a service that answers; the other calls need one.
     bool isOpen() const { return service_ != nullptr; }
 
     /// The items with these attributes. Raises no prompt.
@@ -54,6 +61,7 @@ public:
 
 private:
     void open();
+    bool isCurrent();
     std::optional<VariantPointer> runPrompt(const Path& path, const MayPrompt& mayPrompt);
 
     SecretServiceBus bus_;

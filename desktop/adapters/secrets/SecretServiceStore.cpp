@@ -27,48 +27,50 @@ std::string changedLast(SecretServiceSession& session, const std::vector<std::st
 }  // namespace
 
 SecretServiceStore::SecretServiceStore(std::chrono::milliseconds patience)
-    : patience_(patience)
-    , stop_(std::make_shared<GLibStop>())
+    : stop_(std::make_unique<GLibStop>())
+    , session_(std::make_unique<SecretServiceSession>(*stop_, patience))
 {
 }
 
+SecretServiceStore::~SecretServiceStore() = default;
+
 std::optional<std::string> SecretServiceStore::find(const platform::CredentialItem& item)
 {
-    SecretServiceSession session(*stop_, patience_);
-    if (!session.isOpen()) return std::nullopt;
+    const SecretServiceSession::Conversation conversation(*session_);
+    if (!session_->isOpen()) return std::nullopt;
 
-    auto found = session.search(item);
+    auto found = session_->search(item);
     if (found.unlocked.empty()) {
         if (found.locked.empty() || !mayPrompt_) return std::nullopt;
-        if (!unlock(session, found.locked.front())) return std::nullopt;
-        found = session.search(item);
+        if (!unlock(found.locked.front())) return std::nullopt;
+        found = session_->search(item);
         if (found.unlocked.empty()) return std::nullopt;
     }
     mayPrompt_ = true;
-    return session.secret(changedLast(session, found.unlocked));
+    return session_->secret(changedLast(*session_, found.unlocked));
 }
 
 bool SecretServiceStore::add(const platform::CredentialItem& item, const std::string& secret)
 {
-    SecretServiceSession session(*stop_, patience_);
-    if (!session.isOpen()) return false;
+    const SecretServiceSession::Conversation conversation(*session_);
+    if (!session_->isOpen()) return false;
 
     bool hasPrompted = false;
-    const auto collection = session.defaultCollection([&] { return hasPrompted = mayPrompt_.exchange(false); });
+    const auto collection = session_->defaultCollection([&] { return hasPrompted = mayPrompt_.exchange(false); });
     if (hasPrompted) mayPrompt_ = collection.has_value();
-    return collection && unlock(session, *collection) && session.create(*collection, item, secret);
+    return collection && unlock(*collection) && session_->create(*collection, item, secret);
 }
 
 void SecretServiceStore::remove(const platform::CredentialItem& item)
 {
     mayPrompt_ = true;
-    SecretServiceSession session(*stop_, patience_);
-    if (!session.isOpen()) return;
+    const SecretServiceSession::Conversation conversation(*session_);
+    if (!session_->isOpen()) return;
 
-    const auto found = session.search(item);
-    for (const auto& unlocked : found.unlocked) session.remove(unlocked);
+    const auto found = session_->search(item);
+    for (const auto& unlocked : found.unlocked) session_->remove(unlocked);
     for (const auto& locked : found.locked) {
-        if (unlock(session, locked)) session.remove(locked);
+        if (unlock(locked)) session_->remove(locked);
     }
 }
 
@@ -77,10 +79,10 @@ void SecretServiceStore::stop()
     stop_->request();
 }
 
-bool SecretServiceStore::unlock(SecretServiceSession& session, const std::string& path)
+bool SecretServiceStore::unlock(const std::string& path)
 {
     bool hasPrompted = false;
-    const bool isUnlocked = session.unlock(path, [&] { return hasPrompted = mayPrompt_.exchange(false); });
+    const bool isUnlocked = session_->unlock(path, [&] { return hasPrompted = mayPrompt_.exchange(false); });
     // What the user did while the prompt stood doesn't ask for another one.
     if (hasPrompted) mayPrompt_ = isUnlocked;
     return isUnlocked;

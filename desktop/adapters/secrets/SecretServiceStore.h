@@ -22,6 +22,7 @@ class SecretServiceSession;
 class SecretServiceStore final : public platform::CredentialStore {
 public:
     explicit SecretServiceStore(std::chrono::milliseconds patience = std::chrono::seconds(10));
+    ~SecretServiceStore() override;
 
     /// Of several matching items, the one changed last. An unlocked one goes before any that needs a prompt.
     std::optional<std::string> find(const platform::CredentialItem& item) override;
@@ -39,10 +40,10 @@ public:
     void stop();
 
 private:
-    bool unlock(SecretServiceSession& session, const std::string& path);
+    bool unlock(const std::string& path);
 
-    std::chrono::milliseconds patience_;
-    std::shared_ptr<GLibStop> stop_;
+    std::unique_ptr<GLibStop> stop_;
+    std::unique_ptr<SecretServiceSession> session_;
     std::atomic<bool> mayPrompt_ = true;
 };
 
