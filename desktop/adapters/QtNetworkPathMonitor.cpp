@@ -1,35 +1,90 @@
 #include "adapters/QtNetworkPathMonitor.h"
 
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusServiceWatcher>
 #include <QNetworkInformation>
-#include <QTimer>
 
+#include <chrono>
 #include <utility>
 
 namespace larkspan::adapters {
 
 namespace {
 
-bool isSatisfied(QNetworkInformation::Reachability reachability)
-{
-    using Reachability = QNetworkInformation::Reachability;
-    return reachability == Reachability::Online || reachability == Reachability::Unknown;
-}
+using namespace std::chrono_literals;
+
+constexpr auto networkManager = "org.freedesktop.NetworkManager";
+constexpr std::chrono::milliseconds patience = 5s;
 
 }  // namespace
 
+QtNetworkPathMonitor::QtNetworkPathMonitor()
+    : bus_(QDBusConnection::systemBus())
+{
+}
+
 void QtNetworkPathMonitor::start(std::function<void(bool isSatisfied)> update)
 {
-    QTimer::singleShot(0, this, [this, update = std::move(update)] {
-        QNetworkInformation::loadBackendByFeatures(QNetworkInformation::Feature::Reachability);
-        const auto* network = QNetworkInformation::instance();
-        if (!network) {
-            update(true);
-            return;
+    update_ = std::move(update);
+    if (!bus_.isConnected()) {
+        QMetaObject::invokeMethod(
+            this, [this] { report(true); }, Qt::QueuedConnection);
+        return;
+    }
+    auto* const watcher
+        = new QDBusServiceWatcher(networkManager, bus_, QDBusServiceWatcher::WatchForRegistration, this);
+    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &QtNetworkPathMonitor::askForNetworkManager);
+    askForNetworkManager();
+}
+
+void QtNetworkPathMonitor::askForNetworkManager()
+{
+    // Qt's backend waits for NetworkManager on the main thread, for up to half a minute: it is loaded only when
+    // NetworkManager is known to answer.
+    auto ping = QDBusMessage::createMethodCall(
+        networkManager, "/org/freedesktop/NetworkManager", "org.freedesktop.DBus.Peer", "Ping");
+    ping.setAutoStartService(false);
+    auto* const answer = new QDBusPendingCallWatcher(bus_.asyncCall(ping, static_cast<int>(patience.count())), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+        answer->deleteLater();
+        if (answer->isError()) {
+            if (!reported_) report(true);
+        } else {
+            followReachability();
         }
-        connect(network, &QNetworkInformation::reachabilityChanged, this,
-            [update](auto reachability) { update(isSatisfied(reachability)); });
-        update(isSatisfied(network->reachability()));
     });
+}
+
+void QtNetworkPathMonitor::followReachability()
+{
+    const bool isLoaded = QNetworkInformation::loadBackendByName(u"networkmanager");
+    auto* const information = QNetworkInformation::instance();
+    if (!isLoaded || !information) {
+        report(true);
+        return;
+    }
+    connect(information, &QNetworkInformation::reachabilityChanged, this, &QtNetworkPathMonitor::reportReachability,
+        Qt::UniqueConnection);
+    reportReachability();
+}
+
+void QtNetworkPathMonitor::reportReachability()
+{
+    const auto reachability = QNetworkInformation::instance()->reachability();
+    if (reachability != QNetworkInformation::Reachability::Unknown) {
+        report(reachability == QNetworkInformation::Reachability::Online);
+    } else if (!reported_) {
+        // Between two states, and where it cannot tell, NetworkManager says this: what was last known stands.
+        report(true);
+    }
+}
+
+void QtNetworkPathMonitor::report(bool isSatisfied)
+{
+    if (reported_ == isSatisfied) return;
+    reported_ = isSatisfied;
+    update_(isSatisfied);
 }
 
 }  // namespace larkspan::adapters

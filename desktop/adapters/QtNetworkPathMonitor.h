@@ -1,19 +1,34 @@
 #pragma once
 
+#include <QDBusConnection>
 #include <QObject>
+
+#include <functional>
+#include <optional>
 
 #include "platform/NetworkPathMonitor.h"
 
 namespace larkspan::adapters {
 
-/// The network as the desktop's own service sees it. Where none can tell, the path counts as satisfied: better a
-/// request that fails than a program that believes itself offline. Main thread only.
+/// The computer's network as NetworkManager sees it, through Qt's reachability: online means satisfied. Where nobody
+/// watches the network, and while its state is unknown, nothing speaks against it. Notices come on the main thread,
+/// on which the object lives.
 class QtNetworkPathMonitor final : public QObject, public platform::NetworkPathMonitor {
 public:
-    using QObject::QObject;
+    QtNetworkPathMonitor();
 
-    /// Looks in a later turn of the event loop, so that the window doesn't wait for the network's service.
+    /// Returns at once. A NetworkManager that comes later is noticed too.
     void start(std::function<void(bool isSatisfied)> update) override;
+
+private:
+    void askForNetworkManager();
+    void followReachability();
+    void reportReachability();
+    void report(bool isSatisfied);
+
+    QDBusConnection bus_;
+    std::function<void(bool)> update_;
+    std::optional<bool> reported_;
 };
 
 }  // namespace larkspan::adapters
