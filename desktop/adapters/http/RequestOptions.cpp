@@ -68,6 +68,8 @@ HeaderList setRequest(CURL* transfer, const platform::HttpRequest& request)
 {
     setOption(transfer, CURLOPT_URL, request.url.c_str());
     setOption(transfer, CURLOPT_PATH_AS_IS, 1L);
+    // An address that no longer answers must not outlive its entry in the name service: "Retry" is to mean it.
+    setOption(transfer, CURLOPT_DNS_CACHE_TIMEOUT, 0L);
     setOption(transfer, CURLOPT_PROTOCOLS_STR, "https");
     setOption(transfer, CURLOPT_DISALLOW_USERNAME_IN_URL, 1L);
     // One exchange per connection at a time: a write shares its connection with nothing, an answer that hangs holds up

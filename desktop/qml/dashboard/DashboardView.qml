@@ -157,11 +157,7 @@ FocusScope {
         anchors.right: parent.right
         anchors.bottom: parent.bottom
         anchors.margins: Theme.margin
-        opacity: view.dashboard.showsRefreshFailure ? 1 : 0
-        visible: opacity > 0
-        Behavior on opacity {
-            NumberAnimation { duration: Theme.calm; easing.type: Easing.OutCubic }
-        }
+        visible: view.dashboard.showsRefreshFailure
     }
 
     Shortcut {

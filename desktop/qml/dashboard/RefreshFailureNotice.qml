@@ -16,6 +16,15 @@ Rectangle {
     Accessible.role: Accessible.AlertMessage
     Accessible.name: dashboard.refreshFailedText
 
+    // It comes softly but goes at once: what it says is no longer true then.
+    NumberAnimation on opacity {
+        running: notice.visible
+        from: 0
+        to: 1
+        duration: Theme.calm
+        easing.type: Easing.OutCubic
+    }
+
     Row {
         id: content
         anchors.centerIn: parent
