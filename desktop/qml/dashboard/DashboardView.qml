@@ -113,6 +113,12 @@ FocusScope {
         delegate: StatusPageRow {
             width: ListView.view.width - 2 * Theme.margin
             showsFocus: view.isKeyboardInUse && Accessible.focused
+            onYChanged: Qt.callLater(list.settleReadingOrder)
+            Component.onCompleted: Qt.callLater(list.settleReadingOrder)
+            ListView.onReused: Qt.callLater(list.settleReadingOrder)
+        }
+        function settleReadingOrder() {
+            ReadingOrder.follow(list.contentItem)
         }
 
         // One card under all rows, however many of them exist.
