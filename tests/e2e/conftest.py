@@ -16,7 +16,6 @@ def the_display():
 @pytest.fixture(scope="session")
 def the_simulator():
     with service.simulator() as made:
-        made.trust_authority()
         yield made
 
 

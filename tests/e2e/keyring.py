@@ -30,7 +30,7 @@ class Keyring:
                               capture_output=True, env=self._session.surroundings, check=False).stdout
 
     def remove(self) -> None:
-        subprocess.run(["secret-tool", "clear", *ITEM], env=self._session.surroundings, check=True)
+        subprocess.run(["secret-tool", "clear", *ITEM], env=self._session.surroundings, check=False)
 
     def die(self) -> None:
         end(self._daemon)

@@ -45,7 +45,12 @@ class Screen:
         return text in self.texts()
 
     def rows(self) -> list[str]:
-        return [thing.name for thing in self.things() if thing.role == "list item"]
+        """The list's rows from top to bottom; the tree has them in the order in which they were made."""
+        rows = [thing for thing in self.things() if thing.role == "list item"]
+        try:
+            return [thing.name for thing in sorted(rows, key=self._top)]
+        except dbus.DBusException:
+            return []
 
     def wait_for(self, text: str, seconds: float = 10) -> None:
         eventually(lambda: self.shows(text), lambda: f"\"{text}\" does not show; this does: {self.texts()}", seconds)
@@ -63,6 +68,9 @@ class Screen:
     def press(self, name: str) -> None:
         button = self.button(name)
         self._call(button.owner, button.path, ACTION, "DoAction", "i", (0,))
+
+    def _top(self, thing: Thing) -> int:
+        return int(self._call(thing.owner, thing.path, "org.a11y.atspi.Component", "GetExtents", "u", (0,))[1])
 
     def _find(self, fits: Callable[[Thing], bool], what: str) -> Thing:
         return eventually(lambda: next(filter(fits, self.things()), None),

@@ -9,7 +9,7 @@ from contextlib import contextmanager
 from pathlib import Path
 from typing import Iterator
 
-from processes import running
+from processes import end
 
 KEY = "e2e-key"
 BUNDLE = Path("/etc/ssl/certs/ca-certificates.crt")
@@ -23,16 +23,33 @@ NAMES = [page["name"] for page in PAGES]
 
 
 class Service:
-    def __init__(self, address: str, authority: Path) -> None:
-        self._address = address
-        self._authority = authority
-        self._trust = ssl.create_default_context(cafile=str(authority))
+    def __init__(self) -> None:
+        name, port = service_host()
+        self._address = f"https://localhost:{port}"
+        self._command = [str(Path(os.environ["LARKSPAN_E2E_BINARIES"], "larkspan-simulator")), "--host", name, "--port", str(port),
+                         "--key", KEY, "--directory", str(Path(os.environ["LARKSPAN_E2E_WORLD"], "authority"))]
+        self._process: subprocess.Popen | None = None
+        # The certificate that it shows may be the fault that a test is about.
+        self._trust = ssl.create_default_context()
+        self._trust.check_hostname = False
+        self._trust.verify_mode = ssl.CERT_NONE
 
-    def trust_authority(self) -> None:
-        """In the world of the tests only, where /etc is their own."""
-        BUNDLE.write_bytes(self._authority.read_bytes())
+    def start(self) -> None:
+        if self._process:
+            return
+        self._process = subprocess.Popen(self._command, stdout=subprocess.PIPE, text=True)
+        self._process.stdout.readline()
+        authority = Path(self._process.stdout.readline().strip().removeprefix("authority: "))
+        # In the world of the tests only, where /etc is their own.
+        BUNDLE.write_bytes(authority.read_bytes())
+
+    def stop(self) -> None:
+        if self._process:
+            end(self._process)
+        self._process = None
 
     def reset(self) -> None:
+        self.start()
         self.mend()
         self._order("PUT", "certificate", {"certificate": "valid"})
         self._order("PUT", "keys", {KEY: "full"})
@@ -72,11 +89,9 @@ def service_host() -> tuple[str, int]:
 
 @contextmanager
 def simulator() -> Iterator[Service]:
-    name, port = service_host()
-    binary = str(Path(os.environ["LARKSPAN_E2E_BINARIES"], "larkspan-simulator"))
-    directory = str(Path(os.environ["LARKSPAN_E2E_WORLD"], "authority"))
-    with running(binary, "--host", name, "--port", str(port), "--key", KEY, "--directory", directory,
-                 stdout=subprocess.PIPE, text=True) as process:
-        address = process.stdout.readline().strip()
-        authority = Path(process.stdout.readline().strip().removeprefix("authority: "))
-        yield Service(address, authority)
+    service = Service()
+    service.start()
+    try:
+        yield service
+    finally:
+        service.stop()
