@@ -1,0 +1,73 @@
+#include "core/AppStateManager.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "fakes/Account.h"
+
+namespace larkspan::core {
+
+namespace {
+
+using namespace std::chrono_literals;
+using fakes::Account;
+using platform::HttpResponse;
+
+class ClearAccountData : public testing::Test, public Account {};
+
+TEST_F(ClearAccountData, ForgetsTheAccountInItsFixedOrder)
+{
+    servePages({"a"}, {{"a", "operational"}});
+    refresh();
+    std::vector<std::string> order;
+    const auto subscription = state->objectWillChange([&] { order.push_back(snapshot()); });
+    state->clearAccountData();
+    order.push_back(snapshot());
+    EXPECT_EQ(order,
+        (std::vector<std::string>{
+            "pages 1, operational, idle, refreshed, seeded",
+            "pages 0, operational, idle, refreshed, seeded",
+            "pages 0, unknown, idle, refreshed, seeded",
+            "pages 0, unknown, idle, never, seeded",
+            "pages 0, unknown, idle, never, seeded",
+            "pages 0, unknown, idle, never, seeded",
+            "pages 0, unknown, idle, never",
+        }));
+}
+
+TEST_F(ClearAccountData, LeavesTheTimerAndTheIntervalAlone)
+{
+    state->setRefreshInterval(120s);
+    state->clearAccountData();
+    EXPECT_EQ(state->refreshInterval(), 120s);
+    EXPECT_EQ(timers.periods().size(), 1u);
+}
+
+TEST_F(ClearAccountData, DuringARunningCycleDoesNotStopItFromPublishing)
+{
+    state->refreshNow();
+    run();
+    state->clearAccountData();
+    EXPECT_FALSE(*state->isLoading);
+    transport.script(overviewURL, 200, Account::overview({}));
+    transport.answer(HttpResponse{.status = 200, .body = R"([{"id": "a", "name": "A"}])"});
+    run();
+    EXPECT_EQ(state->statusPages->size(), 1u);
+    EXPECT_TRUE(*state->hasCompletedInitialFetch);
+}
+
+TEST_F(ClearAccountData, LeavesTheGuardOfARunningCycleAlone)
+{
+    state->refreshNow();
+    run();
+    state->clearAccountData();
+    state->refreshNow();
+    run();
+    EXPECT_EQ(transport.requests.size(), 1u);
+}
+
+}  // namespace
+
+}  // namespace larkspan::core

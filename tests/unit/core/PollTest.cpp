@@ -1,0 +1,79 @@
+#include "core/AppStateManager.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "fakes/Account.h"
+
+namespace larkspan::core {
+
+namespace {
+
+using namespace std::chrono_literals;
+using fakes::Account;
+
+class Poll : public testing::Test, public Account {};
+
+TEST_F(Poll, DoesNotFireAtOnceButOnePeriodLater)
+{
+    state->startPollTimer();
+    run();
+    EXPECT_TRUE(transport.requests.empty());
+    timers.advance(59'999ms);
+    run();
+    EXPECT_TRUE(transport.requests.empty());
+    timers.advance(1ms);
+    run();
+    EXPECT_EQ(transport.requests.size(), 1u);
+}
+
+TEST_F(Poll, IsTheOnlyRetryOfAFailedCycle)
+{
+    transport.script(pagesURL, 500, "");
+    state->startPollTimer();
+    refresh();
+    EXPECT_EQ(transport.requests.size(), 1u);
+    timers.advance(60s);
+    run();
+    EXPECT_EQ(transport.requests.size(), 2u);
+}
+
+TEST_F(Poll, ChoosingAnIntervalRestartsThePeriodFromThatMoment)
+{
+    state->startPollTimer();
+    timers.advance(59s);
+    state->setRefreshInterval(30s);
+    timers.advance(29s);
+    run();
+    EXPECT_TRUE(transport.requests.empty());
+    timers.advance(1s);
+    run();
+    EXPECT_EQ(transport.requests.size(), 1u);
+    EXPECT_EQ(timers.periods(), (std::vector<std::chrono::milliseconds>{30s}));
+}
+
+TEST_F(Poll, ChoosingAnIntervalBelow30Yields30)
+{
+    state->setRefreshInterval(5s);
+    EXPECT_EQ(state->refreshInterval(), 30s);
+    EXPECT_EQ(timers.periods(), (std::vector<std::chrono::milliseconds>{30s}));
+}
+
+TEST_F(Poll, AfterARestartTheIntervalIs60Again)
+{
+    state->setRefreshInterval(300s);
+    EXPECT_EQ(remade()->refreshInterval(), 60s);
+}
+
+TEST_F(Poll, FiringAfterTheStateIsGoneDoesNothing)
+{
+    state->startPollTimer();
+    auto keptTimers = std::move(timers);
+    state.reset();
+    EXPECT_TRUE(keptTimers.periods().empty());
+}
+
+}  // namespace
+
+}  // namespace larkspan::core
