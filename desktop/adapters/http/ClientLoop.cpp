@@ -12,8 +12,7 @@ namespace larkspan::adapters {
 
 namespace {
 
-// OpenSSL writes to sockets whose peer is gone, and libcurl leaves the signal of that to the program. The others
-// belong to the main thread.
+// Signals are the main thread's affair. libcurl's helper threads take this over from the thread that starts them.
 void blockSignals()
 {
     sigset_t all;

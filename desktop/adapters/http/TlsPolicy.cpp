@@ -17,12 +17,10 @@ constexpr int lowestSecurityLevel = 2;
 CURLcode prepareContext(CURL*, void* tls, void*)
 {
     auto* context = static_cast<SSL_CTX*>(tls);
-    // The file that OPENSSL_CONF names may bring a store that would be asked in place of the bundle, ciphers that
-    // protect nothing, and leave to take a cut connection for a finished one; SSLKEYLOGFILE has the secrets of each
-    // session written to a file.
-    SSL_CTX_set0_verify_cert_store(context, nullptr);
+    // The file that OPENSSL_CONF names may allow keys and ciphers that protect nothing; SSLKEYLOGFILE has the secrets
+    // of each session written to a file.
     SSL_CTX_set_security_level(context, std::max(SSL_CTX_get_security_level(context), lowestSecurityLevel));
-    SSL_CTX_clear_options(context, SSL_OP_IGNORE_UNEXPECTED_EOF | SSL_OP_ALLOW_UNSAFE_LEGACY_RENEGOTIATION);
+    SSL_CTX_clear_options(context, SSL_OP_LEGACY_SERVER_CONNECT | SSL_OP_ALLOW_UNSAFE_LEGACY_RENEGOTIATION);
     SSL_CTX_set_keylog_callback(context, nullptr);
     TlsSession::observe(context);
     return CURLE_OK;

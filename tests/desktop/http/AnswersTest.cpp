@@ -158,6 +158,8 @@ TEST_F(Transport, KeepsNoCookies)
 struct UnsendableRow {
     std::string what;
     HttpRequest request;
+
+    friend void PrintTo(const UnsendableRow& row, std::ostream* out) { *out << row.what; }
 };
 
 class Unsendable : public Transport, public testing::WithParamInterface<UnsendableRow> {};

@@ -13,6 +13,8 @@ namespace larkspan::adapters {
 
 namespace {
 
+constexpr unsigned weakKeyBits = 1024;
+
 PrivateKey newKey()
 {
     return PrivateKey(EVP_EC_gen("P-256"));
@@ -80,7 +82,7 @@ Authority::~Authority()
 Identity Authority::issue(const CertificateTerms& terms) const
 {
     Identity identity;
-    identity.key = newKey();
+    identity.key = terms.hasWeakKey ? PrivateKey(EVP_RSA_gen(weakKeyBits)) : newKey();
     identity.certificate = newCertificate(identity.key.get(), "Server of the tests", terms);
     auto* certificate = identity.certificate.get();
     addExtension(certificate, self_.certificate.get(), NID_subject_alt_name, terms.subjectAlternativeName);

@@ -29,6 +29,8 @@ struct Identity {
 
 /// What a certificate says.
 struct CertificateTerms {
+    /// A key of the strength that everybody took for enough in the last century.
+    bool hasWeakKey = false;
     std::string subjectAlternativeName = "IP:127.0.0.1,DNS:localhost";
     std::chrono::seconds validFrom = -std::chrono::hours(1);
     std::chrono::seconds validUntil = std::chrono::hours(1);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <future>
 #include <thread>
 #include <vector>
@@ -48,6 +49,52 @@ TEST(ClientLoop, RunsWhatIsQueuedAndWhatThatQueuesBeforeItEnds)
         });
     }
     EXPECT_EQ(ran, 3);
+}
+
+TEST(ClientLoop, LeavesSignalsToTheMainThread)
+{
+    ClientLoop loop;
+    std::promise<bool> isDeaf;
+    loop.post([&] {
+        sigset_t blocked;
+        pthread_sigmask(SIG_BLOCK, nullptr, &blocked);
+        isDeaf.set_value(sigismember(&blocked, SIGTERM) == 1 && sigismember(&blocked, SIGPIPE) == 1);
+    });
+    EXPECT_TRUE(isDeaf.get_future().get());
+}
+
+TEST(ClientLoop, SetsAnAlarmOffWhenItIsDueAndInTheOrderOfTime)
+{
+    std::vector<int> order;
+    std::promise<void> done;
+    ClientLoop loop;
+    std::vector<ClientLoop::Alarm> alarms;
+    loop.post([&] {
+        const auto now = ClientLoop::Clock::now();
+        const auto in = [now](int milliseconds) { return now + std::chrono::milliseconds(milliseconds); };
+        alarms.push_back(loop.at(in(40), [&] { done.set_value(); }));
+        alarms.push_back(loop.at(in(20), [&] { order.push_back(2); }));
+        alarms.push_back(loop.at(in(10), [&] { order.push_back(1); }));
+    });
+    const auto start = ClientLoop::Clock::now();
+    done.get_future().wait();
+    EXPECT_GE(ClientLoop::Clock::now() - start, std::chrono::milliseconds(35));
+    EXPECT_EQ(order, (std::vector{1, 2}));
+}
+
+TEST(ClientLoop, ForgetsAnAlarmThatIsDropped)
+{
+    std::promise<void> later;
+    bool wentOff = false;
+    ClientLoop loop;
+    ClientLoop::Alarm kept;
+    loop.post([&] {
+        const auto now = ClientLoop::Clock::now();
+        auto dropped = loop.at(now + std::chrono::milliseconds(5), [&] { wentOff = true; });
+        kept = loop.at(now + std::chrono::milliseconds(20), [&] { later.set_value(); });
+    });
+    later.get_future().wait();
+    EXPECT_FALSE(wentOff);
 }
 
 TEST(ClientLoop, TakesWorkFromManyThreadsAndKeepsTheOrderOfEach)

@@ -33,6 +33,8 @@ struct FaultRow {
     std::string what;
     FaultServer::Script script;
     Code code;
+
+    friend void PrintTo(const FaultRow& row, std::ostream* out) { *out << row.what; }
 };
 
 class EachFault : public Transport, public testing::WithParamInterface<FaultRow> {};

@@ -21,6 +21,8 @@ struct CertificateRow {
     std::string what;
     CertificateTerms terms;
     Result expected;
+
+    friend void PrintTo(const CertificateRow& row, std::ostream* out) { *out << row.what; }
 };
 
 class EachCertificate : public Transport, public testing::WithParamInterface<CertificateRow> {};
@@ -40,6 +42,7 @@ INSTANTIATE_TEST_SUITE_P(Certificate, EachCertificate,
     testing::Values(CertificateRow{"good", {}, HttpResponse{}},
         CertificateRow{"expired", {.validFrom = -2h, .validUntil = -1h}, Code::serverCertificateUntrusted},
         CertificateRow{"of tomorrow", {.validFrom = 24h, .validUntil = 48h}, Code::serverCertificateUntrusted},
+        CertificateRow{"of a weak key", {.hasWeakKey = true}, Code::serverCertificateUntrusted},
         CertificateRow{
             "of another name", {.subjectAlternativeName = "DNS:elsewhere.test"}, Code::serverCertificateUntrusted},
         CertificateRow{
@@ -138,6 +141,14 @@ class DISABLED_InAHostileEnvironment : public Transport {};
 TEST_F(DISABLED_InAHostileEnvironment, AStrangerIsNotTrusted)
 {
     EXPECT_THAT(send(get(std::getenv("STRANGER"))), fails(Code::serverCertificateUntrusted));
+}
+
+TEST_F(DISABLED_InAHostileEnvironment, AServerWithAWeakKeyIsNotTrusted)
+{
+    FaultServer server(authority().issue({.hasWeakKey = true}), welcome);
+    const auto result = send(get(server.url()));
+    EXPECT_TRUE(std::holds_alternative<Code>(result));
+    EXPECT_TRUE(server.requests().empty());
 }
 
 TEST_F(DISABLED_InAHostileEnvironment, AnAnswerCutShortIsNotTaken)
