@@ -3,6 +3,8 @@
 #include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
+#include <cstddef>
+#include <optional>
 #include <vector>
 
 #include "workspace/Dashboard.h"
@@ -29,8 +31,11 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
 private:
-    void removeVanished(const std::vector<Row>& target);
-    void moveOrInsert(std::vector<Row>& target);
+    // The rows held are told by the places that they are wanted at.
+    void removeVanished(const std::vector<std::optional<std::size_t>>& places);
+    void reorder(std::vector<std::size_t>& places);
+    void sortAtOnce(std::vector<std::size_t>& places);
+    void insertAndPatch(std::vector<Row>& wanted, const std::vector<std::size_t>& places);
 
     std::vector<Row> rows_;
 };

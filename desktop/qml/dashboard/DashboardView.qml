@@ -31,6 +31,7 @@ FocusScope {
 
             KitMenu {
                 id: intervalMenu
+                onClosed: intervalButton.forceActiveFocus(Qt.PopupFocusReason)
                 Repeater {
                     model: view.dashboard.refreshIntervalLabels
                     KitMenuItem {

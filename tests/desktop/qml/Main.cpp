@@ -1,0 +1,14 @@
+#include <QAccessible>
+#include <QGuiApplication>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    const QGuiApplication application(argc, argv);
+    QAccessible::setActive(true);
+    return RUN_ALL_TESTS();
+}

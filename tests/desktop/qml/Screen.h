@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QAccessible>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+
+#include "fakes/Account.h"
+#include "qml/MainWindow.h"
+#include "workspace/Dashboard.h"
+
+namespace larkspan {
+
+/// The real window over a fake account, read and worked as a person with keyboard and screen reader would.
+class Screen : public fakes::Account {
+public:
+    Screen();
+
+    /// Lets both threads of the program and the window come to rest.
+    void settle();
+
+    /// What a screen reader would find: each accessible thing that is not hidden, in reading order.
+    struct Thing {
+        QAccessible::Role role;
+        QString name;
+        QString description;
+        QObject* object;
+    };
+    std::vector<Thing> things() const;
+    QStringList names(QAccessible::Role role) const;
+    bool shows(const QString& text) const;
+
+    /// The thing with that role and name; fails the test if there is none.
+    QQuickItem& item(QAccessible::Role role, const QString& name) const;
+
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+    /// Every item of the window, popups included.
+    void visit(const std::function<void(QQuickItem&)>& look) const;
+
+    QQuickWindow& window() { return mainWindow.window(); }
+    int requestCount() const { return static_cast<int>(transport.requests.size()); }
+
+    std::shared_ptr<workspace::Dashboard> dashboard
+        = std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{timers, clock, credentials, state});
+    MainWindow mainWindow{dashboard, main};
+};
+
+}  // namespace larkspan

@@ -1,0 +1,88 @@
+#include <QColor>
+#include <QQmlComponent>
+#include <QQmlEngine>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <memory>
+#include <string>
+
+#include "Screen.h"
+
+namespace larkspan {
+
+namespace {
+
+double channel(double value)
+{
+    return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+}
+
+double luminance(const QColor& color)
+{
+    return 0.2126 * channel(color.redF()) + 0.7152 * channel(color.greenF()) + 0.0722 * channel(color.blueF());
+}
+
+double contrast(const QColor& one, const QColor& other)
+{
+    const auto [darker, lighter] = std::minmax(luminance(one), luminance(other));
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+QColor tinted(const QColor& ground, const QColor& tint, float share)
+{
+    const auto mixed = [share](float below, float above) { return below * (1 - share) + above * share; };
+    return QColor::fromRgbF(
+        mixed(ground.redF(), tint.redF()), mixed(ground.greenF(), tint.greenF()), mixed(ground.blueF(), tint.blueF()));
+}
+
+class Theme : public testing::TestWithParam<bool> {
+protected:
+    Theme()
+    {
+        screen.mainWindow.appearance().setProperty("isDark", GetParam());
+        screen.settle();
+        QQmlComponent probe(qmlEngine(&screen.window()));
+        probe.setData("import QtQml; import Larkspan; QtObject { property QtObject theme: Theme }", {});
+        probe_.reset(probe.create());
+    }
+
+    QColor color(const char* token) const { return probe_->property("theme").value<QObject*>()->property(token).value<QColor>(); }
+
+    Screen screen;
+
+private:
+    std::unique_ptr<QObject> probe_;
+};
+
+TEST_P(Theme, KeepsStatusColoursLegibleOnACardAndOnTheirOwnTints)
+{
+    for (const char* token : {"green", "orange", "yellow", "red", "blue", "gray"}) {
+        EXPECT_GE(contrast(color(token), color("card")), 4.5) << token;
+        EXPECT_GE(contrast(color(token), tinted(color("card"), color(token), 0.15F)), 4.5) << token << " on 15 %";
+        EXPECT_GE(contrast(color(token), tinted(color("card"), color(token), 0.20F)), 4.5) << token << " on 20 %";
+    }
+}
+
+TEST_P(Theme, KeepsTextLegible)
+{
+    for (const char* ground : {"window", "card"}) {
+        EXPECT_GE(contrast(color("text"), color(ground)), 7) << ground;
+        EXPECT_GE(contrast(color("secondary"), color(ground)), 4.5) << ground;
+    }
+    EXPECT_GE(contrast(color("accentText"), color("accent")), 4.5);
+}
+
+TEST_P(Theme, IsWhatTheWindowIsPaintedWith)
+{
+    EXPECT_EQ(screen.window().color(), color("window"));
+    const auto picture = screen.window().grabWindow();
+    EXPECT_EQ(picture.pixelColor(2, picture.height() - 3), color("window"));
+}
+
+INSTANTIATE_TEST_SUITE_P(LightAndDark, Theme, testing::Bool());
+
+}  // namespace
+
+}  // namespace larkspan
