@@ -12,6 +12,7 @@ namespace larkspan {
 
 Application::Application(ServiceAccess service)
     : service_(std::move(service))
+    , appearance_(QDBusConnection::sessionBus())
     , api_({service_.client, service_.transport, service_.credentials, clock_}, service_.host)
     , app_(std::make_unique<core::LarkspanApp>(
           core::AppStateManager::Ports{main_, timers_, clock_, notifications_, networkMonitor_, api_}, windows_))
@@ -21,6 +22,12 @@ Application::Application(ServiceAccess service)
     window_ = std::make_unique<MainWindow>(std::move(dashboard), main_);
     windows_.add(window_->window());
 
+    using adapters::Appearance;
+    for (const auto changed :
+        {&Appearance::isDarkChanged, &Appearance::isHighContrastChanged, &Appearance::reducesMotionChanged}) {
+        connect(&appearance_, changed, this, &Application::showAppearance);
+    }
+    showAppearance();
     connect(window_.get(), &MainWindow::quitRequested, this, &Application::quit);
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state == Qt::ApplicationActive) app_->windowLifecycleDelegate().applicationDidBecomeActive();
@@ -39,9 +46,18 @@ Application::~Application()
 
 int Application::run()
 {
+    appearance_.catchUp();
     window_->window().show();
     app_->windowLifecycleDelegate().applicationDidFinishLaunching();
     return QGuiApplication::exec();
+}
+
+void Application::showAppearance()
+{
+    auto& shown = window_->appearance();
+    shown.setProperty("isDark", appearance_.isDark());
+    shown.setProperty("hasHighContrast", appearance_.isHighContrast());
+    shown.setProperty("reducesMotion", appearance_.reducesMotion());
 }
 
 void Application::reopen(const QString& activationToken)

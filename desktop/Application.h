@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "adapters/Appearance.h"
 #include "adapters/FreedesktopNotificationCenter.h"
 #include "adapters/MainExecutor.h"
 #include "adapters/QtNetworkPathMonitor.h"
@@ -46,7 +47,10 @@ public:
     void quit() { app_->quitApp(); }
 
 private:
+    void showAppearance();
+
     ServiceAccess service_;
+    adapters::Appearance appearance_;
     adapters::MainExecutor main_;
     adapters::QtTimers timers_;
     adapters::SystemClock clock_;
