@@ -63,6 +63,8 @@ Appearance::Appearance(QDBusConnection bus, QObject* parent)
     update();
     if (!bus_.isConnected()) return;
 
+    // Else it depends on what ran before whether Qt knows the type of the slot's argument, and connects.
+    qRegisterMetaType<QDBusVariant>();
     bus_.connect(portal, portalPath, settingsInterface, "SettingChanged", this,
         SLOT(onSettingChanged(QString, QString, QDBusVariant)));
     auto* const watcher = new QDBusServiceWatcher(portal, bus_, QDBusServiceWatcher::WatchForRegistration, this);

@@ -36,7 +36,7 @@ class Portal(dbus.service.Object):
             raise dbus.DBusException("no such setting", name="org.freedesktop.portal.Error.NotFound")
         value = self.settings[group, key]
         # The answer is a variant in a variant.
-        return TYPES[type(value)](value, variant_level=1)
+        return TYPES[type(value)](value, variant_level=2)
 
     @dbus.service.signal(SETTINGS, signature="ssv")
     def SettingChanged(self, group, key, value):
