@@ -119,7 +119,7 @@ TEST_P(EachWrite, ArrivesOnceWhereAllKeptConnectionsHaveDied)
 
 TEST_P(EachWrite, ArrivesOnceWhereItIsNeverAnswered)
 {
-    settings.idleTimeout = 50ms;
+    settings.idleTimeout = 500ms;
     FaultServer server(identity(), [](Conversation& peer, const auto&) { peer.hang(); });
     EXPECT_THAT(send(write(server)), fails(Code::timedOut));
     EXPECT_EQ(writesIn(server), 1);

@@ -51,7 +51,7 @@ TEST_F(TimeLimit, EndsARequestThatHangsPastIt)
 
 TEST_F(TimeLimit, EndsAnAnswerThatDripsPastIt)
 {
-    settings.idleTimeout = 100ms;
+    settings.idleTimeout = 350ms;
     FaultServer server(
         identity(), drips("HTTP/1.1 200 OK\r\nContent-Length: 9000\r\n\r\n" + std::string(9'000, 'x'), 5ms));
     expectTimeOut(within(400ms, server.url()), 400ms);
@@ -99,8 +99,8 @@ TEST_F(TimeLimit, OfSilenceEndsABodyThatStops)
 
 TEST_F(TimeLimit, OfSilenceBeginsAnewWithEachByteOfHeadAndBody)
 {
-    settings.idleTimeout = 100ms;
-    FaultServer server(identity(), drips("HTTP/1.1 200 OK\r\nX: y\r\nContent-Length: 9\r\n\r\n123456789", 30ms));
+    settings.idleTimeout = 600ms;
+    FaultServer server(identity(), drips("HTTP/1.1 200 OK\r\nX: y\r\nContent-Length: 9\r\n\r\n123456789", 20ms));
     EXPECT_THAT(send(get(server.url())), answers(200, "123456789"));
 }
 
