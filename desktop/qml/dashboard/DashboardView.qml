@@ -58,23 +58,36 @@ FocusScope {
         ]
     }
 
-    PlaceholderState {
-        anchors.horizontalCenter: parent.horizontalCenter
-        y: header.height + Math.round((parent.height - header.height - height) / 2)
-        width: Math.min(Theme.placeholderWidth * Theme.scale, parent.width - 2 * Theme.margin)
+    // Scrolls where a long sentence meets a small window.
+    Flickable {
+        id: middle
+        anchors.fill: parent
+        anchors.topMargin: header.height
         visible: !view.dashboard.showsList
-        symbol: view.dashboard.placeholderSymbol
-        tone: view.dashboard.placeholderTone
-        title: view.dashboard.placeholderTitle
-        text: view.dashboard.placeholderText
-        showsProgress: view.dashboard.placeholderShowsProgress
+        contentHeight: Math.max(height, placeholder.height + 2 * Theme.margin)
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
 
-        CommandButton {
-            visible: view.dashboard.placeholderOffersRetry
-            text: qsTr("Retry")
-            isProminent: true
-            onClicked: view.dashboard.refresh()
+        PlaceholderState {
+            id: placeholder
+            x: Math.round((middle.width - width) / 2)
+            y: Math.round((middle.contentHeight - height) / 2)
+            width: Math.min(Theme.placeholderWidth * Theme.scale, middle.width - 2 * Theme.margin)
+            symbol: view.dashboard.placeholderSymbol
+            tone: view.dashboard.placeholderTone
+            title: view.dashboard.placeholderTitle
+            text: view.dashboard.placeholderText
+            showsProgress: view.dashboard.placeholderShowsProgress
+
+            CommandButton {
+                visible: view.dashboard.placeholderOffersRetry
+                text: qsTr("Retry")
+                isProminent: true
+                onClicked: view.dashboard.refresh()
+            }
         }
+
+        T.ScrollBar.vertical: SlimScrollBar {}
     }
 
     ListView {

@@ -12,7 +12,7 @@ Rectangle {
     radius: Theme.cardRadius
     color: Theme.card
     border.width: Theme.hairline
-    border.color: Theme.line
+    border.color: Theme.orange
     Accessible.role: Accessible.AlertMessage
     Accessible.name: dashboard.refreshFailedText
 

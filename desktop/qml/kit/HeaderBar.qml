@@ -24,8 +24,9 @@ Rectangle {
 
     Label {
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(implicitWidth, Math.max(0, bar.freeRight - bar.freeLeft))
-        x: Math.round(Math.max(bar.freeLeft, Math.min((bar.width - width) / 2, bar.freeRight - width)))
+        // Half a title helps nobody, and the window's frame has it too.
+        visible: implicitWidth <= bar.freeRight - bar.freeLeft
+        x: Math.round(Math.max(bar.freeLeft, Math.min((bar.width - implicitWidth) / 2, bar.freeRight - implicitWidth)))
         text: bar.title
         font.weight: Font.DemiBold
         Accessible.role: Accessible.Heading
