@@ -10,8 +10,9 @@
 
 namespace larkspan {
 
-Application::Application(ServiceAccess service)
-    : service_(std::move(service))
+Application::Application(adapters::MainExecutor& main, ServiceAccess service)
+    : main_(main)
+    , service_(std::move(service))
     , appearance_(QDBusConnection::sessionBus())
     , api_({service_.client, service_.transport, service_.credentials, clock_}, service_.host)
     , app_(std::make_unique<core::LarkspanApp>(

@@ -34,7 +34,8 @@ struct ServiceAccess {
 /// The program, put together over a `QGuiApplication` and taken apart again. Main thread only.
 class Application final : public QObject {
 public:
-    explicit Application(ServiceAccess service);
+    /// `main` is the executor of this thread, and nothing else runs on it once the application has gone.
+    Application(adapters::MainExecutor& main, ServiceAccess service);
     ~Application() override;
 
     /// Shows the window and runs until the program is asked to end.
@@ -49,9 +50,9 @@ public:
 private:
     void showAppearance();
 
+    adapters::MainExecutor& main_;
     ServiceAccess service_;
     adapters::Appearance appearance_;
-    adapters::MainExecutor main_;
     adapters::QtTimers timers_;
     adapters::SystemClock clock_;
     adapters::QtWindowSystem windows_;

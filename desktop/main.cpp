@@ -7,10 +7,12 @@
 #include "BuildSettings.h"
 #include "adapters/ActivationToken.h"
 #include "adapters/HardenProcess.h"
+#include "adapters/MainExecutor.h"
 #include "adapters/SingleInstance.h"
 #include "adapters/TerminationSignals.h"
 #include "adapters/http/ClientLoop.h"
 #include "adapters/http/CurlTransport.h"
+#include "adapters/http/PortalProxies.h"
 #include "adapters/secrets/SecretServiceStore.h"
 
 int main(int argc, char* argv[])
@@ -26,10 +28,12 @@ int main(int argc, char* argv[])
     adapters::SingleInstance instance(QDBusConnection::sessionBus());
     if (instance.claim(activationToken) == adapters::SingleInstance::Standing::second) return 0;
 
+    adapters::MainExecutor main;
+    adapters::PortalProxies proxies(QDBusConnection::sessionBus(), main);
     adapters::SecretServiceStore credentials;
     std::optional<adapters::ClientLoop> client(std::in_place);
-    adapters::CurlTransport transport(*client);
-    Application application({
+    adapters::CurlTransport transport(*client, {.proxies = &proxies});
+    Application application(main, {
         .host = BuildSettings::serviceHost,
         .client = *client,
         .transport = transport,

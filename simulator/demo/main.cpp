@@ -4,6 +4,7 @@
 
 #include "Application.h"
 #include "adapters/ActivationToken.h"
+#include "adapters/MainExecutor.h"
 #include "adapters/SystemClock.h"
 #include "adapters/TerminationSignals.h"
 #include "api/KeychainHelper.h"
@@ -18,7 +19,8 @@ int main(int argc, char* argv[])
 
     const adapters::SystemClock clock;
     simulator::DemoAccount account(clock, api::KeychainHelper::item, std::chrono::milliseconds(250));
-    Application application({
+    adapters::MainExecutor main;
+    Application application(main, {
         .host = "demo.kestrune.example",
         .client = account.executor(),
         .transport = account.transport(),
