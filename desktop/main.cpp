@@ -33,18 +33,19 @@ int main(int argc, char* argv[])
     adapters::SecretServiceStore credentials;
     std::optional<adapters::ClientLoop> client(std::in_place);
     adapters::CurlTransport transport(*client, {.proxies = &proxies});
-    Application application(main, {
-        .host = BuildSettings::serviceHost,
-        .client = *client,
-        .transport = transport,
-        .credentials = credentials,
-        .stop =
-            [&] {
-                credentials.stop();
-                transport.stop();
-                client.reset();
-            },
-    });
+    Application application(main,
+        {
+            .host = BuildSettings::serviceHost,
+            .client = *client,
+            .transport = transport,
+            .credentials = credentials,
+            .stop =
+                [&] {
+                    credentials.stop();
+                    transport.stop();
+                    client.reset();
+                },
+        });
 
     const adapters::TerminationSignals termination;
     QObject::connect(&termination, &adapters::TerminationSignals::requested, &application, &Application::quit);

@@ -60,7 +60,8 @@ public:
 
         auto state = core::AppStateManager::make({main_, timers_, clock_, outside_, outside_, api_});
         scene.arrange(*state);
-        auto dashboard = std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{timers_, clock_, outside_, state});
+        auto dashboard
+            = std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{timers_, clock_, outside_, state});
         MainWindow mainWindow(dashboard, main_);
         mainWindow.appearance().setProperty("isDark", isDark);
         mainWindow.appearance().setProperty("reducesMotion", true);

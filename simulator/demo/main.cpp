@@ -20,13 +20,14 @@ int main(int argc, char* argv[])
     const adapters::SystemClock clock;
     simulator::DemoAccount account(clock, api::KeychainHelper::item, std::chrono::milliseconds(250));
     adapters::MainExecutor main;
-    Application application(main, {
-        .host = "demo.kestrune.example",
-        .client = account.executor(),
-        .transport = account.transport(),
-        .credentials = account.credentialStore(),
-        .stop = [&account] { account.stop(); },
-    });
+    Application application(main,
+        {
+            .host = "demo.kestrune.example",
+            .client = account.executor(),
+            .transport = account.transport(),
+            .credentials = account.credentialStore(),
+            .stop = [&account] { account.stop(); },
+        });
 
     const adapters::TerminationSignals termination;
     QObject::connect(&termination, &adapters::TerminationSignals::requested, &application, &Application::quit);

@@ -48,7 +48,10 @@ protected:
         probe_.reset(probe.create());
     }
 
-    QColor color(const char* token) const { return probe_->property("theme").value<QObject*>()->property(token).value<QColor>(); }
+    QColor color(const char* token) const
+    {
+        return probe_->property("theme").value<QObject*>()->property(token).value<QColor>();
+    }
 
     Screen screen;
 
