@@ -177,7 +177,6 @@ FocusScope {
         anchors.right: parent.right
         anchors.bottom: parent.bottom
         anchors.margins: Theme.margin
-        visible: view.dashboard.showsRefreshFailure
     }
 
     Shortcut {

@@ -17,12 +17,13 @@ Rectangle {
     Accessible.name: dashboard.refreshFailedText
 
     // It comes softly but goes at once: what it says is no longer true then.
-    NumberAnimation on opacity {
-        running: notice.visible
-        from: 0
-        to: 1
-        duration: Theme.calm
-        easing.type: Easing.OutCubic
+    visible: dashboard.showsRefreshFailure
+    opacity: visible ? 1 : 0
+    Behavior on opacity {
+        NumberAnimation {
+            duration: Theme.calm
+            easing.type: Easing.OutCubic
+        }
     }
 
     Row {

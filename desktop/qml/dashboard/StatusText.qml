@@ -7,7 +7,7 @@ Row {
     id: status
     required property DashboardBridge dashboard
 
-    spacing: Theme.halfUnit
+    spacing: Theme.unit
 
     BusyIndicator {
         anchors.verticalCenter: parent.verticalCenter
