@@ -34,6 +34,16 @@ protected:
         return opened();
     }
 
+    /// Opened with no key stored, `text` entered and "Save & Verify" pressed, as far as that gets.
+    std::shared_ptr<Settings> enteredWithoutKey(std::string text)
+    {
+        auto settings = openedWithoutKey();
+        settings->edit(std::move(text));
+        settings->saveAndVerify();
+        run();
+        return settings;
+    }
+
     api::APIKeyStore keys{client, credentials};
     int deletions = 0;
 };
@@ -92,10 +102,7 @@ TEST_F(SettingsSheet, WhileVerifyingTheButtonIsDisabledAndASecondStartDoesNothin
 TEST_F(SettingsSheet, APastedKeyWithATrailingNewlineIsVerifiedAndStoredWithoutIt)
 {
     transport.script(pagesURL, 200, "[]");
-    const auto settings = openedWithoutKey();
-    settings->edit("  k-new\r\n");
-    settings->saveAndVerify();
-    run();
+    const auto settings = enteredWithoutKey("  k-new\r\n");
     EXPECT_EQ(transport.requests.at(0).headers.at(1).second, "k-new");
     EXPECT_EQ(KeychainHelper::readAPIKey(credentials), "k-new");
 }
@@ -103,10 +110,7 @@ TEST_F(SettingsSheet, APastedKeyWithATrailingNewlineIsVerifiedAndStoredWithoutIt
 TEST_F(SettingsSheet, AnAcceptedKeyEmptiesTheFieldAndReadsConnected)
 {
     transport.script(pagesURL, 200, "[]");
-    const auto settings = openedWithoutKey();
-    settings->edit("k-new");
-    settings->saveAndVerify();
-    run();
+    const auto settings = enteredWithoutKey("k-new");
     EXPECT_TRUE(settings->showsSavedKey());
     EXPECT_EQ(*settings->apiKey, "");
     EXPECT_EQ(settings->validationState->kind, Kind::valid);
@@ -115,10 +119,7 @@ TEST_F(SettingsSheet, AnAcceptedKeyEmptiesTheFieldAndReadsConnected)
 TEST_F(SettingsSheet, StartsNoRefreshOfItsOwn)
 {
     transport.script(pagesURL, 200, "[]");
-    const auto settings = openedWithoutKey();
-    settings->edit("k-new");
-    settings->saveAndVerify();
-    run();
+    const auto settings = enteredWithoutKey("k-new");
     EXPECT_EQ(transport.requests.size(), 1u) << "the verification alone";
 }
 
@@ -171,10 +172,7 @@ TEST_F(SettingsSheet, AStoreThatCannotBeWrittenAfterAGoodVerificationSaysSoAndAn
 TEST_F(SettingsSheet, EditingReturnsTheMarkerToIdle)
 {
     transport.script(pagesURL, 401, "");
-    const auto settings = openedWithoutKey();
-    settings->edit("k-wrong");
-    settings->saveAndVerify();
-    run();
+    const auto settings = enteredWithoutKey("k-wrong");
     settings->edit("k-wron");
     EXPECT_EQ(settings->validationState->kind, Kind::idle);
 }
@@ -190,10 +188,7 @@ TEST_F(SettingsSheet, EditingLeavesAnIdleMarkerAlone)
 
 TEST_F(SettingsSheet, AnEditDuringTheVerificationIsOverriddenByItsResult)
 {
-    const auto settings = openedWithoutKey();
-    settings->edit("k-wrong");
-    settings->saveAndVerify();
-    run();
+    const auto settings = enteredWithoutKey("k-wrong");
     settings->edit("k-wron");
     EXPECT_EQ(settings->validationState->kind, Kind::idle);
     transport.answer(HttpResponse{401, ""});
@@ -203,10 +198,7 @@ TEST_F(SettingsSheet, AnEditDuringTheVerificationIsOverriddenByItsResult)
 
 TEST_F(SettingsSheet, ClosedDuringTheVerificationItStillStoresAnAcceptedKey)
 {
-    auto settings = openedWithoutKey();
-    settings->edit("k-new");
-    settings->saveAndVerify();
-    run();
+    auto settings = enteredWithoutKey("k-new");
     settings.reset();
     transport.answer(HttpResponse{200, "[]"});
     run();
