@@ -54,17 +54,27 @@ void TransportOperations::findProxy(Id id)
     // libcurl reads the environment by itself.
     if (!settings_.proxies || environmentNamesProxy()) return awaitTurn(id);
 
-    auto answer = [&loop = loop_, operations = weak_from_this(), id](std::string proxy) {
-        loop.post([operations, id, proxy = std::move(proxy)]() mutable {
-            const auto alive = operations.lock();
-            if (!alive) return;
-            const auto found = alive->operations_.find(id);
-            if (found == alive->operations_.end()) return;
-            found->second.proxy = std::move(proxy);
-            alive->awaitTurn(id);
-        });
+    auto answer = [operations = weak_from_this(), id](std::string proxy) {
+        if (const auto alive = operations.lock()) alive->bringProxy(id, std::move(proxy));
     };
     settings_.proxies->findProxy(operations_.at(id).request.url, std::move(answer));
+}
+
+void TransportOperations::bringProxy(Id id, std::string proxy)
+{
+    // The desktop may answer when the program ends and the loop is gone.
+    if (isStopped_) return;
+    loop_.post([operations = weak_from_this(), id, proxy = std::move(proxy)]() mutable {
+        if (const auto alive = operations.lock()) alive->takeProxy(id, std::move(proxy));
+    });
+}
+
+void TransportOperations::takeProxy(Id id, std::string proxy)
+{
+    const auto found = operations_.find(id);
+    if (found == operations_.end()) return;
+    found->second.proxy = std::move(proxy);
+    awaitTurn(id);
 }
 
 void TransportOperations::awaitTurn(Id id)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -53,6 +54,8 @@ private:
     };
 
     void findProxy(Id id);
+    void bringProxy(Id id, std::string proxy);
+    void takeProxy(Id id, std::string proxy);
     void awaitTurn(Id id);
     bool isReading() const;
     void exchange(Id id);
@@ -63,7 +66,7 @@ private:
     const TransportSettings settings_;
     std::map<Id, Operation> operations_;
     Id lastId_ = 0;
-    bool isStopped_ = false;
+    std::atomic<bool> isStopped_{false};
 };
 
 }  // namespace larkspan::adapters

@@ -23,7 +23,7 @@ struct TransportSettings {
     /// How long a read waits for the connection of another one before it gets a connection of its own.
     std::chrono::milliseconds patience{500};
 
-    /// Asked where the environment names no proxy. Outlives the transport, and the loop outlives it.
+    /// Asked where the environment names no proxy. Outlives the transport; may answer after the transport has stopped.
     ProxySettings* proxies = nullptr;
 };
 

@@ -1,3 +1,4 @@
+#include <atomic>
 #include <cstdlib>
 #include <optional>
 
@@ -31,10 +32,18 @@ public:
     void findProxy(std::string, support::UniqueFunction<void(std::string)> answer) override
     {
         unanswered_.push_back(std::move(answer));
+        hasBeenAsked_ = true;
+    }
+
+    bool isAsked() const { return hasBeenAsked_; }
+    void answerAll(const std::string& proxy)
+    {
+        for (auto& answer : unanswered_) answer(proxy);
     }
 
 private:
     std::vector<support::UniqueFunction<void(std::string)>> unanswered_;
+    std::atomic<bool> hasBeenAsked_{false};
 };
 
 /// A variable of the environment, for a while.
@@ -133,6 +142,23 @@ TEST_F(Transport, HoldsToItsTimeWhileTheProxyIsLookedUp)
     sent.timeout = 50ms;
     EXPECT_THAT(send(sent), fails(Code::timedOut));
     dropTransport();
+}
+
+TEST_F(Transport, TakesAProxyThatComesAfterTheEndForNothing)
+{
+    UnansweredProxy desktop;
+    settings.proxies = &desktop;
+    std::optional<ClientLoop> client(std::in_place);
+    CurlTransport stopped(*client, settings);
+    bool isCompleted = false;
+    stopped.send(get("https://service.test/"), {}, [&](const Result&) { isCompleted = true; });
+    while (!desktop.isAsked()) std::this_thread::sleep_for(1ms);
+
+    stopped.stop();
+    client.reset();
+    desktop.answerAll("http://proxy.test:3128");
+
+    EXPECT_FALSE(isCompleted);
 }
 
 TEST_F(Transport, SendsAWriteThroughAProxyOnceOverATunnelOfItsOwn)
