@@ -39,7 +39,7 @@ def desktop():
     """Surroundings in which the program finds its key and its service; no window manager, which takes time of its own."""
     with (tempfile.TemporaryDirectory(prefix="larkspan-bench-") as home, service.simulator() as simulator,
           display.server() as screen, session.session(screen, Path(home)) as around, keyring.keyring(around) as keys):
-        simulator.trust_authority()
+        simulator.reset()
         keys.store(service.KEY.encode())
         yield simulator, around.surroundings
 
