@@ -96,10 +96,11 @@ bool QtWindow::isMinimized() const
 
 void QtWindow::forgetRefusedMinimizing()
 {
-    // A window manager without icons ignores the wish, while Qt goes on to believe that it was granted.
+    // A window manager without icons ignores the wish, while Qt goes on to believe that it was granted. On Wayland Qt
+    // would believe it even after the user has brought the window back.
     if (!window_ || !isMinimized() || !window_->isExposed()) return;
     window_->setWindowStates(window_->windowStates() & ~Qt::WindowMinimized);
-    wasMinimized_ = false;
+    if (X11Activation::isNeeded()) wasMinimized_ = false;
 }
 
 }  // namespace larkspan::adapters
