@@ -14,6 +14,7 @@ Application::Application(adapters::MainExecutor& main, ServiceAccess service)
     : main_(main)
     , service_(std::move(service))
     , appearance_(QDBusConnection::sessionBus())
+    , notifications_(QDBusConnection::sessionBus())
     , api_({service_.client, service_.transport, service_.credentials, clock_}, service_.host)
     , app_(std::make_unique<core::LarkspanApp>(
           core::AppStateManager::Ports{main_, timers_, clock_, notifications_, networkMonitor_, api_}, windows_))

@@ -33,6 +33,7 @@ struct NoOutside final : platform::HttpTransport,
     void remove(const platform::CredentialItem&) override {}
     void allowPromptAgain() override {}
     void requestAuthorization() override {}
+    void add(const platform::NotificationRequest&) override {}
     void start(std::function<void(bool)>) override {}
 };
 
