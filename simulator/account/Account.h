@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "account/Incident.h"
+#include "account/Maintenance.h"
 #include "account/StatusPage.h"
 
 namespace larkspan::simulator {
@@ -18,6 +20,10 @@ struct Account {
 
     std::map<std::string, KeyRights, std::less<>> keys;
     std::vector<StatusPage> statusPages;
+    /// Newest first, as the maintenances.
+    std::vector<Incident> incidents = {};
+    std::vector<IncidentState> incidentStates = ordinaryIncidentStates();
+    std::vector<Maintenance> maintenances = {};
 };
 
 }  // namespace larkspan::simulator

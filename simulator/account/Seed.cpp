@@ -6,6 +6,8 @@
 #include <charconv>
 #include <string>
 
+#include "account/EventSeed.h"
+
 namespace larkspan::simulator {
 
 namespace {
@@ -103,6 +105,15 @@ std::vector<StatusPage> seededPages(std::size_t count)
     pages.reserve(count);
     for (std::size_t index = 0; index < count; ++index) pages.push_back(pageAt(index));
     return pages;
+}
+
+Account seededAccount(std::size_t pages, support::Time now)
+{
+    Account account;
+    account.statusPages = seededPages(pages);
+    account.incidents = seededIncidents(account.statusPages, now);
+    account.maintenances = seededMaintenances(account.statusPages, now);
+    return account;
 }
 
 }  // namespace larkspan::simulator

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "account/StatusPage.h"
+#include "account/Account.h"
 
 namespace larkspan::simulator {
 
@@ -15,5 +15,8 @@ std::optional<std::size_t> seedSize(std::string_view name);
 /// Believable pages, each name and id once; the same for the same count. All are operational but for
 /// a degraded one in each nine, a down one in each eleven and one under maintenance in each thirteen.
 std::vector<StatusPage> seededPages(std::size_t count);
+
+/// So many believable pages, and incidents and maintenances of theirs by the time `now`; no keys.
+Account seededAccount(std::size_t pages, support::Time now);
 
 }  // namespace larkspan::simulator

@@ -6,11 +6,10 @@ namespace larkspan::simulator {
 
 namespace {
 
-Account smallAccount()
+Account smallAccount(support::Time now)
 {
-    Account account;
+    auto account = seededAccount(*seedSize("small"), now);
     account.keys.emplace(DemoAccount::key, KeyRights::full);
-    account.statusPages = seededPages(*seedSize("small"));
     return account;
 }
 
@@ -18,10 +17,10 @@ Account smallAccount()
 
 DemoAccount::DemoAccount(
     const platform::Clock& clock, const platform::CredentialItem& item, std::chrono::milliseconds latency)
-    : service_(smallAccount())
+    : service_(smallAccount(clock.now()), clock)
     , transport_(std::in_place, service_, worker_, worker_)
 {
-    service_.live(Storyline::ordinaryDay(), clock);
+    service_.live(Storyline::ordinaryDay());
     service_.inject({fault::Delay{latency}});
     credentialStore_.add(item, key);
 }

@@ -43,24 +43,24 @@ void changePage(StatusPage& page, const Json& order)
         page.overview = StatusPage::Overview{requiredText(order, "code"), requiredText(order, "label")};
 }
 
-std::vector<StatusPage> readPages(const Json& order)
+Account readAccount(const Json& order, support::Time now)
 {
     if (order.find("seed")) {
         const auto size = seedSize(requiredText(order, "seed"));
         if (!size) throw BadOrder("There is no such seed.");
-        return seededPages(*size);
+        return seededAccount(*size, now);
     }
     const auto* list = required(order, "pages").array();
     if (!list) throw BadOrder("\"pages\" is no list.");
-    std::vector<StatusPage> pages;
+    Account account;
     for (const auto& item : *list) {
         StatusPage page;
         page.id = requiredText(item, "id");
         page.name = requiredText(item, "name");
         changePage(page, item);
-        pages.push_back(std::move(page));
+        account.statusPages.push_back(std::move(page));
     }
-    return pages;
+    return account;
 }
 
 std::map<std::string, KeyRights, std::less<>> readKeys(const Json& order)
@@ -123,8 +123,11 @@ Control::Control(Service& service, ServerCertificates& certificates)
         return done;
     });
     router_.add("PUT", "/simulator/pages", [&service, order](const Call& call) {
-        auto pages = readPages(order(call));
-        service.withAccount([&pages](Account& account) { account.statusPages = std::move(pages); });
+        auto fresh = readAccount(order(call), service.now());
+        service.withAccount([&fresh](Account& account) {
+            fresh.keys = std::move(account.keys);
+            account = std::move(fresh);
+        });
         return done;
     });
     router_.add("PATCH", "/simulator/pages/*", [&service, order](const Call& call) {
@@ -158,7 +161,7 @@ Reply Control::answer(const Request& request)
     Answer answer;
     try {
         Account none;
-        answer = router_.route(request, none);
+        answer = router_.route(request, none, {});
     } catch (const std::runtime_error& error) {
         answer = {400, Json::object({{"error", error.what()}})};
     }

@@ -10,15 +10,15 @@ namespace larkspan::simulator {
 
 /// How a test or a person behind another terminal steers a running simulator, under paths outside the service's:
 ///
-///     POST   /simulator/faults       a fault, as `readFaultRule` takes it
-///     DELETE /simulator/faults       no faults any more
-///     GET    /simulator/requests     what the service was sent: method, target, headers, body
-///     DELETE /simulator/requests     forget that
-///     PUT    /simulator/pages        {"seed": "small"} or {"pages": [{"id", "name", "health"}, ...]}
-///     PATCH  /simulator/pages/ID     {"health": "degraded"}, {"name": ...}, {"status": ...}, {"code": ..., "label":
-///     ...} PUT    /simulator/keys         {"KEY": "full" or "none", ...}, in place of those known PUT /simulator/shape
-///     {"shape": "data" or "bare"} PUT    /simulator/certificate  {"certificate": "valid", "expired", "wrong-name" or
-///     "untrusted"}
+/// - POST /simulator/faults: a fault, as `readFaultRule` takes it; DELETE: no faults any more
+/// - GET /simulator/requests: what the service was sent: method, target, headers, body; DELETE: forget that
+/// - PUT /simulator/pages: {"seed": "small"} or {"pages": [{"id", "name", "health"}, ...]}, which come without
+/// incidents
+///   and maintenances; those known before are gone
+/// - PATCH /simulator/pages/ID: {"health": "degraded"}, {"name"}, {"status"}, {"code", "label"}
+/// - PUT /simulator/keys: {"KEY": "full" or "none", ...}, in place of those known
+/// - PUT /simulator/shape: {"shape": "data" or "bare"}
+/// - PUT /simulator/certificate: {"certificate": "valid", "expired", "wrong-name" or "untrusted"}
 ///
 /// Answers 204, or the result, or 400 with a sentence under "error". Needs no key.
 class Control {

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "account/Seed.h"
-#include "platform/Clock.h"
 #include "server/AuthorityStore.h"
 #include "server/HttpsServer.h"
 #include "server/Options.h"
@@ -13,14 +12,6 @@
 namespace {
 
 using namespace larkspan;
-
-class SystemClock final : public platform::Clock {
-public:
-    support::Time now() const override
-    {
-        return std::chrono::time_point_cast<std::chrono::milliseconds>(std::chrono::system_clock::now());
-    }
-};
 
 /// Signals wait for `waitForSignal`, in this thread and all that it starts.
 sigset_t holdSignals()
@@ -39,11 +30,11 @@ sigset_t holdSignals()
 void serve(const simulator::Options& options)
 {
     const auto signals = holdSignals();
-    const SystemClock clock;
-    simulator::Service service(
-        {{{options.key, simulator::KeyRights::full}}, simulator::seededPages(*simulator::seedSize(options.seed))});
+    auto account = simulator::seededAccount(*simulator::seedSize(options.seed), simulator::wallClock().now());
+    account.keys.emplace(options.key, simulator::KeyRights::full);
+    simulator::Service service(std::move(account));
     service.setShape(options.shape);
-    if (options.isLiving) service.live(simulator::Storyline::ordinaryDay(), clock);
+    if (options.isLiving) service.live(simulator::Storyline::ordinaryDay());
 
     const simulator::AuthorityStore store(options.directory);
     simulator::ServerCertificates certificates(store.authority(), options.certificate, options.host);

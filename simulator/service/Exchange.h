@@ -20,6 +20,9 @@ struct Request {
     /// The target up to its "?".
     std::string_view path() const;
 
+    /// The first value of that name in the query, its percent-encoding undone.
+    std::optional<std::string> query(std::string_view name) const;
+
     std::string method;
     std::string target;
     Headers headers;

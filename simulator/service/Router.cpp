@@ -41,14 +41,14 @@ void Router::add(std::string method, std::string_view pattern, Handler handler)
     routes_.push_back({std::move(method), segmentsOf(pattern), std::move(handler)});
 }
 
-Answer Router::route(const Request& request, Account& account) const
+Answer Router::route(const Request& request, Account& account, support::Time now) const
 {
     const auto path = segmentsOf(request.path());
     std::string allowed;
     for (const auto& route : routes_) {
         auto matched = wildcards(route.segments, path);
         if (!matched) continue;
-        if (route.method == request.method) return route.handler(Call{request, account, std::move(*matched)});
+        if (route.method == request.method) return route.handler(Call{request, account, std::move(*matched), now});
         allowed += (allowed.empty() ? "" : ", ") + route.method;
     }
     if (allowed.empty()) return {404, Json::object({{"error", "Not found"}})};

@@ -18,6 +18,7 @@ struct Call {
     Account& account;
     /// What stood in the path where the route has a "*", in order.
     std::vector<std::string> wildcards;
+    support::Time now;
 };
 
 /// What a handler answers: a status and the result, which is put into its shape later. A status outside 200 to 299
@@ -37,7 +38,7 @@ public:
     void add(std::string method, std::string_view pattern, Handler handler);
 
     /// 404 where no route has the path, 405 where none of those has the method.
-    Answer route(const Request& request, Account& account) const;
+    Answer route(const Request& request, Account& account, support::Time now) const;
 
 private:
     struct Route {

@@ -3,26 +3,29 @@
 #include <utility>
 
 #include "service/Authentication.h"
+#include "service/IncidentsResource.h"
+#include "service/MaintenancesResource.h"
 #include "service/StatusPagesResource.h"
 
 namespace larkspan::simulator {
 
-Service::Service(Account account)
-    : account_(std::move(account))
+Service::Service(Account account, const platform::Clock& clock)
+    : clock_(clock)
+    , account_(std::move(account))
 {
     addStatusPagesRoutes(router_);
+    addIncidentsRoutes(router_);
+    addMaintenancesRoutes(router_);
 }
 
 Reply Service::answer(const Request& request)
 {
     const std::scoped_lock lock(mutex_);
     record(request);
-    if (life_) {
-        const auto now = life_->clock->now();
-        life_->story.tellUpTo(now - life_->start, now, account_);
-    }
+    const auto now = clock_.now();
+    if (life_) life_->story.tellUpTo(now - life_->start, now, account_);
     const auto faults = faults_.take(request);
-    auto reply = replyTo(request, faults);
+    auto reply = replyTo(request, faults, now);
     for (const auto& fault : faults) spoil(fault, reply);
     return reply;
 }
@@ -33,10 +36,10 @@ void Service::withAccount(const std::function<void(Account&)>& use)
     use(account_);
 }
 
-void Service::live(Storyline story, const platform::Clock& clock)
+void Service::live(Storyline story)
 {
     const std::scoped_lock lock(mutex_);
-    life_.emplace(Life{std::move(story), &clock, clock.now()});
+    life_.emplace(Life{std::move(story), clock_.now()});
 }
 
 void Service::setShape(ResultShape shape)
@@ -69,9 +72,9 @@ void Service::forgetReceived()
     received_.clear();
 }
 
-Reply Service::replyTo(const Request& request, const std::vector<Fault>& faults)
+Reply Service::replyTo(const Request& request, const std::vector<Fault>& faults, support::Time now)
 {
-    auto answer = answerOfResource(request);
+    auto answer = answerOfResource(request, now);
     Reply reply;
     reply.status = answer.status;
     reply.headers = std::move(answer.headers);
@@ -87,14 +90,14 @@ Reply Service::replyTo(const Request& request, const std::vector<Fault>& faults)
     return reply;
 }
 
-Answer Service::answerOfResource(const Request& request)
+Answer Service::answerOfResource(const Request& request, support::Time now)
 {
     if (!request.path().starts_with("/user/api/")) return {404, Json::object({{"error", "Not found"}})};
     if (const auto status = refusal(request, account_)) {
         const auto* reason = *status == 401 ? "Unauthorized" : "Forbidden";
         return {*status, Json::object({{"error", reason}})};
     }
-    return router_.route(request, account_);
+    return router_.route(request, account_, now);
 }
 
 void Service::record(const Request& request)

@@ -12,6 +12,7 @@
 #include "service/Exchange.h"
 #include "service/FaultPlan.h"
 #include "service/Router.h"
+#include "service/WallClock.h"
 
 namespace larkspan::simulator {
 
@@ -22,7 +23,8 @@ enum class ResultShape { underData, bare };
 /// Every operation may be called from any thread.
 class Service {
 public:
-    explicit Service(Account account);
+    /// `clock` outlives the service.
+    explicit Service(Account account, const platform::Clock& clock = wallClock());
 
     /// Answers a request and records it.
     Reply answer(const Request& request);
@@ -30,8 +32,10 @@ public:
     /// Looks at the account or changes it.
     void withAccount(const std::function<void(Account&)>& use);
 
-    /// Lets a story happen to the account, from now on by `clock`, which outlives the service.
-    void live(Storyline story, const platform::Clock& clock);
+    /// Lets a story happen to the account, from now on.
+    void live(Storyline story);
+
+    support::Time now() const { return clock_.now(); }
 
     void setShape(ResultShape shape);
 
@@ -43,16 +47,16 @@ public:
     void forgetReceived();
 
 private:
-    Reply replyTo(const Request& request, const std::vector<Fault>& faults);
-    Answer answerOfResource(const Request& request);
+    Reply replyTo(const Request& request, const std::vector<Fault>& faults, support::Time now);
+    Answer answerOfResource(const Request& request, support::Time now);
     void record(const Request& request);
 
     struct Life {
         Storyline story;
-        const platform::Clock* clock;
         support::Time start;
     };
 
+    const platform::Clock& clock_;
     mutable std::mutex mutex_;
     Account account_;
     std::optional<Life> life_;

@@ -71,6 +71,12 @@ INSTANTIATE_TEST_SUITE_P(EachPath, Routes,
         RouteRow{"PagesUnderTheOtherBase", "GET", "/user/api/status-pages", 404},
         RouteRow{"Overview", "GET", "/user/api/status-pages/status", 200},
         RouteRow{"OverviewUnderTheOtherBase", "GET", "/user/api/v1/status-pages/status", 404},
+        RouteRow{"Incidents", "GET", "/user/api/v1/incidents", 200},
+        RouteRow{"IncidentsUnderTheOtherBase", "GET", "/user/api/incidents", 404},
+        RouteRow{"States", "GET", "/user/api/incident-states", 200},
+        RouteRow{"StatesUnderTheOtherBase", "GET", "/user/api/v1/incident-states", 404},
+        RouteRow{"Maintenances", "GET", "/user/api/v1/maintenances", 200},
+        RouteRow{"MaintenancesUnderTheOtherBase", "GET", "/user/api/maintenances", 404},
         RouteRow{"TrailingSlash", "GET", "/user/api/v1/status-pages/", 404},
         RouteRow{"DoubleSlash", "GET", "/user/api/v1//status-pages", 404}, RouteRow{"Outside", "GET", "/", 404},
         RouteRow{"Post", "POST", "/user/api/v1/status-pages", 405},
@@ -152,8 +158,8 @@ TEST(Service, RecordsWhatItWasSentInOrder)
 TEST(Service, LetsAStoryHappenByTheClock)
 {
     fakes::ManualClock clock;
-    Service service(samples::account());
-    service.live(Storyline::ordinaryDay(), clock);
+    Service service(samples::account(), clock);
+    service.live(Storyline::ordinaryDay());
     clock.time += 45s;
 
     service.answer(request(pagesPath));
