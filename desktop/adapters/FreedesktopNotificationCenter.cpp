@@ -1,19 +1,167 @@
 #include "adapters/FreedesktopNotificationCenter.h"
 
 #include <QDBusMessage>
-#include <QDBusPendingCall>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 #include <QVariantMap>
+
+#include <algorithm>
 
 namespace larkspan::adapters {
 
+namespace {
+
+constexpr auto server = "org.freedesktop.Notifications";
+constexpr auto serverPath = "/org/freedesktop/Notifications";
+constexpr auto serverInterface = "org.freedesktop.Notifications";
+constexpr auto programId = "com.kestrune.larkspan";
+
+// What a server that answers nothing, or a service that reports without end, can make this program hold.
+constexpr std::size_t mostWaiting = 256;
+constexpr std::size_t mostSending = 16;
+constexpr std::size_t mostShown = 512;
+
+constexpr uchar normalUrgency = 1;
+constexpr int expiresAsTheServerSees = -1;
+
+QVariantMap hintsOf(const NotificationText& text)
+{
+    return {
+        {"desktop-entry", programId},
+        {"sound-name", "message-new-instant"},
+        {"urgency", QVariant::fromValue(normalUrgency)},
+        {"x-kestrune-type", text.type},
+        {"x-kestrune-id", text.id},
+    };
+}
+
+}  // namespace
+
+FreedesktopNotificationCenter::FreedesktopNotificationCenter(QDBusConnection bus, std::chrono::milliseconds deadline)
+    : bus_(std::move(bus))
+    , deadline_(static_cast<int>(deadline.count()))
+{
+    if (!bus_.isConnected()) return;
+
+    bus_.connect(
+        server, serverPath, serverInterface, "NotificationClosed", this, SLOT(onNotificationClosed(uint, uint)));
+    auto* const watcher = new QDBusServiceWatcher(server, bus_, QDBusServiceWatcher::WatchForOwnerChange, this);
+    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
+        [this](const QString&, const QString& oldOwner) { onOwnerChanged(oldOwner); });
+}
+
 void FreedesktopNotificationCenter::add(const platform::NotificationRequest& request)
 {
-    auto call = QDBusMessage::createMethodCall(
-        "org.freedesktop.Notifications", "/org/freedesktop/Notifications", "org.freedesktop.Notifications", "Notify");
-    const auto body = QString::fromStdString(request.subtitle + "\n" + request.body);
-    call << QStringLiteral("Kestrune") << 0U << QStringLiteral("com.kestrune.larkspan")
-         << QString::fromStdString(request.title) << body << QStringList() << QVariantMap() << -1;
-    bus_.asyncCall(call);
+    if (!bus_.isConnected()) return;
+
+    Notice notice{request.identifier, NotificationText(request)};
+    const auto same = std::ranges::find(waiting_, request.identifier, &Notice::identifier);
+    if (same != waiting_.end()) {
+        *same = std::move(notice);
+    } else {
+        waiting_.push_back(std::move(notice));
+        if (waiting_.size() > mostWaiting) waiting_.pop_front();
+    }
+    sendWaiting();
+}
+
+void FreedesktopNotificationCenter::onNotificationClosed(uint serverId, uint)
+{
+    std::erase_if(shown_, [serverId](const Shown& shown) { return shown.serverId == serverId; });
+}
+
+void FreedesktopNotificationCenter::onOwnerChanged(const QString& oldOwner)
+{
+    if (oldOwner.isEmpty()) return;
+    ++serversGone_;
+    markup_.reset();
+    shown_.clear();
+}
+
+void FreedesktopNotificationCenter::sendWaiting()
+{
+    if (markup_) {
+        sendAll(*markup_);
+    } else if (!waiting_.empty() && !isAsking_) {
+        askForMarkup();
+    }
+}
+
+template <typename Continuation>
+void FreedesktopNotificationCenter::whenAnswered(const QDBusPendingCall& call, Continuation continuation)
+{
+    auto* const watcher = new QDBusPendingCallWatcher(call, this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, continuation = std::move(continuation)] {
+        watcher->deleteLater();
+        continuation(*watcher);
+    });
+}
+
+void FreedesktopNotificationCenter::askForMarkup()
+{
+    isAsking_ = true;
+    whenAnswered(call("GetCapabilities"), [this, gone = serversGone_](const QDBusPendingCall& answer) {
+        isAsking_ = false;
+        if (gone != serversGone_) return sendWaiting();
+
+        const QDBusPendingReply<QStringList> capabilities = answer;
+        // A server that doesn't say is asked again for the next notice; these have waited long enough.
+        if (capabilities.isError()) return sendAll(BodyMarkup::unknown);
+
+        markup_ = capabilities.value().contains("body-markup") ? BodyMarkup::interpreted : BodyMarkup::literal;
+        sendAll(*markup_);
+    });
+}
+
+void FreedesktopNotificationCenter::sendAll(BodyMarkup markup)
+{
+    // Only once the answer to a notice is there can another one take its place on screen.
+    const auto canBeSent = [this](const Notice& notice) { return !sending_.contains(notice.identifier); };
+
+    while (sending_.size() < mostSending) {
+        const auto next = std::ranges::find_if(waiting_, canBeSent);
+        if (next == waiting_.end()) return;
+        const auto notice = std::move(*next);
+        waiting_.erase(next);
+        send(notice, markup);
+    }
+}
+
+void FreedesktopNotificationCenter::send(const Notice& notice, BodyMarkup markup)
+{
+    const auto& [identifier, text] = notice;
+    const QVariantList arguments{"Kestrune", serverIdOf(identifier), programId, text.title, text.laidOut(markup),
+        QStringList(), hintsOf(text), expiresAsTheServerSees};
+
+    sending_.insert(identifier);
+    whenAnswered(call("Notify", arguments), [this, identifier = identifier, gone = serversGone_](const auto& answer) {
+        sending_.erase(identifier);
+        const QDBusPendingReply<uint> serverId = answer;
+        if (!serverId.isError() && gone == serversGone_) remember(identifier, serverId.value());
+        sendWaiting();
+    });
+}
+
+void FreedesktopNotificationCenter::remember(const std::string& identifier, uint serverId)
+{
+    std::erase_if(shown_, [&](const Shown& shown) { return shown.identifier == identifier; });
+    shown_.push_back({identifier, serverId});
+    if (shown_.size() > mostShown) shown_.pop_front();
+}
+
+uint FreedesktopNotificationCenter::serverIdOf(const std::string& identifier) const
+{
+    constexpr uint none = 0;
+    const auto shown = std::ranges::find(shown_, identifier, &Shown::identifier);
+    return shown == shown_.end() ? none : shown->serverId;
+}
+
+QDBusPendingCall FreedesktopNotificationCenter::call(const QString& method, const QVariantList& arguments)
+{
+    auto message = QDBusMessage::createMethodCall(server, serverPath, serverInterface, method);
+    message.setArguments(arguments);
+    return bus_.asyncCall(message, deadline_);
 }
 
 }  // namespace larkspan::adapters

@@ -6,13 +6,13 @@ namespace larkspan::platform {
 
 /// One notice to the user, in plain texts. A later one with the same identifier takes its place on screen.
 struct NotificationRequest {
-    std::string identifier;
-    std::string title;
-    std::string subtitle;
-    std::string body;
+    std::string identifier = {};
+    std::string title = {};
+    std::string subtitle = {};
+    std::string body = {};
     /// What kind of record it tells of, and which one.
-    std::string type;
-    std::string id;
+    std::string type = {};
+    std::string id = {};
 
     bool operator==(const NotificationRequest&) const = default;
 };

@@ -1,0 +1,84 @@
+#include "adapters/NotificationText.h"
+
+#include <QStringList>
+
+#include <string_view>
+
+namespace larkspan::adapters {
+
+namespace {
+
+constexpr std::size_t longestLine = 256;
+constexpr std::size_t longestBody = 4096;
+
+bool continuesCharacter(char byte)
+{
+    return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
+}
+
+/// At most `longest` bytes from the beginning of `text`, ending between two characters.
+std::string_view beginningOf(std::string_view text, std::size_t longest)
+{
+    constexpr std::size_t mostContinuations = 3;
+    std::size_t end = longest;
+    while (longest - end < mostContinuations && continuesCharacter(text[end])) --end;
+    return text.substr(0, end);
+}
+
+QString paragraphs(std::string_view text, std::size_t longest)
+{
+    const bool isCut = text.size() > longest;
+    if (isCut) text = beginningOf(text, longest);
+
+    QString fit;
+    for (const auto character : QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))) {
+        if (character == u'\n' || character.category() != QChar::Other_Control) {
+            fit += character;
+        } else if (character == u'\t') {
+            fit += u' ';
+        }
+    }
+    return isCut ? fit + u'…' : fit;
+}
+
+QString line(std::string_view text)
+{
+    return paragraphs(text, longestLine).replace(u'\n', u' ');
+}
+
+/// `text` so that it reads the same to everybody, though not with the same characters.
+QString withoutMarkupCharacters(QString text)
+{
+    return text.replace(u'<', u'‹').replace(u'>', u'›').replace(u'&', u'＆');
+}
+
+QString joined(const QString& subtitle, const QString& body)
+{
+    QStringList parts{subtitle, body};
+    parts.removeAll(QString());
+    return parts.join(u'\n');
+}
+
+}  // namespace
+
+NotificationText::NotificationText(const platform::NotificationRequest& request)
+    : title(line(request.title))
+    , subtitle(line(request.subtitle))
+    , body(paragraphs(request.body, longestBody))
+    , type(line(request.type))
+    , id(line(request.id))
+{
+}
+
+QString NotificationText::laidOut(BodyMarkup markup) const
+{
+    switch (markup) {
+    case BodyMarkup::interpreted:
+        return joined(subtitle.isEmpty() ? QString() : "<b>" + subtitle.toHtmlEscaped() + "</b>", body.toHtmlEscaped());
+    case BodyMarkup::literal: return joined(subtitle, body);
+    case BodyMarkup::unknown: break;
+    }
+    return withoutMarkupCharacters(joined(subtitle, body));
+}
+
+}  // namespace larkspan::adapters

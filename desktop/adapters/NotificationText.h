@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+#include "platform/NotificationCenter.h"
+
+namespace larkspan::adapters {
+
+/// What a notification server makes of markup in a body.
+enum class BodyMarkup { unknown, literal, interpreted };
+
+/// The texts of a notice, fit for the bus and the screen whatever the service sent: valid, of bounded length, without
+/// control characters, and on one line except for the body.
+struct NotificationText {
+    explicit NotificationText(const platform::NotificationRequest& request);
+
+    /// Subtitle and body as one text that such a server shows as they were meant, never as markup of the service's.
+    QString laidOut(BodyMarkup markup) const;
+
+    QString title;
+    QString subtitle;
+    QString body;
+    QString type;
+    QString id;
+};
+
+}  // namespace larkspan::adapters
