@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,6 +19,14 @@ enum class KeyRights { full, none };
 /// An account of the service, in memory.
 struct Account {
     StatusPage* findPage(std::string_view id);
+    Incident* findIncident(std::string_view id);
+    Maintenance* findMaintenance(std::string_view id);
+
+    /// An id that nothing else has.
+    std::string issueId(const std::string& prefix);
+
+    /// Puts the page to the state that its open incidents, or else its maintenances in progress, make it have.
+    void followEvents(const std::optional<std::string>& pageId, support::Time now);
 
     std::map<std::string, KeyRights, std::less<>> keys;
     std::vector<StatusPage> statusPages;
@@ -24,6 +34,10 @@ struct Account {
     std::vector<Incident> incidents = {};
     std::vector<IncidentState> incidentStates = ordinaryIncidentStates();
     std::vector<Maintenance> maintenances = {};
+    std::size_t issuedIds = 0;
+
+private:
+    PageHealth healthOf(std::string_view pageId) const;
 };
 
 }  // namespace larkspan::simulator

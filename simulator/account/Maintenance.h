@@ -13,6 +13,9 @@ struct Maintenance {
     /// Where the maintenance stands by its dates; without an end it goes on.
     MaintenancePhase phaseAt(support::Time now) const;
 
+    /// When the account was last looked at.
+    bool isUnderWay() const { return lastPhase == MaintenancePhase::inProgress; }
+
     /// Digits alone travel as a number, as the service's own ids do.
     std::string id;
     std::string title;

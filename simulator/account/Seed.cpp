@@ -113,6 +113,7 @@ Account seededAccount(std::size_t pages, support::Time now)
     account.statusPages = seededPages(pages);
     account.incidents = seededIncidents(account.statusPages, now);
     account.maintenances = seededMaintenances(account.statusPages, now);
+    account.issuedIds = account.incidents.size() + account.maintenances.size();
     return account;
 }
 

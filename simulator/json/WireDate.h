@@ -1,6 +1,8 @@
 #pragma once
 
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "support/Time.h"
 
@@ -8,5 +10,8 @@ namespace larkspan::simulator {
 
 /// A moment as the service writes it: ISO 8601 in UTC, with milliseconds only where it has some.
 std::string wireDate(support::Time time);
+
+/// A moment as clients write it: ISO 8601 in UTC in whole seconds, "2026-03-01T09:30:00Z".
+std::optional<support::Time> readWireDate(std::string_view text);
 
 }  // namespace larkspan::simulator

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "account/IncidentWorkflow.h"
+#include "service/RequestBody.h"
 #include "service/WireRecord.h"
 
 namespace larkspan::simulator {
@@ -43,6 +45,83 @@ Answer listIncidents(const Call& call)
     return {200, Json(std::move(incidents))};
 }
 
+Incident& named(const Call& call)
+{
+    auto* incident = call.account.findIncident(call.wildcards.front());
+    if (!incident) throw Refusal(404, "Not found");
+    return *incident;
+}
+
+Answer fetchIncident(const Call& call)
+{
+    return {200, wireIncident(named(call), call.account)};
+}
+
+Answer createIncident(const Call& call)
+{
+    const RequestBody body(call.request);
+    Incident draft;
+    draft.title = body.requiredTitle();
+    draft.message = body.text("message");
+    draft.statusPageId = body.text("status_page_id");
+    draft.componentId = body.text("component_id");
+    // Neither is part of the record, but both belong to the request.
+    static_cast<void>(body.text("monitor_id"));
+    static_cast<void>(body.requiredFlag("notify_subscribers"));
+    if (draft.statusPageId && !call.account.findPage(*draft.statusPageId)) {
+        throw Refusal(422, "There is no such status page.");
+    }
+    return {201, wireIncident(openIncident(call.account, std::move(draft), call.now), call.account)};
+}
+
+std::optional<int> readState(const std::optional<std::string>& id, const Account& account)
+{
+    if (!id) return std::nullopt;
+    for (const auto& state : account.incidentStates) {
+        if (std::to_string(state.id) == *id) return state.id;
+    }
+    throw Refusal(422, "There is no such incident state.");
+}
+
+Answer updateIncident(const Call& call)
+{
+    auto& incident = named(call);
+    const RequestBody body(call.request);
+    const auto message = body.text("message");
+    const auto state = readState(body.text("incident_state_id"), call.account);
+    if (!message && !state) throw Refusal(422, "There is nothing to change.");
+    if (body.requiredFlag("append_update")) {
+        if (message) appendUpdate(incident, *message, call.now);
+    } else if (message) {
+        incident.message = message;
+        incident.updatedAt = call.now;
+    }
+    if (state) moveTo(call.account, incident, *state, call.now);
+    return {200, wireIncident(incident, call.account)};
+}
+
+const Answer taken{200, Json::object({{"success", true}})};
+
+Answer acknowledgeIncident(const Call& call)
+{
+    auto& incident = named(call);
+    if (!incident.isOpen()) throw Refusal(422, "The incident is resolved.");
+    acknowledge(incident, call.now);
+    return taken;
+}
+
+Answer escalateIncident(const Call& call)
+{
+    escalate(call.account, named(call), call.now);
+    return taken;
+}
+
+Answer deleteIncident(const Call& call)
+{
+    if (!removeIncident(call.account, call.wildcards.front(), call.now)) throw Refusal(404, "Not found");
+    return {204};
+}
+
 Answer listStates(const Call& call)
 {
     Json::Array states;
@@ -57,6 +136,12 @@ Answer listStates(const Call& call)
 void addIncidentsRoutes(Router& router)
 {
     router.add("GET", "/user/api/v1/incidents", listIncidents);
+    router.add("POST", "/user/api/v1/incidents", createIncident);
+    router.add("GET", "/user/api/v1/incidents/*", fetchIncident);
+    router.add("PATCH", "/user/api/v1/incidents/*", updateIncident);
+    router.add("DELETE", "/user/api/v1/incidents/*", deleteIncident);
+    router.add("POST", "/user/api/incidents/*/acknowledge", acknowledgeIncident);
+    router.add("POST", "/user/api/incidents/*/escalate", escalateIncident);
     router.add("GET", "/user/api/incident-states", listStates);
 }
 

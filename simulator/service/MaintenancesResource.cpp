@@ -2,6 +2,8 @@
 
 #include <charconv>
 
+#include "account/MaintenanceCalendar.h"
+#include "service/RequestBody.h"
 #include "service/WireRecord.h"
 
 namespace larkspan::simulator {
@@ -53,11 +55,73 @@ Answer listMaintenances(const Call& call)
     return {200, Json(std::move(maintenances))};
 }
 
+Maintenance& named(const Call& call)
+{
+    auto* maintenance = call.account.findMaintenance(call.wildcards.front());
+    if (!maintenance) throw Refusal(404, "Not found");
+    return *maintenance;
+}
+
+void refuseEndBeforeStart(const Maintenance& maintenance)
+{
+    if (maintenance.startAt && maintenance.endAt && *maintenance.endAt < *maintenance.startAt) {
+        throw Refusal(422, "The end lies before the start.");
+    }
+}
+
+Answer fetchMaintenance(const Call& call)
+{
+    return {200, wireMaintenance(named(call), call.now)};
+}
+
+Answer createMaintenance(const Call& call)
+{
+    const RequestBody body(call.request);
+    Maintenance draft;
+    draft.title = body.requiredTitle();
+    draft.message = body.text("message");
+    draft.statusPageId = body.requiredText("status_page_id");
+    draft.startAt = body.requiredDate("start_at");
+    draft.endAt = body.requiredDate("end_at");
+    draft.affectedComponents = body.text("affected_components");
+    draft.affectedMonitorIds = body.text("affected_monitor_ids");
+    refuseEndBeforeStart(draft);
+    if (!call.account.findPage(*draft.statusPageId)) throw Refusal(422, "There is no such status page.");
+    return {201, wireMaintenance(schedule(call.account, std::move(draft), call.now), call.now)};
+}
+
+Answer updateMaintenance(const Call& call)
+{
+    auto& maintenance = named(call);
+    const RequestBody body(call.request);
+    auto changed = maintenance;
+    if (body.text("title")) changed.title = body.requiredTitle();
+    if (const auto message = body.text("message")) changed.message = message;
+    if (const auto start = body.date("start_at")) changed.startAt = start;
+    if (const auto end = body.date("end_at")) changed.endAt = end;
+    if (const auto components = body.text("affected_components")) changed.affectedComponents = components;
+    if (const auto monitors = body.text("affected_monitor_ids")) changed.affectedMonitorIds = monitors;
+    refuseEndBeforeStart(changed);
+    maintenance = std::move(changed);
+    amended(call.account, maintenance, call.now);
+    return {200, wireMaintenance(maintenance, call.now)};
+}
+
+Answer deleteMaintenance(const Call& call)
+{
+    if (!removeMaintenance(call.account, call.wildcards.front(), call.now)) throw Refusal(404, "Not found");
+    return {204};
+}
+
 }  // namespace
 
 void addMaintenancesRoutes(Router& router)
 {
     router.add("GET", "/user/api/v1/maintenances", listMaintenances);
+    router.add("POST", "/user/api/v1/maintenances", createMaintenance);
+    router.add("GET", "/user/api/v1/maintenances/*", fetchMaintenance);
+    router.add("PATCH", "/user/api/v1/maintenances/*", updateMaintenance);
+    router.add("DELETE", "/user/api/v1/maintenances/*", deleteMaintenance);
 }
 
 }  // namespace larkspan::simulator

@@ -2,9 +2,11 @@
 
 #include <utility>
 
+#include "account/MaintenanceCalendar.h"
 #include "service/Authentication.h"
 #include "service/IncidentsResource.h"
 #include "service/MaintenancesResource.h"
+#include "service/RequestBody.h"
 #include "service/StatusPagesResource.h"
 
 namespace larkspan::simulator {
@@ -24,6 +26,7 @@ Reply Service::answer(const Request& request)
     record(request);
     const auto now = clock_.now();
     if (life_) life_->story.tellUpTo(now - life_->start, now, account_);
+    letMaintenancesPass(account_, now);
     const auto faults = faults_.take(request);
     auto reply = replyTo(request, faults, now);
     for (const auto& fault : faults) spoil(fault, reply);
@@ -97,7 +100,11 @@ Answer Service::answerOfResource(const Request& request, support::Time now)
         const auto* reason = *status == 401 ? "Unauthorized" : "Forbidden";
         return {*status, Json::object({{"error", reason}})};
     }
-    return router_.route(request, account_, now);
+    try {
+        return router_.route(request, account_, now);
+    } catch (const Refusal& refusal) {
+        return {refusal.status(), Json::object({{"error", refusal.what()}})};
+    }
 }
 
 void Service::record(const Request& request)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
 
 #include "account/Account.h"
@@ -23,6 +24,15 @@ inline Account account(std::size_t pages = 3)
 inline Request request(std::string target, std::string method = "GET", const std::string& withKey = key)
 {
     return {std::move(method), std::move(target), {{"Authorization", "Bearer " + withKey}, {"X-API-Key", withKey}}, {}};
+}
+
+/// A request with a body, in which an apostrophe stands for each quotation mark.
+inline Request requestWithBody(const std::string& target, const std::string& method, std::string body)
+{
+    std::ranges::replace(body, '\'', '"');
+    auto made = request(target, method);
+    made.body = std::move(body);
+    return made;
 }
 
 }  // namespace larkspan::simulator::samples
