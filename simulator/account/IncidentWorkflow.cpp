@@ -30,11 +30,12 @@ Incident& openIncident(Account& account, Incident draft, support::Time now)
     return *placed;
 }
 
-void acknowledge(Incident& incident, support::Time now)
+void acknowledge(Account& account, Incident& incident, support::Time now)
 {
     if (incident.acknowledgedAt) return;
     incident.acknowledgedAt = now;
     incident.updatedAt = now;
+    account.followEvents(incident.statusPageId, now);
 }
 
 void escalate(Account& account, Incident& incident, support::Time now)
@@ -66,6 +67,12 @@ void moveTo(Account& account, Incident& incident, int state, support::Time now)
 void resolve(Account& account, Incident& incident, support::Time now)
 {
     moveTo(account, incident, lastState(account), now);
+}
+
+void reopen(Account& account, Incident& incident, support::Time now)
+{
+    incident.acknowledgedAt.reset();
+    moveTo(account, incident, firstState(account), now);
 }
 
 bool removeIncident(Account& account, std::string_view id, support::Time now)

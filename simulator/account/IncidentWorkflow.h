@@ -11,7 +11,7 @@ namespace larkspan::simulator {
 Incident& openIncident(Account& account, Incident draft, support::Time now);
 
 /// Who looks into it first counts; a second time changes nothing.
-void acknowledge(Incident& incident, support::Time now);
+void acknowledge(Account& account, Incident& incident, support::Time now);
 
 /// To the next severity, where there is one.
 void escalate(Account& account, Incident& incident, support::Time now);
@@ -24,6 +24,9 @@ void moveTo(Account& account, Incident& incident, int state, support::Time now);
 
 /// To the account's last state.
 void resolve(Account& account, Incident& incident, support::Time now);
+
+/// Back to the first state, as if nobody had looked into it.
+void reopen(Account& account, Incident& incident, support::Time now);
 
 /// Whether there was one of that id.
 bool removeIncident(Account& account, std::string_view id, support::Time now);

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "account/Seed.h"
+#include "server/EventOrders.h"
 
 namespace larkspan::simulator {
 
@@ -154,6 +155,7 @@ Control::Control(Service& service, ServerCertificates& certificates)
         certificates.use(*kind);
         return done;
     });
+    addEventOrders(router_, service);
 }
 
 Reply Control::answer(const Request& request)

@@ -106,7 +106,7 @@ Answer acknowledgeIncident(const Call& call)
 {
     auto& incident = named(call);
     if (!incident.isOpen()) throw Refusal(422, "The incident is resolved.");
-    acknowledge(incident, call.now);
+    acknowledge(call.account, incident, call.now);
     return taken;
 }
 

@@ -56,6 +56,19 @@ std::string RequestBody::requiredText(const char* key) const
     return required(key, text(key));
 }
 
+std::vector<std::string> RequestBody::requiredTexts(const char* key) const
+{
+    const auto* value = find(key);
+    if (!value) throw wrong(key, "is missing.");
+    if (!value->array()) throw wrong(key, "is no list.");
+    std::vector<std::string> texts;
+    for (const auto& item : *value->array()) {
+        if (!item.string()) throw wrong(key, "holds something that is no text.");
+        texts.push_back(*item.string());
+    }
+    return texts;
+}
+
 std::string RequestBody::requiredTitle() const
 {
     auto title = requiredText("title");

@@ -3,6 +3,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "service/Exchange.h"
 #include "support/Time.h"
@@ -29,6 +30,7 @@ public:
 
     std::optional<std::string> text(const char* key) const;
     std::string requiredText(const char* key) const;
+    std::vector<std::string> requiredTexts(const char* key) const;
     /// Not blank.
     std::string requiredTitle() const;
     std::optional<bool> flag(const char* key) const;
