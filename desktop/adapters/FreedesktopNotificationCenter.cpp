@@ -1,12 +1,13 @@
 #include "adapters/FreedesktopNotificationCenter.h"
 
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 #include <QVariantMap>
 
 #include <algorithm>
+
+#include "adapters/WhenAnswered.h"
 
 namespace larkspan::adapters {
 
@@ -88,20 +89,10 @@ void FreedesktopNotificationCenter::sendWaiting()
     }
 }
 
-template <typename Continuation>
-void FreedesktopNotificationCenter::whenAnswered(const QDBusPendingCall& call, Continuation continuation)
-{
-    auto* const watcher = new QDBusPendingCallWatcher(call, this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, continuation = std::move(continuation)] {
-        watcher->deleteLater();
-        continuation(*watcher);
-    });
-}
-
 void FreedesktopNotificationCenter::askForMarkup()
 {
     isAsking_ = true;
-    whenAnswered(call("GetCapabilities"), [this, gone = serversGone_](const QDBusPendingCall& answer) {
+    whenAnswered(this, call("GetCapabilities"), [this, gone = serversGone_](const QDBusPendingCall& answer) {
         isAsking_ = false;
         if (gone != serversGone_) return sendWaiting();
 
@@ -135,12 +126,13 @@ void FreedesktopNotificationCenter::send(const Notice& notice, BodyMarkup markup
         QStringList(), hintsOf(text), expiresAsTheServerSees};
 
     sending_.insert(identifier);
-    whenAnswered(call("Notify", arguments), [this, identifier = identifier, gone = serversGone_](const auto& answer) {
-        sending_.erase(identifier);
-        const QDBusPendingReply<uint> serverId = answer;
-        if (!serverId.isError() && gone == serversGone_) remember(identifier, serverId.value());
-        sendWaiting();
-    });
+    whenAnswered(
+        this, call("Notify", arguments), [this, identifier = identifier, gone = serversGone_](const auto& answer) {
+            sending_.erase(identifier);
+            const QDBusPendingReply<uint> serverId = answer;
+            if (!serverId.isError() && gone == serversGone_) remember(identifier, serverId.value());
+            sendWaiting();
+        });
 }
 
 void FreedesktopNotificationCenter::remember(const std::string& identifier, uint serverId)

@@ -52,8 +52,6 @@ private:
     void remember(const std::string& identifier, uint serverId);
     uint serverIdOf(const std::string& identifier) const;
     QDBusPendingCall call(const QString& method, const QVariantList& arguments = {});
-    template <typename Continuation>
-    void whenAnswered(const QDBusPendingCall& call, Continuation continuation);
 
     QDBusConnection bus_;
     int deadline_;

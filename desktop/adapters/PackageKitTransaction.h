@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QString>
+#include <QVariantList>
+
+#include <chrono>
+
+class QDBusPendingCall;
+
+namespace larkspan::adapters {
+
+/// One piece of work for PackageKit, and what it said about the package `larkspan` meanwhile. Begins when made; given
+/// up at its deadline and when destroyed.
+class PackageKitTransaction final : public QObject {
+    Q_OBJECT
+
+public:
+    enum class End {
+        succeeded,
+        failed,
+        /// There is no PackageKit on this system.
+        noService,
+    };
+    Q_ENUM(End)
+
+    struct Work {
+        QString method;
+        QVariantList arguments;
+    };
+
+    PackageKitTransaction(
+        QDBusConnection systemBus, Work work, std::chrono::milliseconds deadline, QObject* parent = nullptr);
+    ~PackageKitTransaction() override;
+
+    /// The package's versions, as far as PackageKit named them; empty otherwise.
+    QString installedVersion() const { return installedVersion_; }
+    QString availableVersion() const { return availableVersion_; }
+
+signals:
+    /// Once, later, and the last thing that this object does.
+    void ended(End end);
+
+private slots:
+    void onPackage(uint info, const QString& packageId, const QString& summary);
+    void onErrorCode(uint code, const QString& details);
+    void onFinished(uint exit, uint runtime);
+    void onDestroy();
+
+private:
+    void onCreated(const QDBusPendingCall& answer);
+    void listen();
+    void startWork();
+    QDBusPendingCall callTransaction(const QString& method, const QVariantList& arguments);
+    void giveUp();
+    void cancel();
+    void end(End end);
+
+    QDBusConnection bus_;
+    Work work_;
+    int deadline_;
+    /// The very process that has the transaction: its successor would not know it.
+    QString owner_;
+    QString path_;
+    QString installedVersion_;
+    QString availableVersion_;
+    bool hasEnded_ = false;
+};
+
+}  // namespace larkspan::adapters

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDeadlineTimer>
+#include <QObject>
+
+#include <chrono>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "adapters/PackageKitTransaction.h"
+#include "platform/Updater.h"
+
+namespace larkspan::adapters {
+
+/// Updates as distribution packages bring them: asks PackageKit on the system bus, whose part it is to install them.
+/// While one check runs, a further one gets its answer. A destroyed updater answers nobody.
+class PackageKitUpdater final : public QObject, public platform::Updater {
+    Q_OBJECT
+
+public:
+    explicit PackageKitUpdater(
+        QDBusConnection systemBus, std::chrono::milliseconds deadline = std::chrono::seconds(60));
+
+    void check(support::UniqueFunction<void(platform::UpdateCheck)> complete) override;
+
+private:
+    using End = PackageKitTransaction::End;
+    using Next = std::function<void(End end, const PackageKitTransaction& transaction)>;
+
+    void begin();
+    void findInstalled();
+    void refresh();
+    void findUpdate();
+    void answer(const platform::UpdateCheck& found);
+    void run(const PackageKitTransaction::Work& work, std::chrono::milliseconds deadline, Next next);
+    std::chrono::milliseconds timeLeft() const;
+
+    QDBusConnection bus_;
+    std::chrono::milliseconds deadline_;
+    QDeadlineTimer end_;
+    std::string installed_;
+    std::vector<support::UniqueFunction<void(platform::UpdateCheck)>> waiting_;
+};
+
+}  // namespace larkspan::adapters
