@@ -143,7 +143,7 @@ TEST_F(Https, SendsAHugeBodyWhole)
 
 TEST_F(Https, PacksAHugeBodyForAClientThatTakesIt)
 {
-    service_.inject({fault::HugeBody{200'000'000, true}});
+    service_.inject({fault::HugeBody{50'000'000, true}});
     auto asked = request(pagesPath);
     asked.headers.emplace_back("Accept-Encoding", "gzip");
 
