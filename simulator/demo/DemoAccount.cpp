@@ -1,12 +1,23 @@
 #include "demo/DemoAccount.h"
 
-#include "demo/LivelyAccount.h"
+#include "account/Seed.h"
 
 namespace larkspan::simulator {
 
+namespace {
+
+Account smallAccount(support::Time now)
+{
+    auto account = seededAccount(*seedSize("small"), now);
+    account.keys.emplace(DemoAccount::key, KeyRights::full);
+    return account;
+}
+
+}  // namespace
+
 DemoAccount::DemoAccount(
     const platform::Clock& clock, const platform::CredentialItem& item, std::chrono::milliseconds latency)
-    : service_(livelyAccount(key, clock.now()), clock)
+    : service_(smallAccount(clock.now()), clock)
     , transport_(std::in_place, service_, worker_, worker_)
 {
     service_.live(Storyline::ordinaryDay());

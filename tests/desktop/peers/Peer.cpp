@@ -28,6 +28,12 @@ void Peer::tell(const QByteArray& input)
     process_.closeWriteChannel();
 }
 
+QString Peer::ask(const QByteArray& line)
+{
+    process_.write(line + '\n');
+    return hear();
+}
+
 QString Peer::hear()
 {
     turnUntil([this] { return process_.canReadLine() || hasEnded(); });

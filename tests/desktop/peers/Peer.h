@@ -15,6 +15,9 @@ public:
     /// Hands it all of its input.
     void tell(const QByteArray& input);
 
+    /// Hands it one line, and hears its answer.
+    QString ask(const QByteArray& line);
+
     /// The next line of its output; empty if none comes in time.
     QString hear();
 

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <functional>
+#include <utility>
+#include <vector>
+
+#include "platform/StatusItem.h"
+
+namespace larkspan::adapters {
+
+/// Several places that show the same item: the panel, and the window's menu button. They outlive this object.
+class StatusItems final : public platform::StatusItem {
+public:
+    explicit StatusItems(std::vector<std::reference_wrapper<platform::StatusItem>> items)
+        : items_(std::move(items))
+    {
+    }
+
+    void show(std::function<void(const platform::MenuRow& row)> perform) override
+    {
+        for (auto& item : items_) item.get().show(perform);
+    }
+
+    void setButton(const Button& button) override
+    {
+        for (auto& item : items_) item.get().setButton(button);
+    }
+
+    void setMenu(const std::vector<platform::MenuRow>& rows) override
+    {
+        for (auto& item : items_) item.get().setMenu(rows);
+    }
+
+private:
+    std::vector<std::reference_wrapper<platform::StatusItem>> items_;
+};
+
+}  // namespace larkspan::adapters

@@ -1,0 +1,42 @@
+#include "adapters/tray/MenuRowProperties.h"
+
+#include <QString>
+
+#include "adapters/tray/DBusMenuTypes.h"
+#include "adapters/tray/DotImage.h"
+
+namespace larkspan::adapters {
+
+namespace {
+
+/// A lone underscore marks the letter that chooses the row and is not shown; two arrive as one. An ampersand means
+/// nothing here: hosts whose toolkit takes it for such a mark double it themselves.
+QString label(const std::string& title)
+{
+    return QString::fromStdString(title).replace('_', "__");
+}
+
+}  // namespace
+
+QVariantMap menuRowProperties(const platform::MenuRow& row)
+{
+    using Kind = platform::MenuRow::Kind;
+    if (row.kind == Kind::separator) return {{"type", "separator"}};
+
+    QVariantMap properties{{"label", label(row.title)}};
+    if (row.kind == Kind::information) properties.insert("enabled", false);
+    if (row.dot != platform::MenuRow::Dot::none) properties.insert("icon-data", dotImage(row.dot));
+    if (!row.keyEquivalent.empty()) {
+        const DBusMenuShortcut shortcut{{"Control", QString::fromStdString(row.keyEquivalent)}};
+        properties.insert("shortcut", QVariant::fromValue(shortcut));
+    }
+    if (!row.toolTip.empty()) {
+        const auto toolTip = QString::fromStdString(row.toolTip);
+        properties.insert("accessible-desc", toolTip);
+        // Not of the protocol, but some hosts read it.
+        properties.insert("tooltip", toolTip);
+    }
+    return properties;
+}
+
+}  // namespace larkspan::adapters

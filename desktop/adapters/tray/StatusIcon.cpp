@@ -1,0 +1,69 @@
+#include "adapters/tray/StatusIcon.h"
+
+#include <QIcon>
+#include <QImage>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <QtEndian>
+
+#include <algorithm>
+#include <array>
+
+namespace larkspan::adapters {
+
+namespace {
+
+/// The sizes that panels have, and twice the usual ones.
+constexpr std::array pixmapSizes{16, 22, 24, 32, 48, 64};
+
+struct Row {
+    const char* symbolName;
+    const char* status;
+};
+
+constexpr std::array rows{
+    Row{"checkmark.circle.fill", "operational"},
+    Row{"exclamationmark.triangle.fill", "degraded"},
+    Row{"xmark.circle.fill", "down"},
+    Row{"wrench.and.screwdriver.fill", "maintenance"},
+    Row{"exclamationmark.icloud.fill", "stale"},
+    Row{"questionmark.circle", "unknown"},
+};
+
+QString iconName(const std::string& symbolName)
+{
+    const auto* const row = std::ranges::find(rows, symbolName, &Row::symbolName);
+    const auto* const status = row == rows.end() ? rows.back().status : row->status;
+    return QString("com.kestrune.larkspan-%1-symbolic").arg(QLatin1String(status));
+}
+
+StatusNotifierPixmap drawn(QSvgRenderer& renderer, int size, const QColor& color)
+{
+    QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    renderer.render(&painter);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(image.rect(), color);
+    painter.end();
+
+    const auto straight = image.convertToFormat(QImage::Format_ARGB32);
+    StatusNotifierPixmap pixmap{size, size, QByteArray(straight.sizeInBytes(), Qt::Uninitialized)};
+    qToBigEndian<quint32>(straight.constBits(), straight.sizeInBytes() / 4, pixmap.pixels.data());
+    return pixmap;
+}
+
+}  // namespace
+
+StatusIcon StatusIcon::of(const std::string& symbolName, const QColor& color)
+{
+    const auto name = iconName(symbolName);
+    if (QIcon::hasThemeIcon(name)) return {.themeName = name};
+
+    StatusIcon icon;
+    QSvgRenderer renderer(QString(":/larkspan/tray/%1.svg").arg(name));
+    for (const int size : pixmapSizes) icon.pixmaps << drawn(renderer, size, color);
+    return icon;
+}
+
+}  // namespace larkspan::adapters

@@ -1,0 +1,62 @@
+#include "adapters/tray/StatusNotifierItem.h"
+
+#include <QColor>
+
+#include <utility>
+
+#include "adapters/tray/StatusIcon.h"
+
+namespace larkspan::adapters {
+
+using platform::MenuRow;
+
+StatusNotifierItem::StatusNotifierItem(QDBusConnection bus, const Appearance& appearance, QObject* parent)
+    : QObject(parent)
+    , bus_(std::move(bus))
+    , appearance_(appearance)
+    , watcher_(bus_)
+    , menu_([this](const MenuRow& row) { perform(row); })
+{
+    connect(&watcher_, &StatusNotifierWatcher::hasHostChanged, this, &StatusNotifierItem::hasHostChanged);
+    connect(&appearance_, &Appearance::isDarkChanged, this, &StatusNotifierItem::updateIcon);
+    connect(&item_, &StatusNotifierItemService::activated, this,
+        [this] { perform({.kind = MenuRow::Kind::command, .action = MenuRow::Action::openDashboard}); });
+    connect(&item_, &StatusNotifierItemService::activationTokenProvided, this,
+        &StatusNotifierItem::activationTokenProvided);
+}
+
+void StatusNotifierItem::show(std::function<void(const MenuRow& row)> perform)
+{
+    perform_ = std::move(perform);
+    const auto exported = QDBusConnection::ExportScriptableContents;
+    bus_.registerObject(StatusNotifierItemService::objectPath, &item_, exported);
+    bus_.registerObject(StatusNotifierItemService::menuPath, &menu_, exported);
+    watcher_.registerItem();
+}
+
+void StatusNotifierItem::setButton(const Button& button)
+{
+    button_ = button;
+    updateIcon();
+    item_.setToolTip(QString::fromStdString(button.toolTip));
+}
+
+void StatusNotifierItem::setMenu(const std::vector<MenuRow>& rows)
+{
+    menu_.setRows(rows);
+}
+
+void StatusNotifierItem::perform(const MenuRow& row) const
+{
+    // A copy, since what is performed may end this object.
+    const auto perform = perform_;
+    if (perform) perform(row);
+}
+
+void StatusNotifierItem::updateIcon()
+{
+    const QColor color = appearance_.isDark() ? QColor(0xec, 0xee, 0xf1) : QColor(0x1d, 0x21, 0x27);
+    item_.setIcon(StatusIcon::of(button_.symbolName, color), QString::fromStdString(button_.accessibilityDescription));
+}
+
+}  // namespace larkspan::adapters

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+
+#include <functional>
+#include <vector>
+
+#include "adapters/Appearance.h"
+#include "adapters/tray/DBusMenuService.h"
+#include "adapters/tray/StatusNotifierItemService.h"
+#include "adapters/tray/StatusNotifierWatcher.h"
+#include "platform/StatusItem.h"
+
+namespace larkspan::adapters {
+
+/// The item in the panel of those desktops that know `org.kde.StatusNotifierItem`, with its menu. Main thread only.
+class StatusNotifierItem final : public QObject, public platform::StatusItem {
+    Q_OBJECT
+
+public:
+    /// `appearance` outlives the item.
+    StatusNotifierItem(QDBusConnection bus, const Appearance& appearance, QObject* parent = nullptr);
+
+    /// True while the desktop has a panel that shows such items.
+    bool hasHost() const { return watcher_.hasHost(); }
+
+    void show(std::function<void(const platform::MenuRow& row)> perform) override;
+    void setButton(const Button& button) override;
+    void setMenu(const std::vector<platform::MenuRow>& rows) override;
+
+signals:
+    void hasHostChanged();
+
+    /// Comes ahead of the row that the user chose: with this token a window may take the focus for it.
+    void activationTokenProvided(const QString& token);
+
+private:
+    void perform(const platform::MenuRow& row) const;
+    void updateIcon();
+
+    QDBusConnection bus_;
+    const Appearance& appearance_;
+    StatusNotifierWatcher watcher_;
+    StatusNotifierItemService item_;
+    DBusMenuService menu_;
+    Button button_;
+    std::function<void(const platform::MenuRow& row)> perform_;
+};
+
+}  // namespace larkspan::adapters

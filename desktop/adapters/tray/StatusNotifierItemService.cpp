@@ -1,0 +1,42 @@
+#include "adapters/tray/StatusNotifierItemService.h"
+
+namespace larkspan::adapters {
+
+StatusNotifierItemService::StatusNotifierItemService(QObject* parent)
+    : QObject(parent)
+{
+    registerStatusNotifierTypes();
+}
+
+void StatusNotifierItemService::setIcon(const StatusIcon& icon, const QString& accessibleDescription)
+{
+    if (icon == icon_ && accessibleDescription == accessibleDescription_) return;
+    icon_ = icon;
+    accessibleDescription_ = accessibleDescription;
+    emit NewIcon();
+}
+
+void StatusNotifierItemService::setToolTip(const QString& toolTip)
+{
+    if (toolTip == toolTip_) return;
+    toolTip_ = toolTip;
+    emit NewToolTip();
+}
+
+void StatusNotifierItemService::Activate(int, int)
+{
+    // After the answer to the host, as with the rows of the menu.
+    QMetaObject::invokeMethod(this, &StatusNotifierItemService::activated, Qt::QueuedConnection);
+}
+
+// Hosts call these whatever an item does with them.
+void StatusNotifierItemService::SecondaryActivate(int, int) {}
+void StatusNotifierItemService::ContextMenu(int, int) {}
+void StatusNotifierItemService::Scroll(int, const QString&) {}
+
+void StatusNotifierItemService::ProvideXdgActivationToken(const QString& token)
+{
+    emit activationTokenProvided(token);
+}
+
+}  // namespace larkspan::adapters

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+
+#include <memory>
+
+class QDBusPendingCallWatcher;
+
+namespace larkspan::adapters {
+
+/// The desktop's list of items, `org.kde.StatusNotifierWatcher`, which may come, go and return at any time. Never
+/// waits for it and never has it started. Main thread only.
+class StatusNotifierWatcher final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit StatusNotifierWatcher(QDBusConnection bus, QObject* parent = nullptr);
+    ~StatusNotifierWatcher() override;
+
+    /// Puts the item of this connection on the list, now and whenever the list is a new one.
+    void registerItem();
+
+    /// True while somebody shows the items of the list.
+    bool hasHost() const { return hasHost_; }
+
+signals:
+    void hasHostChanged();
+
+private slots:
+    void askForHost();
+
+private:
+    void onRegistered();
+    void onUnregistered();
+    void sendRegistration();
+    void setHasHost(bool hasHost);
+
+    QDBusConnection bus_;
+    std::unique_ptr<QDBusPendingCallWatcher> answer_;
+    bool hasItem_ = false;
+    bool hasHost_ = false;
+};
+
+}  // namespace larkspan::adapters

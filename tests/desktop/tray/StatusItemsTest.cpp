@@ -1,0 +1,42 @@
+#include "adapters/StatusItems.h"
+
+#include <gtest/gtest.h>
+
+namespace larkspan::adapters {
+namespace {
+
+using platform::MenuRow;
+
+struct Place : platform::StatusItem {
+    void show(std::function<void(const MenuRow& row)> given) override { perform = std::move(given); }
+    void setButton(const Button& given) override { button = given; }
+    void setMenu(const std::vector<MenuRow>& given) override { rows = given; }
+
+    std::function<void(const MenuRow& row)> perform;
+    Button button;
+    std::vector<MenuRow> rows;
+};
+
+TEST(StatusItems, EachPlaceShowsTheSameAndPerformsItsRows)
+{
+    Place panel;
+    Place window;
+    StatusItems items({panel, window});
+    std::vector<MenuRow> performed;
+    const MenuRow quit{.kind = MenuRow::Kind::command, .title = "Quit", .action = MenuRow::Action::quitApp};
+
+    items.show([&](const MenuRow& row) { performed.push_back(row); });
+    items.setButton({.symbolName = "checkmark.circle.fill"});
+    items.setMenu({quit});
+    panel.perform(quit);
+    window.perform(quit);
+
+    for (const auto* const place : {&panel, &window}) {
+        EXPECT_EQ(place->button.symbolName, "checkmark.circle.fill");
+        EXPECT_EQ(place->rows, std::vector{quit});
+    }
+    EXPECT_EQ(performed.size(), 2);
+}
+
+}  // namespace
+}  // namespace larkspan::adapters

@@ -1,0 +1,209 @@
+#include "adapters/tray/StatusNotifierItem.h"
+
+#include <QGuiApplication>
+#include <QIcon>
+#include <QImage>
+#include <QPalette>
+
+#include <array>
+#include <set>
+
+#include "TrayTest.h"
+
+namespace larkspan::adapters {
+namespace {
+
+using platform::MenuRow;
+
+/// A desktop that has the program's icons installed, or lacks them.
+class StatusNotifierItemTest : public TrayTest {
+protected:
+    ~StatusNotifierItemTest() override
+    {
+        QIcon::setThemeName({});
+        usePalette(Qt::white, Qt::black);
+    }
+
+    static void installIcons()
+    {
+        QIcon::setThemeSearchPaths({LARKSPAN_ICONS, "/usr/share/icons"});
+        QIcon::setThemeName("hicolor");
+    }
+
+    static void usePalette(const QColor& window, const QColor& text)
+    {
+        QPalette palette;
+        palette.setColor(QPalette::Window, window);
+        palette.setColor(QPalette::WindowText, text);
+        QGuiApplication::setPalette(palette);
+    }
+
+    std::unique_ptr<peers::TrayHost> panelWith(const std::string& symbolName)
+    {
+        item.setButton({.symbolName = symbolName, .accessibilityDescription = "In words", .toolTip = "Kestrune: fine"});
+        show();
+        return panel();
+    }
+};
+
+QImage image(const QJsonValue& pixmap)
+{
+    const auto pixels = QByteArray::fromHex(pixmap.toArray().at(2).toString().toLatin1());
+    QImage image(pixmap.toArray().at(0).toInt(), pixmap.toArray().at(1).toInt(), QImage::Format_ARGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const auto* const bytes = reinterpret_cast<const uchar*>(pixels.data()) + 4 * (y * image.width() + x);
+            image.setPixelColor(x, y, QColor(bytes[1], bytes[2], bytes[3], bytes[0]));
+        }
+    }
+    return image;
+}
+
+struct IconRow {
+    const char* symbolName;
+    const char* status;
+};
+
+constexpr std::array icons{IconRow{"checkmark.circle.fill", "operational"},
+    IconRow{"exclamationmark.triangle.fill", "degraded"}, IconRow{"xmark.circle.fill", "down"},
+    IconRow{"wrench.and.screwdriver.fill", "maintenance"}, IconRow{"exclamationmark.icloud.fill", "stale"},
+    IconRow{"questionmark.circle", "unknown"}, IconRow{"no.such.symbol", "unknown"}};
+
+class EachStatus : public StatusNotifierItemTest, public testing::WithParamInterface<IconRow> {};
+
+TEST_P(EachStatus, IsTheInstalledIconOfItsName)
+{
+    installIcons();
+    const auto host = panelWith(GetParam().symbolName);
+
+    const auto properties = host->item();
+
+    EXPECT_EQ(properties.value("IconName"), QString("com.kestrune.larkspan-%1-symbolic").arg(GetParam().status));
+    EXPECT_EQ(properties.value("IconPixmap"), QJsonArray());
+}
+
+TEST_P(EachStatus, IsPaintedInEachSizeWhereNoIconIsInstalled)
+{
+    const auto host = panelWith(GetParam().symbolName);
+
+    const auto properties = host->item();
+
+    EXPECT_EQ(properties.value("IconName"), "");
+    std::vector<int> sizes;
+    for (const auto& pixmap : properties.value("IconPixmap").toArray()) {
+        const auto icon = image(pixmap);
+        EXPECT_EQ(icon.height(), icon.width());
+        sizes.push_back(icon.width());
+        EXPECT_NE(icon.convertToFormat(QImage::Format_Alpha8).constBits()[0], 0xff);
+    }
+    EXPECT_EQ(sizes, (std::vector{16, 22, 24, 32, 48, 64}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Icon, EachStatus, testing::ValuesIn(icons));
+
+TEST_F(StatusNotifierItemTest, EachStatusHasAShapeOfItsOwn)
+{
+    const auto host = panelWith("");
+    std::set<QString> shapes;
+
+    for (const auto& icon : icons) {
+        item.setButton({.symbolName = icon.symbolName});
+        shapes.insert(host->item().value("IconPixmap").toArray().at(0).toArray().at(2).toString());
+    }
+
+    EXPECT_EQ(shapes.size(), 6U);
+}
+
+TEST_F(StatusNotifierItemTest, ThePaintedIconFollowsTheDesktopsColours)
+{
+    const auto host = panelWith("checkmark.circle.fill");
+    // Its left edge is inside the disk, its centre in the mark.
+    const auto color = [&] {
+        const auto pixmaps = host->item().value("IconPixmap").toArray();
+        return image(pixmaps.at(5)).pixelColor(6, 32);
+    };
+    EXPECT_EQ(color(), QColor(0x1d, 0x21, 0x27));
+
+    usePalette(Qt::black, Qt::white);
+
+    EXPECT_EQ(color(), QColor(0xec, 0xee, 0xf1));
+    EXPECT_EQ(host->takeSignalNames(), QStringList("NewIcon"));
+}
+
+TEST_F(StatusNotifierItemTest, TheInstalledIconIsTheHostsToColour)
+{
+    installIcons();
+    const auto host = panelWith("checkmark.circle.fill");
+
+    usePalette(Qt::black, Qt::white);
+
+    EXPECT_EQ(host->takeSignalNames(), QStringList());
+}
+
+TEST_F(StatusNotifierItemTest, SaysWhatItIs)
+{
+    const auto host = panelWith("checkmark.circle.fill");
+
+    const auto properties = host->item();
+
+    EXPECT_EQ(properties.value("Category"), "SystemServices");
+    EXPECT_EQ(properties.value("Id"), "com.kestrune.larkspan");
+    EXPECT_EQ(properties.value("Title"), "Kestrune");
+    EXPECT_EQ(properties.value("Status"), "Active");
+    EXPECT_EQ(properties.value("ItemIsMenu"), true);
+    EXPECT_EQ(properties.value("Menu"), "/MenuBar");
+    EXPECT_EQ(properties.value("IconAccessibleDesc"), "In words");
+    // The second text of a tool tip is markup to hosts, so ours is the first.
+    EXPECT_EQ(properties.value("ToolTip"), QJsonArray({"", QJsonArray(), "Kestrune: fine", ""}));
+}
+
+TEST_F(StatusNotifierItemTest, TellsOnlyOfWhatChanged)
+{
+    const auto host = panelWith("checkmark.circle.fill");
+    platform::StatusItem::Button button{
+        .symbolName = "checkmark.circle.fill", .accessibilityDescription = "In words", .toolTip = "Kestrune: fine"};
+
+    item.setButton(button);
+    EXPECT_EQ(host->takeSignalNames(), QStringList());
+
+    button.toolTip = "Kestrune: slow";
+    item.setButton(button);
+    EXPECT_EQ(host->takeSignalNames(), QStringList("NewToolTip"));
+
+    button.symbolName = "exclamationmark.triangle.fill";
+    item.setButton(button);
+    EXPECT_EQ(host->takeSignalNames(), QStringList("NewIcon"));
+}
+
+TEST_F(StatusNotifierItemTest, PressingTheItemItselfOpensTheDashboardWithTheTokenOfThePress)
+{
+    const auto host = panelWith("checkmark.circle.fill");
+    QStringList tokens;
+    QObject::connect(&item, &StatusNotifierItem::activationTokenProvided, [&](const QString& token) {
+        EXPECT_TRUE(performed.empty());
+        tokens << token;
+    });
+
+    host->callItem("ProvideXdgActivationToken", "s", {"token-of-the-press"});
+    host->callItem("Activate", "ii", {10, 20});
+
+    ASSERT_TRUE(peers::turnUntil([&] { return !performed.empty(); }));
+    EXPECT_EQ(performed.front().action, MenuRow::Action::openDashboard);
+    EXPECT_EQ(tokens, QStringList("token-of-the-press"));
+    EXPECT_EQ(host->takeSignalNames(), QStringList());
+}
+
+TEST_F(StatusNotifierItemTest, OtherPressesDoNothing)
+{
+    const auto host = panelWith("checkmark.circle.fill");
+
+    EXPECT_TRUE(host->callItem("SecondaryActivate", "ii", {1, 1}).toObject().isEmpty());
+    EXPECT_TRUE(host->callItem("ContextMenu", "ii", {1, 1}).toObject().isEmpty());
+    EXPECT_TRUE(host->callItem("Scroll", "is", {120, "vertical"}).toObject().isEmpty());
+    peers::turnFor(std::chrono::milliseconds(50));
+
+    EXPECT_TRUE(performed.empty());
+}
+
+}  // namespace
+}  // namespace larkspan::adapters
