@@ -61,24 +61,6 @@ std::vector<PageMetric> metricsOf(std::size_t index)
         {"90d", 99.98 - lost, incidents + 1}};
 }
 
-StatusPage pageAt(std::size_t index)
-{
-    const support::Time firstOfAll = std::chrono::sys_days(std::chrono::year(2023) / 3 / 14) + 9h + 26min + 53s;
-    const auto age = static_cast<int>(index % 1'000) * std::chrono::hours(11);
-
-    StatusPage page;
-    page.id = "page-" + std::to_string(index + 1);
-    page.name = nameOf(index);
-    page.slug = slugOf(page.name);
-    page.url = "https://status.kestrune.example/" + *page.slug;
-    if (index % 3 != 2) page.description = "Live status of " + page.name + ".";
-    page.setHealth(healthOf(index));
-    page.createdAt = firstOfAll + age;
-    page.updatedAt = firstOfAll + age + 417h + 589ms;
-    page.metrics = metricsOf(index);
-    return page;
-}
-
 }  // namespace
 
 std::optional<std::size_t> seedSize(std::string_view name)
@@ -99,11 +81,30 @@ std::optional<std::size_t> seedSize(std::string_view name)
     return size;
 }
 
+StatusPage seededPage(std::size_t index, std::string name, PageHealth health)
+{
+    const support::Time firstOfAll = std::chrono::sys_days(std::chrono::year(2023) / 3 / 14) + 9h + 26min + 53s;
+    const auto age = static_cast<int>(index % 1'000) * std::chrono::hours(11);
+
+    StatusPage page;
+    page.id = "page-" + std::to_string(index + 1);
+    page.name = std::move(name);
+    page.slug = slugOf(page.name);
+    page.url = "https://status.kestrune.example/" + *page.slug;
+    if (index % 3 != 2) page.description = "Live status of " + page.name + ".";
+    page.setHealth(health);
+    page.createdAt = firstOfAll + age;
+    page.updatedAt = firstOfAll + age + 417h + 589ms;
+    page.metrics = metricsOf(index);
+    return page;
+}
+
 std::vector<StatusPage> seededPages(std::size_t count)
 {
     std::vector<StatusPage> pages;
     pages.reserve(count);
-    for (std::size_t index = 0; index < count; ++index) pages.push_back(pageAt(index));
+    for (std::size_t index = 0; index < count; ++index)
+        pages.push_back(seededPage(index, nameOf(index), healthOf(index)));
     return pages;
 }
 

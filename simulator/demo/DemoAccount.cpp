@@ -1,23 +1,12 @@
 #include "demo/DemoAccount.h"
 
-#include "account/Seed.h"
+#include "demo/LivelyAccount.h"
 
 namespace larkspan::simulator {
 
-namespace {
-
-Account smallAccount(support::Time now)
-{
-    auto account = seededAccount(*seedSize("small"), now);
-    account.keys.emplace(DemoAccount::key, KeyRights::full);
-    return account;
-}
-
-}  // namespace
-
 DemoAccount::DemoAccount(
     const platform::Clock& clock, const platform::CredentialItem& item, std::chrono::milliseconds latency)
-    : service_(smallAccount(clock.now()), clock)
+    : service_(livelyAccount(key, clock.now()), clock)
     , transport_(std::in_place, service_, worker_, worker_)
 {
     service_.live(Storyline::ordinaryDay());

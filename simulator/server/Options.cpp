@@ -24,7 +24,7 @@ signed by an authority of its own, made on first use; the path of its certificat
   --shape NAME         how results are wrapped: data (the default) or bare
   --certificate NAME   what it shows: valid (the default), expired, wrong-name or untrusted
   --directory PATH     where the authority is kept; $XDG_DATA_HOME/larkspan-simulator unless told
-  --live               pages change as time passes
+  --live               incidents and maintenances come and go as time passes
   --help               this text
 )";
 

@@ -5,12 +5,9 @@
 
 #include "Samples.h"
 #include "account/Seed.h"
-#include "account/Storyline.h"
 
 namespace larkspan::simulator {
 namespace {
-
-using namespace std::chrono_literals;
 
 struct SeedSizeRow {
     std::string_view name;
@@ -50,64 +47,6 @@ TEST(SeededPages, OfASmallAccountShowEachHealth)
     for (const auto& page : seededPages(12)) codes.insert(page.overview->code);
 
     EXPECT_THAT(codes, testing::UnorderedElementsAre("operational", "degraded", "major-outage", "maintenance"));
-}
-
-class Story : public testing::Test {
-protected:
-    std::string codeOf(std::string_view id) { return account_.findPage(id)->overview->code; }
-
-    const support::Time now_{std::chrono::sys_days(std::chrono::year(2026) / 5 / 1)};
-    Account account_ = samples::account();
-    Storyline story_{{{10s, "page-2", PageHealth::degraded}, {20s, "page-2", PageHealth::majorOutage}}, 30s};
-};
-
-TEST_F(Story, TellsNothingBeforeItsTime)
-{
-    story_.tellUpTo(9'999ms, now_, account_);
-
-    EXPECT_EQ(codeOf("page-2"), "operational");
-}
-
-TEST_F(Story, TellsAllThatIsDueInOrderAndStampsThePage)
-{
-    story_.tellUpTo(25s, now_, account_);
-
-    EXPECT_EQ(codeOf("page-2"), "major-outage");
-    EXPECT_EQ(account_.findPage("page-2")->updatedAt, now_ - 5s);
-    EXPECT_EQ(codeOf("page-1"), "operational");
-}
-
-TEST_F(Story, StartsAgainWhenItsPeriodIsOver)
-{
-    story_.tellUpTo(39s, now_, account_);
-    EXPECT_EQ(codeOf("page-2"), "major-outage");
-
-    story_.tellUpTo(40s, now_, account_);
-    EXPECT_EQ(codeOf("page-2"), "degraded");
-}
-
-TEST_F(Story, OfAPageThatIsGoneChangesNothing)
-{
-    account_.statusPages.erase(account_.statusPages.begin() + 1);
-
-    story_.tellUpTo(25s, now_, account_);
-
-    EXPECT_EQ(codeOf("page-1"), "operational");
-    EXPECT_EQ(codeOf("page-3"), "operational");
-}
-
-TEST_F(Story, OfAnOrdinaryDayLooksDifferentAtEachOfItsFirstMinutes)
-{
-    auto day = Storyline::ordinaryDay();
-    std::vector<std::string> seen;
-    for (const auto at : {0min, 1min, 2min, 3min, 4min}) {
-        day.tellUpTo(at, now_, account_);
-        seen.push_back(codeOf("page-2") + " " + codeOf("page-3"));
-    }
-
-    EXPECT_THAT(seen,
-        testing::ElementsAre("operational operational", "major-outage operational", "degraded maintenance",
-            "operational maintenance", "operational operational"));
 }
 
 }  // namespace

@@ -36,7 +36,7 @@ TEST(DemoAccount, ShowsItsPagesToTheKeyInItsStoreAndLives)
     clock.time += 1min;
     const auto after = Json::parse(fetchPages(account));
 
-    EXPECT_EQ(before.find("data")->array()->size(), 12u);
+    EXPECT_EQ(before.find("data")->array()->size(), 4u);
     EXPECT_NE(before, after);
 }
 

@@ -164,7 +164,7 @@ TEST(Service, LetsAStoryHappenByTheClock)
 
     service.answer(request(pagesPath));
 
-    service.withAccount([](Account& account) { EXPECT_EQ(account.findPage("page-2")->status, "down"); });
+    service.withAccount([](Account& account) { EXPECT_EQ(account.findPage("page-1")->status, "down"); });
 }
 
 }  // namespace
