@@ -47,6 +47,11 @@ Task<T> KestruneAPI::sendRequest(Call call, std::stop_token stop)
 template Task<model::EmptyResponse> KestruneAPI::sendRequest(Call, std::stop_token);
 template Task<std::vector<model::StatusPage>> KestruneAPI::sendRequest(Call, std::stop_token);
 template Task<model::StatusPagesStatusEnvelope> KestruneAPI::sendRequest(Call, std::stop_token);
+template Task<std::vector<model::Incident>> KestruneAPI::sendRequest(Call, std::stop_token);
+template Task<model::Incident> KestruneAPI::sendRequest(Call, std::stop_token);
+template Task<model::IncidentStatesEnvelope> KestruneAPI::sendRequest(Call, std::stop_token);
+template Task<std::vector<model::Maintenance>> KestruneAPI::sendRequest(Call, std::stop_token);
+template Task<model::Maintenance> KestruneAPI::sendRequest(Call, std::stop_token);
 
 Task<std::string> KestruneAPI::sendRawRequest(Base base, std::string path, std::stop_token stop)
 {
@@ -95,6 +100,12 @@ Task<T> KestruneAPI::sendAndDecode(Call call, std::stop_token stop)
         throw APIError::invalidResponse();
     }
     co_return decoder_.decodeResult<T>(body);
+}
+
+Task<void> KestruneAPI::sendForNothing(Call call)
+{
+    auto sending = sendAndDecode<model::EmptyResponse>(std::move(call), {});
+    co_await std::move(sending);
 }
 
 Task<std::string> KestruneAPI::send(Call call, std::stop_token stop)

@@ -5,7 +5,13 @@
 #include <string>
 #include <vector>
 
+#include "api/MaintenanceArguments.h"
+#include "model/Incident.h"
+#include "model/IncidentRequests.h"
+#include "model/IncidentState.h"
 #include "model/JSONDecoder.h"
+#include "model/JSONEncoder.h"
+#include "model/Maintenance.h"
 #include "model/StatusPage.h"
 #include "model/StatusPagesStatusEnvelope.h"
 #include "platform/Clock.h"
@@ -49,11 +55,38 @@ public:
     /// A GET that gives the body undecoded, for results with shapes of their own.
     support::Task<std::string> sendRawRequest(Base base, std::string path, std::stop_token stop = {});
 
+    // Status pages
     support::Task<std::vector<model::StatusPage>> fetchStatusPages(std::stop_token stop = {});
     support::Task<std::vector<model::PageStatusEntry>> fetchStatusPageStatuses(std::stop_token stop = {});
 
     /// Ends if the service accepts `key`, which needs not be the stored one; else throws what a request would.
     support::Task<void> validateAPIKey(std::string key, std::stop_token stop = {});
+
+    // Incidents
+    /// Those of one page; of the whole account if `statusPageId` is absent or empty. As the service lists them.
+    support::Task<std::vector<model::Incident>> fetchIncidents(
+        std::optional<std::string> statusPageId = {}, std::stop_token stop = {});
+    support::Task<model::Incident> fetchIncident(std::string id);
+    support::Task<model::Incident> createIncident(model::CreateIncidentRequest request);
+    /// Adds `message` to the timeline; the state stays.
+    support::Task<model::Incident> updateIncident(std::string id, std::string message);
+    support::Task<model::Incident> appendIncidentUpdate(
+        std::string id, std::optional<std::string> message, std::optional<std::string> incidentStateId);
+    support::Task<void> acknowledgeIncident(std::string id);
+    support::Task<void> escalateIncident(std::string id);
+    /// The account's workflow, asked for once and then kept as long as the program runs.
+    support::Task<std::vector<model::IncidentState>> fetchIncidentStates();
+    /// Moves the incident into the first state of the workflow that is called "Resolved", in any case of letters.
+    support::Task<model::Incident> resolveIncident(std::string id);
+    support::Task<void> deleteIncident(std::string id);
+
+    // Maintenances
+    /// Those of the whole account, as the service lists them.
+    support::Task<std::vector<model::Maintenance>> fetchMaintenances(std::stop_token stop = {});
+    support::Task<model::Maintenance> fetchMaintenance(std::string id);
+    support::Task<model::Maintenance> createMaintenance(NewMaintenance arguments);
+    support::Task<model::Maintenance> updateMaintenance(std::string id, MaintenanceChanges arguments);
+    support::Task<void> deleteMaintenance(std::string id);
 
 private:
     platform::HttpRequest preparedRequest(const Call& call) const;
@@ -64,6 +97,11 @@ private:
     support::Task<std::string> send(Call call, std::stop_token stop);
     template <typename T>
     support::Task<T> sendAndDecode(Call call, std::stop_token stop);
+    template <typename T, typename Record>
+    support::Task<T> sendRecord(Call call, Record body);
+    support::Task<void> sendForNothing(Call call);
+    support::Task<std::vector<model::IncidentState>> incidentStates();
+    support::Task<model::Incident> resolve(std::string id);
     support::Task<std::vector<model::PageStatusEntry>> statusPageStatuses(std::stop_token stop);
     support::Task<void> validate(std::string key, std::stop_token stop);
 
@@ -71,6 +109,9 @@ private:
     const std::string featureBaseURL_;
     const Ports ports_;
     const model::JSONDecoder decoder_;
+    const model::JSONEncoder encoder_{};
+    // Of the client's executor, as the key and every request are.
+    std::optional<std::vector<model::IncidentState>> cachedIncidentStates_;
 };
 
 }  // namespace larkspan::api

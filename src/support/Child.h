@@ -29,8 +29,15 @@ private:
     };
     using StatePointer = std::shared_ptr<State>;
 
+    /// Lets go of the awaiter when the task ends, and also when it is dropped in mid-work: they hold each other.
+    struct Release {
+        StatePointer state;
+        ~Release() { const auto released = std::exchange(state->waiter, std::nullopt); }
+    };
+
     static Task<void> run(StatePointer state, Task<T> task)
     {
+        const Release release{state};
         try {
             if constexpr (std::is_void_v<T>) {
                 co_await std::move(task);

@@ -20,6 +20,8 @@ namespace larkspan::fakes {
 struct Service {
     static constexpr auto host = "service.example";
     static constexpr auto pagesURL = "https://service.example/user/api/v1/status-pages";
+    static constexpr auto incidentsURL = "https://service.example/user/api/v1/incidents";
+    static constexpr auto maintenancesURL = "https://service.example/user/api/v1/maintenances";
     static constexpr auto overviewURL = "https://service.example/user/api/status-pages/status";
 
     Service() { api::KeychainHelper::saveAPIKey(credentials, "k-123"); }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -114,6 +116,35 @@ TEST(Child, DroppedItRunsOnUnheard)
     start(main, dropAtOnce(main, &log));
     main.run();
     EXPECT_EQ(log, (Log{"parent ended", "child begins"}));
+}
+
+Task<void> waitFor(std::optional<Completion<void>>* answer)
+{
+    auto park = [answer](Completion<void> completion) { answer->emplace(std::move(completion)); };
+    auto waiting = completion<void>(std::move(park));
+    co_await std::move(waiting);
+}
+
+Task<void> awaitChild(platform::Executor& main, std::optional<Completion<void>>* answer, std::shared_ptr<int> witness)
+{
+    Child<void> child(main, waitFor(answer));
+    auto result = child.result();
+    co_await std::move(result);
+    ++*witness;
+}
+
+TEST(Child, WhoseWorkIsDroppedLetsGoOfItsAwaiterToo)
+{
+    ManualExecutor main;
+    std::optional<Completion<void>> answer;
+    const auto witness = std::make_shared<int>(0);
+    start(main, awaitChild(main, &answer, witness));
+    main.run();
+    ASSERT_EQ(witness.use_count(), 2);
+    answer.reset();
+    main.run();
+    EXPECT_EQ(witness.use_count(), 1);
+    EXPECT_EQ(*witness, 0);
 }
 
 }  // namespace
