@@ -5,23 +5,45 @@
 
 #include <utility>
 
+#include "BuildSettings.h"
 #include "qml/MainWindow.h"
 #include "workspace/Dashboard.h"
 
 namespace larkspan {
+
+namespace {
+
+workspace::AboutKestruneView::Bundle bundle()
+{
+    return {.shortVersion = BuildSettings::version,
+        .buildNumber = BuildSettings::buildNumber,
+        .websiteAddress = BuildSettings::websiteAddress,
+        .communityAddress = BuildSettings::communityAddress,
+        .organisationAddress = BuildSettings::organisationAddress};
+}
+
+}  // namespace
 
 Application::Application(adapters::MainExecutor& main, ServiceAccess service)
     : main_(main)
     , service_(std::move(service))
     , appearance_(QDBusConnection::sessionBus())
     , notifications_(QDBusConnection::sessionBus())
+    , updater_(QDBusConnection::systemBus())
+    , tray_(QDBusConnection::sessionBus(), appearance_)
+    , menu_([this] { app_->showingAbout = true; })
+    , statusItems_({tray_, menu_})
+    , about_(bundle(), links_)
     , api_({service_.client, service_.transport, service_.credentials, clock_}, service_.host)
-    , app_(std::make_unique<core::LarkspanApp>(
-          core::AppStateManager::Ports{main_, timers_, clock_, notifications_, networkMonitor_, api_}, windows_))
+    , keys_(service_.client, service_.credentials)
+    , updates_(std::make_shared<core::UpdaterController>(updater_))
+    , app_(std::make_unique<core::LarkspanApp>(core::AppStateManager::Ports{
+          main_, timers_, clock_, notifications_, networkMonitor_, statusItems_, updates_, windows_, api_}))
 {
     auto dashboard = std::make_shared<workspace::Dashboard>(
-        workspace::Dashboard::Ports{timers_, clock_, service_.credentials, app_->appState()});
-    window_ = std::make_unique<MainWindow>(std::move(dashboard), main_);
+        workspace::Dashboard::Ports{main_, timers_, clock_, service_.credentials, keys_, app_->appState()});
+    window_ = std::make_unique<MainWindow>(
+        MainWindow::Content{std::move(dashboard), updates_, about_, app_->showingAbout, *app_, menu_}, main_);
     windows_.add(window_->window());
 
     using adapters::Appearance;
@@ -30,6 +52,8 @@ Application::Application(adapters::MainExecutor& main, ServiceAccess service)
         connect(&appearance_, changed, this, &Application::showAppearance);
     }
     showAppearance();
+    connect(&tray_, &adapters::StatusNotifierItem::activationTokenProvided, this,
+        [this](const QString& token) { windows_.setActivationToken(token); });
     connect(window_.get(), &MainWindow::quitRequested, this, &Application::quit);
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state == Qt::ApplicationActive) app_->windowLifecycleDelegate().applicationDidBecomeActive();

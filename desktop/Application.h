@@ -8,14 +8,22 @@
 #include <string>
 
 #include "adapters/Appearance.h"
+#include "adapters/DesktopLinkOpener.h"
 #include "adapters/FreedesktopNotificationCenter.h"
 #include "adapters/MainExecutor.h"
+#include "adapters/PackageKitUpdater.h"
 #include "adapters/QtNetworkPathMonitor.h"
 #include "adapters/QtTimers.h"
 #include "adapters/QtWindowSystem.h"
+#include "adapters/StatusItems.h"
 #include "adapters/SystemClock.h"
+#include "adapters/tray/StatusNotifierItem.h"
+#include "api/APIKeyStore.h"
 #include "api/KestruneAPI.h"
+#include "bridge/MenuBridge.h"
 #include "core/LarkspanApp.h"
+#include "core/UpdaterController.h"
+#include "workspace/AboutKestruneView.h"
 
 namespace larkspan {
 
@@ -58,7 +66,15 @@ private:
     adapters::QtWindowSystem windows_;
     adapters::FreedesktopNotificationCenter notifications_;
     adapters::QtNetworkPathMonitor networkMonitor_;
+    adapters::DesktopLinkOpener links_;
+    adapters::PackageKitUpdater updater_;
+    adapters::StatusNotifierItem tray_;
+    bridge::MenuBridge menu_;
+    adapters::StatusItems statusItems_;
+    workspace::AboutKestruneView about_;
     api::KestruneAPI api_;
+    api::APIKeyStore keys_;
+    std::shared_ptr<core::UpdaterController> updates_;
     std::unique_ptr<core::LarkspanApp> app_;
     std::unique_ptr<MainWindow> window_;
 };

@@ -21,6 +21,9 @@
 #include "demo/MemoryCredentialStore.h"
 #include "fakes/FakeNetworkPathMonitor.h"
 #include "fakes/FakeNotificationCenter.h"
+#include "fakes/FakeStatusItem.h"
+#include "fakes/FakeUpdater.h"
+#include "fakes/FakeWindowSystem.h"
 #include "fakes/ManualClock.h"
 #include "fakes/ManualExecutor.h"
 #include "fakes/ManualTimers.h"
@@ -57,12 +60,16 @@ private:
     fakes::ManualClock clock_;
     fakes::FakeNotificationCenter notifications_;
     fakes::FakeNetworkPathMonitor networkMonitor_;
+    fakes::FakeStatusItem statusItem_;
+    fakes::FakeUpdater updater_;
+    std::shared_ptr<core::UpdaterController> updates_ = std::make_shared<core::UpdaterController>(updater_);
+    fakes::FakeWindowSystem windows_;
     simulator::MemoryCredentialStore store_;
     simulator::Service service_;
     bench::PreparedTransport transport_{service_, executor_};
     api::KestruneAPI api_{{executor_, transport_, store_, clock_}, "kestrune.example"};
-    std::shared_ptr<core::AppStateManager> state_
-        = core::AppStateManager::make({executor_, timers_, clock_, notifications_, networkMonitor_, api_});
+    std::shared_ptr<core::AppStateManager> state_ = core::AppStateManager::make(
+        {executor_, timers_, clock_, notifications_, networkMonitor_, statusItem_, updates_, windows_, api_});
 };
 
 double cpuMilliseconds()

@@ -1,23 +1,14 @@
 #include "bridge/DashboardBridge.h"
 
-#include <string_view>
 #include <utility>
 
 namespace larkspan::bridge {
-
-namespace {
-
-QString text(std::string_view words)
-{
-    return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
-}
-
-}  // namespace
 
 DashboardBridge::DashboardBridge(
     std::shared_ptr<workspace::Dashboard> dashboard, platform::Executor& main, QObject* parent)
     : QObject(parent)
     , dashboard_(std::move(dashboard))
+    , main_(main)
     , notice_(main,
           [this] {
               readState();
@@ -32,27 +23,36 @@ void DashboardBridge::readState()
 {
     placeholder_ = dashboard_->placeholder();
     statusText_ = dashboard_->statusText();
+    summary_ = dashboard_->summary();
     rows_.update(dashboard_->rows());
+    followSettings();
 }
 
-QString DashboardBridge::windowTitle() const
+void DashboardBridge::followSettings()
 {
-    return text(workspace::Dashboard::windowTitle);
+    if (shownSettings_ == dashboard_->settings()) return;
+    shownSettings_ = dashboard_->settings();
+    // A sheet that closes still reads its own.
+    if (settings_) settings_.release()->deleteLater();
+    if (shownSettings_) settings_ = std::make_unique<SettingsBridge>(shownSettings_, main_);
+}
+
+QString DashboardBridge::headlineDetails() const
+{
+    QStringList details;
+    for (const auto& detail : summary_.operationalDetails()) details << QString::fromStdString(detail);
+    return details.join(QStringLiteral(" · "));
+}
+
+int DashboardBridge::selectedRow() const
+{
+    const auto row = dashboard_->selectedRow();
+    return row ? static_cast<int>(*row) : -1;
 }
 
 bool DashboardBridge::showsList() const
 {
     return dashboard_->content() == workspace::Dashboard::Content::list;
-}
-
-QString DashboardBridge::listHeading() const
-{
-    return text(workspace::Dashboard::listHeading);
-}
-
-QString DashboardBridge::refreshFailedText() const
-{
-    return text(workspace::Dashboard::refreshFailedText);
 }
 
 QStringList DashboardBridge::refreshIntervalLabels() const

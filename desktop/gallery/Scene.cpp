@@ -1,7 +1,10 @@
 #include "gallery/Scene.h"
 
+#include <algorithm>
 #include <chrono>
 #include <exception>
+#include <iterator>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -13,10 +16,14 @@ namespace larkspan::gallery {
 
 using namespace std::chrono_literals;
 using core::AppStateManager;
+using model::Incident;
+using model::Maintenance;
 using model::StatusPage;
 using model::StatusPageStatus;
 
 namespace {
+
+constexpr const char* typedKey = "a key that nobody sees";
 
 StatusPage page(std::string id, std::string name, StatusPageStatus status)
 {
@@ -94,32 +101,196 @@ void undecodable(AppStateManager& state)
             "Cannot decode date: the day before yesterday, or the one before that, nobody in the office remembers any more"));
 }
 
+Incident incident(std::string id, std::string title, model::IncidentStatus status)
+{
+    Incident made;
+    made.id = std::move(id);
+    made.title = std::move(title);
+    made.status = status;
+    return made;
+}
+
+Maintenance maintenance(std::string id, std::string status)
+{
+    Maintenance made;
+    made.id = std::move(id);
+    made.status = std::move(status);
+    return made;
+}
+
+void rolledUp(AppStateManager& state)
+{
+    state.overallStatus = core::rolledUpStatus(
+        *state.statusPages, *state.incidents, *state.maintenances, *state.refreshError != nullptr);
+}
+
+void busyDay(AppStateManager& state)
+{
+    everyStatus(state);
+    state.incidents = std::vector{incident("1", "Login errors for EU customers", model::IncidentStatus::active),
+        incident("2", "Slow checkout", model::IncidentStatus::acknowledged),
+        incident("3", "An incident whose title is far too long for any menu to show it to its end",
+            model::IncidentStatus::active)};
+    state.maintenances = std::vector{maintenance("4", "in_progress")};
+    rolledUp(state);
+}
+
+void quietDay(AppStateManager& state)
+{
+    refreshed(state, {page("a", "Acme Cloud", StatusPageStatus::operational)});
+    rolledUp(state);
+}
+
+void offline(AppStateManager& state)
+{
+    quietDay(state);
+    state.isReachable = false;
+}
+
+/// A scene of the account's state alone.
+std::function<void(Stage&)> with(std::function<void(AppStateManager&)> arrange)
+{
+    return [arrange = std::move(arrange)](Stage& stage) { arrange(stage.state()); };
+}
+
+void nothing(Stage&) {}
+
+/// A scene of the settings sheet over a quiet day.
+std::function<void(Stage&)> settings(std::function<void(workspace::Settings&)> arrange)
+{
+    return [arrange = std::move(arrange)](Stage& stage) {
+        quietDay(stage.state());
+        stage.dashboard().openSettings();
+        arrange(*stage.dashboard().settings());
+    };
+}
+
+/// The same with a key in the store.
+std::function<void(Stage&)> savedSettings(std::function<void(workspace::Settings&)> arrange)
+{
+    return [open = settings(std::move(arrange))](Stage& stage) {
+        stage.storeKey();
+        open(stage);
+    };
+}
+
+using Kind = workspace::Settings::ValidationState::Kind;
+
+void justOpened(workspace::Settings&) {}
+
+void verifying(workspace::Settings& sheet)
+{
+    sheet.edit(typedKey);
+    sheet.validationState = {Kind::validating};
+}
+
+void refused(workspace::Settings& sheet)
+{
+    sheet.edit(typedKey);
+    sheet.validationState = {Kind::invalid, "Request timed out. Kestrune may be slow or unreachable."};
+}
+
+void connected(workspace::Settings& sheet)
+{
+    sheet.validationState = {Kind::valid};
+}
+
+void aboutToDelete(workspace::Settings& sheet)
+{
+    sheet.confirmDelete();
+}
+
+std::function<void(Stage&)> updates(std::optional<platform::UpdateCheck> finding)
+{
+    return [finding = std::move(finding)](Stage& stage) {
+        quietDay(stage.state());
+        stage.updates().checkForUpdates();
+        stage.updates().finding = finding;
+    };
+}
+
+void about(Stage& stage)
+{
+    quietDay(stage.state());
+    stage.showAbout();
+}
+
+std::vector<Scene> dashboardScenes()
+{
+    return {
+        {"dashboard-list", with(everyStatus)},
+        {"dashboard-list-narrow", with(everyStatus), 480, 440},
+        {"dashboard-list-wide", with(everyStatus), 1600, 900},
+        {"dashboard-list-large-font", with(everyStatus), 760, 600, 20},
+        {"dashboard-list-narrow-large-font", with(everyStatus), 480, 440, 20},
+        {"dashboard-list-stale", with(staleList)},
+        {"dashboard-list-stale-narrow", with(staleList), 480, 440},
+        {"dashboard-list-stale-narrow-large-font", with(staleList), 480, 440, 20},
+        {"dashboard-list-odd-names", with(oddNames)},
+        {"dashboard-list-thousand", with(thousandPages)},
+        {"dashboard-loading", with(loading)},
+        {"dashboard-empty", nothing},
+        {"dashboard-empty-narrow-large-font", nothing, 480, 440, 20},
+        {"dashboard-error-missing-key", with(missingKey)},
+        {"dashboard-error-transport", with([](AppStateManager& state) {
+             failed(state, platform::URLError(platform::URLError::Code::cannotFindHost));
+         })},
+        {"dashboard-error-long", with(undecodable)},
+        {"dashboard-error-long-narrow-large-font", with(undecodable), 480, 440, 20},
+        {"dashboard-busy-day", with(busyDay)},
+        {"dashboard-busy-day-narrow-large-font", with(busyDay), 480, 440, 20},
+        {"dashboard-quiet-day", with(quietDay)},
+        {"dashboard-offline", with(offline)},
+        {"dashboard-intervals", with(quietDay), 760, 600, 10, "Refresh Interval"},
+    };
+}
+
+std::vector<Scene> menuScenes()
+{
+    return {
+        {"menu", with(busyDay), 760, 600, 10, "Menu"},
+        {"menu-before-the-first-cycle", nothing, 760, 600, 10, "Menu"},
+        {"menu-thousand", with(thousandPages), 760, 600, 10, "Menu"},
+        {"menu-narrow-large-font", with(busyDay), 480, 440, 20, "Menu"},
+    };
+}
+
+std::vector<Scene> settingsScenes()
+{
+    return {
+        {"settings-no-key", settings(justOpened)},
+        {"settings-verifying", settings(verifying)},
+        {"settings-refused", settings(refused)},
+        {"settings-saved", savedSettings(justOpened)},
+        {"settings-connected", savedSettings(connected)},
+        {"settings-delete", savedSettings(aboutToDelete)},
+        {"settings-refused-narrow", settings(refused), 480, 440},
+        {"settings-refused-narrow-large-font", settings(refused), 480, 440, 20},
+        {"settings-delete-narrow-large-font", savedSettings(aboutToDelete), 480, 440, 20},
+    };
+}
+
+std::vector<Scene> otherScenes()
+{
+    using Finding = platform::UpdateCheck::Finding;
+    return {
+        {"about", about},
+        {"about-narrow-large-font", about, 480, 440, 20},
+        {"updates-checking", updates(std::nullopt)},
+        {"updates-available", updates(platform::UpdateCheck{Finding::updateAvailable, "1.0", "1.1"})},
+        {"updates-no-service", updates(platform::UpdateCheck{Finding::noPackageService})},
+    };
+}
+
 }  // namespace
 
 std::vector<Scene> scenes()
 {
-    return {
-        {"dashboard-list", everyStatus},
-        {"dashboard-list-narrow", everyStatus, 480, 440},
-        {"dashboard-list-wide", everyStatus, 1600, 900},
-        {"dashboard-list-large-font", everyStatus, 760, 600, 20},
-        {"dashboard-list-narrow-large-font", everyStatus, 480, 440, 20},
-        {"dashboard-list-stale", staleList},
-        {"dashboard-list-stale-narrow", staleList, 480, 440},
-        {"dashboard-list-stale-narrow-large-font", staleList, 480, 440, 20},
-        {"dashboard-list-odd-names", oddNames},
-        {"dashboard-list-thousand", thousandPages},
-        {"dashboard-loading", loading},
-        {"dashboard-empty", [](AppStateManager&) {}},
-        {"dashboard-empty-narrow-large-font", [](AppStateManager&) {}, 480, 440, 20},
-        {"dashboard-error-missing-key", missingKey},
-        {"dashboard-error-transport",
-            [](AppStateManager& state) {
-                failed(state, platform::URLError(platform::URLError::Code::cannotFindHost));
-            }},
-        {"dashboard-error-long", undecodable},
-        {"dashboard-error-long-narrow-large-font", undecodable, 480, 440, 20},
-    };
+    auto scenes = dashboardScenes();
+    std::ranges::move(menuScenes(), std::back_inserter(scenes));
+    std::ranges::move(settingsScenes(), std::back_inserter(scenes));
+    std::ranges::move(otherScenes(), std::back_inserter(scenes));
+    return scenes;
 }
 
 }  // namespace larkspan::gallery

@@ -4,17 +4,19 @@
 #include <string>
 #include <vector>
 
-#include "core/AppStateManager.h"
+#include "gallery/Stage.h"
 
 namespace larkspan::gallery {
 
-/// A state of the account, and how it looks when a person sees it.
+/// A state of the program, and how it looks when a person sees it.
 struct Scene {
     std::string name;
-    std::function<void(core::AppStateManager&)> arrange;
+    std::function<void(Stage&)> arrange;
     int width = 760;
     int height = 600;
     double fontPointSize = 10;
+    /// The help of the toolbar's button that is pressed before the picture is taken; empty for none.
+    std::string pressed = {};
 };
 
 /// Every state of every screen.

@@ -4,38 +4,20 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QProcess>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QTimer>
 
 #include <cstdio>
-#include <memory>
-#include <stop_token>
 
 #include "adapters/MainExecutor.h"
-#include "adapters/QtTimers.h"
-#include "adapters/SystemClock.h"
-#include "api/KestruneAPI.h"
 #include "gallery/Scene.h"
+#include "gallery/Stage.h"
 #include "qml/MainWindow.h"
 
 namespace larkspan::gallery {
 
 namespace {
-
-/// Nothing outside: the scenes set the account's state themselves.
-struct NoOutside final : platform::HttpTransport,
-                         platform::CredentialStore,
-                         platform::NotificationCenter,
-                         platform::NetworkPathMonitor {
-    void send(platform::HttpRequest, std::stop_token, support::UniqueFunction<void(Result)>) override {}
-    std::optional<std::string> find(const platform::CredentialItem&) override { return std::nullopt; }
-    bool add(const platform::CredentialItem&, const std::string&) override { return false; }
-    void remove(const platform::CredentialItem&) override {}
-    void allowPromptAgain() override {}
-    void requestAuthorization() override {}
-    void add(const platform::NotificationRequest&) override {}
-    void start(std::function<void(bool)>) override {}
-};
 
 void settle()
 {
@@ -43,6 +25,26 @@ void settle()
     QEventLoop loop;
     QTimer::singleShot(80, &loop, &QEventLoop::quit);
     loop.exec();
+}
+
+/// Puts the text that a scene's sheet knows of into its field, as a hand would have.
+void typeWhatIsKnown(QQuickWindow& window, Stage& stage)
+{
+    const auto& settings = stage.dashboard().settings();
+    if (!settings || settings->apiKey->empty()) return;
+    for (auto* const item : window.findChildren<QQuickItem*>()) {
+        if (item->property("echoMode").isValid()) item->setProperty("text", QString::fromStdString(*settings->apiKey));
+    }
+    settle();
+}
+
+/// Presses the toolbar's button with this help.
+void press(QQuickWindow& window, const QString& help)
+{
+    for (auto* const item : window.findChildren<QQuickItem*>()) {
+        if (item->property("help").toString() == help) QMetaObject::invokeMethod(item, "clicked");
+    }
+    settle();
 }
 
 class Photographer {
@@ -59,16 +61,16 @@ public:
         font.setPointSizeF(scene.fontPointSize);
         QGuiApplication::setFont(font);
 
-        auto state = core::AppStateManager::make({main_, timers_, clock_, outside_, outside_, api_});
-        scene.arrange(*state);
-        auto dashboard
-            = std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{timers_, clock_, outside_, state});
-        MainWindow mainWindow(dashboard, main_);
+        Stage stage(main_);
+        MainWindow mainWindow(stage.content(), main_);
         mainWindow.appearance().setProperty("isDark", isDark);
         mainWindow.appearance().setProperty("reducesMotion", true);
+        scene.arrange(stage);
         mainWindow.window().resize(scene.width, scene.height);
         mainWindow.window().show();
         settle();
+        typeWhatIsKnown(mainWindow.window(), stage);
+        if (!scene.pressed.empty()) press(mainWindow.window(), QString::fromStdString(scene.pressed));
 
         const auto scale = qGuiApp->devicePixelRatio();
         const auto name = QStringLiteral("%1/%2-%3@%4x.png")
@@ -81,10 +83,6 @@ public:
 private:
     QString folder_;
     adapters::MainExecutor main_;
-    adapters::QtTimers timers_;
-    adapters::SystemClock clock_;
-    NoOutside outside_;
-    api::KestruneAPI api_{{main_, outside_, outside_, clock_}, "kestrune.example"};
 };
 
 }  // namespace

@@ -5,6 +5,9 @@ import Larkspan.Bridge
 Window {
     id: window
     required property DashboardBridge dashboard
+    required property AboutBridge about
+    required property UpdateBridge updates
+    required property MenuBridge menuRows
     required property AppearanceBridge appearance
     signal quitRequested
 
@@ -35,6 +38,29 @@ Window {
         anchors.fill: parent
         focus: true
         dashboard: window.dashboard
+        menuRows: window.menuRows
+    }
+
+    PopupLoader {
+        isShown: window.dashboard.settings !== null
+        onDismissed: window.dashboard.closeSettings()
+        sourceComponent: SettingsSheet {
+            settings: window.dashboard.settings
+        }
+    }
+    PopupLoader {
+        isShown: window.about.isShowing
+        onDismissed: window.about.close()
+        sourceComponent: AboutSheet {
+            about: window.about
+        }
+    }
+    PopupLoader {
+        isShown: window.updates.isShowing
+        onDismissed: window.updates.dismiss()
+        sourceComponent: UpdateDialog {
+            updates: window.updates
+        }
     }
 
     Shortcut {

@@ -10,12 +10,17 @@ Q_IMPORT_QML_PLUGIN(Larkspan_BridgePlugin)
 
 namespace larkspan {
 
-MainWindow::MainWindow(std::shared_ptr<workspace::Dashboard> dashboard, platform::Executor& main)
-    : dashboard_(std::move(dashboard), main)
+MainWindow::MainWindow(Content content, platform::Executor& main)
+    : dashboard_(std::move(content.dashboard), main)
+    , about_(content.about, content.showingAbout, content.aboutOwner, main)
+    , updates_(std::move(content.updates), main)
 {
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
     engine_.setInitialProperties({
         {QStringLiteral("dashboard"), QVariant::fromValue(&dashboard_)},
+        {QStringLiteral("about"), QVariant::fromValue(&about_)},
+        {QStringLiteral("updates"), QVariant::fromValue(&updates_)},
+        {QStringLiteral("menuRows"), QVariant::fromValue(&content.menu)},
         {QStringLiteral("appearance"), QVariant::fromValue(&appearance_)},
     });
     engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Larkspan/Main.qml")));

@@ -5,9 +5,14 @@
 
 #include <memory>
 
+#include "bridge/AboutBridge.h"
 #include "bridge/AppearanceBridge.h"
 #include "bridge/DashboardBridge.h"
+#include "bridge/MenuBridge.h"
+#include "bridge/UpdateBridge.h"
+#include "core/UpdaterController.h"
 #include "platform/Executor.h"
+#include "workspace/AboutKestruneView.h"
 #include "workspace/Dashboard.h"
 
 class QQuickWindow;
@@ -19,7 +24,18 @@ class MainWindow final : public QObject {
     Q_OBJECT
 
 public:
-    MainWindow(std::shared_ptr<workspace::Dashboard> dashboard, platform::Executor& main);
+    /// What the screens show; what is a reference outlives the window.
+    struct Content {
+        std::shared_ptr<workspace::Dashboard> dashboard;
+        std::shared_ptr<core::UpdaterController> updates;
+        const workspace::AboutKestruneView& about;
+        /// Whether the about box is up: a field of `aboutOwner`.
+        support::Published<bool>& showingAbout;
+        support::Observable& aboutOwner;
+        bridge::MenuBridge& menu;
+    };
+
+    MainWindow(Content content, platform::Executor& main);
 
     QQuickWindow& window() const { return *window_; }
     bridge::AppearanceBridge& appearance() { return appearance_; }
@@ -31,6 +47,8 @@ signals:
 private:
     bridge::AppearanceBridge appearance_;
     bridge::DashboardBridge dashboard_;
+    bridge::AboutBridge about_;
+    bridge::UpdateBridge updates_;
     QQmlApplicationEngine engine_;
     QQuickWindow* window_ = nullptr;
 };

@@ -1,17 +1,23 @@
 #include "core/AccountFetch.h"
 
+#include <exception>
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <utility>
 
+#include "support/Child.h"
 #include "support/FatalError.h"
 
 namespace larkspan::core {
 
+using model::Incident;
+using model::Maintenance;
 using model::PageStatusEntry;
 using model::StatusPage;
 using model::StatusPageStatus;
+using support::Child;
 using support::Task;
 
 namespace {
@@ -38,6 +44,31 @@ Task<std::vector<StatusPage>> withOverview(api::KestruneAPI& api, std::vector<St
     co_return mergedPages(std::move(pages), entries);
 }
 
+Task<AccountLists> withIncidentsAndMaintenances(api::KestruneAPI& api, platform::Executor& main, AccountLists lists)
+{
+    std::stop_source stop;
+    Child<std::vector<Incident>> incidents(main, api.fetchIncidents());
+    Child<std::vector<Maintenance>> maintenances(main, api.fetchMaintenances(stop.get_token()));
+
+    std::exception_ptr failure;
+    try {
+        auto awaitingIncidents = incidents.result();
+        lists.incidents = co_await std::move(awaitingIncidents);
+    } catch (...) {
+        failure = std::current_exception();
+    }
+    if (failure) {
+        // The incidents' error is the one to show, so the other fetch must have ended before it travels on.
+        stop.request_stop();
+        auto ending = maintenances.settled();
+        co_await std::move(ending);
+        std::rethrow_exception(failure);
+    }
+    auto awaitingMaintenances = maintenances.result();
+    lists.maintenances = co_await std::move(awaitingMaintenances);
+    co_return lists;
+}
+
 }  // namespace
 
 std::vector<StatusPage> mergedPages(std::vector<StatusPage> pages, const std::vector<PageStatusEntry>& entries)
@@ -55,12 +86,14 @@ std::vector<StatusPage> mergedPages(std::vector<StatusPage> pages, const std::ve
     return pages;
 }
 
-Task<AccountLists> fetchAccount(api::KestruneAPI& api)
+Task<AccountLists> fetchAccount(api::KestruneAPI& api, platform::Executor& main)
 {
-    auto fetching = api.fetchStatusPages();
-    auto pages = co_await std::move(fetching);
-    auto merging = withOverview(api, std::move(pages));
     AccountLists lists;
+    auto fetchingPages = api.fetchStatusPages();
+    lists.statusPages = co_await std::move(fetchingPages);
+    auto fetchingRecords = withIncidentsAndMaintenances(api, main, std::move(lists));
+    lists = co_await std::move(fetchingRecords);
+    auto merging = withOverview(api, std::move(lists.statusPages));
     lists.statusPages = co_await std::move(merging);
     co_return lists;
 }

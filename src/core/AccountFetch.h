@@ -3,8 +3,11 @@
 #include <vector>
 
 #include "api/KestruneAPI.h"
+#include "model/Incident.h"
+#include "model/Maintenance.h"
 #include "model/StatusPage.h"
 #include "model/StatusPagesStatusEnvelope.h"
+#include "platform/Executor.h"
 #include "support/Task.h"
 
 namespace larkspan::core {
@@ -12,11 +15,13 @@ namespace larkspan::core {
 /// What one cycle brings back.
 struct AccountLists {
     std::vector<model::StatusPage> statusPages;
+    std::vector<model::Incident> incidents;
+    std::vector<model::Maintenance> maintenances;
 };
 
 /// Fetches the whole account, all or nothing, but for the status overview: without it the pages keep the
-/// status that they came with.
-support::Task<AccountLists> fetchAccount(api::KestruneAPI& api);
+/// status that they came with. Runs on `main`.
+support::Task<AccountLists> fetchAccount(api::KestruneAPI& api, platform::Executor& main);
 
 /// `pages` in their order, each with the status that `entries` gives for its id. The same id twice in `entries`
 /// ends the process.

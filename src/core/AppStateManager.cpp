@@ -20,6 +20,7 @@ std::shared_ptr<AppStateManager> AppStateManager::make(const Ports& ports)
 
 AppStateManager::AppStateManager(const Ports& ports)
     : ports_(ports)
+    , changeNotifications_(ports.notifications)
 {
 }
 
@@ -67,7 +68,7 @@ Task<void> AppStateManager::runCycle(std::shared_ptr<AppStateManager> self)
     AccountLists lists;
     std::exception_ptr failure;
     try {
-        auto fetching = fetchAccount(self->ports_.api);
+        auto fetching = fetchAccount(self->ports_.api, self->ports_.main);
         lists = co_await std::move(fetching);
     } catch (...) {
         failure = std::current_exception();
@@ -100,11 +101,25 @@ Task<APIKeyVerificationResult> AppStateManager::verify(std::shared_ptr<AppStateM
 void AppStateManager::publish(AccountLists lists)
 {
     statusPages = std::move(lists.statusPages);
+    incidents = std::move(lists.incidents);
+    maintenances = std::move(lists.maintenances);
+    tellOfChanges();
     updateOverallStatus();
     lastRefresh = ports_.clock.now();
     hasCompletedInitialFetch = true;
     isLoading = false;
     isFetching_ = false;
+}
+
+void AppStateManager::tellOfChanges()
+{
+    if (*hasCompletedInitialFetch) {
+        changeNotifications_.notifyNewIncidents(*incidents);
+        changeNotifications_.notifyNewMaintenances(*maintenances);
+    } else {
+        // What exists when the program starts, or when a new key is first used, is no news.
+        changeNotifications_.seed(*incidents, *maintenances);
+    }
 }
 
 void AppStateManager::endInFailure(std::exception_ptr failure)
@@ -118,16 +133,19 @@ void AppStateManager::endInFailure(std::exception_ptr failure)
 
 void AppStateManager::updateOverallStatus()
 {
-    overallStatus = rolledUpStatus(*statusPages, *refreshError != nullptr);
+    overallStatus = rolledUpStatus(*statusPages, *incidents, *maintenances, *refreshError != nullptr);
 }
 
 void AppStateManager::clearAccountData()
 {
     statusPages = {};
+    incidents = {};
+    maintenances = {};
     overallStatus = OverallStatus::unknown;
     lastRefresh = std::nullopt;
     refreshError = nullptr;
     isLoading = false;
+    changeNotifications_.clear();
     hasCompletedInitialFetch = false;
 }
 

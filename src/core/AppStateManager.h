@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <exception>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -10,21 +11,29 @@
 #include "api/KestruneAPI.h"
 #include "core/APIKeyVerification.h"
 #include "core/AccountFetch.h"
+#include "core/ChangeNotifications.h"
+#include "core/InProcessNotifications.h"
+#include "core/MainWindowLifecycleDelegate.h"
 #include "core/OverallStatus.h"
+#include "core/UpdaterController.h"
+#include "model/Incident.h"
+#include "model/Maintenance.h"
 #include "model/StatusPage.h"
 #include "platform/Clock.h"
 #include "platform/Executor.h"
 #include "platform/NetworkPathMonitor.h"
 #include "platform/NotificationCenter.h"
+#include "platform/StatusItem.h"
 #include "platform/Timers.h"
+#include "platform/WindowSystem.h"
 #include "support/Observable.h"
 #include "support/Task.h"
 #include "support/Time.h"
 
 namespace larkspan::core {
 
-/// The account as last fetched, and the poll that keeps it fresh. Everything that the tray and the dashboard show
-/// comes from its published fields. Main thread only; its tasks keep it alive.
+/// The account as last fetched, the poll that keeps it fresh, and the panel's item that mirrors it. Everything that the
+/// tray and the dashboard show comes from its published fields. Main thread only; its tasks keep it alive.
 class AppStateManager final : public support::Observable, public std::enable_shared_from_this<AppStateManager> {
 public:
     /// What it works with; all of it must outlive the tasks that run here.
@@ -34,6 +43,9 @@ public:
         const platform::Clock& clock;
         platform::NotificationCenter& notifications;
         platform::NetworkPathMonitor& networkMonitor;
+        platform::StatusItem& statusItem;
+        std::shared_ptr<UpdaterController> updater;
+        platform::WindowSystem& windows;
         api::KestruneAPI& api;
     };
 
@@ -45,6 +57,9 @@ public:
 
     support::Published<std::vector<model::StatusPage>> statusPages{*this};
     support::Published<OverallStatus> overallStatus{*this, OverallStatus::unknown};
+    /// Those of the whole account, as the service lists them; a change on the service shows with the next cycle.
+    support::Published<std::vector<model::Incident>> incidents{*this};
+    support::Published<std::vector<model::Maintenance>> maintenances{*this};
     /// A cycle runs and there is nothing to show yet.
     support::Published<bool> isLoading{*this, false};
     /// The end of the last cycle that succeeded.
@@ -75,20 +90,51 @@ public:
     /// Forgets the account after its key was deleted. A running cycle may still publish what it fetches.
     void clearAccountData();
 
+    /// Puts the item into the panel and keeps it in step with every change. Called once, when the program has started.
+    void setupStatusItem(std::weak_ptr<MainWindowLifecycleDelegate> windowRules);
+
+    /// Builds the item and its menu anew; without an item it does nothing.
+    void rebuildMenu();
+
+    /// What the menu's rows do.
+    void openDashboard();
+    void openStatusPage(const std::string& id);
+    void openIncident(const std::string& id);
+    void checkForUpdates();
+    void quitApp();
+
+    /// Present once the item is set up.
+    const std::shared_ptr<UpdaterController>& updaterController() const { return updaterController_; }
+
+    /// Where the menu says which record it wants shown.
+    InProcessNotifications& inProcessNotifications() { return inProcessNotifications_; }
+
 private:
     explicit AppStateManager(const Ports& ports);
 
     static support::Task<void> runCycle(std::shared_ptr<AppStateManager> self);
     static support::Task<APIKeyVerificationResult> verify(std::shared_ptr<AppStateManager> self, std::string key);
     void publish(AccountLists lists);
+    void tellOfChanges();
     void endInFailure(std::exception_ptr failure);
     void updateOverallStatus();
     void watchNetwork();
+    void startTimestampTimer();
+    std::function<void()> rebuildingMenuNextTurn();
+    void perform(const platform::MenuRow& row);
 
     Ports ports_;
     Interval refreshInterval_{60.0};
     std::unique_ptr<platform::Timer> pollTimer_;
     bool isFetching_ = false;
+    ChangeNotifications changeNotifications_;
+    InProcessNotifications inProcessNotifications_;
+
+    platform::StatusItem* statusItem_ = nullptr;
+    std::weak_ptr<MainWindowLifecycleDelegate> windowRules_;
+    std::shared_ptr<UpdaterController> updaterController_;
+    std::unique_ptr<platform::Timer> timestampTimer_;
+    support::Subscription menuBarCancellable_;
 };
 
 }  // namespace larkspan::core

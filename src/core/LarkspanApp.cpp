@@ -4,16 +4,18 @@
 
 namespace larkspan::core {
 
-LarkspanApp::LarkspanApp(const AppStateManager::Ports& ports, platform::WindowSystem& windows)
-    : windows_(windows)
+LarkspanApp::LarkspanApp(const AppStateManager::Ports& ports)
+    : windows_(ports.windows)
     , appState_(AppStateManager::make(ports))
-    , windowLifecycleDelegate_(std::make_shared<MainWindowLifecycleDelegate>(windows, ports.main))
+    , windowLifecycleDelegate_(std::make_shared<MainWindowLifecycleDelegate>(ports.windows, ports.main))
 {
-    support::start(ports.main, startUp(appState_));
+    support::start(ports.main, startUp(appState_, windowLifecycleDelegate_));
 }
 
-support::Task<void> LarkspanApp::startUp(std::shared_ptr<AppStateManager> appState)
+support::Task<void> LarkspanApp::startUp(
+    std::shared_ptr<AppStateManager> appState, std::weak_ptr<MainWindowLifecycleDelegate> windowRules)
 {
+    appState->setupStatusItem(std::move(windowRules));
     appState->startPollTimer();
     appState->refreshNow();
     co_return;

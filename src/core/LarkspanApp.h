@@ -14,7 +14,7 @@ namespace larkspan::core {
 /// Main thread only. Made before the event loop runs; its start-up happens in the loop's first turns.
 class LarkspanApp final : public support::Observable {
 public:
-    LarkspanApp(const AppStateManager::Ports& ports, platform::WindowSystem& windows);
+    explicit LarkspanApp(const AppStateManager::Ports& ports);
 
     /// The about box is up.
     support::Published<bool> showingAbout{*this, false};
@@ -25,10 +25,11 @@ public:
     void showDashboardWindow() { core::showDashboardWindow(windows_, windowLifecycleDelegate_.get()); }
 
     /// Ends the program. Nothing is saved: there is nothing to save.
-    void quitApp() { windows_.terminate(); }
+    void quitApp() { appState_->quitApp(); }
 
 private:
-    static support::Task<void> startUp(std::shared_ptr<AppStateManager> appState);
+    static support::Task<void> startUp(
+        std::shared_ptr<AppStateManager> appState, std::weak_ptr<MainWindowLifecycleDelegate> windowRules);
 
     platform::WindowSystem& windows_;
     std::shared_ptr<AppStateManager> appState_;

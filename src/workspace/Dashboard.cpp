@@ -33,6 +33,8 @@ Dashboard::Dashboard(Ports ports)
     : currentTime(*this, ports.clock.now())
     , ports_(std::move(ports))
     , tick_(ports_.timers.every(10s, [this] { currentTime = ports_.clock.now(); }))
+    , openStatusPage_(ports_.appState->inProcessNotifications().observe(
+          core::InProcessNotifications::openStatusPage, [this](const std::string& id) { selectedPageId = id; }))
 {
 }
 
@@ -57,11 +59,13 @@ Dashboard::Placeholder Dashboard::placeholder() const
             .tone = Tone::orange,
             .title = "Couldn’t Refresh",
             .text = support::localizedDescription(*state().refreshError),
+            .offersSettings = true,
             .offersRetry = true};
     case Content::empty:
         return {.symbol = "doc.text.magnifyingglass",
             .title = "No Status Pages",
-            .text = "Add your Kestrune API key in Settings to get started."};
+            .text = "Add your Kestrune API key in Settings to get started.",
+            .offersSettings = true};
     case Content::list: break;
     }
     return {};
@@ -73,6 +77,14 @@ std::vector<Dashboard::Row> Dashboard::rows() const
     rows.reserve(state().statusPages->size());
     std::ranges::transform(*state().statusPages, std::back_inserter(rows), row);
     return rows;
+}
+
+std::optional<std::size_t> Dashboard::selectedRow() const
+{
+    const auto& pages = *state().statusPages;
+    const auto selected = std::ranges::find(pages, *selectedPageId, &model::StatusPage::id);
+    if (selected == pages.end()) return std::nullopt;
+    return static_cast<std::size_t>(selected - pages.begin());
 }
 
 bool Dashboard::showsRefreshFailure() const
@@ -102,6 +114,24 @@ void Dashboard::refresh()
 void Dashboard::chooseRefreshInterval(std::chrono::seconds interval)
 {
     ports_.appState->setRefreshInterval(interval);
+}
+
+void Dashboard::openSettings()
+{
+    if (*showingSettings) return;
+    ports_.credentials.allowPromptAgain();
+    const auto onApiKeyDeleted = [appState = ports_.appState] { appState->clearAccountData(); };
+    settings_ = std::make_shared<Settings>(Settings::Ports{ports_.main, ports_.appState, ports_.keys}, onApiKeyDeleted);
+    settings_->appear();
+    showingSettings = true;
+}
+
+void Dashboard::closeSettings()
+{
+    if (!*showingSettings) return;
+    showingSettings = false;
+    settings_.reset();
+    refresh();
 }
 
 std::string refreshIntervalLabel(std::chrono::seconds interval)

@@ -2,19 +2,24 @@
 
 #include <array>
 #include <chrono>
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "api/APIKeyStore.h"
 #include "core/AppStateManager.h"
 #include "platform/Clock.h"
 #include "platform/CredentialStore.h"
+#include "platform/Executor.h"
 #include "platform/Timers.h"
 #include "presentation/Tone.h"
 #include "support/Observable.h"
 #include "support/Time.h"
+#include "workspace/DashboardOperationalSummary.h"
+#include "workspace/Settings.h"
 
 namespace larkspan::workspace {
 
@@ -23,9 +28,11 @@ namespace larkspan::workspace {
 class Dashboard final : public support::Observable {
 public:
     struct Ports {
+        platform::Executor& main;
         platform::Timers& timers;
         const platform::Clock& clock;
         platform::CredentialStore& credentials;
+        api::APIKeyStore& keys;
         std::shared_ptr<core::AppStateManager> appState;
     };
 
@@ -38,6 +45,7 @@ public:
         std::string title;
         std::string text;
         bool showsProgress = false;
+        bool offersSettings = false;
         bool offersRetry = false;
 
         bool operator==(const Placeholder&) const = default;
@@ -69,6 +77,10 @@ public:
 
     explicit Dashboard(Ports ports);
 
+    /// The settings sheet is up.
+    support::Published<bool> showingSettings{*this, false};
+    /// The page that the user has opened, or that the menu has.
+    support::Published<std::optional<std::string>> selectedPageId{*this};
     /// The reference of the text after "Updated "; it ticks, so that the text ages on screen.
     support::Published<support::Time> currentTime;
 
@@ -77,7 +89,10 @@ public:
 
     Content content() const;
     Placeholder placeholder() const;
+    DashboardOperationalSummary summary() const { return DashboardOperationalSummary::of(state()); }
     std::vector<Row> rows() const;
+    /// The place of the selected page among the rows; absent if it is not there.
+    std::optional<std::size_t> selectedRow() const;
     bool showsRefreshFailure() const;
     StatusText statusText() const;
     bool isRefreshEnabled() const;
@@ -86,11 +101,19 @@ public:
     void refresh();
     void chooseRefreshInterval(std::chrono::seconds interval);
 
+    void openSettings();
+    /// The sheet has closed, in whatever way; a key that was saved takes effect now.
+    void closeSettings();
+    /// What the sheet shows; null while it is down.
+    const std::shared_ptr<Settings>& settings() const { return settings_; }
+
 private:
     const core::AppStateManager& state() const { return *ports_.appState; }
 
     Ports ports_;
     std::unique_ptr<platform::Timer> tick_;
+    support::Subscription openStatusPage_;
+    std::shared_ptr<Settings> settings_;
 };
 
 /// The label of one interval choice: "Every 30 seconds", "Every 1 minute", "Every 2 minutes".

@@ -42,6 +42,20 @@ bool Settings::isSaveEnabled() const
     return !support::trimmed(*apiKey).empty() && validationState->kind != ValidationState::Kind::validating;
 }
 
+Settings::Marker Settings::marker() const
+{
+    using presentation::Tone;
+    switch (validationState->kind) {
+    case ValidationState::Kind::validating: return {.text = "Verifying...", .showsProgress = true};
+    case ValidationState::Kind::valid:
+        return {.symbol = "checkmark.circle.fill", .text = "Connected", .tone = Tone::green};
+    case ValidationState::Kind::invalid:
+        return {.symbol = "exclamationmark.triangle.fill", .text = validationState->message, .tone = Tone::orange};
+    case ValidationState::Kind::idle: break;
+    }
+    return {};
+}
+
 void Settings::appear()
 {
     support::start(ports_.main, lookForKey(shared_from_this()));

@@ -6,6 +6,7 @@ import Larkspan.Bridge
 FocusScope {
     id: view
     required property DashboardBridge dashboard
+    required property MenuBridge menuRows
 
     // The list has the focus from the start; its ring shows only to those who use the keyboard.
     property bool isKeyboardInUse: false
@@ -23,6 +24,11 @@ FocusScope {
         z: 1
         title: view.dashboard.windowTitle
 
+        ToolbarButton {
+            symbol: "gearshape"
+            help: qsTr("Settings")
+            onClicked: view.dashboard.openSettings()
+        }
         ToolbarButton {
             id: intervalButton
             symbol: "timer"
@@ -54,6 +60,20 @@ FocusScope {
                 help: qsTr("Refresh Now")
                 enabled: view.dashboard.isRefreshEnabled
                 onClicked: view.dashboard.refresh()
+            },
+            ToolbarButton {
+                id: menuButton
+                symbol: "line.3.horizontal"
+                help: qsTr("Menu")
+                onClicked: menu.open()
+
+                AppMenu {
+                    id: menu
+                    x: menuButton.width - width
+                    y: menuButton.height + Theme.halfUnit
+                    rows: view.menuRows
+                    onClosed: menuButton.forceActiveFocus(Qt.PopupFocusReason)
+                }
             }
         ]
     }
@@ -79,6 +99,12 @@ FocusScope {
             text: view.dashboard.placeholderText
             showsProgress: view.dashboard.placeholderShowsProgress
 
+            CommandButton {
+                visible: view.dashboard.placeholderOffersSettings
+                text: qsTr("Open Settings")
+                isProminent: !view.dashboard.placeholderOffersRetry
+                onClicked: view.dashboard.openSettings()
+            }
             CommandButton {
                 visible: view.dashboard.placeholderOffersRetry
                 text: qsTr("Retry")
@@ -110,12 +136,23 @@ FocusScope {
         Accessible.role: Accessible.List
         Accessible.name: view.dashboard.listHeading
 
+        // A headline that takes more lines pushes the rows down; a list at its top stays there.
+        property bool isScrolled: false
+        onContentYChanged: isScrolled = contentY > originY
+
         header: Item {
             width: ListView.view.width - 2 * Theme.margin
-            implicitHeight: heading.implicitHeight + Theme.unit
+            implicitHeight: heading.y + heading.implicitHeight + Theme.unit
+            onHeightChanged: if (!list.isScrolled) list.contentY = list.originY - list.topMargin
+            HeadlineCard {
+                id: headline
+                width: parent.width
+                dashboard: view.dashboard
+            }
             Label {
                 id: heading
                 x: Theme.halfUnit
+                y: headline.height + 2 * Theme.unit + Theme.halfUnit
                 text: view.dashboard.listHeading
                 font.pointSize: Theme.subheadline
                 font.weight: Font.DemiBold
@@ -127,6 +164,8 @@ FocusScope {
         delegate: StatusPageRow {
             width: ListView.view.width - 2 * Theme.margin
             showsFocus: view.isKeyboardInUse && Accessible.focused
+            isSelected: index === view.dashboard.selectedRow
+            onClicked: view.dashboard.openPage(pageId)
             onYChanged: Qt.callLater(list.settleReadingOrder)
             Component.onCompleted: Qt.callLater(list.settleReadingOrder)
             ListView.onReused: Qt.callLater(list.settleReadingOrder)
@@ -154,6 +193,12 @@ FocusScope {
             anchors.top: list.top
             anchors.bottom: list.bottom
         }
+
+        // The page that the menu asks for is to be seen.
+        readonly property int selectedRow: view.dashboard.selectedRow
+        onSelectedRowChanged: if (selectedRow >= 0) currentIndex = selectedRow
+        Keys.onReturnPressed: if (currentItem) (currentItem as StatusPageRow).clicked()
+        Keys.onEnterPressed: if (currentItem) (currentItem as StatusPageRow).clicked()
 
         onDragEnded: if (verticalOvershoot < -Theme.pullDistance) view.dashboard.refresh()
         Keys.onPressed: event => {

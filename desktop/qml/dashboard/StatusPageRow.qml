@@ -6,11 +6,13 @@ import Larkspan.Bridge
 T.ItemDelegate {
     id: row
     required property int index
+    required property string pageId
     required property string name
     required property string symbol
     required property int tone
     required property string label
     property bool showsFocus: false
+    property bool isSelected: false
 
     implicitHeight: Math.max(Theme.rowHeight, pill.implicitHeight + 2 * Theme.unit)
     hoverEnabled: true
@@ -19,6 +21,10 @@ T.ItemDelegate {
     Accessible.name: name
     Accessible.description: label
     Accessible.focusable: true
+    Accessible.selectable: true
+    Accessible.selected: isSelected
+    // Qt 6.4 tells assistive technologies of the action, but does nothing when they take it.
+    Accessible.onPressAction: clicked()
     Accessible.focused: ListView.isCurrentItem && ListView.view.activeFocus
 
     contentItem: Item {
@@ -55,7 +61,9 @@ T.ItemDelegate {
             anchors.fill: parent
             anchors.margins: Theme.halfUnit
             radius: Theme.controlRadius
-            color: row.hovered ? Theme.hover : "transparent"
+            color: row.down ? Theme.pressed
+                : row.isSelected ? Qt.alpha(Theme.accentOnCard, Theme.selectionOpacity)
+                : row.hovered ? Theme.hover : "transparent"
             border.width: row.showsFocus ? Theme.focusWidth : 0
             border.color: Theme.focus
         }

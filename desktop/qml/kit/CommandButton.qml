@@ -6,6 +6,7 @@ import Larkspan
 T.Button {
     id: button
     property bool isProminent: false
+    property bool isDestructive: false
 
     implicitWidth: Math.max(implicitContentWidth + leftPadding + rightPadding, Theme.controlHeight * 2)
     implicitHeight: Math.max(Theme.controlHeight, implicitContentHeight + topPadding + bottomPadding)
@@ -23,7 +24,7 @@ T.Button {
 
     contentItem: Label {
         text: button.text
-        color: button.isProminent ? Theme.accentText : Theme.text
+        color: button.isProminent ? Theme.accentText : button.isDestructive ? Theme.red : Theme.text
         horizontalAlignment: Text.AlignHCenter
         Accessible.ignored: true
     }

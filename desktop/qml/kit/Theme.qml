@@ -27,7 +27,10 @@ QtObject {
     readonly property color hover: Qt.alpha(text, 0.06)
     readonly property color pressed: Qt.alpha(text, 0.12)
     readonly property color shadow: isDark ? "#80000000" : "#30000000"
+    readonly property color accentOnCard: isDark ? blue : accent
+    readonly property color dimming: "#66000000"
     readonly property real pillOpacity: 0.15
+    readonly property real selectionOpacity: 0.10
 
     readonly property real base: Application.font.pointSize > 0 ? Application.font.pointSize : 10
     readonly property real title: base * 1.8
@@ -54,6 +57,14 @@ QtObject {
     readonly property int headerHeight: Math.round(48 * scale)
     readonly property int rowHeight: Math.round(44 * scale)
     readonly property int placeholderWidth: 420
+    readonly property int sheetWidth: 520
+    readonly property int aboutWidth: 420
+    readonly property int dialogWidth: 400
+    readonly property int menuWidth: 320
+    readonly property int menuRowHeight: Math.round(28 * scale)
+    readonly property int dotSize: 8
+    readonly property int aboutIconSize: 88
+    readonly property int headlineIconSize: Math.round(28 * scale)
     readonly property int pullDistance: 64
 
     readonly property int quick: reducesMotion ? 0 : 120

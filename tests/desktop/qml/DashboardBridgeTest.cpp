@@ -16,8 +16,9 @@ using namespace std::chrono_literals;
 
 class DashboardForScreens : public testing::Test, public fakes::Account {
 protected:
-    std::shared_ptr<workspace::Dashboard> dashboard
-        = std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{timers, clock, credentials, state});
+    api::APIKeyStore keys{client, credentials};
+    std::shared_ptr<workspace::Dashboard> dashboard = std::make_shared<workspace::Dashboard>(
+        workspace::Dashboard::Ports{main, timers, clock, credentials, keys, state});
 };
 
 TEST_F(DashboardForScreens, AllChangesOfATurnAreOneNoticeThatComesAfterThem)

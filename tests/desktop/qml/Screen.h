@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "fakes/Account.h"
+#include "fakes/FakeLinkOpener.h"
 #include "qml/MainWindow.h"
 #include "workspace/Dashboard.h"
 
@@ -44,9 +45,24 @@ public:
     QQuickWindow& window() { return mainWindow.window(); }
     int requestCount() const { return static_cast<int>(transport.requests.size()); }
 
-    std::shared_ptr<workspace::Dashboard> dashboard
-        = std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{timers, clock, credentials, state});
-    MainWindow mainWindow{dashboard, main};
+    /// Who shows the about box in the program.
+    struct AboutOwner : support::Observable {
+        support::Published<bool> showingAbout{*this, false};
+    };
+
+    api::APIKeyStore keys{client, credentials};
+    std::shared_ptr<workspace::Dashboard> dashboard = std::make_shared<workspace::Dashboard>(
+        workspace::Dashboard::Ports{main, timers, clock, credentials, keys, state});
+    fakes::FakeLinkOpener links;
+    workspace::AboutKestruneView about{{.shortVersion = "1.2",
+                                           .buildNumber = "34",
+                                           .websiteAddress = "https://site.example",
+                                           .communityAddress = "https://community.example",
+                                           .organisationAddress = "https://source.example"},
+        links};
+    AboutOwner aboutOwner;
+    bridge::MenuBridge menu{[this] { aboutOwner.showingAbout = true; }};
+    MainWindow mainWindow{{dashboard, updates, about, aboutOwner.showingAbout, aboutOwner, menu}, main};
 };
 
 }  // namespace larkspan

@@ -18,7 +18,6 @@ namespace {
 using fakes::Service;
 using model::EmptyResponse;
 using model::StatusPage;
-using model::StatusPagesStatusEnvelope;
 using platform::HttpResponse;
 using platform::URLError;
 using Base = KestruneAPI::Base;

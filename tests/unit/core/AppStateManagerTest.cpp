@@ -157,7 +157,7 @@ TEST_F(RefreshDeathTest, TheSameIdTwiceInTheOverviewEndsTheProcess)
     EXPECT_DEATH(refresh(), "Duplicate values for key: 'a'");
 }
 
-TEST_F(Refresh, TheOverviewIsAskedOnlyOnceThePagesHaveArrived)
+TEST_F(Refresh, AsksForTheOverviewLast)
 {
     state->refreshNow();
     run();
@@ -165,7 +165,7 @@ TEST_F(Refresh, TheOverviewIsAskedOnlyOnceThePagesHaveArrived)
     EXPECT_EQ(transport.requests.back().url, pagesURL);
     transport.answer(HttpResponse{.status = 200, .body = "[]"});
     run();
-    ASSERT_EQ(transport.requests.size(), 2u);
+    ASSERT_EQ(transport.requests.size(), 4u);
     EXPECT_EQ(transport.requests.back().url, overviewURL);
 }
 
@@ -270,6 +270,8 @@ TEST_F(Refresh, PublishesInItsFixedOrder)
             "pages 0, unknown, idle, never",
             "pages 0, unknown, loading, never",
             "pages 0, unknown, loading, never",
+            "pages 1, unknown, loading, never",
+            "pages 1, unknown, loading, never",
             "pages 1, unknown, loading, never",
             "pages 1, operational, loading, never",
             "pages 1, operational, loading, refreshed",

@@ -20,6 +20,8 @@ class ClearAccountData : public testing::Test, public Account {};
 TEST_F(ClearAccountData, ForgetsTheAccountInItsFixedOrder)
 {
     servePages({"a"}, {{"a", "operational"}});
+    serveIncidents({incident("1", "a")});
+    serveMaintenances({maintenance("2", "b")});
     refresh();
     std::vector<std::string> order;
     const auto subscription = state->objectWillChange([&] { order.push_back(snapshot()); });
@@ -27,8 +29,10 @@ TEST_F(ClearAccountData, ForgetsTheAccountInItsFixedOrder)
     order.push_back(snapshot());
     EXPECT_EQ(order,
         (std::vector<std::string>{
-            "pages 1, operational, idle, refreshed, seeded",
-            "pages 0, operational, idle, refreshed, seeded",
+            "pages 1 incidents 1 maintenances 1, down, idle, refreshed, seeded",
+            "pages 0 incidents 1 maintenances 1, down, idle, refreshed, seeded",
+            "pages 0 maintenances 1, down, idle, refreshed, seeded",
+            "pages 0, down, idle, refreshed, seeded",
             "pages 0, unknown, idle, refreshed, seeded",
             "pages 0, unknown, idle, never, seeded",
             "pages 0, unknown, idle, never, seeded",

@@ -6,7 +6,6 @@
 
 #include "api/KeychainHelper.h"
 #include "fakes/Account.h"
-#include "fakes/FakeWindowSystem.h"
 
 namespace larkspan::core {
 
@@ -16,8 +15,7 @@ using namespace std::chrono_literals;
 
 class App : public testing::Test, public fakes::Account {
 protected:
-    fakes::FakeWindowSystem windows;
-    LarkspanApp app{ports(), windows};
+    LarkspanApp app{ports()};
 };
 
 TEST_F(App, MadeButNotYetRunningHasAskedForNotificationsWatchesTheNetworkAndHasNoTimers)

@@ -9,6 +9,9 @@
 #include "core/OverallStatus.h"
 #include "fakes/FakeNetworkPathMonitor.h"
 #include "fakes/FakeNotificationCenter.h"
+#include "fakes/FakeStatusItem.h"
+#include "fakes/FakeUpdater.h"
+#include "fakes/FakeWindowSystem.h"
 #include "fakes/ManualTimers.h"
 #include "fakes/Service.h"
 #include "support/LocalizedError.h"
@@ -19,7 +22,29 @@ namespace larkspan::fakes {
 struct Account : Service {
     using Codes = std::vector<std::pair<std::string, std::string>>;
 
-    core::AppStateManager::Ports ports() { return {main, timers, clock, notifications, network, api}; }
+    /// An account without incidents and maintenances, until the test says otherwise.
+    Account()
+    {
+        serveIncidents({});
+        serveMaintenances({});
+    }
+
+    static std::string incident(const std::string& id, const std::string& title, const std::string& rest = "")
+    {
+        return R"({"id": ")" + id + R"(", "title": ")" + title + R"(", "created_at": "2026-11-20T09:30:00Z")" + rest
+            + "}";
+    }
+
+    /// One without dates has the status that `rest` gives.
+    static std::string maintenance(const std::string& id, const std::string& title, const std::string& rest = "")
+    {
+        return R"({"id": ")" + id + R"(", "title": ")" + title + R"(")" + rest + "}";
+    }
+
+    core::AppStateManager::Ports ports()
+    {
+        return {main, timers, clock, notifications, network, statusItem, updates, windows, api};
+    }
 
     std::shared_ptr<core::AppStateManager> remade() { return core::AppStateManager::make(ports()); }
 
@@ -52,6 +77,18 @@ struct Account : Service {
         transport.script(overviewURL, 200, overview(codes));
     }
 
+    /// From now on the service has the incidents in this list of JSON objects.
+    void serveIncidents(const std::vector<std::string>& incidents)
+    {
+        transport.script(incidentsURL, 200, list(incidents));
+    }
+
+    /// The same for maintenances.
+    void serveMaintenances(const std::vector<std::string>& maintenances)
+    {
+        transport.script(maintenancesURL, 200, list(maintenances));
+    }
+
     std::string error() const
     {
         return *state->refreshError ? support::localizedDescription(*state->refreshError) : "";
@@ -61,7 +98,7 @@ struct Account : Service {
     std::string snapshot() const
     {
         static constexpr const char* words[] = {"operational", "degraded", "down", "maintenance", "stale", "unknown"};
-        return "pages " + std::to_string(state->statusPages->size()) + ", "
+        return "pages " + std::to_string(state->statusPages->size()) + records() + ", "
             + words[static_cast<std::size_t>(*state->overallStatus)] + (*state->isLoading ? ", loading" : ", idle")
             + (*state->lastRefresh ? ", refreshed" : ", never") + (*state->hasCompletedInitialFetch ? ", seeded" : "");
     }
@@ -69,7 +106,27 @@ struct Account : Service {
     ManualTimers timers;
     FakeNotificationCenter notifications;
     FakeNetworkPathMonitor network;
+    FakeStatusItem statusItem;
+    FakeUpdater updater;
+    std::shared_ptr<core::UpdaterController> updates = std::make_shared<core::UpdaterController>(updater);
+    FakeWindowSystem windows;
     std::shared_ptr<core::AppStateManager> state = core::AppStateManager::make(ports());
+
+private:
+    std::string records() const
+    {
+        std::string counts;
+        if (!state->incidents->empty()) counts += " incidents " + std::to_string(state->incidents->size());
+        if (!state->maintenances->empty()) counts += " maintenances " + std::to_string(state->maintenances->size());
+        return counts;
+    }
+
+    static std::string list(const std::vector<std::string>& records)
+    {
+        std::string joined;
+        for (const auto& record : records) joined += (joined.empty() ? "" : ",") + record;
+        return "[" + joined + "]";
+    }
 };
 
 }  // namespace larkspan::fakes

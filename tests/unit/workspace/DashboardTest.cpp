@@ -13,14 +13,13 @@ namespace larkspan::workspace {
 namespace {
 
 using namespace std::chrono_literals;
-using platform::HttpResponse;
-using platform::URLError;
 using presentation::Tone;
 using Content = Dashboard::Content;
 
 class DashboardScreen : public testing::Test, public fakes::Account {
 protected:
-    Dashboard dashboard{{timers, clock, credentials, state}};
+    api::APIKeyStore keys{client, credentials};
+    Dashboard dashboard{{main, timers, clock, credentials, keys, state}};
 };
 
 TEST_F(DashboardScreen, BeforeTheFirstCycleIsEmpty)
@@ -29,7 +28,8 @@ TEST_F(DashboardScreen, BeforeTheFirstCycleIsEmpty)
     EXPECT_EQ(dashboard.placeholder(),
         (Dashboard::Placeholder{.symbol = "doc.text.magnifyingglass",
             .title = "No Status Pages",
-            .text = "Add your Kestrune API key in Settings to get started."}));
+            .text = "Add your Kestrune API key in Settings to get started.",
+            .offersSettings = true}));
     EXPECT_EQ(dashboard.statusText(), Dashboard::StatusText{});
 }
 
@@ -54,6 +54,7 @@ TEST_F(DashboardScreen, AfterAFirstCycleWithoutAKeySaysThatTheKeyIsMissing)
             .tone = Tone::orange,
             .title = "Couldn\u2019t Refresh",
             .text = "API key is missing.",
+            .offersSettings = true,
             .offersRetry = true}));
     EXPECT_TRUE(dashboard.isRefreshEnabled());
 }
@@ -143,6 +144,100 @@ TEST_F(DashboardScreen, IsObservedTogetherWithTheAccount)
     EXPECT_EQ(notices, 1);
     state->clearAccountData();
     EXPECT_GT(notices, 1);
+}
+
+TEST_F(DashboardScreen, OpensTheSettingsSheetOnceWithALookIntoTheStore)
+{
+    dashboard.openSettings();
+    const auto sheet = dashboard.settings();
+    dashboard.openSettings();
+    run();
+    EXPECT_TRUE(*dashboard.showingSettings);
+    EXPECT_EQ(dashboard.settings(), sheet);
+    EXPECT_TRUE(*sheet->hasExistingKey);
+    EXPECT_EQ(credentials.promptsAllowed, 1) << "the user wants to see the key, which is worth a prompt";
+    EXPECT_TRUE(transport.requests.empty());
+}
+
+TEST_F(DashboardScreen, ClosingTheSettingsSheetStartsACycle)
+{
+    dashboard.openSettings();
+    run();
+    dashboard.closeSettings();
+    run();
+    EXPECT_FALSE(*dashboard.showingSettings);
+    EXPECT_EQ(dashboard.settings(), nullptr);
+    EXPECT_EQ(transport.requests.size(), 1u);
+
+    dashboard.closeSettings();
+    run();
+    EXPECT_EQ(transport.requests.size(), 1u) << "it was closed already";
+}
+
+TEST_F(DashboardScreen, ASheetOpenedAgainStartsAnew)
+{
+    dashboard.openSettings();
+    dashboard.settings()->edit("half a key");
+    dashboard.closeSettings();
+    dashboard.openSettings();
+    EXPECT_EQ(*dashboard.settings()->apiKey, "");
+}
+
+TEST_F(DashboardScreen, DeletingTheKeyClearsTheAccountAndShowsTheEmptyStateUntilTheNextCycleHasFailed)
+{
+    servePages({"a"}, {{"a", "operational"}});
+    refresh();
+    dashboard.openSettings();
+    run();
+    dashboard.settings()->deleteKey();
+    run();
+    EXPECT_EQ(dashboard.content(), Content::empty);
+    dashboard.closeSettings();
+    run();
+    EXPECT_EQ(dashboard.content(), Content::error);
+    EXPECT_EQ(dashboard.placeholder().text, "API key is missing.");
+}
+
+TEST_F(DashboardScreen, AFirstRunGoesFromLoadingByTheErrorAndTheSettingsToTheList)
+{
+    api::KeychainHelper::deleteAPIKey(credentials);
+    servePages({"a"}, {{"a", "operational"}});
+    refresh();
+    EXPECT_EQ(dashboard.placeholder().text, "API key is missing.");
+
+    dashboard.openSettings();
+    run();
+    dashboard.settings()->edit("k-456\n");
+    dashboard.settings()->saveAndVerify();
+    run();
+    EXPECT_EQ(dashboard.content(), Content::error) << "the sheet itself refreshes nothing";
+    dashboard.closeSettings();
+    run();
+    EXPECT_EQ(dashboard.content(), Content::list);
+}
+
+TEST_F(DashboardScreen, TheMenusWishForAPageSelectsThatPage)
+{
+    servePages({"a", "b"}, {});
+    refresh();
+    state->openStatusPage("b");
+    EXPECT_EQ(*dashboard.selectedPageId, "b");
+    EXPECT_EQ(dashboard.selectedRow(), 1);
+}
+
+TEST_F(DashboardScreen, AWishForAPageThatIsNoLongerInTheListChangesTheSelectionAndOpensNothing)
+{
+    servePages({"a"}, {});
+    refresh();
+    state->openStatusPage("gone");
+    EXPECT_EQ(*dashboard.selectedPageId, "gone");
+    EXPECT_EQ(dashboard.selectedRow(), std::nullopt);
+}
+
+TEST_F(DashboardScreen, AWishForAnIncidentIsNotHeard)
+{
+    state->openIncident("i");
+    EXPECT_EQ(*dashboard.selectedPageId, std::nullopt);
 }
 
 struct IntervalRow {

@@ -251,6 +251,28 @@ TEST_F(SettingsSheet, DeletingWithNobodyToTellStillDeletesAndResets)
     EXPECT_FALSE(*settings->hasExistingKey);
 }
 
+struct MarkerRow {
+    Settings::ValidationState state;
+    Settings::Marker marker;
+};
+
+class SettingsMarker : public SettingsSheet, public testing::WithParamInterface<MarkerRow> {};
+
+TEST_P(SettingsMarker, TellsTheProgressOfTheLastVerification)
+{
+    const auto settings = opened();
+    settings->validationState = GetParam().state;
+    EXPECT_EQ(settings->marker(), GetParam().marker);
+}
+
+INSTANTIATE_TEST_SUITE_P(EachState, SettingsMarker,
+    testing::Values(MarkerRow{{Kind::idle}, {}},
+        MarkerRow{{Kind::validating}, {.text = "Verifying...", .showsProgress = true}},
+        MarkerRow{
+            {Kind::valid}, {.symbol = "checkmark.circle.fill", .text = "Connected", .tone = presentation::Tone::green}},
+        MarkerRow{{Kind::invalid, "No."},
+            {.symbol = "exclamationmark.triangle.fill", .text = "No.", .tone = presentation::Tone::orange}}));
+
 }  // namespace
 
 }  // namespace larkspan::workspace

@@ -1,0 +1,81 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+Sheet {
+    id: sheet
+    required property AboutBridge about
+
+    title: qsTr("About Kestrune")
+    preferredWidth: Theme.aboutWidth
+
+    Image {
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: Theme.aboutIconSize
+        height: Theme.aboutIconSize
+        sourceSize.width: Math.round(width * Screen.devicePixelRatio)
+        source: "qrc:/larkspan/symbols/application-icon.svg"
+        Accessible.ignored: true
+    }
+    Column {
+        width: parent.width
+        spacing: Theme.halfUnit
+
+        Label {
+            width: parent.width
+            text: sheet.about.title
+            font.pointSize: Theme.title2
+            font.weight: Font.Bold
+            horizontalAlignment: Text.AlignHCenter
+            Accessible.role: Accessible.Heading
+        }
+        Label {
+            width: parent.width
+            text: sheet.about.versionText
+            font.pointSize: Theme.subheadline
+            color: Theme.secondary
+            horizontalAlignment: Text.AlignHCenter
+        }
+    }
+    Label {
+        width: parent.width
+        text: sheet.about.text
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.Wrap
+    }
+    Rectangle {
+        width: parent.width
+        height: links.implicitHeight + Theme.unit
+        radius: Theme.cardRadius
+        color: Theme.card
+        border.width: Theme.hairline
+        border.color: Theme.line
+
+        Column {
+            id: links
+            x: Theme.halfUnit
+            y: Theme.halfUnit
+            width: parent.width - Theme.unit
+
+            Repeater {
+                model: sheet.about.links
+                LinkRow {
+                    required property int index
+                    required property var modelData
+                    width: links.width
+                    symbol: modelData.symbol
+                    text: modelData.title
+                    subtitle: modelData.subtitle
+                    onClicked: sheet.about.openLink(index)
+                }
+            }
+        }
+    }
+    CommandButton {
+        anchors.horizontalCenter: parent.horizontalCenter
+        text: qsTr("Done")
+        isProminent: true
+        focus: true
+        onClicked: sheet.close()
+    }
+}

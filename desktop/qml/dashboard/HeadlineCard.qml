@@ -1,0 +1,51 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// The account in one sentence.
+Rectangle {
+    id: card
+    required property DashboardBridge dashboard
+
+    implicitHeight: words.implicitHeight + 4 * Theme.unit
+    radius: Theme.cardRadius
+    color: Theme.card
+    border.width: Theme.hairline
+    border.color: Theme.line
+
+    Symbol {
+        id: mark
+        x: 2 * Theme.unit + Theme.halfUnit
+        anchors.verticalCenter: parent.verticalCenter
+        width: Theme.headlineIconSize
+        height: Theme.headlineIconSize
+        name: card.dashboard.headlineSymbol
+        color: Theme.toneColor(card.dashboard.headlineTone)
+    }
+    Column {
+        id: words
+        anchors.left: mark.right
+        anchors.leftMargin: 2 * Theme.unit
+        anchors.right: parent.right
+        anchors.rightMargin: 2 * Theme.unit
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: Theme.halfUnit
+
+        Label {
+            width: parent.width
+            text: card.dashboard.headlineTitle
+            font.pointSize: Theme.title2
+            font.weight: Font.DemiBold
+            color: Theme.toneColor(card.dashboard.headlineTone)
+            wrapMode: Text.Wrap
+            Accessible.role: Accessible.Heading
+        }
+        Label {
+            width: parent.width
+            text: card.dashboard.headlineDetails
+            font.pointSize: Theme.subheadline
+            color: Theme.secondary
+            wrapMode: Text.Wrap
+        }
+    }
+}

@@ -1,0 +1,52 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// A card under a small title, with a symbol before it where there is one.
+Column {
+    id: group
+    required property string title
+    property string symbol
+    default property alias content: column.data
+
+    spacing: Theme.unit
+
+    Row {
+        x: Theme.halfUnit
+        spacing: Theme.unit
+
+        Symbol {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: group.symbol !== ""
+            width: Theme.iconSize
+            height: Theme.iconSize
+            name: group.symbol
+            color: Theme.secondary
+        }
+        Label {
+            anchors.verticalCenter: parent.verticalCenter
+            text: group.title
+            font.pointSize: Theme.subheadline
+            font.weight: Font.DemiBold
+            color: Theme.secondary
+            Accessible.role: Accessible.Heading
+        }
+    }
+
+    Rectangle {
+        width: parent.width
+        height: column.implicitHeight + 4 * Theme.unit
+        radius: Theme.cardRadius
+        color: Theme.card
+        border.width: Theme.hairline
+        border.color: Theme.line
+
+        Column {
+            id: column
+            x: 2 * Theme.unit
+            y: 2 * Theme.unit
+            width: parent.width - 4 * Theme.unit
+            spacing: Theme.unit + Theme.halfUnit
+        }
+    }
+}

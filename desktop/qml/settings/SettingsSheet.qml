@@ -1,0 +1,111 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+Sheet {
+    id: sheet
+    required property SettingsBridge settings
+
+    title: qsTr("Settings")
+    barItems: CommandButton {
+        text: qsTr("Done")
+        focus: true
+        onClicked: sheet.close()
+    }
+
+    Label {
+        width: parent.width
+        text: qsTr("Connect to your Kestrune account")
+        color: Theme.secondary
+        wrapMode: Text.Wrap
+    }
+
+    GroupBox {
+        width: parent.width
+        title: qsTr("Kestrune API Key")
+
+        IconLabel {
+            width: parent.width
+            visible: sheet.settings.showsSavedKey
+            symbol: "key.fill"
+            text: qsTr("API key saved")
+        }
+        SecretField {
+            id: field
+            width: parent.width
+            visible: !sheet.settings.showsSavedKey
+            name: qsTr("API key")
+            placeholderText: qsTr("Paste your API key here")
+            onTextEdited: sheet.settings.edit(text)
+
+            Connections {
+                target: sheet.settings
+                function onFieldCleared() {
+                    field.clear()
+                }
+            }
+        }
+        IconLabel {
+            width: parent.width
+            visible: text !== ""
+            symbol: sheet.settings.markerSymbol
+            text: sheet.settings.markerText
+            tone: sheet.settings.markerTone
+            showsProgress: sheet.settings.markerShowsProgress
+        }
+        IconLabel {
+            width: parent.width
+            visible: !sheet.settings.showsSavedKey
+            symbol: "lock.shield"
+            text: qsTr("Your API key is stored securely in the Keychain.")
+            tone: Tone.Secondary
+            pointSize: Theme.subheadline
+        }
+        Flow {
+            width: parent.width
+            spacing: Theme.unit
+
+            CommandButton {
+                visible: !sheet.settings.showsSavedKey
+                enabled: sheet.settings.isSaveEnabled
+                text: qsTr("Save & Verify")
+                isProminent: true
+                onClicked: sheet.settings.saveAndVerify()
+            }
+            CommandButton {
+                visible: sheet.settings.hasExistingKey
+                text: qsTr("Delete API Key")
+                isDestructive: true
+                onClicked: sheet.settings.confirmDelete()
+            }
+        }
+    }
+
+    GroupBox {
+        width: parent.width
+        title: qsTr("About")
+
+        Label {
+            width: parent.width
+            text: qsTr("Larkspan monitors your Kestrune status pages from the menu bar.")
+            wrapMode: Text.Wrap
+        }
+        Label {
+            width: parent.width
+            text: qsTr("Create an API key in your Kestrune dashboard with read access to status pages, incidents, maintenances, and monitors.")
+            color: Theme.secondary
+            wrapMode: Text.Wrap
+        }
+    }
+
+    PopupLoader {
+        isShown: sheet.settings.showsDeleteConfirmation
+        onDismissed: sheet.settings.cancelDelete()
+        sourceComponent: ConfirmDialog {
+            title: qsTr("Delete API Key")
+            text: qsTr("Are you sure you want to delete your API key? You will need to enter it again to use the app.")
+            confirmText: qsTr("Delete")
+            onConfirmed: sheet.settings.deleteKey()
+        }
+    }
+}

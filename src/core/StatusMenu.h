@@ -1,0 +1,32 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/OverallStatus.h"
+#include "model/Incident.h"
+#include "model/StatusPage.h"
+#include "platform/StatusItem.h"
+#include "support/Time.h"
+
+namespace larkspan::core {
+
+/// What the panel's item is built from.
+struct StatusMenuState {
+    const std::vector<model::StatusPage>& statusPages;
+    const std::vector<model::Incident>& incidents;
+    OverallStatus overallStatus = OverallStatus::unknown;
+    std::optional<support::Time> lastRefresh;
+    bool isReachable = true;
+    bool hasRefreshError = false;
+    support::Time now;
+};
+
+/// The rows of the menu, top to bottom.
+std::vector<platform::MenuRow> menuRows(const StatusMenuState& state);
+
+/// The tooltip of the panel's item.
+std::string statusTooltip(const StatusMenuState& state);
+
+}  // namespace larkspan::core

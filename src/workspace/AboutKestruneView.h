@@ -1,0 +1,53 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "platform/LinkOpener.h"
+
+namespace larkspan::workspace {
+
+/// The about box: what the program is, which build of it, and where to read more. Main thread only.
+class AboutKestruneView {
+public:
+    /// What the build says of itself; an empty version counts as none.
+    struct Bundle {
+        std::string shortVersion;
+        std::string buildNumber;
+        std::string websiteAddress;
+        std::string communityAddress;
+        std::string organisationAddress;
+    };
+
+    struct LinkRow {
+        std::string_view symbol;
+        std::string_view title;
+        std::string_view subtitle;
+        std::string destination;
+    };
+
+    static constexpr std::string_view title = "Kestrune";
+    static constexpr std::string_view text = "A focused companion for monitoring your Kestrune status pages.";
+
+    AboutKestruneView(const Bundle& bundle, platform::LinkOpener& links);
+
+    const std::string& version() const { return version_; }
+    const std::string& build() const { return build_; }
+
+    /// Such as "Version 1.0 (1)".
+    std::string versionText() const { return "Version " + version_ + " (" + build_ + ")"; }
+
+    const std::array<LinkRow, 3>& links() const { return links_; }
+
+    /// Opens the destination of one of the links in the user's browser.
+    void open(const LinkRow& link) const { opener_.open(link.destination); }
+
+private:
+    platform::LinkOpener& opener_;
+    std::string version_;
+    std::string build_;
+    std::array<LinkRow, 3> links_;
+};
+
+}  // namespace larkspan::workspace

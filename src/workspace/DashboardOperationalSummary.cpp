@@ -1,0 +1,97 @@
+#include "workspace/DashboardOperationalSummary.h"
+
+#include <algorithm>
+
+namespace larkspan::workspace {
+
+using core::OverallStatus;
+using presentation::Tone;
+
+namespace {
+
+template <typename Records, typename Predicate>
+int count(const Records& records, Predicate predicate)
+{
+    return static_cast<int>(std::ranges::count_if(records, predicate));
+}
+
+std::string counted(int count, std::string_view noun)
+{
+    return std::to_string(count) + ' ' + std::string(noun) + (count == 1 ? "" : "s");
+}
+
+}  // namespace
+
+DashboardOperationalSummary DashboardOperationalSummary::of(const core::AppStateManager& state)
+{
+    const auto maintenancesWith = [&state](std::string_view status) {
+        return count(
+            *state.maintenances, [status](const auto& maintenance) { return core::hasStatus(maintenance, status); });
+    };
+    return {
+        .overallStatus = *state.overallStatus,
+        .statusPageCount = static_cast<int>(state.statusPages->size()),
+        .affectedPageCount = count(
+            *state.statusPages, [](const auto& page) { return page.status != model::StatusPageStatus::operational; }),
+        .activeIncidentCount = count(*state.incidents, core::isActive),
+        .activeMaintenanceCount = maintenancesWith("in_progress"),
+        .scheduledMaintenanceCount = maintenancesWith("scheduled"),
+        .isStale = *state.refreshError != nullptr || !*state.isReachable,
+    };
+}
+
+std::string DashboardOperationalSummary::operationalTitle() const
+{
+    const auto byPages = [this](std::string_view none, std::string_view one, std::string_view several) -> std::string {
+        if (affectedPageCount < 1) return std::string(none);
+        return affectedPageCount == 1 ? "1 Status Page " + std::string(one)
+                                      : std::to_string(affectedPageCount) + " Status Pages " + std::string(several);
+    };
+    if (isStale) return "Status may be stale";
+    switch (overallStatus) {
+    case OverallStatus::operational: return "All systems operational";
+    case OverallStatus::degraded: return byPages("An incident is being investigated", "is degraded", "are degraded");
+    case OverallStatus::down:
+        return byPages("An active incident requires attention", "requires attention", "require attention");
+    case OverallStatus::maintenance:
+        return activeMaintenanceCount < 1 ? "Maintenance scheduled" : "Maintenance in progress";
+    case OverallStatus::stale: return "Status may be stale";
+    case OverallStatus::unknown: break;
+    }
+    return "Status is unknown";
+}
+
+std::vector<std::string> DashboardOperationalSummary::operationalDetails() const
+{
+    std::vector<std::string> details{counted(statusPageCount, "Status Page")};
+    if (activeIncidentCount >= 1) details.push_back(counted(activeIncidentCount, "active incident"));
+    if (activeMaintenanceCount >= 1) {
+        details.push_back(std::to_string(activeMaintenanceCount) + " maintenance in progress");
+    } else if (scheduledMaintenanceCount >= 1) {
+        details.push_back(std::to_string(scheduledMaintenanceCount) + " maintenance scheduled");
+    }
+    const bool isQuiet = activeIncidentCount == 0 && activeMaintenanceCount == 0 && scheduledMaintenanceCount == 0;
+    if (isQuiet && !isStale && overallStatus == OverallStatus::operational) details.emplace_back("No active incidents");
+    return details;
+}
+
+std::string_view DashboardOperationalSummary::symbolName() const
+{
+    return isStale ? "exclamationmark.icloud.fill" : statusSymbolName(overallStatus);
+}
+
+Tone DashboardOperationalSummary::tone() const
+{
+    if (isStale) return Tone::orange;
+    switch (overallStatus) {
+    case OverallStatus::operational: return Tone::green;
+    case OverallStatus::degraded:
+    case OverallStatus::maintenance: return Tone::orange;
+    case OverallStatus::down: return Tone::red;
+    case OverallStatus::stale:
+    case OverallStatus::unknown: break;
+    }
+    return Tone::secondary;
+}
+
+}  // namespace larkspan::workspace

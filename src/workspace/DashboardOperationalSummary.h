@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/AppStateManager.h"
+#include "core/OverallStatus.h"
+#include "presentation/Tone.h"
+
+namespace larkspan::workspace {
+
+/// The account in one headline.
+struct DashboardOperationalSummary {
+    core::OverallStatus overallStatus = core::OverallStatus::unknown;
+    int statusPageCount = 0;
+    /// Pages that are anything but operational.
+    int affectedPageCount = 0;
+    int activeIncidentCount = 0;
+    int activeMaintenanceCount = 0;
+    int scheduledMaintenanceCount = 0;
+    /// The latest cycle failed, or there is no network. Wider than `OverallStatus::stale`.
+    bool isStale = false;
+
+    static DashboardOperationalSummary of(const core::AppStateManager& state);
+
+    std::string operationalTitle() const;
+    std::vector<std::string> operationalDetails() const;
+    std::string_view symbolName() const;
+    presentation::Tone tone() const;
+
+    bool operator==(const DashboardOperationalSummary&) const = default;
+};
+
+}  // namespace larkspan::workspace

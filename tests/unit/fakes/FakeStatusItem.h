@@ -1,0 +1,36 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/StatusItem.h"
+
+namespace larkspan::fakes {
+
+/// An item that keeps what it was last given and how often.
+class FakeStatusItem final : public platform::StatusItem {
+public:
+    void show(std::function<void(const platform::MenuRow& row)> perform) override { choose = std::move(perform); }
+    void setButton(const Button& newButton) override { button = newButton; }
+    void setMenu(const std::vector<platform::MenuRow>& newRows) override
+    {
+        rows = newRows;
+        ++rebuilds;
+    }
+
+    std::vector<std::string> titles() const
+    {
+        std::vector<std::string> found;
+        for (const auto& row : rows) found.push_back(row.kind == platform::MenuRow::Kind::separator ? "-" : row.title);
+        return found;
+    }
+
+    std::function<void(const platform::MenuRow& row)> choose;
+    Button button;
+    std::vector<platform::MenuRow> rows;
+    int rebuilds = 0;
+};
+
+}  // namespace larkspan::fakes
