@@ -5,6 +5,8 @@
 
 #include <utility>
 
+#include "bridge/SecretAccess.h"
+
 Q_IMPORT_QML_PLUGIN(LarkspanPlugin)
 Q_IMPORT_QML_PLUGIN(Larkspan_BridgePlugin)
 
@@ -15,6 +17,7 @@ MainWindow::MainWindow(Content content, platform::Executor& main)
     , about_(content.about, content.showingAbout, content.aboutOwner, main)
     , updates_(std::move(content.updates), main)
 {
+    bridge::hideSecretsFromAccessibility();
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
     engine_.setInitialProperties({
         {QStringLiteral("dashboard"), QVariant::fromValue(&dashboard_)},

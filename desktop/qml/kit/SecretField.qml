@@ -6,6 +6,8 @@ import Larkspan
 T.TextField {
     id: field
     required property string name
+    // Qt alone would hand the text out on the accessibility bus; the bridge looks for this.
+    readonly property bool hidesItsText: true
 
     implicitHeight: Theme.controlHeight
     leftPadding: Theme.unit + Theme.halfUnit
@@ -23,7 +25,6 @@ T.TextField {
     verticalAlignment: TextInput.AlignVCenter
     Accessible.role: Accessible.EditableText
     Accessible.name: name
-    Accessible.passwordEdit: true
 
     background: Rectangle {
         radius: Theme.controlRadius
