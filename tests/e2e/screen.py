@@ -9,6 +9,7 @@ from session import Session
 
 ACCESSIBLE = "org.a11y.atspi.Accessible"
 ACTION = "org.a11y.atspi.Action"
+TEXT = "org.a11y.atspi.Text"
 ROOT = "/org/a11y/atspi/accessible/root"
 ENABLED, FOCUSED, SHOWING, VISIBLE = 8, 12, 25, 30
 
@@ -25,6 +26,10 @@ class Thing(NamedTuple):
         return bool(self.states >> state & 1)
 
 
+def is_seen(thing: Thing) -> bool:
+    return thing.is_in(SHOWING) and thing.is_in(VISIBLE)
+
+
 class Screen:
     def __init__(self, session: Session, process_id: int) -> None:
         self._bus = session.accessibility_bus()
@@ -33,10 +38,20 @@ class Screen:
     def things(self) -> list[Thing]:
         """All that shows, in reading order."""
         try:
-            return [thing for owner in self._owners() for thing in self._below(owner, ROOT)]
+            return [thing for owner in self._owners() for thing in self._below(owner, ROOT, is_seen)]
         except dbus.DBusException:
             # Something went away while it was read, so what was read is no one moment's state.
             return []
+
+    def everything_said(self) -> list[str]:
+        """Every word that a program on the accessibility bus can get out of the window, shown or not."""
+        said = []
+        for owner in self._owners():
+            for thing in self._below(owner, ROOT, lambda _: True):
+                said += [thing.name, thing.description]
+                if TEXT in self._call(thing.owner, thing.path, ACCESSIBLE, "GetInterfaces", "", ()):
+                    said.append(str(self._call(thing.owner, thing.path, TEXT, "GetText", "ii", (0, -1))))
+        return said
 
     def texts(self) -> list[str]:
         return [text for thing in self.things() for text in (thing.name, thing.description) if text]
@@ -66,8 +81,25 @@ class Screen:
         return self._find(lambda thing: thing.role == "push button" and thing.name == name, f"button \"{name}\"")
 
     def press(self, name: str) -> None:
-        button = self.button(name)
-        self._call(button.owner, button.path, ACTION, "DoAction", "i", (0,))
+        self._act(self.button(name))
+
+    def choose(self, name: str) -> None:
+        """A row of the open menu."""
+        self._act(self._find(lambda thing: thing.role == "menu item" and thing.name == name, f"row \"{name}\""))
+
+    def menu(self) -> list[str]:
+        """The commands and the words of the open menu, without the lines between them."""
+        return [thing.name for thing in self.things() if thing.role == "menu item"]
+
+    def focused(self) -> str:
+        """The name of what has the keyboard; a sheet around it counts as focused too."""
+        return next((thing.name for thing in reversed(self.things()) if thing.is_in(FOCUSED)), "")
+
+    def wait_for_focus(self, name: str) -> None:
+        eventually(lambda: self.focused() == name, lambda: f"\"{name}\" has not the focus, but \"{self.focused()}\"")
+
+    def _act(self, thing: Thing) -> None:
+        self._call(thing.owner, thing.path, ACTION, "DoAction", "i", (0,))
 
     def _top(self, thing: Thing) -> int:
         return int(self._call(thing.owner, thing.path, "org.a11y.atspi.Component", "GetExtents", "u", (0,))[1])
@@ -84,12 +116,12 @@ class Screen:
         return int(self._bus.get_object("org.freedesktop.DBus", "/", introspect=False).GetConnectionUnixProcessID(
             owner, dbus_interface="org.freedesktop.DBus")) == self._process_id
 
-    def _below(self, owner: str, path: str) -> Iterator[Thing]:
+    def _below(self, owner: str, path: str, counts: Callable[[Thing], bool]) -> Iterator[Thing]:
         for child_owner, child in self._call(owner, path, ACCESSIBLE, "GetChildren", "", ()):
             thing = self._read(str(child_owner), str(child))
-            if thing.is_in(SHOWING) and thing.is_in(VISIBLE):
+            if counts(thing):
                 yield thing
-                yield from self._below(thing.owner, thing.path)
+                yield from self._below(thing.owner, thing.path, counts)
 
     def _read(self, owner: str, path: str) -> Thing:
         low, high = self._call(owner, path, ACCESSIBLE, "GetState", "", ())
