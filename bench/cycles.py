@@ -10,6 +10,9 @@ import shutil
 from measurement import measurement, output_of, program
 
 SIZES = (10, 1_000, 10_000)
+# No turn of the main thread may last longer than this, in milliseconds: a frame of a display of 120 Hz.
+LONGEST_TURN = 8
+INCIDENTS = 10_000
 REPETITIONS = {10: 2_001, 1_000: 101, 10_000: 21}
 BASE = 1_000
 
@@ -23,6 +26,15 @@ def measure(build):
     else:
         print("bench: without valgrind no instructions are counted")
     return found
+
+
+def measure_turns(build):
+    """How long a cycle with many incidents holds up the main thread, beside what may be; and, for the comparison, what
+    the client's own thread does meanwhile."""
+    bench = program(build, "larkspan-bench-turns")
+    longest, client = map(float, output_of([bench, str(INCIDENTS), "21"]).stdout.split())
+    return [measurement("turn_10000_incidents", longest, "ms", LONGEST_TURN, 1),
+            measurement("client_10000_incidents", client, "ms", longest)]
 
 
 def beside_base(name, unit, values):

@@ -1,4 +1,4 @@
-"""usage: desktop.py first_frame|resident_after_cycle RESULT
+"""usage: desktop.py first_frame|resident_after_cycle|idle RESULT
 
 Starts larkspan and the bare window in turn, by the same hand in the same session, and writes the medians to RESULT as
 JSON. It runs in the world of the end-to-end tests, with their stand-ins around the programs.
@@ -31,22 +31,24 @@ PROGRAMS = {"larkspan": BINARIES / "larkspan", "bare": BINARIES / "larkspan-benc
 FRAME_ROUNDS = 9
 RESIDENT_ROUNDS = 3
 SETTLING_SECONDS = 2
+IDLE_SECONDS = 60
 OVERVIEW_PATH = "/user/api/status-pages/status"
 
 
 @contextmanager
-def desktop():
-    """Surroundings in which the program finds its key and its service; no window manager, which takes time of its own."""
+def desktop(made_by=display.server):
+    """Surroundings in which the program finds its key and its service; by itself without a window manager, which takes
+    time of its own."""
     with (tempfile.TemporaryDirectory(prefix="larkspan-bench-") as home, service.simulator() as simulator,
-          display.server() as screen, session.session(screen, Path(home)) as around, keyring.keyring(around) as keys):
+          made_by() as screen, session.session(screen, Path(home)) as around, keyring.keyring(around) as keys):
         simulator.reset()
         keys.store(service.KEY.encode())
-        yield simulator, around.surroundings
+        yield simulator, around.surroundings, screen
 
 
 def first_frames():
     times = {name: [] for name in PROGRAMS}
-    with desktop() as (_, surroundings):
+    with desktop() as (_, surroundings, _):
         for _ in range(FRAME_ROUNDS + 1):
             for name, path in PROGRAMS.items():
                 watched = output_of([BINARIES / "larkspan-bench-first-frame", path], env=surroundings)
@@ -57,7 +59,7 @@ def first_frames():
 
 def resident():
     sizes = {name: [] for name in PROGRAMS}
-    with desktop() as (simulator, surroundings):
+    with desktop() as (simulator, surroundings, _):
         for _ in range(RESIDENT_ROUNDS):
             simulator.reset()
             sizes["larkspan"].append(size_of("larkspan", surroundings, lambda: await_cycle(simulator)))
@@ -82,8 +84,34 @@ def size_of(name, surroundings, await_readiness):
         return {kind: int(re.search(rf"^{kind}: +(\d+) kB", rollup, re.M).group(1)) / 1024 for kind in ("Rss", "Pss")}
 
 
+def idle():
+    """What a minute costs with the window minimised: CPU in milliseconds and context switches, of all threads."""
+    with desktop(display.display) as (simulator, surroundings, screen):
+        with running(PROGRAMS["larkspan"], env=surroundings, stderr=subprocess.DEVNULL) as process:
+            await_cycle(simulator)
+            window = screen.window(process.pid)
+            screen.press_close_button(window)
+            eventually(lambda: screen.state(window) == "Iconic", "the window was not minimised")
+            time.sleep(SETTLING_SECONDS)
+            before = spent_by(process.pid)
+            time.sleep(IDLE_SECONDS)
+            after = spent_by(process.pid)
+            return {"larkspan": {kind: after[kind] - before[kind] for kind in after}}
+
+
+def spent_by(process_id):
+    spent = {"cpu": 0, "switches": 0}
+    for thread in Path(f"/proc/{process_id}/task").iterdir():
+        spent["cpu"] += int((thread / "schedstat").read_text().split()[0]) / 1e6
+        spent["switches"] += sum(int(count) for count in re.findall(r"ctxt_switches:\s+(\d+)", (thread / "status").read_text()))
+    return spent
+
+
+MEASURES = {"first_frame": first_frames, "resident_after_cycle": resident, "idle": idle}
+
+
 def main(what, result):
-    found = first_frames() if what == "first_frame" else resident()
+    found = MEASURES[what]()
     Path(result).write_text(json.dumps(found))
 
 

@@ -13,6 +13,9 @@ sys.path.append(str(ROOT / "tests/e2e"))
 import world
 
 GOAL = 1.25
+# What a minute may cost while the window is minimised, polls and all.
+IDLE_CPU = 5
+IDLE_SWITCHES = 60
 
 
 def measure_first_frame(build):
@@ -24,6 +27,12 @@ def measure_resident(build):
     found = on_the_desktop(build, "resident_after_cycle")
     return [measurement("resident_after_cycle", found["larkspan"]["Rss"], "MiB", found["bare"]["Rss"], GOAL),
             measurement("proportional_after_cycle", found["larkspan"]["Pss"], "MiB", found["bare"]["Pss"])]
+
+
+def measure_idle(build):
+    found = on_the_desktop(build, "idle")
+    return [measurement("idle_cpu", found["larkspan"]["cpu"], "ms", IDLE_CPU, 1),
+            measurement("idle_switches", found["larkspan"]["switches"], "switches", IDLE_SWITCHES, 1)]
 
 
 def on_the_desktop(build, what):

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <memory>
+#include <utility>
+
+#include "PreparedTransport.h"
+#include "api/KestruneAPI.h"
+#include "api/KeychainHelper.h"
+#include "core/AppStateManager.h"
+#include "demo/MemoryCredentialStore.h"
+#include "fakes/FakeNetworkPathMonitor.h"
+#include "fakes/FakeNotificationCenter.h"
+#include "fakes/FakeStatusItem.h"
+#include "fakes/FakeUpdater.h"
+#include "fakes/FakeWindowSystem.h"
+#include "fakes/ManualClock.h"
+#include "fakes/ManualTimers.h"
+
+namespace larkspan::bench {
+
+/// The client's real code over `account`, with everything around it in memory.
+class Client {
+public:
+    static constexpr const char* key = "bench";
+
+    /// `main` and `worker` outlive it, and may be the same.
+    Client(simulator::Account account, platform::Executor& main, platform::Executor& worker)
+        : service_(withKey(std::move(account)))
+        , transport_(service_, worker)
+        , api_({worker, transport_, store_, clock_}, "kestrune.example")
+        , state_(core::AppStateManager::make(
+              {main, timers_, clock_, notifications_, networkMonitor_, statusItem_, updates_, windows_, api_}))
+    {
+        api::KeychainHelper::saveAPIKey(store_, key);
+        state_->setupStatusItem({});
+    }
+
+    core::AppStateManager& state() { return *state_; }
+    const std::shared_ptr<core::AppStateManager>& sharedState() const { return state_; }
+    platform::Timers& timers() { return timers_; }
+    const platform::Clock& clock() const { return clock_; }
+    platform::CredentialStore& store() { return store_; }
+
+private:
+    static simulator::Account withKey(simulator::Account account)
+    {
+        account.keys.insert_or_assign(key, simulator::KeyRights::full);
+        return account;
+    }
+
+    fakes::ManualTimers timers_;
+    fakes::ManualClock clock_;
+    fakes::FakeNotificationCenter notifications_;
+    fakes::FakeNetworkPathMonitor networkMonitor_;
+    fakes::FakeStatusItem statusItem_;
+    fakes::FakeUpdater updater_;
+    std::shared_ptr<core::UpdaterController> updates_ = std::make_shared<core::UpdaterController>(updater_);
+    fakes::FakeWindowSystem windows_;
+    simulator::MemoryCredentialStore store_;
+    simulator::Service service_;
+    PreparedTransport transport_;
+    api::KestruneAPI api_;
+    std::shared_ptr<core::AppStateManager> state_;
+};
+
+}  // namespace larkspan::bench

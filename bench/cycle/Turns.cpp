@@ -1,0 +1,122 @@
+// Measures how long a refresh cycle holds up the main thread, by the number of incidents: the longest single turn of
+// its event loop, with the window's dashboard, its menu and the panel's following each change. What the client's own
+// thread does meanwhile, the decoding above all, is told apart.
+//
+// usage: larkspan-bench-turns INCIDENTS CYCLES      prints two medians in milliseconds: the longest turn of the main
+//                                                   thread and all of the client's thread, per cycle
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <deque>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "Arguments.h"
+#include "Client.h"
+#include "account/Seed.h"
+#include "bridge/DashboardBridge.h"
+#include "service/WallClock.h"
+#include "workspace/Dashboard.h"
+
+namespace {
+
+using namespace larkspan;
+using Milliseconds = std::chrono::duration<double, std::milli>;
+
+/// Runs what is posted in turns of its own, and takes the time of each.
+class TimedExecutor final : public platform::Executor {
+public:
+    void post(support::UniqueFunction<void()> work) override { queue_.push_back(std::move(work)); }
+
+    /// Runs what waits; false if nothing did.
+    bool turn()
+    {
+        if (queue_.empty()) return false;
+        auto work = std::exchange(queue_, {});
+        for (auto& piece : work) {
+            const auto begin = std::chrono::steady_clock::now();
+            piece();
+            piece = {};
+            const Milliseconds taken = std::chrono::steady_clock::now() - begin;
+            longest_ = std::max(longest_, taken);
+            all_ += taken;
+        }
+        return true;
+    }
+
+    void restart() { longest_ = all_ = {}; }
+    double longest() const { return longest_.count(); }
+    double all() const { return all_.count(); }
+
+private:
+    std::deque<support::UniqueFunction<void()>> queue_;
+    Milliseconds longest_{};
+    Milliseconds all_{};
+};
+
+simulator::Account accountWith(std::size_t incidents)
+{
+    auto account = simulator::seededAccount(10, simulator::wallClock().now());
+    account.incidents.clear();
+    for (std::size_t count = 0; count < incidents; ++count) {
+        simulator::Incident incident;
+        incident.id = "incident-" + std::to_string(count);
+        incident.title = "Login errors for the customers of region " + std::to_string(count);
+        incident.message = "We see **elevated errors** on sign-in.\n\n- EU region only\n- Retrying helps";
+        account.incidents.push_back(std::move(incident));
+    }
+    return account;
+}
+
+double median(std::vector<double> values)
+{
+    std::ranges::nth_element(values, values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2));
+    return values[values.size() / 2];
+}
+
+void measure(std::size_t incidents, std::size_t cycles)
+{
+    TimedExecutor main;
+    TimedExecutor worker;
+    bench::Client client(accountWith(incidents), main, worker);
+    api::APIKeyStore keys(worker, client.store());
+    auto dashboard = std::make_shared<workspace::Dashboard>(
+        workspace::Dashboard::Ports{main, client.timers(), client.clock(), client.store(), keys, client.sharedState()});
+    const bridge::DashboardBridge window(dashboard, main);
+
+    std::vector<double> turns;
+    std::vector<double> work;
+    for (std::size_t count = 0; count <= cycles; ++count) {
+        main.restart();
+        worker.restart();
+        client.state().refreshNow();
+        while (main.turn() | worker.turn()) {}
+        if (client.state().incidents->size() != incidents)
+            throw std::runtime_error("a cycle did not bring the incidents");
+        // The first one fetches what the transport then remembers.
+        if (count == 0) continue;
+        turns.push_back(main.longest());
+        work.push_back(worker.all());
+    }
+    std::printf("%.4f %.4f\n", median(turns), median(work));
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc != 3) {
+        std::fputs("usage: larkspan-bench-turns INCIDENTS CYCLES\n", stderr);
+        return 2;
+    }
+    try {
+        measure(larkspan::bench::number(argv[1]), std::max<std::size_t>(larkspan::bench::number(argv[2]), 1));
+    } catch (const std::runtime_error& error) {
+        std::fprintf(stderr, "larkspan-bench-turns: %s\n", error.what());
+        return 1;
+    }
+    return 0;
+}
