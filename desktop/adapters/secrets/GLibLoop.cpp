@@ -51,8 +51,13 @@ GLibLoop::GLibLoop(const GLibStop& stop)
 GLibLoop::~GLibLoop()
 {
     // What used the loop and is gone by now has left its cleaning up to the loop's next turn.
-    while (g_main_context_iteration(context_, FALSE) != FALSE) {}
+    catchUp();
     g_main_context_unref(context_);
+}
+
+void GLibLoop::catchUp()
+{
+    while (g_main_context_iteration(context_, FALSE) != FALSE) {}
 }
 
 GLibLoop::Entry::Entry(GLibLoop& loop)

@@ -40,6 +40,9 @@ public:
     /// Waits until `condition` holds; false if the deadline or the stop came first.
     bool turnUntil(Deadline deadline, const std::function<bool()>& condition);
 
+    /// Handles what has come in meanwhile, without waiting.
+    void catchUp();
+
     bool isStopped() const { return stop_.isRequested(); }
 
 private:

@@ -93,14 +93,17 @@ void SecretServiceSession::open()
               secret_service_open(SECRET_TYPE_SERVICE, nullptr, SECRET_SERVICE_OPEN_SESSION, cancellable, ready, data);
           });
     service_.reset(secret_service_open_finish(result.get(), nullptr));
+    owner_ = service_ ? bus_.owner() : std::string();
 }
 
 bool SecretServiceSession::isCurrent()
 {
     if (!service_) return false;
+    // The bus tells of a service that went or came before anything that the next one says, so no question is needed.
+    bus_.loop().catchUp();
     const std::unique_ptr<char, decltype(&g_free)> owner(
         g_dbus_proxy_get_name_owner(G_DBUS_PROXY(service_.get())), &g_free);
-    return owner && bus_.owner() == owner.get();
+    return owner && owner_ == owner.get();
 }
 
 SecretServiceSession::Found SecretServiceSession::search(const platform::CredentialItem& item)

@@ -66,6 +66,8 @@ private:
 
     SecretServiceBus bus_;
     ObjectPointer<SecretService> service_;
+    /// The bus name of the very process that the session is with.
+    std::string owner_;
 };
 
 }  // namespace larkspan::adapters
