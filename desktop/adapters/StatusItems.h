@@ -8,7 +8,8 @@
 
 namespace larkspan::adapters {
 
-/// Several places that show the same item: the panel, and the window's menu button. They outlive this object.
+/// Several places that show the same item: the panel, and the window's menu button. They outlive this object and hear
+/// of what differs only: a menu is built anew more often than it changes.
 class StatusItems final : public platform::StatusItem {
 public:
     explicit StatusItems(std::vector<std::reference_wrapper<platform::StatusItem>> items)
@@ -23,16 +24,22 @@ public:
 
     void setButton(const Button& button) override
     {
+        if (button == button_) return;
+        button_ = button;
         for (auto& item : items_) item.get().setButton(button);
     }
 
     void setMenu(const std::vector<platform::MenuRow>& rows) override
     {
+        if (rows == rows_) return;
+        rows_ = rows;
         for (auto& item : items_) item.get().setMenu(rows);
     }
 
 private:
     std::vector<std::reference_wrapper<platform::StatusItem>> items_;
+    Button button_;
+    std::vector<platform::MenuRow> rows_;
 };
 
 }  // namespace larkspan::adapters

@@ -53,6 +53,9 @@ public:
     DashboardBridge(
         std::shared_ptr<workspace::Dashboard> dashboard, platform::Executor& main, QObject* parent = nullptr);
 
+    /// While nobody sees the dashboard, changes cost it nothing.
+    void setVisible(bool isVisible) { isVisible ? notice_.release() : notice_.hold(); }
+
     QString windowTitle() const { return words(workspace::Dashboard::windowTitle); }
     bool showsList() const;
     QString placeholderSymbol() const { return QString::fromStdString(placeholder_.symbol); }

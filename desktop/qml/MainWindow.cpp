@@ -29,6 +29,9 @@ MainWindow::MainWindow(Content content, platform::Executor& main)
     engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Larkspan/Main.qml")));
     if (engine_.rootObjects().isEmpty()) qFatal("the main window's QML does not load");
     window_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().constFirst());
+    connect(window_, &QWindow::visibilityChanged, this, [this](QWindow::Visibility visibility) {
+        dashboard_.setVisible(visibility != QWindow::Minimized && visibility != QWindow::Hidden);
+    });
     // Named only in QML, so a string is the one way to reach it.
     connect(window_, SIGNAL(quitRequested()), this, SIGNAL(quitRequested()));
 }

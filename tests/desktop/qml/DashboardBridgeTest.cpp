@@ -46,6 +46,39 @@ TEST_F(DashboardForScreens, EachTurnWithChangesHasANoticeOfItsOwn)
     EXPECT_EQ(changes.size(), 2);
 }
 
+TEST_F(DashboardForScreens, WhileNobodySeesItChangesAreKeptAndToldOnceWhenSomebodyDoesAgain)
+{
+    DashboardBridge bridge(dashboard, main);
+    const QSignalSpy changes(&bridge, &DashboardBridge::changed);
+    bridge.setVisible(false);
+    state->isReachable = false;
+    run();
+    state->isLoading = true;
+    run();
+    EXPECT_EQ(changes.count(), 0);
+
+    bridge.setVisible(true);
+    run();
+    EXPECT_EQ(changes.count(), 1);
+    EXPECT_EQ(bridge.statusText(), QStringLiteral("Refreshing..."));
+    state->isLoading = false;
+    run();
+    EXPECT_EQ(changes.count(), 2);
+}
+
+TEST_F(DashboardForScreens, AChangeThatIsOnItsWayWhenNobodySeesItAnyMoreIsKeptToo)
+{
+    DashboardBridge bridge(dashboard, main);
+    const QSignalSpy changes(&bridge, &DashboardBridge::changed);
+    state->isLoading = true;
+    bridge.setVisible(false);
+    run();
+    EXPECT_EQ(changes.count(), 0);
+    bridge.setVisible(true);
+    run();
+    EXPECT_EQ(changes.count(), 1);
+}
+
 TEST_F(DashboardForScreens, AScreenThatWentBeforeItsNoticeIsNotTold)
 {
     {

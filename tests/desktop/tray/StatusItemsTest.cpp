@@ -38,5 +38,24 @@ TEST(StatusItems, EachPlaceShowsTheSameAndPerformsItsRows)
     EXPECT_EQ(performed.size(), 2);
 }
 
+TEST(StatusItems, APlaceHearsOnlyOfWhatDiffers)
+{
+    Place panel;
+    StatusItems items({panel});
+    const MenuRow quit{.kind = MenuRow::Kind::command, .title = "Quit", .action = MenuRow::Action::quitApp};
+    items.setButton({.symbolName = "checkmark.circle.fill"});
+    items.setMenu({quit});
+    panel.button = {};
+    panel.rows = {};
+
+    items.setButton({.symbolName = "checkmark.circle.fill"});
+    items.setMenu({quit});
+    EXPECT_EQ(panel.button.symbolName, "");
+    EXPECT_TRUE(panel.rows.empty());
+
+    items.setMenu({quit, quit});
+    EXPECT_EQ(panel.rows.size(), 2);
+}
+
 }  // namespace
 }  // namespace larkspan::adapters
