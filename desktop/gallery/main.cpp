@@ -93,7 +93,7 @@ int main(int argc, char* argv[])
 {
     // A process has one scale, so the second one gets a process of its own.
     if (!qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) {
-        for (const char* scale : {"1", "2"}) {
+        for (const char* scale : {"1", "2", "3"}) {
             qputenv("QT_SCALE_FACTOR", scale);
             const int code = QProcess::execute(QString::fromLocal8Bit(argv[0]), QStringList(argv + 1, argv + argc));
             if (code != 0) return code;

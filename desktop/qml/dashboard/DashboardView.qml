@@ -33,6 +33,7 @@ FocusScope {
             id: intervalButton
             symbol: "timer"
             help: qsTr("Refresh Interval")
+            isMenuOpen: intervalMenu.visible
             onClicked: intervalMenu.popup(intervalButton, 0, intervalButton.height + Theme.halfUnit)
 
             KitMenu {
@@ -65,6 +66,7 @@ FocusScope {
                 id: menuButton
                 symbol: "line.3.horizontal"
                 help: qsTr("Menu")
+                isMenuOpen: menu.visible
                 onClicked: menu.open()
 
                 AppMenu {

@@ -8,6 +8,8 @@ T.Button {
     id: button
     required property string symbol
     required property string help
+    // A menu of its own is open, so that its help would lie over it.
+    property bool isMenuOpen: false
 
     implicitWidth: Theme.controlHeight
     implicitHeight: Theme.controlHeight
@@ -40,6 +42,6 @@ T.Button {
 
     KitToolTip {
         text: button.help
-        visible: button.hovered && !button.down
+        visible: button.hovered && !button.down && !button.isMenuOpen
     }
 }
