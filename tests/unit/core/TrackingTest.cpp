@@ -159,6 +159,45 @@ TEST_F(Tracking, AFailureOfTheOverviewFailsNothing)
     EXPECT_FALSE(*state->refreshError);
 }
 
+struct MalformedRow {
+    std::string name;
+    std::string incidents;
+    std::string maintenances;
+    std::string words;
+};
+
+class MalformedRecord : public Tracking, public testing::WithParamInterface<MalformedRow> {};
+
+TEST_P(MalformedRecord, FailsTheWholeCycleAndTheLastGoodDataStays)
+{
+    serveIncidents({incident("1", "a")});
+    serveMaintenances({maintenance("2", "b")});
+    refresh();
+    servePages({"other"}, {});
+    transport.script(incidentsURL, 200, GetParam().incidents);
+    transport.script(maintenancesURL, 200, GetParam().maintenances);
+    refresh();
+    EXPECT_EQ(error(), GetParam().words);
+    EXPECT_EQ(state->statusPages->at(0).id, "p");
+    EXPECT_EQ(state->incidents->size(), 1u);
+    EXPECT_EQ(state->maintenances->size(), 1u);
+    EXPECT_EQ(*state->overallStatus, OverallStatus::down) << "a held outage is not hidden";
+    EXPECT_TRUE(notifications.added.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(EachFault, MalformedRecord,
+    testing::Values(
+        MalformedRow{"IncidentWithoutATitle", R"({"data": [{"id": "1", "created_at": "2026-11-20T09:30:00Z"}]})", "[]",
+            "data[0].title: The key is missing"},
+        MalformedRow{"IncidentWithABadDate",
+            R"({"data": [{"id": "1", "title": "a", "created_at": "2026-11-20T09:30:00Z"}, {"id": "2", "title": "b", "created_at": "n/a"}]})",
+            "[]", "data[1].created_at: Cannot decode date: n/a"},
+        MalformedRow{"IncidentsThatAreNoList", R"({"data": 1})", "[]", "data: Expected a list but found a number"},
+        MalformedRow{"MaintenanceWithABadDate", "[]", R"({"data": [{"id": 2, "title": "b", "end_at": "tomorrow"}]})",
+            "data[0].end_at: Cannot decode date: tomorrow"},
+        MalformedRow{"MaintenancesThatAreNoJSON", "[]", "<html>", "The server’s answer: Not valid JSON"}),
+    [](const auto& row) { return row.param.name; });
+
 TEST_F(Tracking, PublishesPagesThenIncidentsThenMaintenances)
 {
     serveIncidents({incident("1", "a")});
