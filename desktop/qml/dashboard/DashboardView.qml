@@ -18,6 +18,14 @@ FocusScope {
         onPressedChanged: if (pressed) view.isKeyboardInUse = false
     }
 
+    // A sheet that closes leaves the focus with nobody, and what had it before may be gone meanwhile.
+    Window.onActiveFocusItemChanged: takeFocusBack()
+    function takeFocusBack() {
+        if (Window.activeFocusItem !== Window.contentItem) return
+        forceActiveFocus(Qt.PopupFocusReason)
+        if (!Window.activeFocusItem.visible) list.forceActiveFocus(Qt.PopupFocusReason)
+    }
+
     HeaderBar {
         id: header
         width: parent.width
