@@ -11,7 +11,7 @@ ACCESSIBLE = "org.a11y.atspi.Accessible"
 ACTION = "org.a11y.atspi.Action"
 TEXT = "org.a11y.atspi.Text"
 ROOT = "/org/a11y/atspi/accessible/root"
-ENABLED, FOCUSED, SHOWING, VISIBLE = 8, 12, 25, 30
+FOCUSED, SELECTED, SHOWING, VISIBLE = 12, 23, 25, 30
 
 
 class Thing(NamedTuple):
@@ -67,6 +67,9 @@ class Screen:
         except dbus.DBusException:
             return []
 
+    def selected_rows(self) -> list[str]:
+        return [thing.name for thing in self.things() if thing.role == "list item" and thing.is_in(SELECTED)]
+
     def wait_for(self, text: str, seconds: float = 10) -> None:
         eventually(lambda: self.shows(text), lambda: f"\"{text}\" does not show; this does: {self.texts()}", seconds)
 
@@ -99,7 +102,8 @@ class Screen:
         eventually(lambda: self.focused() == name, lambda: f"\"{name}\" has not the focus, but \"{self.focused()}\"")
 
     def _act(self, thing: Thing) -> None:
-        self._call(thing.owner, thing.path, ACTION, "DoAction", "i", (0,))
+        names = [str(action[0]) for action in self._call(thing.owner, thing.path, ACTION, "GetActions", "", ())]
+        self._call(thing.owner, thing.path, ACTION, "DoAction", "i", (names.index("Press"),))
 
     def _top(self, thing: Thing) -> int:
         return int(self._call(thing.owner, thing.path, "org.a11y.atspi.Component", "GetExtents", "u", (0,))[1])

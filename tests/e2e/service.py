@@ -62,6 +62,12 @@ class Service:
     def change(self, page: str, **values: str) -> None:
         self._order("PATCH", f"pages/{page}", values)
 
+    def open_incident(self, title: str, **details: str) -> None:
+        self._order("POST", "incidents", {"title": title, **details})
+
+    def plan_maintenance(self, title: str, **details: str) -> None:
+        self._order("POST", "maintenances", {"title": title, **details})
+
     def show_certificate(self, kind: str) -> None:
         self._order("PUT", "certificate", {"certificate": kind})
 

@@ -38,6 +38,7 @@ def test_a_first_start_leads_to_the_key_and_the_key_to_the_pages(start, the_keyr
     screen.press("Done")
     screen.wait_until_gone("API key saved")
     screen.wait_for_rows(NAMES)
+    screen.wait_for_focus(NAMES[0])
 
 
 def test_a_key_in_the_field_is_nowhere_on_the_accessibility_bus(start, the_keyring, the_service, the_display):
@@ -100,6 +101,8 @@ def test_delete_takes_the_key_out_of_the_keyring_and_the_pages_off_the_window(sh
     sheet.wait_until_gone("API key saved")
     eventually(lambda: the_keyring.lookup() == b"", "the key is still in the keyring")
 
-    sheet.press("Done")
     sheet.wait_for("No Status Pages")
+
+    sheet.press("Done")
+    sheet.wait_for(MISSING)
     assert sheet.rows() == []

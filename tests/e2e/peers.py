@@ -1,0 +1,83 @@
+"""What a desktop has beside the program: its panel and its notification server, each in a process of its own."""
+
+import json
+import subprocess
+import sys
+import threading
+from contextlib import contextmanager
+from pathlib import Path
+from typing import Iterator
+
+from patience import eventually
+from processes import running
+from session import Session
+
+DESKTOP = Path(__file__).resolve().parent.parent / "desktop"
+
+
+class Panel:
+    """It shows status items, and does with the newest one what its user does."""
+
+    def __init__(self, process: subprocess.Popen) -> None:
+        self._process = process
+
+    def wait_for_item(self) -> None:
+        eventually(lambda: self._ask("registrations"), "no item is registered with the panel")
+
+    def tool_tip(self) -> str:
+        """The icon's words, title and text."""
+        return " ".join(self._ask("item")["ToolTip"][2:]).strip()
+
+    def rows(self) -> list[str]:
+        return [label for _, label in self._menu() if label]
+
+    def click(self, row: str) -> None:
+        place = next(place for place, label in self._menu() if label == row)
+        self._ask("menu", "Event", "isvu", [place, "clicked", "", 0])
+
+    def wait_for(self, tool_tip: str, first_row: str) -> None:
+        eventually(lambda: self.tool_tip().startswith(tool_tip) and self.rows()[0] == first_row,
+                   lambda: f"the item is \"{self.tool_tip()}\" with {self.rows()}")
+
+    def _menu(self) -> list[tuple[int, str]]:
+        _, (_, _, rows) = self._ask("menu", "GetLayout", "iias", [0, -1, []])
+        return [(place, properties.get("label", "")) for place, properties, _ in rows if properties.get("visible", True)]
+
+    def _ask(self, *command):
+        self._process.stdin.write(json.dumps(command) + "\n")
+        self._process.stdin.flush()
+        return json.loads(self._process.stdout.readline())
+
+
+class Notices:
+    """A notification server that shows nothing and remembers what it was to show."""
+
+    def __init__(self, process: subprocess.Popen) -> None:
+        self._lines: list[str] = []
+        threading.Thread(target=lambda: self._lines.extend(process.stdout), daemon=True).start()
+
+    def all(self) -> list[dict]:
+        return [json.loads(line) for line in self._lines if line.startswith("{")]
+
+    def wait_for(self, count: int) -> list[dict]:
+        return eventually(lambda: len(self.all()) >= count and self.all(), lambda: f"these notices came: {self.all()}")
+
+
+@contextmanager
+def panel(session: Session) -> Iterator[Panel]:
+    with _peer(session, "peers/tray_host.py") as process:
+        yield Panel(process)
+
+
+@contextmanager
+def notices(session: Session) -> Iterator[Notices]:
+    with _peer(session, "notifications/notification_server.py", "body") as process:
+        yield Notices(process)
+
+
+@contextmanager
+def _peer(session: Session, script: str, *arguments: str) -> Iterator[subprocess.Popen]:
+    with running(sys.executable, str(DESKTOP / script), *arguments, env=session.surroundings, text=True,
+                 stdin=subprocess.PIPE, stdout=subprocess.PIPE) as process:
+        assert process.stdout.readline() == "ready\n"
+        yield process

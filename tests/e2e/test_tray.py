@@ -1,0 +1,104 @@
+"""The item in the panel, and the same rows where there is no panel."""
+
+import pytest
+
+import peers
+from patience import eventually
+from service import NAMES
+from test_day import STALE
+
+SUMMARY = "Some systems degraded"
+COMMANDS = ["Refresh", "Open Dashboard", "Check for Updates…", "Quit"]
+
+
+@pytest.fixture
+def panel(the_session):
+    with peers.panel(the_session) as made:
+        yield made
+
+
+@pytest.fixture
+def program(start, stored_key, the_service):
+    made = start()
+    made.screen.wait_for_rows(NAMES)
+    return made
+
+
+def test_the_item_follows_the_service_through_break_and_mend(panel, program, the_service):
+    panel.wait_for_item()
+    panel.wait_for(SUMMARY, "Degraded")
+    rows = panel.rows()
+    assert rows[1].startswith("Updated ")
+    assert rows[2:] == NAMES + COMMANDS
+
+    the_service.fail("status", code=503)
+    panel.click("Refresh")
+    program.screen.wait_for(STALE)
+    eventually(lambda: "Refresh Failed" in panel.rows(), lambda: f"the rows are {panel.rows()}")
+    assert panel.tool_tip().endswith("Refresh failed")
+
+    the_service.mend()
+    the_service.change("api", health="operational")
+    panel.click("Refresh")
+    panel.wait_for("All systems operational", "Operational")
+    assert "Refresh Failed" not in panel.rows()
+
+
+def minimise(program, the_display) -> str:
+    window = program.window()
+    the_display.press_close_button(window)
+    eventually(lambda: the_display.state(window) == "Iconic", "closing does not minimise")
+    return window
+
+
+def wait_until_in_front(window, the_display) -> None:
+    eventually(lambda: the_display.state(window) == "Normal", "the window does not come back")
+    eventually(lambda: the_display.active_window() == window, "the window does not get the focus")
+
+
+def test_open_dashboard_brings_the_window_back(panel, program, the_display):
+    panel.wait_for_item()
+    window = minimise(program, the_display)
+    panel.click("Open Dashboard")
+    wait_until_in_front(window, the_display)
+    program.screen.wait_for_rows(NAMES)
+
+
+def test_a_page_of_the_menu_comes_to_the_front_selected(panel, program, the_display):
+    panel.wait_for_item()
+    assert program.screen.selected_rows() == []
+    window = minimise(program, the_display)
+    panel.click("Public API")
+    wait_until_in_front(window, the_display)
+    eventually(lambda: program.screen.selected_rows() == ["Public API"],
+               lambda: f"selected is {program.screen.selected_rows()}")
+
+
+def test_quit_ends_the_program(panel, program):
+    panel.wait_for_item()
+    panel.click("Quit")
+    assert program.process.wait(5) == 0
+
+
+def test_a_panel_that_starts_again_has_the_item_again(the_session, program):
+    for _ in range(2):
+        with peers.panel(the_session) as panel:
+            panel.wait_for_item()
+            panel.wait_for(SUMMARY, "Degraded")
+            assert panel.rows()[-4:] == COMMANDS
+
+
+def test_without_a_panel_the_window_has_the_same_rows(program):
+    screen = program.screen
+    screen.press("Menu")
+    eventually(screen.menu, "no menu came")
+    rows = screen.menu()
+    assert rows[0] == "Degraded"
+    assert rows[2:] == [*NAMES, *COMMANDS, "About Kestrune"]
+
+    screen.choose("Public API")
+    eventually(lambda: screen.selected_rows() == ["Public API"], lambda: f"selected is {screen.selected_rows()}")
+
+    screen.press("Menu")
+    screen.choose("Quit")
+    assert program.process.wait(5) == 0
