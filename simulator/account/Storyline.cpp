@@ -1,7 +1,6 @@
 #include "account/Storyline.h"
 
 #include <algorithm>
-#include <ranges>
 
 #include "account/EventTexts.h"
 #include "account/IncidentWorkflow.h"
@@ -63,11 +62,12 @@ struct Teller {
     /// The oldest, for it has been worked on the longest.
     Incident* openOne(const std::string& severity) const
     {
-        for (auto& incident : account.incidents | std::views::reverse) {
-            const bool isMeant = incident.statusPageId == pageId && incident.severityName == severity;
-            if (isMeant && incident.isOpen()) return &incident;
-        }
-        return nullptr;
+        const auto isMeant = [&](const Incident& incident) {
+            return incident.isOpen() && incident.statusPageId == pageId && incident.severityName == severity;
+        };
+        auto& incidents = account.incidents;
+        const auto found = std::find_if(incidents.rbegin(), incidents.rend(), isMeant);
+        return found == incidents.rend() ? nullptr : &*found;
     }
 };
 
