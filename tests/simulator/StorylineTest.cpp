@@ -132,6 +132,16 @@ TEST_F(OrdinaryDay, BeginsInTheMiddleOfThings)
     EXPECT_EQ(account_.statusPages[0].name, "Acme Cloud");
 }
 
+TEST_F(OrdinaryDay, OpensItsFirstIncidentBeforeTheFirstMinuteIsOver)
+{
+    seenAt(0s);
+    const auto before = active();
+
+    seenAt(50s);
+
+    EXPECT_EQ(active(), before + 1);
+}
+
 TEST_F(OrdinaryDay, LooksDifferentEachMinute)
 {
     std::vector<std::string> seen;
