@@ -60,7 +60,7 @@ Json open(Account& account, const RequestBody& order, support::Time now)
     return Json::object({{"id", incident.id}});
 }
 
-void change(Account& account, const std::string& id, const RequestBody& order, support::Time now)
+void changeIncident(Account& account, const std::string& id, const RequestBody& order, support::Time now)
 {
     auto* incident = account.findIncident(id);
     if (!incident) throw BadOrder("There is no such incident.");
@@ -98,41 +98,41 @@ std::vector<IncidentState> readStates(const RequestBody& order)
     return states;
 }
 
+/// The handler of orders that add something to the account and answer its id.
+Handler adding(Service& service, Json (*add)(Account&, const RequestBody&, support::Time))
+{
+    return [&service, add](const Call& call) {
+        Answer answer{201};
+        const RequestBody order(call.request);
+        service.withAccount([&](Account& account) { answer.result = add(account, order, service.now()); });
+        return answer;
+    };
+}
+
+/// The handler of orders that change what the path names by its id.
+Handler changing(Service& service, void (*apply)(Account&, const std::string&, const RequestBody&, support::Time))
+{
+    return [&service, apply](const Call& call) {
+        const RequestBody order(call.request);
+        const auto& id = call.wildcards.front();
+        service.withAccount([&](Account& account) { apply(account, id, order, service.now()); });
+        return Answer{204};
+    };
+}
+
 }  // namespace
 
 void addEventOrders(Router& router, Service& service)
 {
-    const Answer done{204};
-
-    router.add("POST", "/simulator/incidents", [&service](const Call& call) {
-        Answer answer{201};
-        const RequestBody order(call.request);
-        service.withAccount([&](Account& account) { answer.result = open(account, order, service.now()); });
-        return answer;
-    });
-    router.add("PATCH", "/simulator/incidents/*", [&service, done](const Call& call) {
-        const RequestBody order(call.request);
-        const auto& id = call.wildcards.front();
-        service.withAccount([&](Account& account) { change(account, id, order, service.now()); });
-        return done;
-    });
-    router.add("PUT", "/simulator/incident-states", [&service, done](const Call& call) {
+    router.add("POST", "/simulator/incidents", adding(service, open));
+    router.add("PATCH", "/simulator/incidents/*", changing(service, changeIncident));
+    router.add("PUT", "/simulator/incident-states", [&service](const Call& call) {
         auto states = readStates(RequestBody(call.request));
         service.withAccount([&states](Account& account) { account.incidentStates = std::move(states); });
-        return done;
+        return Answer{204};
     });
-    router.add("POST", "/simulator/maintenances", [&service](const Call& call) {
-        Answer answer{201};
-        const RequestBody order(call.request);
-        service.withAccount([&](Account& account) { answer.result = plan(account, order, service.now()); });
-        return answer;
-    });
-    router.add("PATCH", "/simulator/maintenances/*", [&service, done](const Call& call) {
-        const RequestBody order(call.request);
-        const auto& id = call.wildcards.front();
-        service.withAccount([&](Account& account) { changeMaintenance(account, id, order, service.now()); });
-        return done;
-    });
+    router.add("POST", "/simulator/maintenances", adding(service, plan));
+    router.add("PATCH", "/simulator/maintenances/*", changing(service, changeMaintenance));
 }
 
 }  // namespace larkspan::simulator
