@@ -75,15 +75,12 @@ void reopen(Account& account, Incident& incident, support::Time now)
     moveTo(account, incident, firstState(account), now);
 }
 
-bool removeIncident(Account& account, std::string_view id, support::Time now)
+void removeIncident(Account& account, const Incident& incident, support::Time now)
 {
-    const auto* incident = account.findIncident(id);
-    if (!incident) return false;
-    const bool wasOpen = incident->isOpen();
-    const auto page = incident->statusPageId;
-    account.incidents.erase(account.incidents.begin() + (incident - account.incidents.data()));
+    const bool wasOpen = incident.isOpen();
+    const auto page = incident.statusPageId;
+    account.incidents.erase(account.incidents.begin() + (&incident - account.incidents.data()));
     if (wasOpen) account.followEvents(page, now);
-    return true;
 }
 
 }  // namespace larkspan::simulator

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string_view>
-
 #include "account/Account.h"
 
 namespace larkspan::simulator {
@@ -28,7 +26,7 @@ void resolve(Account& account, Incident& incident, support::Time now);
 /// Back to the first state, as if nobody had looked into it.
 void reopen(Account& account, Incident& incident, support::Time now);
 
-/// Whether there was one of that id.
-bool removeIncident(Account& account, std::string_view id, support::Time now);
+/// `incident` is one of the account's, and gone afterwards.
+void removeIncident(Account& account, const Incident& incident, support::Time now);
 
 }  // namespace larkspan::simulator

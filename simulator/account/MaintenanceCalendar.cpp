@@ -30,15 +30,12 @@ void amended(Account& account, Maintenance& maintenance, support::Time now)
     enterPhase(account, maintenance, now);
 }
 
-bool removeMaintenance(Account& account, std::string_view id, support::Time now)
+void removeMaintenance(Account& account, const Maintenance& maintenance, support::Time now)
 {
-    const auto* maintenance = account.findMaintenance(id);
-    if (!maintenance) return false;
-    const bool wasUnderWay = maintenance->isUnderWay();
-    const auto page = maintenance->statusPageId;
-    account.maintenances.erase(account.maintenances.begin() + (maintenance - account.maintenances.data()));
+    const bool wasUnderWay = maintenance.isUnderWay();
+    const auto page = maintenance.statusPageId;
+    account.maintenances.erase(account.maintenances.begin() + (&maintenance - account.maintenances.data()));
     if (wasUnderWay) account.followEvents(page, now);
-    return true;
 }
 
 void letMaintenancesPass(Account& account, support::Time now)

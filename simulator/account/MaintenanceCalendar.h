@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string_view>
-
 #include "account/Account.h"
 
 namespace larkspan::simulator {
@@ -13,8 +11,8 @@ Maintenance& schedule(Account& account, Maintenance draft, support::Time now);
 /// Somebody changed the maintenance.
 void amended(Account& account, Maintenance& maintenance, support::Time now);
 
-/// Whether there was one of that id.
-bool removeMaintenance(Account& account, std::string_view id, support::Time now);
+/// `maintenance` is one of the account's, and gone afterwards.
+void removeMaintenance(Account& account, const Maintenance& maintenance, support::Time now);
 
 /// Lets maintenances start and end that have come to it since this was last called.
 void letMaintenancesPass(Account& account, support::Time now);

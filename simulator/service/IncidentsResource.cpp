@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "account/IncidentWorkflow.h"
+#include "service/Known.h"
 #include "service/RequestBody.h"
 #include "service/WireRecord.h"
 
@@ -47,9 +48,7 @@ Answer listIncidents(const Call& call)
 
 Incident& named(const Call& call)
 {
-    auto* incident = call.account.findIncident(call.wildcards.front());
-    if (!incident) throw Refusal(404, "Not found");
-    return *incident;
+    return known(call.account.findIncident(call.wildcards.front()));
 }
 
 Answer fetchIncident(const Call& call)
@@ -63,14 +62,11 @@ Answer createIncident(const Call& call)
     Incident draft;
     draft.title = body.requiredTitle();
     draft.message = body.text("message");
-    draft.statusPageId = body.text("status_page_id");
+    if (const auto page = body.text("status_page_id")) draft.statusPageId = knownPage(call.account, *page);
     draft.componentId = body.text("component_id");
     // Neither is part of the record, but both belong to the request.
     static_cast<void>(body.text("monitor_id"));
     static_cast<void>(body.requiredFlag("notify_subscribers"));
-    if (draft.statusPageId && !call.account.findPage(*draft.statusPageId)) {
-        throw Refusal(422, "There is no such status page.");
-    }
     return {201, wireIncident(openIncident(call.account, std::move(draft), call.now), call.account)};
 }
 
@@ -118,7 +114,7 @@ Answer escalateIncident(const Call& call)
 
 Answer deleteIncident(const Call& call)
 {
-    if (!removeIncident(call.account, call.wildcards.front(), call.now)) throw Refusal(404, "Not found");
+    removeIncident(call.account, named(call), call.now);
     return {204};
 }
 

@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "account/MaintenanceCalendar.h"
+#include "service/Known.h"
 #include "service/RequestBody.h"
 #include "service/WireRecord.h"
 
@@ -57,9 +58,7 @@ Answer listMaintenances(const Call& call)
 
 Maintenance& named(const Call& call)
 {
-    auto* maintenance = call.account.findMaintenance(call.wildcards.front());
-    if (!maintenance) throw Refusal(404, "Not found");
-    return *maintenance;
+    return known(call.account.findMaintenance(call.wildcards.front()));
 }
 
 void refuseEndBeforeStart(const Maintenance& maintenance)
@@ -80,13 +79,12 @@ Answer createMaintenance(const Call& call)
     Maintenance draft;
     draft.title = body.requiredTitle();
     draft.message = body.text("message");
-    draft.statusPageId = body.requiredText("status_page_id");
+    draft.statusPageId = knownPage(call.account, body.requiredText("status_page_id"));
     draft.startAt = body.requiredDate("start_at");
     draft.endAt = body.requiredDate("end_at");
     draft.affectedComponents = body.text("affected_components");
     draft.affectedMonitorIds = body.text("affected_monitor_ids");
     refuseEndBeforeStart(draft);
-    if (!call.account.findPage(*draft.statusPageId)) throw Refusal(422, "There is no such status page.");
     return {201, wireMaintenance(schedule(call.account, std::move(draft), call.now), call.now)};
 }
 
@@ -109,7 +107,7 @@ Answer updateMaintenance(const Call& call)
 
 Answer deleteMaintenance(const Call& call)
 {
-    if (!removeMaintenance(call.account, call.wildcards.front(), call.now)) throw Refusal(404, "Not found");
+    removeMaintenance(call.account, named(call), call.now);
     return {204};
 }
 
