@@ -1,8 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "Samples.h"
-#include "fakes/ManualClock.h"
+#include "ServedAccount.h"
 #include "server/Control.h"
 
 namespace larkspan::simulator {
@@ -10,7 +9,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-class EventOrders : public testing::Test {
+class EventOrders : public ServedAccount {
 protected:
     Reply order(const std::string& method, const std::string& path, const std::string& body)
     {
@@ -31,15 +30,6 @@ protected:
         return *Json::parse(reply.body).find("data")->array()->front().find("status")->string();
     }
 
-    std::string pageStatus()
-    {
-        std::string status;
-        service_.withAccount([&](Account& account) { status = account.findPage("page-1")->status.value(); });
-        return status;
-    }
-
-    fakes::ManualClock clock_;
-    Service service_{samples::account(), clock_};
     Identity authority_ = makeAuthority("Test");
     ServerCertificates certificates_{authority_, CertificateKind::valid};
     Control control_{service_, certificates_};

@@ -1,11 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "Samples.h"
+#include "ServedAccount.h"
 #include "account/IncidentWorkflow.h"
-#include "fakes/ManualClock.h"
-#include "service/Service.h"
-#include "json/Json.h"
 
 namespace larkspan::simulator {
 namespace {
@@ -17,7 +14,7 @@ const std::string incidentsPath = "/user/api/v1/incidents";
 const std::string path = incidentsPath + "/incident-1";
 
 /// An account with one open incident, "incident-1", of the page "page-1".
-class IncidentEndpoints : public testing::Test {
+class IncidentEndpoints : public ServedAccount {
 protected:
     IncidentEndpoints()
     {
@@ -32,29 +29,7 @@ protected:
         clock_.time += 5min;
     }
 
-    Reply send(const std::string& method, const std::string& target, const char* body = "")
-    {
-        return service_.answer(samples::requestWithBody(target, method, body));
-    }
-
-    std::string field(const Reply& reply, const char* key)
-    {
-        const auto json = Json::parse(reply.body);
-        const auto* value = json.find(key);
-        return value && value->string() ? *value->string() : "(none)";
-    }
-
     std::string now(const char* key) { return field(send("GET", path), key); }
-
-    std::string pageStatus()
-    {
-        std::string status;
-        service_.withAccount([&](Account& account) { status = account.findPage("page-1")->status.value(); });
-        return status;
-    }
-
-    fakes::ManualClock clock_;
-    Service service_{samples::account(), clock_};
 };
 
 TEST_F(IncidentEndpoints, FetchOne)
@@ -185,66 +160,49 @@ TEST_F(IncidentEndpoints, RecordsComeUnderDataToo)
     EXPECT_EQ(Json::parse(send("GET", path).body), Json::object({{"data", bare}}));
 }
 
-struct IncidentRow {
-    std::string name;
-    std::string method;
-    std::string target;
-    const char* body;
-    int status;
-    std::string error;
-};
-
-class RefusedOfIncidents : public IncidentEndpoints, public testing::WithParamInterface<IncidentRow> {};
+class RefusedOfIncidents : public IncidentEndpoints, public testing::WithParamInterface<RefusalRow> {};
 
 TEST_P(RefusedOfIncidents, IsAnsweredWithWhatIsWrongAndChangesNothing)
 {
-    const auto before = send("GET", incidentsPath).body;
-
-    const auto reply = send(GetParam().method, GetParam().target, GetParam().body);
-
-    EXPECT_EQ(reply.status, GetParam().status);
-    EXPECT_EQ(field(reply, "error"), GetParam().error);
-    EXPECT_EQ(send("GET", incidentsPath).body, before);
+    expectRefusal(GetParam(), incidentsPath);
 }
 
-const auto named = [](const auto& row) { return row.param.name; };
-
 INSTANTIATE_TEST_SUITE_P(UnknownIds, RefusedOfIncidents,
-    testing::Values(IncidentRow{"Fetch", "GET", incidentsPath + "/x", "", 404, "Not found"},
-        IncidentRow{"Update", "PATCH", incidentsPath + "/x", "{}", 404, "Not found"},
-        IncidentRow{"Delete", "DELETE", incidentsPath + "/x", "", 404, "Not found"},
-        IncidentRow{"Acknowledge", "POST", featurePath + "/x/acknowledge", "", 404, "Not found"},
-        IncidentRow{"Escalate", "POST", featurePath + "/x/escalate", "", 404, "Not found"}),
-    named);
+    testing::Values(RefusalRow{"Fetch", "GET", incidentsPath + "/x", "", 404, "Not found"},
+        RefusalRow{"Update", "PATCH", incidentsPath + "/x", "{}", 404, "Not found"},
+        RefusalRow{"Delete", "DELETE", incidentsPath + "/x", "", 404, "Not found"},
+        RefusalRow{"Acknowledge", "POST", featurePath + "/x/acknowledge", "", 404, "Not found"},
+        RefusalRow{"Escalate", "POST", featurePath + "/x/escalate", "", 404, "Not found"}),
+    nameOf);
 
 INSTANTIATE_TEST_SUITE_P(TheOtherBase, RefusedOfIncidents,
-    testing::Values(IncidentRow{"Create", "POST", featurePath, "{}", 404, "Not found"},
-        IncidentRow{"Fetch", "GET", featurePath + "/incident-1", "", 404, "Not found"},
-        IncidentRow{"Update", "PATCH", featurePath + "/incident-1", "{}", 404, "Not found"},
-        IncidentRow{"Delete", "DELETE", featurePath + "/incident-1", "", 404, "Not found"},
-        IncidentRow{"Acknowledge", "POST", path + "/acknowledge", "", 404, "Not found"},
-        IncidentRow{"Escalate", "POST", path + "/escalate", "", 404, "Not found"}),
-    named);
+    testing::Values(RefusalRow{"Create", "POST", featurePath, "{}", 404, "Not found"},
+        RefusalRow{"Fetch", "GET", featurePath + "/incident-1", "", 404, "Not found"},
+        RefusalRow{"Update", "PATCH", featurePath + "/incident-1", "{}", 404, "Not found"},
+        RefusalRow{"Delete", "DELETE", featurePath + "/incident-1", "", 404, "Not found"},
+        RefusalRow{"Acknowledge", "POST", path + "/acknowledge", "", 404, "Not found"},
+        RefusalRow{"Escalate", "POST", path + "/escalate", "", 404, "Not found"}),
+    nameOf);
 
 INSTANTIATE_TEST_SUITE_P(BadBodies, RefusedOfIncidents,
-    testing::Values(IncidentRow{"NoJson", "POST", incidentsPath, "title", 422, "The body is no JSON."},
-        IncidentRow{"NoObject", "POST", incidentsPath, "[]", 422, "The body is no object."},
-        IncidentRow{"NoTitle", "POST", incidentsPath, "{'notify_subscribers':true}", 422, R"("title" is missing.)"},
-        IncidentRow{"NullTitle", "POST", incidentsPath, "{'title':null}", 422, R"("title" is missing.)"},
-        IncidentRow{"BlankTitle", "POST", incidentsPath, "{'title':'  '}", 422, R"("title" is empty.)"},
-        IncidentRow{"NumberAsTitle", "POST", incidentsPath, "{'title':1}", 422, R"("title" is no text.)"},
-        IncidentRow{"NoNotify", "POST", incidentsPath, "{'title':'t'}", 422, R"("notify_subscribers" is missing.)"},
-        IncidentRow{"UnknownPage", "POST", incidentsPath,
-            "{'title':'t','notify_subscribers':true,'status_page_id':'x'}", 422, "There is no such status page."},
-        IncidentRow{"NothingToChange", "PATCH", path, "{'append_update':true}", 422, "There is nothing to change."},
-        IncidentRow{"NoAppend", "PATCH", path, "{'message':'m'}", 422, R"("append_update" is missing.)"},
-        IncidentRow{"TextAsAppend", "PATCH", path, "{'message':'m','append_update':'yes'}", 422,
+    testing::Values(RefusalRow{"NoJson", "POST", incidentsPath, "title", 422, "The body is no JSON."},
+        RefusalRow{"NoObject", "POST", incidentsPath, "[]", 422, "The body is no object."},
+        RefusalRow{"NoTitle", "POST", incidentsPath, "{'notify_subscribers':true}", 422, R"("title" is missing.)"},
+        RefusalRow{"NullTitle", "POST", incidentsPath, "{'title':null}", 422, R"("title" is missing.)"},
+        RefusalRow{"BlankTitle", "POST", incidentsPath, "{'title':'  '}", 422, R"("title" is empty.)"},
+        RefusalRow{"NumberAsTitle", "POST", incidentsPath, "{'title':1}", 422, R"("title" is no text.)"},
+        RefusalRow{"NoNotify", "POST", incidentsPath, "{'title':'t'}", 422, R"("notify_subscribers" is missing.)"},
+        RefusalRow{"UnknownPage", "POST", incidentsPath, "{'title':'t','notify_subscribers':true,'status_page_id':'x'}",
+            422, "There is no such status page."},
+        RefusalRow{"NothingToChange", "PATCH", path, "{'append_update':true}", 422, "There is nothing to change."},
+        RefusalRow{"NoAppend", "PATCH", path, "{'message':'m'}", 422, R"("append_update" is missing.)"},
+        RefusalRow{"TextAsAppend", "PATCH", path, "{'message':'m','append_update':'yes'}", 422,
             R"("append_update" is neither true nor false.)"},
-        IncidentRow{"UnknownState", "PATCH", path, "{'message':'m','incident_state_id':'9','append_update':true}", 422,
+        RefusalRow{"UnknownState", "PATCH", path, "{'message':'m','incident_state_id':'9','append_update':true}", 422,
             "There is no such incident state."},
-        IncidentRow{"NumberAsState", "PATCH", path, "{'incident_state_id':4,'append_update':true}", 422,
+        RefusalRow{"NumberAsState", "PATCH", path, "{'incident_state_id':4,'append_update':true}", 422,
             R"("incident_state_id" is no text.)"}),
-    named);
+    nameOf);
 
 }  // namespace
 }  // namespace larkspan::simulator

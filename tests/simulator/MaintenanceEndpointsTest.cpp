@@ -1,11 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "Samples.h"
+#include "ServedAccount.h"
 #include "account/MaintenanceCalendar.h"
-#include "fakes/ManualClock.h"
-#include "service/Service.h"
-#include "json/Json.h"
 #include "json/WireDate.h"
 
 namespace larkspan::simulator {
@@ -18,7 +15,7 @@ const std::string maintenancesPath = "/user/api/v1/maintenances";
 const std::string path = maintenancesPath + "/1";
 
 /// An account at nine, with one maintenance, "1", of the page "page-1" from ten to eleven.
-class MaintenanceEndpoints : public testing::Test {
+class MaintenanceEndpoints : public ServedAccount {
 protected:
     MaintenanceEndpoints()
     {
@@ -33,29 +30,7 @@ protected:
         });
     }
 
-    Reply send(const std::string& method, const std::string& target, const char* body = "")
-    {
-        return service_.answer(samples::requestWithBody(target, method, body));
-    }
-
-    std::string field(const Reply& reply, const char* key)
-    {
-        const auto json = Json::parse(reply.body);
-        const auto* value = json.find(key);
-        return value && value->string() ? *value->string() : "(none)";
-    }
-
     std::string status() { return field(send("GET", path), "status"); }
-
-    std::string pageStatus()
-    {
-        std::string status;
-        service_.withAccount([&](Account& account) { status = account.findPage("page-1")->status.value(); });
-        return status;
-    }
-
-    fakes::ManualClock clock_;
-    Service service_{samples::account(), clock_};
 };
 
 TEST_F(MaintenanceEndpoints, FetchOne)
@@ -159,59 +134,42 @@ TEST_F(MaintenanceEndpoints, AnOpenIncidentOutweighsAMaintenance)
     EXPECT_EQ(pageStatus(), "degraded");
 }
 
-struct MaintenanceRow {
-    std::string name;
-    std::string method;
-    std::string target;
-    const char* body;
-    int status;
-    std::string error;
-};
-
-class RefusedOfMaintenances : public MaintenanceEndpoints, public testing::WithParamInterface<MaintenanceRow> {};
+class RefusedOfMaintenances : public MaintenanceEndpoints, public testing::WithParamInterface<RefusalRow> {};
 
 TEST_P(RefusedOfMaintenances, IsAnsweredWithWhatIsWrongAndChangesNothing)
 {
-    const auto before = send("GET", maintenancesPath).body;
-
-    const auto reply = send(GetParam().method, GetParam().target, GetParam().body);
-
-    EXPECT_EQ(reply.status, GetParam().status);
-    EXPECT_EQ(field(reply, "error"), GetParam().error);
-    EXPECT_EQ(send("GET", maintenancesPath).body, before);
+    expectRefusal(GetParam(), maintenancesPath);
 }
 
-const auto named = [](const auto& row) { return row.param.name; };
-
 INSTANTIATE_TEST_SUITE_P(UnknownIds, RefusedOfMaintenances,
-    testing::Values(MaintenanceRow{"Fetch", "GET", maintenancesPath + "/9", "", 404, "Not found"},
-        MaintenanceRow{"Update", "PATCH", maintenancesPath + "/9", "{}", 404, "Not found"},
-        MaintenanceRow{"Delete", "DELETE", maintenancesPath + "/9", "", 404, "Not found"}),
-    named);
+    testing::Values(RefusalRow{"Fetch", "GET", maintenancesPath + "/9", "", 404, "Not found"},
+        RefusalRow{"Update", "PATCH", maintenancesPath + "/9", "{}", 404, "Not found"},
+        RefusalRow{"Delete", "DELETE", maintenancesPath + "/9", "", 404, "Not found"}),
+    nameOf);
 
 INSTANTIATE_TEST_SUITE_P(TheOtherBase, RefusedOfMaintenances,
-    testing::Values(MaintenanceRow{"Create", "POST", featurePath, "{}", 404, "Not found"},
-        MaintenanceRow{"Fetch", "GET", featurePath + "/1", "", 404, "Not found"},
-        MaintenanceRow{"Update", "PATCH", featurePath + "/1", "{}", 404, "Not found"},
-        MaintenanceRow{"Delete", "DELETE", featurePath + "/1", "", 404, "Not found"}),
-    named);
+    testing::Values(RefusalRow{"Create", "POST", featurePath, "{}", 404, "Not found"},
+        RefusalRow{"Fetch", "GET", featurePath + "/1", "", 404, "Not found"},
+        RefusalRow{"Update", "PATCH", featurePath + "/1", "{}", 404, "Not found"},
+        RefusalRow{"Delete", "DELETE", featurePath + "/1", "", 404, "Not found"}),
+    nameOf);
 
 constexpr auto withoutPage
     = "{'title':'t','start_at':'2026-11-20T10:00:00Z','end_at':'2026-11-20T11:00:00Z','status_page_id':'x'}";
 
 INSTANTIATE_TEST_SUITE_P(BadBodies, RefusedOfMaintenances,
-    testing::Values(MaintenanceRow{"NoJson", "PATCH", path, "", 422, "The body is no JSON."},
-        MaintenanceRow{"NoTitle", "POST", maintenancesPath, "{}", 422, R"("title" is missing.)"},
-        MaintenanceRow{"NoPage", "POST", maintenancesPath, "{'title':'t'}", 422, R"("status_page_id" is missing.)"},
-        MaintenanceRow{"NoStart", "POST", maintenancesPath, "{'title':'t','status_page_id':'page-1'}", 422,
+    testing::Values(RefusalRow{"NoJson", "PATCH", path, "", 422, "The body is no JSON."},
+        RefusalRow{"NoTitle", "POST", maintenancesPath, "{}", 422, R"("title" is missing.)"},
+        RefusalRow{"NoPage", "POST", maintenancesPath, "{'title':'t'}", 422, R"("status_page_id" is missing.)"},
+        RefusalRow{"NoStart", "POST", maintenancesPath, "{'title':'t','status_page_id':'page-1'}", 422,
             R"("start_at" is missing.)"},
-        MaintenanceRow{"UnknownPage", "POST", maintenancesPath, withoutPage, 422, "There is no such status page."},
-        MaintenanceRow{"BlankTitle", "PATCH", path, "{'title':' '}", 422, R"("title" is empty.)"},
-        MaintenanceRow{"NoDate", "PATCH", path, "{'start_at':'tomorrow'}", 422, R"("start_at" is no date.)"},
-        MaintenanceRow{"NumberAsDate", "PATCH", path, "{'start_at':1}", 422, R"("start_at" is no text.)"},
-        MaintenanceRow{"EndBeforeStart", "PATCH", path, "{'end_at':'2026-11-20T09:59:59Z'}", 422,
+        RefusalRow{"UnknownPage", "POST", maintenancesPath, withoutPage, 422, "There is no such status page."},
+        RefusalRow{"BlankTitle", "PATCH", path, "{'title':' '}", 422, R"("title" is empty.)"},
+        RefusalRow{"NoDate", "PATCH", path, "{'start_at':'tomorrow'}", 422, R"("start_at" is no date.)"},
+        RefusalRow{"NumberAsDate", "PATCH", path, "{'start_at':1}", 422, R"("start_at" is no text.)"},
+        RefusalRow{"EndBeforeStart", "PATCH", path, "{'end_at':'2026-11-20T09:59:59Z'}", 422,
             "The end lies before the start."}),
-    named);
+    nameOf);
 
 struct WireDateRow {
     std::string text;
