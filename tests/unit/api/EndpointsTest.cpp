@@ -183,17 +183,6 @@ INSTANTIATE_TEST_SUITE_P(EachOperation, Endpoint,
 
 class Incidents : public testing::Test, public Service {
 protected:
-    template <typename T>
-    std::string failure(support::Task<T> task)
-    {
-        try {
-            result(std::move(task));
-        } catch (const support::LocalizedError& error) {
-            return error.localizedDescription();
-        }
-        return "no failure";
-    }
-
     const std::string statesURL = feature + "/incident-states";
     const std::string incidentURL = v1 + "/incidents/7";
 };

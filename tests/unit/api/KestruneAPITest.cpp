@@ -28,17 +28,6 @@ const std::string incidentURL = "https://service.example/user/api/v1/incidents/7
 
 class Send : public testing::Test, public Service {
 protected:
-    template <typename T>
-    std::string failure(support::Task<T> task)
-    {
-        try {
-            result(std::move(task));
-        } catch (const support::LocalizedError& error) {
-            return error.localizedDescription();
-        }
-        return "no failure";
-    }
-
     EmptyResponse deleteIncident()
     {
         return result(api.sendRequest<EmptyResponse>({.method = "DELETE", .path = "/incidents/7"}));

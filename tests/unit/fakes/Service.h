@@ -11,6 +11,7 @@
 #include "fakes/FakeTransport.h"
 #include "fakes/ManualClock.h"
 #include "fakes/ManualExecutor.h"
+#include "support/LocalizedError.h"
 #include "support/Outcome.h"
 #include "support/Task.h"
 
@@ -41,6 +42,18 @@ struct Service {
         support::start(main, store(std::move(task), &outcome));
         run();
         return outcome.take();
+    }
+
+    /// The words of the failure that `task` ends with.
+    template <typename T>
+    std::string failure(support::Task<T> task)
+    {
+        try {
+            result(std::move(task));
+        } catch (const support::LocalizedError& error) {
+            return error.localizedDescription();
+        }
+        return "no failure";
     }
 
     ManualExecutor main;
