@@ -62,8 +62,12 @@ class Service:
     def change(self, page: str, **values: str) -> None:
         self._order("PATCH", f"pages/{page}", values)
 
-    def open_incident(self, title: str, **details: str) -> None:
-        self._order("POST", "incidents", {"title": title, **details})
+    def open_incident(self, title: str, **details: str) -> str:
+        """Its id."""
+        return self._order("POST", "incidents", {"title": title, **details})["id"]
+
+    def resolve_incident(self, incident: str) -> None:
+        self._order("PATCH", f"incidents/{incident}", {"status": "resolved"})
 
     def plan_maintenance(self, title: str, **details: str) -> None:
         self._order("POST", "maintenances", {"title": title, **details})

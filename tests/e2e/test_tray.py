@@ -44,6 +44,40 @@ def test_the_item_follows_the_service_through_break_and_mend(panel, program, the
     assert "Refresh Failed" not in panel.rows()
 
 
+def test_of_six_active_incidents_the_menu_shows_five_and_the_sixth_once_one_is_resolved(panel, program, the_service):
+    panel.wait_for_item()
+    titles = [f"Incident {number}" for number in range(1, 7)]
+    opened = [the_service.open_incident(title) for title in titles]
+    newest_first = titles[::-1]
+    panel.click("Refresh")
+    panel.wait_for("Some systems down", "Down")
+    shown = panel.rows()[2 + len(NAMES):-len(COMMANDS)]
+    assert shown == ["Active Incidents", *newest_first[:5]]
+
+    the_service.resolve_incident(opened[-1])
+    panel.click("Refresh")
+    eventually(lambda: panel.rows()[2 + len(NAMES):-len(COMMANDS)] == ["Active Incidents", *newest_first[1:]],
+               lambda: f"the rows are {panel.rows()}")
+
+
+def test_without_a_key_the_menu_says_that_the_refresh_failed(panel, start, the_keyring, the_service):
+    the_keyring.remove()
+    start()
+    panel.wait_for_item()
+    panel.wait_for("Status stale, refresh failed", "Stale")
+    assert panel.rows() == ["Stale", "Refresh Failed", "No Status Pages", *COMMANDS]
+    assert panel.tool_tip() == "Status stale, refresh failed • Refresh failed"
+
+
+def test_before_the_first_cycle_the_menu_says_unknown(panel, start, stored_key, the_service):
+    the_service.fail("hang")
+    start()
+    panel.wait_for_item()
+    panel.wait_for("Status unknown", "Unknown")
+    assert panel.rows() == ["Unknown", "No Status Pages", *COMMANDS]
+    assert panel.tool_tip() == "Status unknown"
+
+
 def minimise(program, the_display) -> str:
     window = program.window()
     the_display.press_close_button(window)
