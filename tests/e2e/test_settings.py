@@ -13,8 +13,6 @@ ASKS = "Are you sure you want to delete your API key? You will need to enter it 
 
 def type_key(screen, the_display, key: str) -> None:
     """Into the open sheet, with nothing but the keyboard."""
-    screen.wait_for_focus("Done")
-    the_display.press_key("Tab")
     screen.wait_for_focus(FIELD)
     the_display.type_text(key)
     the_display.press_key("Tab")

@@ -13,7 +13,6 @@ T.Button {
     leftPadding: 2 * Theme.unit
     rightPadding: 2 * Theme.unit
     hoverEnabled: true
-    Accessible.role: Accessible.Link
     Accessible.name: text
     Accessible.description: subtitle
     // Qt 6.4 tells assistive technologies of the action, but does nothing when they take it.

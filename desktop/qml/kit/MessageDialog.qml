@@ -3,33 +3,21 @@ import QtQuick.Templates as T
 import Larkspan
 
 // A short message with its buttons, over the dimmed window.
-T.Dialog {
+ModalDialog {
     id: dialog
     property string text
     property bool showsProgress: false
     default property alias actions: actionRow.data
 
-    parent: T.Overlay.overlay
-    x: parent ? Math.round((parent.width - width) / 2) : 0
-    y: parent ? Math.round((parent.height - height) / 2) : 0
     width: parent ? Math.min(Theme.dialogWidth * Theme.scale, parent.width - 2 * Theme.margin) : 0
     padding: Theme.margin
     implicitHeight: column.implicitHeight + topPadding + bottomPadding
-    modal: true
-    focus: true
-    closePolicy: T.Popup.CloseOnEscape
-
-    T.Overlay.modal: Dimming {}
-
-    background: Rectangle {
-        radius: Theme.cardRadius
-        color: Theme.card
-        border.width: Theme.hairline
-        border.color: Theme.line
-    }
 
     contentItem: FocusScope {
         focus: true
+        Accessible.role: Accessible.Dialog
+        Accessible.name: dialog.title
+        Accessible.description: dialog.text
         implicitHeight: column.implicitHeight
 
         Column {
@@ -74,12 +62,5 @@ T.Dialog {
                 }
             }
         }
-    }
-
-    enter: Transition {
-        NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.calm; easing.type: Easing.OutCubic }
-    }
-    exit: Transition {
-        NumberAnimation { property: "opacity"; from: 1; to: 0; duration: Theme.quick; easing.type: Easing.OutCubic }
     }
 }

@@ -1,7 +1,9 @@
 import QtQuick
 import QtQuick.Templates as T
+import Larkspan
 
-// Makes a sheet or a dialog when it is to be seen, and lets go of it when it is not.
+// Makes a sheet or a dialog when it is to be seen, and lets go of it when it is not. Whoever had the focus has it again
+// then.
 Loader {
     id: loader
     required property bool isShown
@@ -10,13 +12,23 @@ Loader {
 
     // A popup opens over a window, so it waits until its maker is in one.
     active: isShown && T.Overlay.overlay !== null
-    onLoaded: (item as T.Popup).open()
+    onLoaded: {
+        focusBefore.remember(Window.activeFocusItem)
+        const popup = item as T.Popup
+        popup.open()
+    }
+    onItemChanged: if (!item) focusBefore.giveBack()
 
     Connections {
         target: loader.item
         ignoreUnknownSignals: true
         function onClosed() {
+            focusBefore.giveBack()
             loader.dismissed()
         }
+    }
+
+    FocusReturn {
+        id: focusBefore
     }
 }

@@ -4,32 +4,23 @@ import Larkspan
 
 // A panel over the dimmed window: a bar with its title, then content that scrolls where the window is small.
 // It keeps the focus while it is up, takes Escape, and gives the focus back.
-T.Dialog {
+ModalDialog {
     id: sheet
     property int preferredWidth: Theme.sheetWidth
     default property alias content: column.data
     property alias barItems: bar.trailing
 
-    parent: T.Overlay.overlay
-    x: parent ? Math.round((parent.width - width) / 2) : 0
-    y: parent ? Math.round((parent.height - height) / 2) : 0
     width: parent ? Math.min(preferredWidth * Theme.scale, parent.width - 2 * Theme.margin) : 0
     height: parent ? Math.min(Theme.headerHeight + column.implicitHeight + 2 * Theme.margin, parent.height - 2 * Theme.margin) : 0
-    modal: true
-    focus: true
-    closePolicy: T.Popup.CloseOnEscape
-
-    T.Overlay.modal: Dimming {}
-
-    background: Rectangle {
-        radius: Theme.cardRadius
-        color: Theme.window
-        border.width: Theme.hairline
-        border.color: Theme.line
-    }
 
     contentItem: FocusScope {
         focus: true
+        Accessible.role: Accessible.Dialog
+        Accessible.name: sheet.title
+
+        // Whatever the keyboard reaches is to be seen.
+        readonly property Item focusedItem: Window.activeFocusItem
+        onFocusedItemChanged: scroller.reveal(focusedItem)
 
         HeaderBar {
             id: bar
@@ -46,6 +37,16 @@ T.Dialog {
             boundsBehavior: Flickable.StopAtBounds
             clip: true
 
+            function reveal(item: Item) {
+                let ancestor = item
+                while (ancestor && ancestor !== column) ancestor = ancestor.parent
+                if (!ancestor) return
+                const top = item.mapToItem(contentItem, 0, 0).y - Theme.margin
+                const bottom = top + item.height + 2 * Theme.margin
+                if (top < contentY) contentY = Math.max(0, top)
+                else if (bottom > contentY + height) contentY = Math.min(contentHeight, bottom) - height
+            }
+
             Column {
                 id: column
                 x: Theme.margin
@@ -56,12 +57,5 @@ T.Dialog {
 
             T.ScrollBar.vertical: SlimScrollBar {}
         }
-    }
-
-    enter: Transition {
-        NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.calm; easing.type: Easing.OutCubic }
-    }
-    exit: Transition {
-        NumberAnimation { property: "opacity"; from: 1; to: 0; duration: Theme.quick; easing.type: Easing.OutCubic }
     }
 }

@@ -7,9 +7,16 @@ Sheet {
     required property SettingsBridge settings
 
     title: qsTr("Settings")
+
+    // The field and its button come and go; the focus does not go with them.
+    readonly property bool takesKey: !settings.showsSavedKey
+    onTakesKeyChanged: {
+        if (takesKey) field.forceActiveFocus(Qt.OtherFocusReason)
+        else doneButton.forceActiveFocus(Qt.OtherFocusReason)
+    }
     barItems: CommandButton {
+        id: doneButton
         text: qsTr("Done")
-        focus: true
         onClicked: sheet.close()
     }
 
@@ -32,6 +39,7 @@ Sheet {
         }
         SecretField {
             id: field
+            focus: true
             width: parent.width
             visible: !sheet.settings.showsSavedKey
             name: qsTr("API key")

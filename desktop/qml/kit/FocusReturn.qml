@@ -1,0 +1,20 @@
+import QtQuick
+import QtQuick.Templates as T
+
+// Remembers who had the focus when something came up over it, and gives it back: with its ring if it had one.
+QtObject {
+    id: memory
+    property Item holder: null
+    property int reason: Qt.OtherFocusReason
+
+    function remember(item: Item) {
+        memory.holder = item
+        memory.reason = item instanceof T.Control ? item["focusReason"] : Qt.OtherFocusReason
+    }
+
+    function giveBack() {
+        const item = memory.holder
+        memory.holder = null
+        if (item && item.visible && item.enabled) item.forceActiveFocus(memory.reason)
+    }
+}

@@ -1,0 +1,31 @@
+import QtQuick
+import QtQuick.Templates as T
+import Larkspan
+
+// What comes up over the dimmed window: in its middle, with the focus kept inside while it is up. Escape closes it.
+T.Dialog {
+    id: dialog
+
+    parent: T.Overlay.overlay
+    x: parent ? Math.round((parent.width - width) / 2) : 0
+    y: parent ? Math.round((parent.height - height) / 2) : 0
+    modal: true
+    focus: true
+    closePolicy: T.Popup.CloseOnEscape
+
+    T.Overlay.modal: Dimming {}
+
+    background: Rectangle {
+        radius: Theme.cardRadius
+        color: Theme.window
+        border.width: Theme.hairline
+        border.color: Theme.line
+    }
+
+    enter: Transition {
+        NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.calm; easing.type: Easing.OutCubic }
+    }
+    exit: Transition {
+        NumberAnimation { property: "opacity"; from: 1; to: 0; duration: Theme.quick; easing.type: Easing.OutCubic }
+    }
+}
