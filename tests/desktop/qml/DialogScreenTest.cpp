@@ -1,0 +1,229 @@
+#include <QQuickItem>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include "Screen.h"
+
+namespace larkspan {
+
+namespace {
+
+using platform::UpdateCheck;
+using Role = QAccessible::Role;
+
+class DialogOnScreen : public testing::Test, public Screen {
+protected:
+    DialogOnScreen()
+    {
+        servePages({"a"}, {});
+        refresh();
+        settle();
+    }
+
+    bool isOpen(const char* title) const { return names(Role::Dialog).contains(QString::fromUtf8(title)); }
+    QString focused() const
+    {
+        const auto* interface = QAccessible::queryAccessibleInterface(mainWindow.window().activeFocusItem());
+        return interface ? interface->text(QAccessible::Name) : QString();
+    }
+};
+
+class AboutOnScreen : public DialogOnScreen {
+protected:
+    AboutOnScreen()
+    {
+        item(Role::Button, QStringLiteral("Menu")).forceActiveFocus(Qt::TabFocusReason);
+        aboutOwner.showingAbout = true;
+        settle();
+    }
+};
+
+TEST_F(AboutOnScreen, IsADialogWithTheProgramsVersionAndWords)
+{
+    EXPECT_TRUE(isOpen("About Kestrune"));
+    for (const auto* const text :
+        {"Kestrune", "Version 1.2 (34)", "A focused companion for monitoring your Kestrune status pages."}) {
+        EXPECT_TRUE(shows(QString::fromLatin1(text))) << text;
+    }
+}
+
+TEST_F(AboutOnScreen, HasThreeLinksWithNameAndDescription)
+{
+    QStringList found;
+    for (const auto& thing : things()) {
+        if (!thing.description.isEmpty() && thing.role == Role::Button)
+            found << thing.name + QStringLiteral(": ") + thing.description;
+    }
+    EXPECT_EQ(found,
+        (QStringList{"Kestrune: Visit our website", "Community on Discord: Chat with our team",
+            "GitHub: Source code and issue tracking"}));
+}
+
+TEST_F(AboutOnScreen, ReturnOnALinkOpensIt)
+{
+    item(Role::Button, QStringLiteral("GitHub")).forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Return);
+    EXPECT_EQ(links.opened, std::vector<std::string>{"https://source.example"});
+    EXPECT_TRUE(isOpen("About Kestrune"));
+}
+
+TEST_F(AboutOnScreen, DoneIsTheDefaultSoReturnCloses)
+{
+    EXPECT_EQ(focused(), QStringLiteral("Done"));
+    press(Qt::Key_Return);
+    EXPECT_FALSE(isOpen("About Kestrune"));
+    EXPECT_FALSE(*aboutOwner.showingAbout);
+}
+
+TEST_F(AboutOnScreen, EscapeClosesAndGivesTheFocusBack)
+{
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(isOpen("About Kestrune"));
+    EXPECT_EQ(focused(), QStringLiteral("Menu"));
+}
+
+TEST_F(AboutOnScreen, CanBeOpenedAgain)
+{
+    press(Qt::Key_Escape);
+    aboutOwner.showingAbout = true;
+    settle();
+    EXPECT_TRUE(isOpen("About Kestrune"));
+}
+
+class UpdatesOnScreen : public DialogOnScreen {
+protected:
+    UpdatesOnScreen()
+    {
+        updates->checkForUpdates();
+        settle();
+    }
+};
+
+TEST_F(UpdatesOnScreen, ACheckShowsProgressAndItsFindingComesInTheSameDialog)
+{
+    EXPECT_TRUE(isOpen("Checking for Updates\u2026"));
+    EXPECT_TRUE(names(Role::ProgressBar).contains(QStringLiteral("Checking for Updates\u2026")));
+    updater.pending.at(0)(UpdateCheck{.finding = UpdateCheck::Finding::noPackageService});
+    settle();
+    EXPECT_TRUE(isOpen("Couldn\u2019t Check for Updates"));
+    EXPECT_TRUE(shows(
+        QStringLiteral("There is no package service on this computer. Updates come with those of your distribution.")));
+    EXPECT_FALSE(names(Role::ProgressBar).contains(QStringLiteral("Couldn\u2019t Check for Updates")));
+    EXPECT_EQ(names(Role::Dialog).size(), 1);
+}
+
+TEST_F(UpdatesOnScreen, OKClosesIt)
+{
+    updater.pending.at(0)(UpdateCheck{.finding = UpdateCheck::Finding::upToDate, .installedVersion = "1.2"});
+    settle();
+    EXPECT_EQ(focused(), QStringLiteral("OK"));
+    press(Qt::Key_Return);
+    EXPECT_TRUE(names(Role::Dialog).isEmpty());
+    EXPECT_FALSE(*updates->isShowing);
+}
+
+TEST_F(UpdatesOnScreen, EscapeClosesItInMidCheck)
+{
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(names(Role::Dialog).isEmpty());
+    updater.pending.at(0)(UpdateCheck{.finding = UpdateCheck::Finding::upToDate});
+    settle();
+    EXPECT_TRUE(names(Role::Dialog).isEmpty());
+}
+
+class AnyDialogOnScreen : public DialogOnScreen {
+protected:
+    void lookAtAll()
+    {
+        int texts = 0;
+        int controls = 0;
+        visit([&](QQuickItem& item) {
+            if (!item.isVisible()) return;
+            if (item.inherits("QQuickText")) {
+                ++texts;
+                EXPECT_EQ(item.property("textFormat").toInt(), Qt::PlainText);
+            }
+            if (item.inherits("QQuickAbstractButton") || item.inherits("QQuickTextField")) {
+                ++controls;
+                const auto* const interface = QAccessible::queryAccessibleInterface(&item);
+                EXPECT_FALSE(interface->text(QAccessible::Name).isEmpty()) << item.metaObject()->className();
+                EXPECT_NE(interface->role(), Role::NoRole);
+            }
+        });
+        EXPECT_GT(texts, 6);
+        EXPECT_GT(controls, 4);
+    }
+};
+
+TEST_F(AnyDialogOnScreen, ShowsTextAsItStandsAndNamesEveryControl)
+{
+    dashboard->openSettings();
+    settle();
+    lookAtAll();
+    dashboard->settings()->confirmDelete();
+    settle();
+    lookAtAll();
+    dashboard->closeSettings();
+    aboutOwner.showingAbout = true;
+    settle();
+    lookAtAll();
+    aboutOwner.showingAbout = false;
+    updates->checkForUpdates();
+    settle();
+    lookAtAll();
+}
+
+class HeadlineOnScreen : public DialogOnScreen {};
+
+TEST_F(HeadlineOnScreen, SaysTheAccountsStateAndItsDetails)
+{
+    servePages({"a"}, {{"a", "operational"}});
+    serveIncidents({incident("1", "Login errors")});
+    refresh();
+    settle();
+    EXPECT_TRUE(shows(QStringLiteral("An active incident requires attention")));
+    EXPECT_TRUE(shows(QStringLiteral("1 Status Page · 1 active incident")));
+}
+
+TEST_F(HeadlineOnScreen, APageThatTheMenuAsksForIsSelectedAndInSight)
+{
+    std::vector<std::string> ids;
+    for (int number = 0; number < 300; ++number) ids.push_back("page-" + std::to_string(number));
+    servePages(ids, {});
+    refresh();
+    settle();
+    state->openStatusPage("page-250");
+    settle();
+    for (const auto& thing : things()) {
+        if (thing.role != Role::ListItem) continue;
+        const bool isSelected = QAccessible::queryAccessibleInterface(thing.object)->state().selected;
+        EXPECT_EQ(isSelected, thing.name == QStringLiteral("page-250")) << thing.name.toStdString();
+    }
+    EXPECT_TRUE(names(Role::ListItem).contains(QStringLiteral("page-250")));
+}
+
+TEST_F(HeadlineOnScreen, ReturnOnARowSelectsItsPage)
+{
+    item(Role::List, QStringLiteral("Status Pages")).forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Return);
+    EXPECT_EQ(*dashboard->selectedPageId, "a");
+}
+
+TEST_F(HeadlineOnScreen, AListAtItsTopStaysThereWhenTheHeadlineTakesMoreLines)
+{
+    window().resize(480, 440);
+    settle();
+    auto& list = item(Role::List, QStringLiteral("Status Pages"));
+    servePages({"a", "b"}, {});
+    serveIncidents({incident("1", "a"), incident("2", "b")});
+    serveMaintenances({maintenance("3", "c")});
+    refresh();
+    settle();
+    const auto top = list.property("originY").toReal() - list.property("topMargin").toReal();
+    EXPECT_DOUBLE_EQ(list.property("contentY").toReal(), top);
+}
+
+}  // namespace
+
+}  // namespace larkspan
