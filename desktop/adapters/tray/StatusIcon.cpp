@@ -55,15 +55,29 @@ StatusNotifierPixmap drawn(QSvgRenderer& renderer, int size, const QColor& color
 
 }  // namespace
 
-StatusIcon StatusIcon::of(const std::string& symbolName, const QColor& color)
+StatusIcon::StatusIcon(const std::string& symbolName, const QColor& color)
+    : name_(iconName(symbolName))
+    , color_(color)
 {
-    const auto name = iconName(symbolName);
-    if (QIcon::hasThemeIcon(name)) return {.themeName = name};
+}
 
-    StatusIcon icon;
-    QSvgRenderer renderer(QString(":/larkspan/tray/%1.svg").arg(name));
-    for (const int size : pixmapSizes) icon.pixmaps << drawn(renderer, size, color);
-    return icon;
+QString StatusIcon::themeName() const
+{
+    return QIcon::hasThemeIcon(name_) ? name_ : QString();
+}
+
+StatusNotifierPixmaps StatusIcon::pixmaps() const
+{
+    StatusNotifierPixmaps pixmaps;
+    if (name_.isEmpty() || QIcon::hasThemeIcon(name_)) return pixmaps;
+    QSvgRenderer renderer(QString(":/larkspan/tray/%1.svg").arg(name_));
+    for (const int size : pixmapSizes) pixmaps << drawn(renderer, size, color_);
+    return pixmaps;
+}
+
+bool StatusIcon::looksLike(const StatusIcon& other) const
+{
+    return name_ == other.name_ && (color_ == other.color_ || QIcon::hasThemeIcon(name_));
 }
 
 }  // namespace larkspan::adapters

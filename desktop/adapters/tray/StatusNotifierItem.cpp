@@ -56,7 +56,7 @@ void StatusNotifierItem::perform(const MenuRow& row) const
 void StatusNotifierItem::updateIcon()
 {
     const QColor color = appearance_.isDark() ? QColor(0xec, 0xee, 0xf1) : QColor(0x1d, 0x21, 0x27);
-    item_.setIcon(StatusIcon::of(button_.symbolName, color), QString::fromStdString(button_.accessibilityDescription));
+    item_.setIcon(StatusIcon(button_.symbolName, color), QString::fromStdString(button_.accessibilityDescription));
 }
 
 }  // namespace larkspan::adapters

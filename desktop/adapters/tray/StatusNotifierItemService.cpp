@@ -10,8 +10,9 @@ StatusNotifierItemService::StatusNotifierItemService(QObject* parent)
 
 void StatusNotifierItemService::setIcon(const StatusIcon& icon, const QString& accessibleDescription)
 {
-    if (icon == icon_ && accessibleDescription == accessibleDescription_) return;
+    const bool isUnchanged = icon.looksLike(icon_) && accessibleDescription == accessibleDescription_;
     icon_ = icon;
+    if (isUnchanged) return;
     accessibleDescription_ = accessibleDescription;
     emit NewIcon();
 }

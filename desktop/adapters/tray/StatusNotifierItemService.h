@@ -46,8 +46,8 @@ public:
     QString title() const { return "Kestrune"; }
     QString status() const { return "Active"; }
     int windowId() const { return 0; }
-    QString iconName() const { return icon_.themeName; }
-    StatusNotifierPixmaps iconPixmap() const { return icon_.pixmaps; }
+    QString iconName() const { return icon_.themeName(); }
+    StatusNotifierPixmaps iconPixmap() const { return icon_.pixmaps(); }
     QString iconAccessibleDescription() const { return accessibleDescription_; }
     QString noName() const { return {}; }
     StatusNotifierPixmaps noPixmap() const { return {}; }

@@ -38,7 +38,7 @@ StatusNotifierWatcher::StatusNotifierWatcher(QDBusConnection bus, QObject* paren
             if (newOwner.isEmpty()) {
                 onUnregistered();
             } else {
-                onRegistered();
+                onRegistered(newOwner);
             }
         });
     for (const auto* const name : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"}) {
@@ -55,9 +55,10 @@ void StatusNotifierWatcher::registerItem()
     sendRegistration();
 }
 
-void StatusNotifierWatcher::onRegistered()
+void StatusNotifierWatcher::onRegistered(const QString& owner)
 {
-    if (hasItem_) sendRegistration();
+    owner_ = owner;
+    if (hasItem_ && !registration_) sendRegistration();
     askForHost();
 }
 
@@ -69,10 +70,16 @@ void StatusNotifierWatcher::onUnregistered()
 
 void StatusNotifierWatcher::sendRegistration()
 {
+    if (!bus_.isConnected()) return;
     // The connection's own name, since a sandbox doesn't let programs own the customary one.
-    if (bus_.isConnected()) {
-        bus_.asyncCall(call(watcherInterface, "RegisterStatusNotifierItem", {bus_.baseService()}));
-    }
+    const auto registration = call(watcherInterface, "RegisterStatusNotifierItem", {bus_.baseService()});
+    registration_ = std::make_unique<QDBusPendingCallWatcher>(bus_.asyncCall(registration));
+    connect(registration_.get(), &QDBusPendingCallWatcher::finished, this, [this, owner = owner_] {
+        const auto answeredBy = registration_->reply().service();
+        registration_.release()->deleteLater();
+        // A list that came while this was under way may have it already, or may be the next one.
+        if (owner_ != owner && owner_ != answeredBy) sendRegistration();
+    });
 }
 
 void StatusNotifierWatcher::askForHost()

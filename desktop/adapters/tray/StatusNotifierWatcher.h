@@ -2,6 +2,7 @@
 
 #include <QDBusConnection>
 #include <QObject>
+#include <QString>
 
 #include <memory>
 
@@ -31,13 +32,16 @@ private slots:
     void askForHost();
 
 private:
-    void onRegistered();
+    void onRegistered(const QString& owner);
     void onUnregistered();
     void sendRegistration();
     void setHasHost(bool hasHost);
 
     QDBusConnection bus_;
     std::unique_ptr<QDBusPendingCallWatcher> answer_;
+    std::unique_ptr<QDBusPendingCallWatcher> registration_;
+    /// The bus name of the process that has the list, once it is known.
+    QString owner_;
     bool hasItem_ = false;
     bool hasHost_ = false;
 };
