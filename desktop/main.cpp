@@ -14,6 +14,7 @@
 #include "adapters/http/CurlTransport.h"
 #include "adapters/http/PortalProxies.h"
 #include "adapters/secrets/SecretServiceStore.h"
+#include "qml/Renderer.h"
 
 int main(int argc, char* argv[])
 {
@@ -21,6 +22,7 @@ int main(int argc, char* argv[])
 
     adapters::hardenProcess();
     const QString activationToken = adapters::launchActivationToken();
+    chooseRenderer();
     const QGuiApplication qt(argc, argv);
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Kestrune"));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.kestrune.larkspan"));

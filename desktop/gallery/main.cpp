@@ -14,6 +14,7 @@
 #include "gallery/Scene.h"
 #include "gallery/Stage.h"
 #include "qml/MainWindow.h"
+#include "qml/Renderer.h"
 
 namespace larkspan::gallery {
 
@@ -103,7 +104,7 @@ int main(int argc, char* argv[])
 
     // The pictures need no display, and are the same wherever they are made.
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_QUICK_BACKEND", "software");
+    larkspan::chooseRenderer();
     const QGuiApplication qt(argc, argv);
     const auto arguments = QCoreApplication::arguments();
     if (arguments.size() != 2) {

@@ -9,11 +9,13 @@
 #include "adapters/TerminationSignals.h"
 #include "api/KeychainHelper.h"
 #include "demo/DemoAccount.h"
+#include "qml/Renderer.h"
 
 int main(int argc, char* argv[])
 {
     using namespace larkspan;
 
+    chooseRenderer();
     const QGuiApplication qt(argc, argv);
     QGuiApplication::setDesktopFileName(QStringLiteral("com.kestrune.larkspan"));
 

@@ -35,7 +35,7 @@ class Program:
 
 
 def surroundings(session: Session) -> dict[str, str]:
-    return session.surroundings | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "QT_QPA_PLATFORM": "xcb", "QT_QUICK_BACKEND": "software"}
+    return session.surroundings | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "QT_QPA_PLATFORM": "xcb"}
 
 
 @contextmanager

@@ -3,11 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include "qml/Renderer.h"
+
 int main(int argc, char** argv)
 {
     testing::InitGoogleTest(&argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_QUICK_BACKEND", "software");
+    larkspan::chooseRenderer();
     const QGuiApplication application(argc, argv);
     QAccessible::setActive(true);
     return RUN_ALL_TESTS();
