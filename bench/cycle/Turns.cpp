@@ -85,7 +85,8 @@ void measure(std::size_t incidents, std::size_t cycles)
     api::APIKeyStore keys(worker, client.store());
     auto dashboard = std::make_shared<workspace::Dashboard>(
         workspace::Dashboard::Ports{main, client.timers(), client.clock(), client.store(), keys, client.sharedState()});
-    const bridge::DashboardBridge window(dashboard, main);
+    const bridge::ScreenUpdates updates(main);
+    const bridge::DashboardBridge window(dashboard, updates);
 
     std::vector<double> turns;
     std::vector<double> work;

@@ -1,19 +1,14 @@
 #include "bridge/AboutBridge.h"
 
-#include <QVariantMap>
-
-#include "bridge/Words.h"
-
 namespace larkspan::bridge {
 
 AboutBridge::AboutBridge(const workspace::AboutKestruneView& about, support::Published<bool>& showing,
-    support::Observable& owner, platform::Executor& main, QObject* parent)
-    : QObject(parent)
+    support::Observable& owner, const ScreenUpdates& updates, QObject* parent)
+    : ScreenBridge(updates, parent)
     , about_(about)
     , showing_(showing)
-    , notice_(main, [this] { emit changed(); })
-    , subscription_(owner.objectWillChange([this] { notice_.announce(); }))
 {
+    follow(owner);
 }
 
 QString AboutBridge::title() const
@@ -26,14 +21,11 @@ QString AboutBridge::text() const
     return words(workspace::AboutKestruneView::text);
 }
 
-QVariantList AboutBridge::links() const
+QList<LinkValue> AboutBridge::links() const
 {
-    QVariantList rows;
-    for (const auto& link : about_.links()) {
-        rows << QVariantMap{{QStringLiteral("symbol"), words(link.symbol)},
-            {QStringLiteral("title"), words(link.title)}, {QStringLiteral("subtitle"), words(link.subtitle)}};
-    }
-    return rows;
+    QList<LinkValue> links;
+    for (const auto& link : about_.links()) links << LinkValue::of(link);
+    return links;
 }
 
 void AboutBridge::openLink(int place)

@@ -5,25 +5,20 @@
 namespace larkspan::bridge {
 
 DashboardBridge::DashboardBridge(
-    std::shared_ptr<workspace::Dashboard> dashboard, platform::Executor& main, QObject* parent)
-    : QObject(parent)
+    std::shared_ptr<workspace::Dashboard> dashboard, const ScreenUpdates& updates, QObject* parent)
+    : ScreenBridge(updates, parent)
     , dashboard_(std::move(dashboard))
-    , main_(main)
-    , notice_(main,
-          [this] {
-              readState();
-              emit changed();
-          })
-    , subscriptions_(dashboard_->observe([this] { notice_.announce(); }))
+    , updates_(updates)
 {
-    readState();
+    for (const auto& subscription : dashboard_->observe(observer())) keep(subscription);
+    DashboardBridge::readState();
 }
 
 void DashboardBridge::readState()
 {
-    placeholder_ = dashboard_->placeholder();
-    statusText_ = dashboard_->statusText();
-    summary_ = dashboard_->summary();
+    placeholder_ = PlaceholderValue::of(dashboard_->placeholder());
+    headline_ = HeadlineValue::of(dashboard_->headline());
+    status_ = MarkerValue::of(dashboard_->status());
     rows_.update(dashboard_->rows());
     followSettings();
 }
@@ -34,25 +29,13 @@ void DashboardBridge::followSettings()
     shownSettings_ = dashboard_->settings();
     // A sheet that closes still reads its own.
     if (settings_) settings_.release()->deleteLater();
-    if (shownSettings_) settings_ = std::make_unique<SettingsBridge>(shownSettings_, main_);
-}
-
-QString DashboardBridge::headlineDetails() const
-{
-    QStringList details;
-    for (const auto& detail : summary_.operationalDetails()) details << QString::fromStdString(detail);
-    return details.join(QStringLiteral(" · "));
+    if (shownSettings_) settings_ = std::make_unique<SettingsBridge>(shownSettings_, updates_);
 }
 
 int DashboardBridge::selectedRow() const
 {
     const auto row = dashboard_->selectedRow();
     return row ? static_cast<int>(*row) : -1;
-}
-
-bool DashboardBridge::showsList() const
-{
-    return dashboard_->content() == workspace::Dashboard::Content::list;
 }
 
 QStringList DashboardBridge::refreshIntervalLabels() const

@@ -1,6 +1,7 @@
 #include "bridge/RowOrder.h"
 
 #include <algorithm>
+#include <iterator>
 #include <unordered_map>
 
 namespace larkspan::bridge {
@@ -44,6 +45,16 @@ std::vector<bool> longestRun(const std::vector<std::size_t>& places)
     std::vector<bool> isInRun(places.size(), false);
     for (auto at = ends.empty() ? none : ends.back(); at != none; at = before[at]) isInRun[at] = true;
     return isInRun;
+}
+
+std::ptrdiff_t placeInRun(const std::vector<std::size_t>& places, const std::vector<bool>& isInRun, std::size_t place)
+{
+    std::ptrdiff_t found = 0;
+    for (std::ptrdiff_t at = 0; at < std::ssize(places); ++at) {
+        const auto element = static_cast<std::size_t>(at);
+        if (isInRun[element] && places[element] < place) found = at + 1;
+    }
+    return found;
 }
 
 }  // namespace larkspan::bridge

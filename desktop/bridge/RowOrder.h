@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <string_view>
@@ -14,5 +15,23 @@ std::vector<std::optional<std::size_t>> wantedPlaces(
 
 /// Marks the most places that are in ascending order already; whatever is not marked has to move.
 std::vector<bool> longestRun(const std::vector<std::size_t>& places);
+
+/// Where the element that is wanted at `place` goes to stand in the run: before the element that is there now.
+std::ptrdiff_t placeInRun(const std::vector<std::size_t>& places, const std::vector<bool>& isInRun, std::size_t place);
+
+/// A list that changes its whole order at once is cheaper to lay out anew than to move row by row.
+inline constexpr std::ptrdiff_t mostSingleMoves = 100;
+
+/// Takes the element at `from` to before the one at `to`.
+template <typename Elements>
+void moveElement(Elements& elements, std::ptrdiff_t from, std::ptrdiff_t to)
+{
+    const auto begin = elements.begin();
+    if (from < to) {
+        std::rotate(begin + from, begin + from + 1, begin + to);
+    } else {
+        std::rotate(begin + to, begin + from, begin + from + 1);
+    }
+}
 
 }  // namespace larkspan::bridge

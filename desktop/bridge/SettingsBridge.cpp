@@ -4,19 +4,18 @@
 
 namespace larkspan::bridge {
 
-SettingsBridge::SettingsBridge(std::shared_ptr<workspace::Settings> settings, platform::Executor& main, QObject* parent)
-    : QObject(parent)
+SettingsBridge::SettingsBridge(
+    std::shared_ptr<workspace::Settings> settings, const ScreenUpdates& updates, QObject* parent)
+    : ScreenBridge(updates, parent)
     , settings_(std::move(settings))
-    , notice_(main, [this] { tellChanges(); })
-    , subscription_(settings_->objectWillChange([this] { notice_.announce(); }))
 {
+    follow(*settings_);
 }
 
-void SettingsBridge::tellChanges()
+void SettingsBridge::readState()
 {
     const bool heldText = std::exchange(fieldHoldsText_, !settings_->apiKey->empty());
     if (heldText && !fieldHoldsText_) emit fieldCleared();
-    emit changed();
 }
 
 }  // namespace larkspan::bridge

@@ -7,7 +7,8 @@
 
 namespace larkspan::bridge {
 
-/// `presentation::Tone` as the screens name it; the theme gives each its colour.
+/// `presentation::Tone` as the screens name it; the theme gives each its colour. A value for QML holds it as an
+/// integer: compiled by Qt 6.4, QML passes no enumeration on from inside a value.
 namespace Tone {
 Q_NAMESPACE
 QML_ELEMENT

@@ -4,12 +4,12 @@
 
 namespace larkspan::bridge {
 
-UpdateBridge::UpdateBridge(std::shared_ptr<core::UpdaterController> updates, platform::Executor& main, QObject* parent)
-    : QObject(parent)
-    , updates_(std::move(updates))
-    , notice_(main, [this] { emit changed(); })
-    , subscription_(updates_->objectWillChange([this] { notice_.announce(); }))
+UpdateBridge::UpdateBridge(
+    std::shared_ptr<core::UpdaterController> controller, const ScreenUpdates& updates, QObject* parent)
+    : ScreenBridge(updates, parent)
+    , controller_(std::move(controller))
 {
+    follow(*controller_);
 }
 
 }  // namespace larkspan::bridge

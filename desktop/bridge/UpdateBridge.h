@@ -1,46 +1,37 @@
 #pragma once
 
-#include <QObject>
 #include <QtQml/qqmlregistration.h>
 
 #include <memory>
 
-#include "bridge/ChangeNotice.h"
+#include "bridge/ScreenBridge.h"
+#include "bridge/values/UpdateReportValue.h"
 #include "core/UpdaterController.h"
-#include "support/Observable.h"
-#include "workspace/UpdateReport.h"
 
 namespace larkspan::bridge {
 
 /// What the dialog about updates shows; worded by `workspace::UpdateReport`.
-class UpdateBridge : public QObject {
+class UpdateBridge : public ScreenBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
     Q_PROPERTY(bool isShowing READ isShowing NOTIFY changed)
-    Q_PROPERTY(QString title READ title NOTIFY changed)
-    Q_PROPERTY(QString text READ text NOTIFY changed)
-    Q_PROPERTY(bool showsProgress READ showsProgress NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::UpdateReportValue report READ report NOTIFY changed)
 
 public:
-    UpdateBridge(std::shared_ptr<core::UpdaterController> updates, platform::Executor& main, QObject* parent = nullptr);
+    UpdateBridge(
+        std::shared_ptr<core::UpdaterController> controller, const ScreenUpdates& updates, QObject* parent = nullptr);
 
-    bool isShowing() const { return *updates_->isShowing; }
-    QString title() const { return QString::fromStdString(report().title); }
-    QString text() const { return QString::fromStdString(report().text); }
-    bool showsProgress() const { return report().showsProgress; }
+    bool isShowing() const { return *controller_->isShowing; }
+    UpdateReportValue report() const
+    {
+        return UpdateReportValue::of(workspace::UpdateReport::of(*controller_->finding));
+    }
 
-    Q_INVOKABLE void dismiss() { updates_->dismiss(); }
-
-signals:
-    void changed();
+    Q_INVOKABLE void dismiss() { controller_->dismiss(); }
 
 private:
-    workspace::UpdateReport report() const { return workspace::UpdateReport::of(*updates_->finding); }
-
-    std::shared_ptr<core::UpdaterController> updates_;
-    ChangeNotice notice_;
-    support::Subscription subscription_;
+    std::shared_ptr<core::UpdaterController> controller_;
 };
 
 }  // namespace larkspan::bridge

@@ -7,7 +7,7 @@ Window {
     required property DashboardBridge dashboard
     required property AboutBridge about
     required property UpdateBridge updates
-    required property MenuBridge menuRows
+    required property MenuBridge menu
     required property AppearanceBridge appearance
     signal quitRequested
 
@@ -34,11 +34,15 @@ Window {
         value: window.appearance.reducesMotion
     }
 
-    DashboardView {
+    PageStack {
         anchors.fill: parent
-        focus: true
-        dashboard: window.dashboard
-        menuRows: window.menuRows
+
+        DashboardView {
+            anchors.fill: parent
+            focus: true
+            dashboard: window.dashboard
+            menu: window.menu
+        }
     }
 
     PopupLoader {

@@ -13,9 +13,10 @@ Q_IMPORT_QML_PLUGIN(Larkspan_BridgePlugin)
 namespace larkspan {
 
 MainWindow::MainWindow(Content content, platform::Executor& main)
-    : dashboard_(std::move(content.dashboard), main)
-    , about_(content.about, content.showingAbout, content.aboutOwner, main)
-    , updates_(std::move(content.updates), main)
+    : screenUpdates_(main)
+    , dashboard_(std::move(content.dashboard), screenUpdates_)
+    , about_(content.about, content.showingAbout, content.aboutOwner, screenUpdates_)
+    , updates_(std::move(content.updates), screenUpdates_)
 {
     bridge::hideSecretsFromAccessibility();
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
@@ -23,14 +24,15 @@ MainWindow::MainWindow(Content content, platform::Executor& main)
         {QStringLiteral("dashboard"), QVariant::fromValue(&dashboard_)},
         {QStringLiteral("about"), QVariant::fromValue(&about_)},
         {QStringLiteral("updates"), QVariant::fromValue(&updates_)},
-        {QStringLiteral("menuRows"), QVariant::fromValue(&content.menu)},
+        {QStringLiteral("menu"), QVariant::fromValue(&content.menu)},
         {QStringLiteral("appearance"), QVariant::fromValue(&appearance_)},
     });
     engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Larkspan/Main.qml")));
     if (engine_.rootObjects().isEmpty()) qFatal("the main window's QML does not load");
     window_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().constFirst());
     connect(window_, &QWindow::visibilityChanged, this, [this](QWindow::Visibility visibility) {
-        dashboard_.setVisible(visibility != QWindow::Minimized && visibility != QWindow::Hidden);
+        const bool isSeen = visibility != QWindow::Minimized && visibility != QWindow::Hidden;
+        isSeen ? screenUpdates_.release() : screenUpdates_.hold();
     });
     // Named only in QML, so a string is the one way to reach it.
     connect(window_, SIGNAL(quitRequested()), this, SIGNAL(quitRequested()));

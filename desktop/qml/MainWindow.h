@@ -9,6 +9,7 @@
 #include "bridge/AppearanceBridge.h"
 #include "bridge/DashboardBridge.h"
 #include "bridge/MenuBridge.h"
+#include "bridge/ScreenUpdates.h"
 #include "bridge/UpdateBridge.h"
 #include "core/UpdaterController.h"
 #include "platform/Executor.h"
@@ -45,6 +46,7 @@ signals:
     void quitRequested();
 
 private:
+    bridge::ScreenUpdates screenUpdates_;
     bridge::AppearanceBridge appearance_;
     bridge::DashboardBridge dashboard_;
     bridge::AboutBridge about_;

@@ -4,6 +4,7 @@ set(LARKSPAN_SYMBOLS
     "arrow.up.right                 arrow-up-right"
     "bubble.left.and.bubble.right   chat-dots"
     "checkmark.circle.fill          check-circle-fill"
+    "chevron.left                   chevron-left"
     "chevron.left.forwardslash.chevron.right  code-slash"
     "doc.text.magnifyingglass       file-earmark-text"
     "exclamationmark.icloud.fill    cloud-slash-fill"

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "platform/LinkOpener.h"
+#include "presentation/Link.h"
 
 namespace larkspan::workspace {
 
@@ -20,13 +21,6 @@ public:
         std::string organisationAddress;
     };
 
-    struct LinkRow {
-        std::string_view symbol;
-        std::string_view title;
-        std::string_view subtitle;
-        std::string destination;
-    };
-
     static constexpr std::string_view title = "Kestrune";
     static constexpr std::string_view text = "A focused companion for monitoring your Kestrune status pages.";
 
@@ -38,16 +32,16 @@ public:
     /// Such as "Version 1.0 (1)".
     std::string versionText() const { return "Version " + version_ + " (" + build_ + ")"; }
 
-    const std::array<LinkRow, 3>& links() const { return links_; }
+    const std::array<presentation::Link, 3>& links() const { return links_; }
 
     /// Opens the destination of one of the links in the user's browser.
-    void open(const LinkRow& link) const { opener_.open(link.destination); }
+    void open(const presentation::Link& link) const { opener_.open(link.destination); }
 
 private:
     platform::LinkOpener& opener_;
     std::string version_;
     std::string build_;
-    std::array<LinkRow, 3> links_;
+    std::array<presentation::Link, 3> links_;
 };
 
 }  // namespace larkspan::workspace

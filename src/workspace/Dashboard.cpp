@@ -5,29 +5,15 @@
 #include <utility>
 
 #include "presentation/CompactRelativeTimeFormatter.h"
-#include "presentation/StatusPagePresentation.h"
-#include "support/LocalizedError.h"
 
 namespace larkspan::workspace {
 
 using namespace std::chrono_literals;
 using presentation::CompactRelativeTimeFormatter;
-using presentation::StatusPagePresentation;
+using presentation::Content;
+using presentation::Marker;
+using presentation::Placeholder;
 using presentation::Tone;
-
-namespace {
-
-Dashboard::Row row(const model::StatusPage& page)
-{
-    const auto shown = StatusPagePresentation::of(page.status);
-    return {.id = page.id,
-        .name = page.name,
-        .symbol = std::string(shown.symbol),
-        .tone = shown.tone,
-        .label = std::string(shown.label)};
-}
-
-}  // namespace
 
 Dashboard::Dashboard(Ports ports)
     : currentTime(*this, ports.clock.now())
@@ -43,39 +29,37 @@ std::array<support::Subscription, 2> Dashboard::observe(const std::function<void
     return {objectWillChange(observer), ports_.appState->objectWillChange(observer)};
 }
 
-Dashboard::Content Dashboard::content() const
+Content Dashboard::content() const
 {
-    if (!state().statusPages->empty()) return Content::list;
-    if (*state().isLoading) return Content::loading;
-    return *state().refreshError ? Content::error : Content::empty;
+    return presentation::contentOf(!state().statusPages->empty(), *state().isLoading, *state().refreshError != nullptr);
 }
 
-Dashboard::Placeholder Dashboard::placeholder() const
+Placeholder Dashboard::placeholder() const
 {
     switch (content()) {
-    case Content::loading: return {.symbol = {}, .title = {}, .text = "Loading Dashboard...", .showsProgress = true};
-    case Content::error:
-        return {.symbol = "exclamationmark.triangle",
-            .tone = Tone::orange,
-            .title = "Couldn’t Refresh",
-            .text = support::localizedDescription(*state().refreshError),
-            .offersSettings = true,
-            .offersRetry = true};
+    case Content::loading: return presentation::loadingPlaceholder("Loading Dashboard...");
+    case Content::failure:
+        return presentation::failurePlaceholder({.symbol = "exclamationmark.triangle",
+                                                    .tone = Tone::orange,
+                                                    .title = "Couldn’t Refresh",
+                                                    .offersSettings = true,
+                                                    .offersRetry = true},
+            *state().refreshError);
     case Content::empty:
         return {.symbol = "doc.text.magnifyingglass",
             .title = "No Status Pages",
             .text = "Add your Kestrune API key in Settings to get started.",
             .offersSettings = true};
-    case Content::list: break;
+    case Content::records: break;
     }
     return {};
 }
 
-std::vector<Dashboard::Row> Dashboard::rows() const
+std::vector<StatusPageRow> Dashboard::rows() const
 {
-    std::vector<Row> rows;
+    std::vector<StatusPageRow> rows;
     rows.reserve(state().statusPages->size());
-    std::ranges::transform(*state().statusPages, std::back_inserter(rows), row);
+    std::ranges::transform(*state().statusPages, std::back_inserter(rows), StatusPageRow::of);
     return rows;
 }
 
@@ -89,15 +73,19 @@ std::optional<std::size_t> Dashboard::selectedRow() const
 
 bool Dashboard::showsRefreshFailure() const
 {
-    return content() == Content::list && *state().refreshError;
+    return content() == Content::records && *state().refreshError;
 }
 
-Dashboard::StatusText Dashboard::statusText() const
+Marker Dashboard::status() const
 {
     if (*state().isLoading) return {.text = "Refreshing...", .showsProgress = true};
     if (!*state().lastRefresh) return {};
-    return {.text = "Updated " + CompactRelativeTimeFormatter::relativeText(**state().lastRefresh, *currentTime),
-        .showsWarning = *state().refreshError != nullptr};
+    auto text = "Updated " + CompactRelativeTimeFormatter::relativeText(**state().lastRefresh, *currentTime);
+    if (!*state().refreshError) return {.text = std::move(text)};
+    return {.symbol = "exclamationmark.triangle.fill",
+        .symbolTone = Tone::orange,
+        .text = std::move(text),
+        .tone = Tone::primary};
 }
 
 bool Dashboard::isRefreshEnabled() const

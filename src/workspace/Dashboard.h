@@ -15,11 +15,15 @@
 #include "platform/CredentialStore.h"
 #include "platform/Executor.h"
 #include "platform/Timers.h"
-#include "presentation/Tone.h"
+#include "presentation/Content.h"
+#include "presentation/Headline.h"
+#include "presentation/Marker.h"
+#include "presentation/Placeholder.h"
 #include "support/Observable.h"
 #include "support/Time.h"
 #include "workspace/DashboardOperationalSummary.h"
 #include "workspace/Settings.h"
+#include "workspace/StatusPageRow.h"
 
 namespace larkspan::workspace {
 
@@ -34,39 +38,6 @@ public:
         platform::CredentialStore& credentials;
         api::APIKeyStore& keys;
         std::shared_ptr<core::AppStateManager> appState;
-    };
-
-    enum class Content { loading, error, empty, list };
-
-    /// What stands in the middle of the window while there is no list.
-    struct Placeholder {
-        std::string symbol;
-        presentation::Tone tone = presentation::Tone::secondary;
-        std::string title;
-        std::string text;
-        bool showsProgress = false;
-        bool offersSettings = false;
-        bool offersRetry = false;
-
-        bool operator==(const Placeholder&) const = default;
-    };
-
-    struct Row {
-        std::string id;
-        std::string name;
-        std::string symbol;
-        presentation::Tone tone = presentation::Tone::gray;
-        std::string label;
-
-        bool operator==(const Row&) const = default;
-    };
-
-    struct StatusText {
-        std::string text;
-        bool showsProgress = false;
-        bool showsWarning = false;
-
-        bool operator==(const StatusText&) const = default;
     };
 
     static constexpr std::string_view windowTitle = "Kestrune";
@@ -87,14 +58,16 @@ public:
     /// Calls `observer` before anything changes that the dashboard shows, the account's state included.
     [[nodiscard]] std::array<support::Subscription, 2> observe(const std::function<void()>& observer);
 
-    Content content() const;
-    Placeholder placeholder() const;
-    DashboardOperationalSummary summary() const { return DashboardOperationalSummary::of(state()); }
-    std::vector<Row> rows() const;
+    presentation::Content content() const;
+    /// What stands in place of the list; all empty while there is one.
+    presentation::Placeholder placeholder() const;
+    presentation::Headline headline() const { return DashboardOperationalSummary::of(state()).headline(); }
+    std::vector<StatusPageRow> rows() const;
     /// The place of the selected page among the rows; absent if it is not there.
     std::optional<std::size_t> selectedRow() const;
     bool showsRefreshFailure() const;
-    StatusText statusText() const;
+    /// Of when the data is, or that it is being fetched.
+    presentation::Marker status() const;
     bool isRefreshEnabled() const;
 
     /// The user asked for a refresh. That is worth a prompt of the credential store, which a poll isn't.

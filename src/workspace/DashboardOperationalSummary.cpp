@@ -94,4 +94,12 @@ Tone DashboardOperationalSummary::tone() const
     return Tone::secondary;
 }
 
+presentation::Headline DashboardOperationalSummary::headline() const
+{
+    std::string line;
+    for (const auto& detail : operationalDetails()) line += (line.empty() ? "" : " · ") + detail;
+    return {
+        .symbol = std::string(symbolName()), .tone = tone(), .title = operationalTitle(), .details = std::move(line)};
+}
+
 }  // namespace larkspan::workspace

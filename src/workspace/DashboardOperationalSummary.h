@@ -6,6 +6,7 @@
 
 #include "core/AppStateManager.h"
 #include "core/OverallStatus.h"
+#include "presentation/Headline.h"
 #include "presentation/Tone.h"
 
 namespace larkspan::workspace {
@@ -28,6 +29,8 @@ struct DashboardOperationalSummary {
     std::vector<std::string> operationalDetails() const;
     std::string_view symbolName() const;
     presentation::Tone tone() const;
+    /// All of these as the dashboard shows them; the details stand in one line.
+    presentation::Headline headline() const;
 
     bool operator==(const DashboardOperationalSummary&) const = default;
 };

@@ -42,15 +42,19 @@ bool Settings::isSaveEnabled() const
     return !support::trimmed(*apiKey).empty() && validationState->kind != ValidationState::Kind::validating;
 }
 
-Settings::Marker Settings::marker() const
+presentation::Marker Settings::marker() const
 {
     using presentation::Tone;
     switch (validationState->kind) {
-    case ValidationState::Kind::validating: return {.text = "Verifying...", .showsProgress = true};
+    case ValidationState::Kind::validating:
+        return {.text = "Verifying...", .tone = Tone::secondary, .showsProgress = true};
     case ValidationState::Kind::valid:
-        return {.symbol = "checkmark.circle.fill", .text = "Connected", .tone = Tone::green};
+        return {.symbol = "checkmark.circle.fill", .symbolTone = Tone::green, .text = "Connected", .tone = Tone::green};
     case ValidationState::Kind::invalid:
-        return {.symbol = "exclamationmark.triangle.fill", .text = validationState->message, .tone = Tone::orange};
+        return {.symbol = "exclamationmark.triangle.fill",
+            .symbolTone = Tone::orange,
+            .text = validationState->message,
+            .tone = Tone::orange};
     case ValidationState::Kind::idle: break;
     }
     return {};

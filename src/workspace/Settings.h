@@ -8,7 +8,7 @@
 #include "api/APIKeyStore.h"
 #include "core/AppStateManager.h"
 #include "platform/Executor.h"
-#include "presentation/Tone.h"
+#include "presentation/Marker.h"
 #include "support/Observable.h"
 #include "support/Task.h"
 
@@ -33,16 +33,6 @@ public:
         bool operator==(const ValidationState&) const = default;
     };
 
-    /// What stands beside the key while there is something to say of it.
-    struct Marker {
-        std::string symbol = {};
-        std::string text = {};
-        presentation::Tone tone = presentation::Tone::secondary;
-        bool showsProgress = false;
-
-        bool operator==(const Marker&) const = default;
-    };
-
     explicit Settings(Ports ports, std::function<void()> onApiKeyDeleted = {});
 
     support::Published<std::string> apiKey{*this};
@@ -53,8 +43,8 @@ public:
     /// The row "API key saved" stands in place of the field.
     bool showsSavedKey() const { return *hasExistingKey && apiKey->empty(); }
     bool isSaveEnabled() const;
-    /// All empty while nothing has been verified.
-    Marker marker() const;
+    /// What came of the verification; all empty while nothing has been verified.
+    presentation::Marker marker() const;
 
     /// The sheet came up: looks whether a key is stored.
     void appear();

@@ -61,11 +61,9 @@ Sheet {
                 model: sheet.about.links
                 LinkRow {
                     required property int index
-                    required property var modelData
+                    required property link modelData
                     width: links.width
-                    symbol: modelData.symbol
-                    text: modelData.title
-                    subtitle: modelData.subtitle
+                    link: modelData
                     onClicked: sheet.about.openLink(index)
                 }
             }

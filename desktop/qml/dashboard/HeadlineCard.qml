@@ -5,7 +5,7 @@ import Larkspan.Bridge
 // The account in one sentence.
 Rectangle {
     id: card
-    required property DashboardBridge dashboard
+    required property headline headline
 
     implicitHeight: words.implicitHeight + 4 * Theme.unit
     radius: Theme.cardRadius
@@ -19,8 +19,8 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         width: Theme.headlineIconSize
         height: Theme.headlineIconSize
-        name: card.dashboard.headlineSymbol
-        color: Theme.toneColor(card.dashboard.headlineTone)
+        name: card.headline.symbol
+        color: Theme.toneColor(card.headline.tone)
     }
     Column {
         id: words
@@ -33,16 +33,16 @@ Rectangle {
 
         Label {
             width: parent.width
-            text: card.dashboard.headlineTitle
+            text: card.headline.title
             font.pointSize: Theme.title2
             font.weight: Font.DemiBold
-            color: Theme.toneColor(card.dashboard.headlineTone)
+            color: Theme.toneColor(card.headline.tone)
             wrapMode: Text.Wrap
             Accessible.role: Accessible.Heading
         }
         Label {
             width: parent.width
-            text: card.dashboard.headlineDetails
+            text: card.headline.details
             font.pointSize: Theme.subheadline
             color: Theme.secondary
             wrapMode: Text.Wrap

@@ -1,12 +1,17 @@
 import QtQuick
 import Larkspan
+import Larkspan.Bridge
 
-// The bar at the top: items at both ends, the title in the middle of the window while there is room for it.
+// The bar at the top: the way back and further items at both ends, the title in the middle of the window while there is
+// room for it.
 Rectangle {
     id: bar
     required property string title
-    default property alias leading: leadingRow.data
-    property alias trailing: trailingRow.data
+    property bool canGoBack: false
+    property marker status
+    signal wentBack
+    default property alias leading: leadingItems.data
+    property alias trailing: trailingItems.data
 
     readonly property real freeLeft: leadingRow.x + leadingRow.width + Theme.unit
     readonly property real freeRight: trailingRow.x - Theme.unit
@@ -20,6 +25,18 @@ Rectangle {
         anchors.leftMargin: Theme.unit + Theme.halfUnit
         anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.halfUnit
+
+        ToolbarButton {
+            visible: bar.canGoBack
+            symbol: "chevron.left"
+            help: qsTr("Back")
+            onClicked: bar.wentBack()
+        }
+        Row {
+            id: leadingItems
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: Theme.halfUnit
+        }
     }
 
     Label {
@@ -38,6 +55,17 @@ Rectangle {
         anchors.rightMargin: Theme.unit + Theme.halfUnit
         anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.halfUnit
+
+        MarkerLine {
+            anchors.verticalCenter: parent.verticalCenter
+            marker: bar.status
+            maximumWidth: bar.width - bar.freeLeft - trailingItems.width - 3 * Theme.unit
+        }
+        Row {
+            id: trailingItems
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: Theme.halfUnit
+        }
     }
 
     Rectangle {

@@ -6,15 +6,14 @@ import Larkspan.Bridge
 // A row that leads out of the program.
 T.Button {
     id: row
-    required property string symbol
-    required property string subtitle
+    required property link link
 
     implicitHeight: Math.max(Theme.rowHeight, implicitContentHeight + 2 * Theme.unit)
     leftPadding: 2 * Theme.unit
     rightPadding: 2 * Theme.unit
     hoverEnabled: true
-    Accessible.name: text
-    Accessible.description: subtitle
+    Accessible.name: link.title
+    Accessible.description: link.subtitle
     // Qt 6.4 tells assistive technologies of the action, but does nothing when they take it.
     Accessible.onPressAction: clicked()
     Keys.onReturnPressed: clicked()
@@ -28,7 +27,7 @@ T.Button {
             anchors.verticalCenter: parent.verticalCenter
             width: Theme.iconSize
             height: Theme.iconSize
-            name: row.symbol
+            name: row.link.symbol
             color: Theme.accentOnCard
         }
         Column {
@@ -41,22 +40,20 @@ T.Button {
 
             Label {
                 width: parent.width
-                text: row.text
-                Accessible.ignored: true
+                text: row.link.title
             }
             Label {
                 width: parent.width
-                text: row.subtitle
+                text: row.link.subtitle
                 font.pointSize: Theme.caption
                 color: Theme.secondary
-                Accessible.ignored: true
             }
         }
         Symbol {
             id: arrow
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.round(Theme.iconSize * 0.8)
+            width: Theme.smallIconSize
             height: width
             name: "arrow.up.right"
             color: Theme.secondary

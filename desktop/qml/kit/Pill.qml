@@ -1,22 +1,22 @@
 import QtQuick
 import Larkspan
+import Larkspan.Bridge
 
 // A status word on a tint of its own colour.
 Rectangle {
-    id: pill
-    required property string text
-    required property int tone
+    id: shape
+    required property pill pill
 
     implicitWidth: label.implicitWidth + 2 * Theme.unit
     implicitHeight: label.implicitHeight + Theme.unit
     radius: Theme.pillRadius
-    color: Qt.alpha(Theme.toneColor(tone), Theme.pillOpacity)
+    color: Qt.alpha(Theme.toneColor(pill.tone), Theme.pillOpacity)
 
     Label {
         id: label
         anchors.centerIn: parent
-        text: pill.text
-        color: Theme.toneColor(pill.tone)
+        text: shape.pill.text
+        color: Theme.toneColor(shape.pill.tone)
         font.pointSize: Theme.caption
     }
 }

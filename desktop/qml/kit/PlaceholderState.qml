@@ -5,34 +5,31 @@ import Larkspan.Bridge
 // What stands where a list would: a symbol or progress, a title, a sentence, and what can be done about it.
 Column {
     id: state
-    property string symbol
-    property int tone: Tone.Secondary
-    property string title
-    property string text
-    property bool showsProgress: false
-    default property alias actions: actionRow.data
+    required property placeholder placeholder
+    signal retried
+    signal settingsRequested
 
     spacing: 2 * Theme.unit
 
     BusyIndicator {
         anchors.horizontalCenter: parent.horizontalCenter
-        visible: state.showsProgress
+        visible: state.placeholder.showsProgress
         width: 2 * Theme.iconSize
         height: width
-        name: state.text
+        name: state.placeholder.text
     }
     Symbol {
         anchors.horizontalCenter: parent.horizontalCenter
-        visible: state.symbol !== ""
+        visible: state.placeholder.symbol !== ""
         width: Theme.largeIconSize
         height: width
-        name: state.symbol
-        color: Theme.toneColor(state.tone)
+        name: state.placeholder.symbol
+        color: Theme.toneColor(state.placeholder.tone)
     }
     Label {
         width: parent.width
         visible: text !== ""
-        text: state.title
+        text: state.placeholder.title
         horizontalAlignment: Text.AlignHCenter
         font.pointSize: Theme.title3
         font.weight: Font.DemiBold
@@ -42,15 +39,27 @@ Column {
     Label {
         width: parent.width
         visible: text !== ""
-        text: state.text
+        text: state.placeholder.text
         color: Theme.secondary
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.Wrap
         maximumLineCount: 8
     }
     Row {
-        id: actionRow
         anchors.horizontalCenter: parent.horizontalCenter
         spacing: Theme.unit
+
+        CommandButton {
+            visible: state.placeholder.offersSettings
+            text: qsTr("Open Settings")
+            isProminent: !state.placeholder.offersRetry
+            onClicked: state.settingsRequested()
+        }
+        CommandButton {
+            visible: state.placeholder.offersRetry
+            text: qsTr("Retry")
+            isProminent: true
+            onClicked: state.retried()
+        }
     }
 }

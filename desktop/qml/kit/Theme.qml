@@ -29,6 +29,7 @@ QtObject {
     readonly property color shadow: isDark ? "#80000000" : "#30000000"
     readonly property color accentOnCard: isDark ? blue : accent
     readonly property color dimming: "#66000000"
+    readonly property color veil: "#33000000"
     readonly property real pillOpacity: 0.15
     readonly property real selectionOpacity: 0.10
 
@@ -52,6 +53,7 @@ QtObject {
     readonly property int hairline: 1
     readonly property int focusWidth: 2
     readonly property int iconSize: Math.round(16 * scale)
+    readonly property int smallIconSize: Math.round(13 * scale)
     readonly property int largeIconSize: Math.round(44 * scale)
     readonly property int controlHeight: Math.round(32 * scale)
     readonly property int headerHeight: Math.round(48 * scale)
@@ -70,6 +72,8 @@ QtObject {
     readonly property int quick: reducesMotion ? 0 : 120
     readonly property int calm: reducesMotion ? 0 : 180
     readonly property int turn: 900
+    // The longest pause between letters that belong together.
+    readonly property int typingPause: 1000
 
     function toneColor(tone: int): color {
         switch (tone) {

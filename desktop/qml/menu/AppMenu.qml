@@ -5,10 +5,10 @@ import Larkspan.Bridge
 
 // The panel item's rows, from the window: with a thousand pages as quick as with one.
 T.Popup {
-    id: menu
-    required property MenuBridge rows
+    id: popup
+    required property MenuBridge menu
 
-    width: parent ? Math.min(Theme.menuWidth * Theme.scale, T.Overlay.overlay.width - 2 * Theme.unit) : 0
+    width: T.Overlay.overlay ? Math.min(Theme.menuWidth * Theme.scale, T.Overlay.overlay.width - 2 * Theme.unit) : 0
     height: Math.min(list.contentHeight + 2 * padding, T.Overlay.overlay ? T.Overlay.overlay.height - Theme.headerHeight - 2 * Theme.unit : 0)
     margins: Theme.unit
     padding: Theme.halfUnit
@@ -19,15 +19,15 @@ T.Popup {
     onOpened: list.currentIndex = -1
 
     function choose(place: int) {
-        menu.close()
-        menu.rows.choose(place)
+        popup.close()
+        popup.menu.choose(place)
     }
 
     contentItem: ListView {
         id: list
         focus: true
         clip: true
-        model: menu.rows
+        model: popup.menu.rows
         reuseItems: true
         boundsBehavior: Flickable.StopAtBounds
         highlightMoveDuration: 0
@@ -40,19 +40,19 @@ T.Popup {
             width: ListView.view.width
             isCurrent: ListView.isCurrentItem
             onEntered: list.currentIndex = index
-            onTriggered: menu.choose(index)
+            onTriggered: popup.choose(index)
         }
 
-        Keys.onDownPressed: currentIndex = menu.rows.nextCommand(currentIndex, 1)
-        Keys.onUpPressed: currentIndex = menu.rows.nextCommand(currentIndex < 0 ? count : currentIndex, -1)
-        Keys.onReturnPressed: menu.choose(currentIndex)
-        Keys.onEnterPressed: menu.choose(currentIndex)
-        Keys.onSpacePressed: menu.choose(currentIndex)
+        Keys.onDownPressed: currentIndex = popup.menu.nextCommand(currentIndex, 1)
+        Keys.onUpPressed: currentIndex = popup.menu.nextCommand(currentIndex < 0 ? count : currentIndex, -1)
+        Keys.onReturnPressed: popup.choose(currentIndex)
+        Keys.onEnterPressed: popup.choose(currentIndex)
+        Keys.onSpacePressed: popup.choose(currentIndex)
         Keys.onPressed: event => {
-            const place = event.modifiers & Qt.ControlModifier ? menu.rows.placeOfKey(String.fromCharCode(event.key)) : -1
-            if (event.key === Qt.Key_Home) currentIndex = menu.rows.nextCommand(-1, 1)
-            else if (event.key === Qt.Key_End) currentIndex = menu.rows.nextCommand(count, -1)
-            else if (place >= 0) menu.choose(place)
+            const place = event.modifiers & Qt.ControlModifier ? popup.menu.placeOfKey(String.fromCharCode(event.key)) : -1
+            if (event.key === Qt.Key_Home) currentIndex = popup.menu.nextCommand(-1, 1)
+            else if (event.key === Qt.Key_End) currentIndex = popup.menu.nextCommand(count, -1)
+            else if (place >= 0) popup.choose(place)
             else return
             event.accepted = true
         }

@@ -4,30 +4,24 @@ import Larkspan.Bridge
 
 // A row of the menu: words that inform, a command, or a line between groups.
 Item {
-    id: row
+    id: delegate
     required property int index
-    required property string title
-    required property bool isSeparator
-    required property bool isCommand
-    required property bool hasDot
-    required property int tone
-    required property string help
-    required property string shortcut
+    required property menuRow row
     property bool isCurrent: false
-    readonly property bool isLit: isCurrent && isCommand
+    readonly property bool isLit: isCurrent && row.isCommand
     signal entered
     signal triggered
 
-    implicitHeight: isSeparator ? Theme.unit + Theme.hairline : Theme.menuRowHeight
-    Accessible.role: isSeparator ? Accessible.Separator : Accessible.MenuItem
-    Accessible.name: title
-    Accessible.description: help
-    Accessible.focusable: isCommand
+    implicitHeight: row.isSeparator ? Theme.unit + Theme.hairline : Theme.menuRowHeight
+    Accessible.role: row.isSeparator ? Accessible.Separator : Accessible.MenuItem
+    Accessible.name: row.title
+    Accessible.description: row.help
+    Accessible.focusable: row.isCommand
     Accessible.focused: isLit
-    Accessible.onPressAction: if (isCommand) triggered()
+    Accessible.onPressAction: if (row.isCommand) triggered()
 
     Rectangle {
-        visible: row.isSeparator
+        visible: delegate.row.isSeparator
         anchors.verticalCenter: parent.verticalCenter
         width: parent.width
         height: Theme.hairline
@@ -35,7 +29,7 @@ Item {
     }
     Rectangle {
         anchors.fill: parent
-        visible: row.isLit
+        visible: delegate.isLit
         radius: Theme.pillRadius
         color: Theme.accent
     }
@@ -43,46 +37,44 @@ Item {
         id: dot
         x: 2 * Theme.unit - Theme.halfUnit
         anchors.verticalCenter: parent.verticalCenter
-        visible: row.hasDot
+        visible: delegate.row.hasDot
         width: visible ? Theme.dotSize : 0
         height: Theme.dotSize
         radius: Theme.dotSize / 2
-        color: row.isLit ? Theme.accentText : Theme.toneColor(row.tone)
+        color: delegate.isLit ? Theme.accentText : Theme.toneColor(delegate.row.tone)
     }
     Label {
         anchors.left: dot.right
-        anchors.leftMargin: row.hasDot ? Theme.unit : 0
+        anchors.leftMargin: delegate.row.hasDot ? Theme.unit : 0
         anchors.right: keys.left
         anchors.rightMargin: Theme.unit
         height: parent.height
-        visible: !row.isSeparator
-        text: row.title
-        color: row.isLit ? Theme.accentText : row.isCommand ? Theme.text : Theme.secondary
+        visible: !delegate.row.isSeparator
+        text: delegate.row.title
+        color: delegate.isLit ? Theme.accentText : delegate.row.isCommand ? Theme.text : Theme.secondary
         maximumLineCount: 1
-        Accessible.ignored: true
     }
     Label {
         id: keys
         anchors.right: parent.right
         anchors.rightMargin: 2 * Theme.unit - Theme.halfUnit
         height: parent.height
-        text: row.shortcut
+        text: delegate.row.shortcut
         font.pointSize: Theme.caption
-        color: row.isLit ? Theme.accentText : Theme.secondary
-        Accessible.ignored: true
+        color: delegate.isLit ? Theme.accentText : Theme.secondary
     }
 
     HoverHandler {
         id: pointer
-        enabled: row.isCommand
-        onHoveredChanged: if (hovered) row.entered()
+        enabled: delegate.row.isCommand
+        onHoveredChanged: if (hovered) delegate.entered()
     }
     TapHandler {
-        enabled: row.isCommand
-        onTapped: row.triggered()
+        enabled: delegate.row.isCommand
+        onTapped: delegate.triggered()
     }
     KitToolTip {
-        text: row.help
-        visible: pointer.hovered && row.help !== ""
+        text: delegate.row.help
+        visible: pointer.hovered && delegate.row.help !== ""
     }
 }

@@ -56,10 +56,10 @@ Sheet {
         IconLabel {
             width: parent.width
             visible: text !== ""
-            symbol: sheet.settings.markerSymbol
-            text: sheet.settings.markerText
-            tone: sheet.settings.markerTone
-            showsProgress: sheet.settings.markerShowsProgress
+            symbol: sheet.settings.marker.symbol
+            text: sheet.settings.marker.text
+            tone: sheet.settings.marker.tone
+            showsProgress: sheet.settings.marker.showsProgress
         }
         IconLabel {
             width: parent.width

@@ -6,12 +6,12 @@ MessageDialog {
     id: dialog
     required property UpdateBridge updates
 
-    title: updates.title
-    text: updates.text
-    showsProgress: updates.showsProgress
+    title: updates.report.title
+    text: updates.report.text
+    showsProgress: updates.report.showsProgress
 
     CommandButton {
-        text: dialog.updates.showsProgress ? qsTr("Close") : qsTr("OK")
+        text: dialog.updates.report.showsProgress ? qsTr("Close") : qsTr("OK")
         isProminent: true
         focus: true
         onClicked: dialog.close()

@@ -35,16 +35,19 @@ MenuRow quit()
     return {.kind = MenuRow::Kind::command, .title = "Quit", .action = MenuRow::Action::quitApp, .keyEquivalent = "q"};
 }
 
+MenuRowValue rowAt(MenuBridge& menu, int place)
+{
+    return menu.rows()->data(menu.rows()->index(place), ListModel::RowRole).value<MenuRowValue>();
+}
+
 class WindowMenu : public testing::Test {
 protected:
-    static QStringList titles(const MenuBridge& menu)
+    static QStringList titles(MenuBridge& menu)
     {
         QStringList found;
-        for (int place = 0; place < menu.rowCount(); ++place) {
-            const auto index = menu.index(place);
-            found << (menu.data(index, MenuBridge::IsSeparatorRole).toBool()
-                    ? QStringLiteral("-")
-                    : menu.data(index, MenuBridge::TitleRole).toString());
+        for (int place = 0; place < menu.rows()->rowCount(); ++place) {
+            const auto row = rowAt(menu, place);
+            found << (row.isSeparator ? QStringLiteral("-") : row.title);
         }
         return found;
     }
@@ -66,13 +69,12 @@ TEST_F(WindowMenu, HasTheAboutBoxBelowThePanelsRowsAndFromTheStart)
 TEST_F(WindowMenu, TellsWhatARowIs)
 {
     menu.setMenu({information("Down"), page("a"), quit()});
-    const auto at = [this](int place, MenuBridge::Role role) { return menu.data(menu.index(place), role); };
-    EXPECT_FALSE(at(0, MenuBridge::IsCommandRole).toBool());
-    EXPECT_TRUE(at(1, MenuBridge::IsCommandRole).toBool());
-    EXPECT_TRUE(at(1, MenuBridge::HasDotRole).toBool());
-    EXPECT_EQ(at(1, MenuBridge::ToolTipRole).toString(), QStringLiteral("Operational"));
-    EXPECT_EQ(at(2, MenuBridge::ShortcutRole).toString(), QStringLiteral("Ctrl+Q"));
-    EXPECT_EQ(at(0, MenuBridge::ShortcutRole).toString(), QString());
+    EXPECT_FALSE(rowAt(menu, 0).isCommand);
+    EXPECT_TRUE(rowAt(menu, 1).isCommand);
+    EXPECT_TRUE(rowAt(menu, 1).hasDot);
+    EXPECT_EQ(rowAt(menu, 1).help, QStringLiteral("Operational"));
+    EXPECT_EQ(rowAt(menu, 2).shortcut, QStringLiteral("Ctrl+Q"));
+    EXPECT_EQ(rowAt(menu, 0).shortcut, QString());
 }
 
 TEST_F(WindowMenu, PerformsCommandsAsLastGivenAndNothingElse)
@@ -112,9 +114,9 @@ TEST_F(WindowMenu, FindsARowByItsKeyWhateverTheCase)
 TEST_F(WindowMenu, AChangedTextIsPatchedInPlace)
 {
     menu.setMenu({information("Updated 1s ago"), page("a"), quit()});
-    const QSignalSpy changed(&menu, &QAbstractItemModel::dataChanged);
-    const QSignalSpy inserted(&menu, &QAbstractItemModel::rowsInserted);
-    const QSignalSpy removed(&menu, &QAbstractItemModel::rowsRemoved);
+    const QSignalSpy changed(menu.rows(), &QAbstractItemModel::dataChanged);
+    const QSignalSpy inserted(menu.rows(), &QAbstractItemModel::rowsInserted);
+    const QSignalSpy removed(menu.rows(), &QAbstractItemModel::rowsRemoved);
     menu.setMenu({information("Updated 2s ago"), page("a"), quit()});
     ASSERT_EQ(changed.count(), 1);
     EXPECT_EQ(changed[0][0].toModelIndex().row(), 0);
@@ -125,7 +127,7 @@ TEST_F(WindowMenu, AChangedTextIsPatchedInPlace)
 TEST_F(WindowMenu, AnUnchangedMenuTellsNothing)
 {
     menu.setMenu({information("Down"), quit()});
-    const QSignalSpy changed(&menu, &QAbstractItemModel::dataChanged);
+    const QSignalSpy changed(menu.rows(), &QAbstractItemModel::dataChanged);
     menu.setMenu({information("Down"), quit()});
     EXPECT_EQ(changed.count(), 0);
 }
@@ -133,9 +135,9 @@ TEST_F(WindowMenu, AnUnchangedMenuTellsNothing)
 TEST_F(WindowMenu, ARowThatComesLeavesTheOthersAlone)
 {
     menu.setMenu({page("a"), page("c"), quit()});
-    const QPersistentModelIndex last = menu.index(2);
-    const QSignalSpy inserted(&menu, &QAbstractItemModel::rowsInserted);
-    const QSignalSpy changed(&menu, &QAbstractItemModel::dataChanged);
+    const QPersistentModelIndex last = menu.rows()->index(2);
+    const QSignalSpy inserted(menu.rows(), &QAbstractItemModel::rowsInserted);
+    const QSignalSpy changed(menu.rows(), &QAbstractItemModel::dataChanged);
     menu.setMenu({page("a"), page("b"), page("c"), quit()});
     ASSERT_EQ(inserted.count(), 1);
     EXPECT_EQ(inserted[0][1].toInt(), 1);
@@ -145,17 +147,17 @@ TEST_F(WindowMenu, ARowThatComesLeavesTheOthersAlone)
 
 TEST_F(WindowMenu, GetsFromAnyMenuToAnyOtherWithoutAReset)
 {
-    const QSignalSpy resets(&menu, &QAbstractItemModel::modelReset);
+    const QSignalSpy resets(menu.rows(), &QAbstractItemModel::modelReset);
     std::mt19937 random(7);
     for (int round = 0; round < 500; ++round) {
         Rows rows;
         for (std::size_t count = random() % 8; count > 0; --count) rows.push_back(page(std::to_string(random() % 5)));
         QStringList mirrored = titles(menu);
-        const auto insertion
-            = QObject::connect(&menu, &QAbstractItemModel::rowsInserted, [&](const QModelIndex&, int first, int last) {
-                  for (int at = first; at <= last; ++at) mirrored.insert(at, QString());
-              });
-        const auto removal = QObject::connect(&menu, &QAbstractItemModel::rowsRemoved,
+        const auto insertion = QObject::connect(
+            menu.rows(), &QAbstractItemModel::rowsInserted, [&](const QModelIndex&, int first, int last) {
+                for (int at = first; at <= last; ++at) mirrored.insert(at, QString());
+            });
+        const auto removal = QObject::connect(menu.rows(), &QAbstractItemModel::rowsRemoved,
             [&](const QModelIndex&, int first, int last) { mirrored.remove(first, last - first + 1); });
         menu.setMenu(rows);
         QObject::disconnect(insertion);

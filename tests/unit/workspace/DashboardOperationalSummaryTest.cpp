@@ -100,6 +100,16 @@ INSTANTIATE_TEST_SUITE_P(EachRow, OperationalDetails,
                        .activeMaintenanceCount = 1},
             {"4 Status Pages", "2 active incidents", "1 maintenance in progress"}}));
 
+TEST(Headline, JoinsTheDetailsInOneLine)
+{
+    const Summary summary{.overallStatus = OverallStatus::operational, .statusPageCount = 1};
+    EXPECT_EQ(summary.headline(),
+        (presentation::Headline{.symbol = "checkmark.circle.fill",
+            .tone = Tone::green,
+            .title = "All systems operational",
+            .details = "1 Status Page \u00B7 No active incidents"}));
+}
+
 class SummaryOfTheAccount : public testing::Test, public fakes::Account {
 protected:
     Summary summary() const { return Summary::of(*state); }

@@ -13,8 +13,10 @@ namespace larkspan::workspace {
 namespace {
 
 using namespace std::chrono_literals;
+using presentation::Content;
+using presentation::Marker;
+using presentation::Placeholder;
 using presentation::Tone;
-using Content = Dashboard::Content;
 
 class DashboardScreen : public testing::Test, public fakes::Account {
 protected:
@@ -26,11 +28,11 @@ TEST_F(DashboardScreen, BeforeTheFirstCycleIsEmpty)
 {
     EXPECT_EQ(dashboard.content(), Content::empty);
     EXPECT_EQ(dashboard.placeholder(),
-        (Dashboard::Placeholder{.symbol = "doc.text.magnifyingglass",
+        (Placeholder{.symbol = "doc.text.magnifyingglass",
             .title = "No Status Pages",
             .text = "Add your Kestrune API key in Settings to get started.",
             .offersSettings = true}));
-    EXPECT_EQ(dashboard.statusText(), Dashboard::StatusText{});
+    EXPECT_EQ(dashboard.status(), Marker{});
 }
 
 TEST_F(DashboardScreen, DuringTheFirstCycleLoads)
@@ -40,7 +42,7 @@ TEST_F(DashboardScreen, DuringTheFirstCycleLoads)
     EXPECT_EQ(dashboard.content(), Content::loading);
     EXPECT_EQ(dashboard.placeholder().text, "Loading Dashboard...");
     EXPECT_TRUE(dashboard.placeholder().showsProgress);
-    EXPECT_EQ(dashboard.statusText(), (Dashboard::StatusText{.text = "Refreshing...", .showsProgress = true}));
+    EXPECT_EQ(dashboard.status(), (Marker{.text = "Refreshing...", .showsProgress = true}));
     EXPECT_FALSE(dashboard.isRefreshEnabled());
 }
 
@@ -48,9 +50,9 @@ TEST_F(DashboardScreen, AfterAFirstCycleWithoutAKeySaysThatTheKeyIsMissing)
 {
     api::KeychainHelper::deleteAPIKey(credentials);
     refresh();
-    EXPECT_EQ(dashboard.content(), Content::error);
+    EXPECT_EQ(dashboard.content(), Content::failure);
     EXPECT_EQ(dashboard.placeholder(),
-        (Dashboard::Placeholder{.symbol = "exclamationmark.triangle",
+        (Placeholder{.symbol = "exclamationmark.triangle",
             .tone = Tone::orange,
             .title = "Couldn\u2019t Refresh",
             .text = "API key is missing.",
@@ -70,11 +72,19 @@ TEST_F(DashboardScreen, ListsThePagesInTheServicesOrderWithSymbolAndPill)
 {
     servePages({"b", "a"}, {{"a", "major-outage"}, {"b", "operational"}});
     refresh();
-    EXPECT_EQ(dashboard.content(), Content::list);
+    EXPECT_EQ(dashboard.content(), Content::records);
     EXPECT_EQ(dashboard.rows(),
-        (std::vector<Dashboard::Row>{
-            {.id = "b", .name = "b", .symbol = "checkmark.circle.fill", .tone = Tone::green, .label = "Operational"},
-            {.id = "a", .name = "a", .symbol = "xmark.octagon.fill", .tone = Tone::red, .label = "Down"},
+        (std::vector<StatusPageRow>{
+            {.id = "b",
+                .title = "b",
+                .symbol = "checkmark.circle.fill",
+                .tone = Tone::green,
+                .status = {.text = "Operational", .tone = Tone::green}},
+            {.id = "a",
+                .title = "a",
+                .symbol = "xmark.octagon.fill",
+                .tone = Tone::red,
+                .status = {.text = "Down", .tone = Tone::red}},
         }));
     EXPECT_FALSE(dashboard.showsRefreshFailure());
 }
@@ -85,10 +95,14 @@ TEST_F(DashboardScreen, AFailedRefreshStandsBesideTheLastGoodData)
     refresh();
     transport.script(pagesURL, 500, "");
     refresh();
-    EXPECT_EQ(dashboard.content(), Content::list);
+    EXPECT_EQ(dashboard.content(), Content::records);
     EXPECT_EQ(dashboard.rows().size(), 1u);
     EXPECT_TRUE(dashboard.showsRefreshFailure());
-    EXPECT_EQ(dashboard.statusText(), (Dashboard::StatusText{.text = "Updated just now", .showsWarning = true}));
+    EXPECT_EQ(dashboard.status(),
+        (Marker{.symbol = "exclamationmark.triangle.fill",
+            .symbolTone = Tone::orange,
+            .text = "Updated just now",
+            .tone = Tone::primary}));
 }
 
 TEST_F(DashboardScreen, ARefreshWithPagesOnScreenStaysEnabledAndKeepsTheLastUpdatedLine)
@@ -100,7 +114,7 @@ TEST_F(DashboardScreen, ARefreshWithPagesOnScreenStaysEnabledAndKeepsTheLastUpda
     run();
     ASSERT_EQ(transport.pending.size(), 1u);
     EXPECT_TRUE(dashboard.isRefreshEnabled());
-    EXPECT_EQ(dashboard.statusText().text, "Updated just now");
+    EXPECT_EQ(dashboard.status().text, "Updated just now");
 }
 
 TEST_F(DashboardScreen, ARefreshThatTheUserAsksForIsWorthAPromptAPollIsNot)
@@ -117,9 +131,9 @@ TEST_F(DashboardScreen, TheUpdatedTextAgesWithTheTickOfTenSeconds)
     servePages({"a"}, {{"a", "operational"}});
     refresh();
     clock.time += 12s;
-    EXPECT_EQ(dashboard.statusText().text, "Updated just now");
+    EXPECT_EQ(dashboard.status().text, "Updated just now");
     timers.advance(10s);
-    EXPECT_EQ(dashboard.statusText().text, "Updated 12s ago");
+    EXPECT_EQ(dashboard.status().text, "Updated 12s ago");
 }
 
 TEST_F(DashboardScreen, AnErrorThatWentInTheMeantimeLeavesNoErrorState)
@@ -194,7 +208,7 @@ TEST_F(DashboardScreen, DeletingTheKeyClearsTheAccountAndShowsTheEmptyStateUntil
     EXPECT_EQ(dashboard.content(), Content::empty);
     dashboard.closeSettings();
     run();
-    EXPECT_EQ(dashboard.content(), Content::error);
+    EXPECT_EQ(dashboard.content(), Content::failure);
     EXPECT_EQ(dashboard.placeholder().text, "API key is missing.");
 }
 
@@ -210,10 +224,10 @@ TEST_F(DashboardScreen, AFirstRunGoesFromLoadingByTheErrorAndTheSettingsToTheLis
     dashboard.settings()->edit("k-456\n");
     dashboard.settings()->saveAndVerify();
     run();
-    EXPECT_EQ(dashboard.content(), Content::error) << "the sheet itself refreshes nothing";
+    EXPECT_EQ(dashboard.content(), Content::failure) << "the sheet itself refreshes nothing";
     dashboard.closeSettings();
     run();
-    EXPECT_EQ(dashboard.content(), Content::list);
+    EXPECT_EQ(dashboard.content(), Content::records);
 }
 
 TEST_F(DashboardScreen, TheMenusWishForAPageSelectsThatPage)

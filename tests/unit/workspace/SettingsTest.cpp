@@ -253,7 +253,7 @@ TEST_F(SettingsSheet, DeletingWithNobodyToTellStillDeletesAndResets)
 
 struct MarkerRow {
     Settings::ValidationState state;
-    Settings::Marker marker;
+    presentation::Marker marker;
 };
 
 class SettingsMarker : public SettingsSheet, public testing::WithParamInterface<MarkerRow> {};
@@ -268,10 +268,16 @@ TEST_P(SettingsMarker, TellsTheProgressOfTheLastVerification)
 INSTANTIATE_TEST_SUITE_P(EachState, SettingsMarker,
     testing::Values(MarkerRow{{Kind::idle}, {}},
         MarkerRow{{Kind::validating}, {.text = "Verifying...", .showsProgress = true}},
-        MarkerRow{
-            {Kind::valid}, {.symbol = "checkmark.circle.fill", .text = "Connected", .tone = presentation::Tone::green}},
+        MarkerRow{{Kind::valid},
+            {.symbol = "checkmark.circle.fill",
+                .symbolTone = presentation::Tone::green,
+                .text = "Connected",
+                .tone = presentation::Tone::green}},
         MarkerRow{{Kind::invalid, "No."},
-            {.symbol = "exclamationmark.triangle.fill", .text = "No.", .tone = presentation::Tone::orange}}));
+            {.symbol = "exclamationmark.triangle.fill",
+                .symbolTone = presentation::Tone::orange,
+                .text = "No.",
+                .tone = presentation::Tone::orange}}));
 
 }  // namespace
 

@@ -1,73 +1,65 @@
-#include "bridge/StatusPageListModel.h"
+#pragma once
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 #include <numeric>
+#include <optional>
 #include <string_view>
 #include <utility>
+#include <vector>
 
+#include "bridge/ListModel.h"
 #include "bridge/RowOrder.h"
-#include "bridge/ToneNames.h"
+#include "bridge/Words.h"
 
 namespace larkspan::bridge {
 
-namespace {
+/// A list of `Value::Row`, each shown as the `Value` that is made of it when a screen asks. A row has an `id` and a
+/// `title` and can be compared. A refresh patches the rows by id, so that scroll position, focus and selection survive.
+template <typename Value>
+class RowListModel final : public ListModel {
+public:
+    using Row = typename Value::Row;
 
-using Row = StatusPageListModel::Row;
+    using ListModel::ListModel;
 
-/// A list that changes its whole order at once is cheaper to lay out anew than to move row by row.
-constexpr std::ptrdiff_t mostSingleMoves = 100;
+    const std::vector<Row>& rows() const { return rows_; }
 
-std::vector<std::string_view> idsOf(const std::vector<Row>& rows)
-{
-    std::vector<std::string_view> ids;
-    ids.reserve(rows.size());
-    for (const auto& row : rows) ids.push_back(row.id);
-    return ids;
-}
+    /// Makes `wanted` what the list holds, by the fewest notices that get there.
+    void update(std::vector<Row> wanted);
 
-/// Takes the element at `from` to before the one at `to`.
-template <typename Elements>
-void moveElement(Elements& elements, std::ptrdiff_t from, std::ptrdiff_t to)
-{
-    const auto begin = elements.begin();
-    if (from < to) {
-        std::rotate(begin + from, begin + from + 1, begin + to);
-    } else {
-        std::rotate(begin + to, begin + from, begin + from + 1);
+    int rowCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : static_cast<int>(rows_.size());
     }
-}
 
-}  // namespace
-
-int StatusPageListModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
-}
-
-QVariant StatusPageListModel::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
-    const auto& row = rows_[static_cast<std::size_t>(index.row())];
-    switch (role) {
-    case IdRole: return QString::fromStdString(row.id);
-    case Qt::DisplayRole:
-    case NameRole: return QString::fromStdString(row.name);
-    case SymbolRole: return QString::fromStdString(row.symbol);
-    case ToneRole: return QVariant::fromValue(toneOf(row.tone));
-    case LabelRole: return QString::fromStdString(row.label);
-    default: return {};
+    QVariant data(const QModelIndex& index, int role) const override
+    {
+        if (role != RowRole || !checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+        return QVariant::fromValue(Value::of(rows_[static_cast<std::size_t>(index.row())]));
     }
-}
 
-QHash<int, QByteArray> StatusPageListModel::roleNames() const
-{
-    return {{IdRole, "pageId"}, {NameRole, "name"}, {SymbolRole, "symbol"}, {ToneRole, "tone"}, {LabelRole, "label"}};
-}
+protected:
+    QString titleOf(int row) const override { return words(rows_[static_cast<std::size_t>(row)].title); }
 
-void StatusPageListModel::update(std::vector<Row> rows)
+private:
+    static std::vector<std::string_view> idsOf(const std::vector<Row>& rows);
+
+    // The rows held are told by the places that they are wanted at.
+    void removeVanished(const std::vector<std::optional<std::size_t>>& places);
+    void reorder(std::vector<std::size_t>& places);
+    void sortAtOnce(std::vector<std::size_t>& places);
+    void insertAndPatch(std::vector<Row>& wanted, const std::vector<std::size_t>& places);
+
+    std::vector<Row> rows_;
+};
+
+template <typename Value>
+void RowListModel<Value>::update(std::vector<Row> wanted)
 {
-    auto places = wantedPlaces(idsOf(rows_), idsOf(rows));
+    if (wanted == rows_) return;
+    auto places = wantedPlaces(idsOf(rows_), idsOf(wanted));
     removeVanished(places);
 
     std::vector<std::size_t> kept;
@@ -76,10 +68,20 @@ void StatusPageListModel::update(std::vector<Row> rows)
         if (place) kept.push_back(*place);
     }
     reorder(kept);
-    insertAndPatch(rows, kept);
+    insertAndPatch(wanted, kept);
 }
 
-void StatusPageListModel::removeVanished(const std::vector<std::optional<std::size_t>>& places)
+template <typename Value>
+std::vector<std::string_view> RowListModel<Value>::idsOf(const std::vector<Row>& rows)
+{
+    std::vector<std::string_view> ids;
+    ids.reserve(rows.size());
+    for (const auto& row : rows) ids.push_back(row.id);
+    return ids;
+}
+
+template <typename Value>
+void RowListModel<Value>::removeVanished(const std::vector<std::optional<std::size_t>>& places)
 {
     for (auto end = static_cast<int>(places.size()); end > 0;) {
         const auto isKept = [&places](int row) { return places[static_cast<std::size_t>(row)].has_value(); };
@@ -96,7 +98,8 @@ void StatusPageListModel::removeVanished(const std::vector<std::optional<std::si
     }
 }
 
-void StatusPageListModel::reorder(std::vector<std::size_t>& places)
+template <typename Value>
+void RowListModel<Value>::reorder(std::vector<std::size_t>& places)
 {
     auto isInRun = longestRun(places);
     if (std::ranges::count(isInRun, false) > mostSingleMoves) {
@@ -106,11 +109,7 @@ void StatusPageListModel::reorder(std::vector<std::size_t>& places)
     for (auto stray = std::ranges::find(isInRun, false); stray != isInRun.end();
          stray = std::ranges::find(isInRun, false)) {
         const auto from = stray - isInRun.begin();
-        const auto place = places[static_cast<std::size_t>(from)];
-        std::ptrdiff_t to = 0;
-        for (std::ptrdiff_t at = 0; at < std::ssize(places); ++at) {
-            if (isInRun[static_cast<std::size_t>(at)] && places[static_cast<std::size_t>(at)] < place) to = at + 1;
-        }
+        const auto to = placeInRun(places, isInRun, places[static_cast<std::size_t>(from)]);
         *stray = true;
         if (to == from || to == from + 1) continue;
         beginMoveRows({}, static_cast<int>(from), static_cast<int>(from), {}, static_cast<int>(to));
@@ -121,7 +120,8 @@ void StatusPageListModel::reorder(std::vector<std::size_t>& places)
     }
 }
 
-void StatusPageListModel::sortAtOnce(std::vector<std::size_t>& places)
+template <typename Value>
+void RowListModel<Value>::sortAtOnce(std::vector<std::size_t>& places)
 {
     emit layoutAboutToBeChanged({}, VerticalSortHint);
     std::vector<std::size_t> order(places.size());
@@ -143,7 +143,8 @@ void StatusPageListModel::sortAtOnce(std::vector<std::size_t>& places)
     emit layoutChanged({}, VerticalSortHint);
 }
 
-void StatusPageListModel::insertAndPatch(std::vector<Row>& wanted, const std::vector<std::size_t>& places)
+template <typename Value>
+void RowListModel<Value>::insertAndPatch(std::vector<Row>& wanted, const std::vector<std::size_t>& places)
 {
     std::size_t held = 0;
     for (std::size_t at = 0; at < wanted.size();) {

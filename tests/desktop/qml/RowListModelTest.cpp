@@ -1,4 +1,4 @@
-#include "bridge/StatusPageListModel.h"
+#include "bridge/RowListModel.h"
 
 #include <QAbstractItemModelTester>
 #include <QElapsedTimer>
@@ -11,16 +11,19 @@
 #include <string>
 #include <vector>
 
+#include "bridge/values/StatusPageRowValue.h"
+
 namespace larkspan::bridge {
 
 namespace {
 
-using Row = StatusPageListModel::Row;
+using Rows = RowListModel<StatusPageRowValue>;
+using Row = Rows::Row;
 
 std::vector<Row> rowsOf(const std::vector<std::string>& ids)
 {
     std::vector<Row> rows;
-    for (const auto& id : ids) rows.push_back({.id = id, .name = "page " + id, .symbol = "s", .label = "l"});
+    for (const auto& id : ids) rows.push_back({.id = id, .title = "page " + id, .symbol = "s"});
     return rows;
 }
 
@@ -31,13 +34,18 @@ std::vector<std::string> numbered(int count)
     return ids;
 }
 
-class StatusPageList : public testing::Test {
+StatusPageRowValue valueAt(const Rows& model, int row)
+{
+    return model.data(model.index(row), ListModel::RowRole).value<StatusPageRowValue>();
+}
+
+class RowList : public testing::Test {
 protected:
     std::vector<std::string> shown() const
     {
         std::vector<std::string> ids;
         for (int row = 0; row < model.rowCount(); ++row) {
-            ids.push_back(model.data(model.index(row), StatusPageListModel::IdRole).toString().toStdString());
+            ids.push_back(valueAt(model, row).id.toStdString());
         }
         return ids;
     }
@@ -48,7 +56,7 @@ protected:
         ASSERT_EQ(shown(), ids);
     }
 
-    StatusPageListModel model;
+    Rows model;
     QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
     QSignalSpy resets{&model, &QAbstractItemModel::modelReset};
     QSignalSpy insertions{&model, &QAbstractItemModel::rowsInserted};
@@ -57,21 +65,23 @@ protected:
     QSignalSpy changes{&model, &QAbstractItemModel::dataChanged};
 };
 
-TEST_F(StatusPageList, GivesEachRoleOfARow)
+TEST_F(RowList, GivesARowAsOneValueOfItsOwnType)
 {
     model.update({{.id = "7",
-        .name = "Acme",
+        .title = "Acme",
         .symbol = "xmark.octagon.fill",
         .tone = presentation::Tone::red,
-        .label = "Down"}});
-    const auto index = model.index(0);
-    EXPECT_EQ(model.data(index, StatusPageListModel::NameRole).toString(), QStringLiteral("Acme"));
-    EXPECT_EQ(model.data(index, StatusPageListModel::SymbolRole).toString(), QStringLiteral("xmark.octagon.fill"));
-    EXPECT_EQ(model.data(index, StatusPageListModel::ToneRole).toInt(), static_cast<int>(presentation::Tone::red));
-    EXPECT_EQ(model.data(index, StatusPageListModel::LabelRole).toString(), QStringLiteral("Down"));
+        .status = {.text = "Down", .tone = presentation::Tone::red}}});
+    const auto row = valueAt(model, 0);
+    EXPECT_EQ(row.id, QStringLiteral("7"));
+    EXPECT_EQ(row.title, QStringLiteral("Acme"));
+    EXPECT_EQ(row.symbol, QStringLiteral("xmark.octagon.fill"));
+    EXPECT_EQ(row.tone, Tone::Red);
+    EXPECT_EQ(row.status, (PillValue{QStringLiteral("Down"), Tone::Red}));
+    EXPECT_EQ(model.roleNames(), (QHash<int, QByteArray>{{ListModel::RowRole, "row"}}));
 }
 
-TEST_F(StatusPageList, ARefreshThatChangesNothingNotifiesOfNothing)
+TEST_F(RowList, ARefreshThatChangesNothingNotifiesOfNothing)
 {
     show({"a", "b"});
     insertions.clear();
@@ -79,17 +89,17 @@ TEST_F(StatusPageList, ARefreshThatChangesNothingNotifiesOfNothing)
     EXPECT_TRUE(insertions.empty() && removals.empty() && moves.empty() && changes.empty());
 }
 
-TEST_F(StatusPageList, AChangedRowIsPatchedAlone)
+TEST_F(RowList, AChangedRowIsPatchedAlone)
 {
     show({"a", "b", "c"});
     auto rows = rowsOf({"a", "b", "c"});
-    rows[1].label = "Down";
+    rows[1].status.text = "Down";
     model.update(rows);
     ASSERT_EQ(changes.size(), 1);
     EXPECT_EQ(changes[0][0].toModelIndex().row(), 1);
 }
 
-TEST_F(StatusPageList, NewRowsComeInAsOneRunAndVanishedOnesGoAsOne)
+TEST_F(RowList, NewRowsComeInAsOneRunAndVanishedOnesGoAsOne)
 {
     show({"a", "z"});
     insertions.clear();
@@ -99,7 +109,7 @@ TEST_F(StatusPageList, NewRowsComeInAsOneRunAndVanishedOnesGoAsOne)
     EXPECT_EQ(removals.size(), 1);
 }
 
-TEST_F(StatusPageList, ARowThatMovesKeepsItsPlaceInWhoeverHoldsIt)
+TEST_F(RowList, ARowThatMovesKeepsItsPlaceInWhoeverHoldsIt)
 {
     show({"a", "b", "c"});
     const QPersistentModelIndex held = model.index(2);
@@ -108,7 +118,7 @@ TEST_F(StatusPageList, ARowThatMovesKeepsItsPlaceInWhoeverHoldsIt)
     EXPECT_EQ(moves.size(), 1);
 }
 
-TEST_F(StatusPageList, OneRowThatGoesFromTheTopToTheEndIsOneMove)
+TEST_F(RowList, OneRowThatGoesFromTheTopToTheEndIsOneMove)
 {
     auto ids = numbered(1'000);
     show(ids);
@@ -117,7 +127,7 @@ TEST_F(StatusPageList, OneRowThatGoesFromTheTopToTheEndIsOneMove)
     EXPECT_EQ(moves.size(), 1);
 }
 
-TEST_F(StatusPageList, AWholeListInAnotherOrderKeepsWhoeverHoldsARow)
+TEST_F(RowList, AWholeListInAnotherOrderKeepsWhoeverHoldsARow)
 {
     auto ids = numbered(1'000);
     show(ids);
@@ -128,7 +138,7 @@ TEST_F(StatusPageList, AWholeListInAnotherOrderKeepsWhoeverHoldsARow)
     EXPECT_TRUE(resets.empty());
 }
 
-TEST_F(StatusPageList, AnIdThatTheServiceGivesTwiceIsShownTwice)
+TEST_F(RowList, AnIdThatTheServiceGivesTwiceIsShownTwice)
 {
     show({"a", "a", "b"});
     show({"b", "a", "a"});
@@ -137,7 +147,7 @@ TEST_F(StatusPageList, AnIdThatTheServiceGivesTwiceIsShownTwice)
     show({});
 }
 
-TEST_F(StatusPageList, GetsFromAnyListToAnyOtherWithoutAReset)
+TEST_F(RowList, GetsFromAnyListToAnyOtherWithoutAReset)
 {
     std::mt19937 random(1);
     for (int round = 0; round < 200; ++round) {
@@ -149,14 +159,14 @@ TEST_F(StatusPageList, GetsFromAnyListToAnyOtherWithoutAReset)
     EXPECT_TRUE(resets.empty());
 }
 
-TEST(StatusPageListOfTenThousand, IsPatchedAndTurnedRoundInAMomentWithoutAReset)
+TEST(RowListOfTenThousand, IsPatchedAndTurnedRoundInAMomentWithoutAReset)
 {
-    StatusPageListModel model;
+    Rows model;
     const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
     auto ids = numbered(10'000);
     model.update(rowsOf(ids));
     auto patched = rowsOf(ids);
-    patched[5'000].label = "Down";
+    patched[5'000].status.text = "Down";
     std::ranges::reverse(ids);
     const auto reversed = rowsOf(ids);
 
@@ -166,7 +176,7 @@ TEST(StatusPageListOfTenThousand, IsPatchedAndTurnedRoundInAMomentWithoutAReset)
     EXPECT_LT(timer.restart(), 100);
     model.update(reversed);
     EXPECT_LT(timer.elapsed(), 200);
-    EXPECT_EQ(model.data(model.index(0), StatusPageListModel::IdRole).toString(), QStringLiteral("9999"));
+    EXPECT_EQ(valueAt(model, 0).id, QStringLiteral("9999"));
     EXPECT_TRUE(resets.empty());
 }
 

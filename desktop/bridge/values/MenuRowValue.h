@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+#include "bridge/MenuEntry.h"
+#include "bridge/ToneNames.h"
+
+namespace larkspan::bridge {
+
+/// A row of the menu for QML.
+struct MenuRowValue {
+    Q_GADGET
+    QML_VALUE_TYPE(menuRow)
+    Q_PROPERTY(QString title MEMBER title)
+    Q_PROPERTY(bool isSeparator MEMBER isSeparator)
+    Q_PROPERTY(bool isCommand MEMBER isCommand)
+    Q_PROPERTY(bool hasDot MEMBER hasDot)
+    Q_PROPERTY(int tone MEMBER tone)
+    Q_PROPERTY(QString help MEMBER help)
+    Q_PROPERTY(QString shortcut MEMBER shortcut)
+
+public:
+    using Row = MenuEntry;
+
+    QString title{};
+    bool isSeparator = false;
+    bool isCommand = false;
+    bool hasDot = false;
+    int tone = Tone::Gray;
+    QString help{};
+    QString shortcut{};
+
+    static MenuRowValue of(const MenuEntry& entry);
+
+    bool operator==(const MenuRowValue&) const = default;
+};
+
+}  // namespace larkspan::bridge

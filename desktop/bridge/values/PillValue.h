@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+#include "bridge/ToneNames.h"
+#include "bridge/Words.h"
+#include "presentation/Pill.h"
+
+namespace larkspan::bridge {
+
+/// `presentation::Pill` for QML.
+struct PillValue {
+    Q_GADGET
+    QML_VALUE_TYPE(pill)
+    Q_PROPERTY(QString text MEMBER text)
+    Q_PROPERTY(int tone MEMBER tone)
+
+public:
+    QString text{};
+    int tone = Tone::Gray;
+
+    static PillValue of(const presentation::Pill& pill) { return {words(pill.text), toneOf(pill.tone)}; }
+
+    bool operator==(const PillValue&) const = default;
+};
+
+}  // namespace larkspan::bridge

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+#include "bridge/Words.h"
+#include "workspace/UpdateReport.h"
+
+namespace larkspan::bridge {
+
+/// `workspace::UpdateReport` for QML.
+struct UpdateReportValue {
+    Q_GADGET
+    QML_VALUE_TYPE(updateReport)
+    Q_PROPERTY(QString title MEMBER title)
+    Q_PROPERTY(QString text MEMBER text)
+    Q_PROPERTY(bool showsProgress MEMBER showsProgress)
+
+public:
+    QString title{};
+    QString text{};
+    bool showsProgress = false;
+
+    static UpdateReportValue of(const workspace::UpdateReport& report)
+    {
+        return {words(report.title), words(report.text), report.showsProgress};
+    }
+
+    bool operator==(const UpdateReportValue&) const = default;
+};
+
+}  // namespace larkspan::bridge

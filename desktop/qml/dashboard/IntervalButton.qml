@@ -1,0 +1,28 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// Opens the choice of how often the account is looked at.
+ToolbarButton {
+    id: button
+    required property DashboardBridge dashboard
+
+    symbol: "timer"
+    help: qsTr("Refresh Interval")
+    isMenuOpen: menu.visible
+    onClicked: menu.popup(button, 0, button.height + Theme.halfUnit)
+
+    KitMenu {
+        id: menu
+        onClosed: button.forceActiveFocus(Qt.PopupFocusReason)
+        Repeater {
+            model: button.dashboard.refreshIntervalLabels
+            KitMenuItem {
+                required property int index
+                required property string modelData
+                text: modelData
+                onTriggered: button.dashboard.chooseRefreshInterval(index)
+            }
+        }
+    }
+}

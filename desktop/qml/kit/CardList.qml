@@ -1,0 +1,103 @@
+import QtQuick
+import QtQuick.Templates as T
+import Larkspan
+import Larkspan.Bridge
+
+// A list of `CardRow`s on one card: as many rows exist as are seen. It is worked with arrows, Home, End, the page keys,
+// Return and Space; letters typed move to the next row that begins with them.
+ListView {
+    id: list
+    required property ListModel rows
+    required property string name
+    // What stands above the rows and scrolls with them.
+    property Component above: null
+    // The row that is to be seen; -1 for none.
+    property int selectedRow: -1
+    // What floats over the end of the list, so that the last row can be scrolled clear of it.
+    property real reserve: 0
+    signal pulled
+
+    model: rows
+    focus: true
+    activeFocusOnTab: true
+    clip: true
+    topMargin: Theme.margin
+    bottomMargin: Theme.margin + reserve
+    leftMargin: Theme.margin
+    rightMargin: Theme.margin
+    reuseItems: true
+    keyNavigationEnabled: true
+    boundsBehavior: Flickable.DragOverBounds
+    highlightMoveDuration: Theme.quick
+    Accessible.role: Accessible.List
+    Accessible.name: name
+
+    onSelectedRowChanged: if (selectedRow >= 0) currentIndex = selectedRow
+    onDragEnded: if (verticalOvershoot < -Theme.pullDistance) list.pulled()
+
+    // What stands above the rows may grow and push them down; a list at its top stays there.
+    property bool isScrolled: false
+    onContentYChanged: isScrolled = contentY > originY
+    header: Loader {
+        width: list.width - list.leftMargin - list.rightMargin
+        sourceComponent: list.above
+        onHeightChanged: if (!list.isScrolled) list.contentY = list.originY - list.topMargin
+    }
+
+    // One card under all rows, however many of them exist.
+    Rectangle {
+        parent: list.contentItem
+        z: -1
+        width: list.width - list.leftMargin - list.rightMargin
+        height: list.contentHeight - (list.headerItem ? list.headerItem.height : 0)
+        visible: list.count > 0
+        radius: Theme.cardRadius
+        color: Theme.card
+        border.width: Theme.hairline
+        border.color: Theme.line
+    }
+
+    T.ScrollBar.vertical: SlimScrollBar {
+        parent: list.parent
+        anchors.right: list.right
+        anchors.top: list.top
+        anchors.bottom: list.bottom
+    }
+
+    // Rows come, go and move in any order; a screen reader meets them as they stand.
+    onContentHeightChanged: Qt.callLater(settleReadingOrder)
+    onMovementEnded: Qt.callLater(settleReadingOrder)
+    function settleReadingOrder() {
+        ReadingOrder.follow(list.contentItem)
+    }
+
+    function press(row: CardRow) {
+        if (row) row.clicked()
+    }
+    Keys.onReturnPressed: press(currentItem as CardRow)
+    Keys.onEnterPressed: press(currentItem as CardRow)
+    Keys.onPressed: event => {
+        InputHand.isKeyboard = true
+        event.accepted = typeAhead.take(event) || goTo(event.key)
+    }
+    function goTo(key: int): bool {
+        const page = Math.max(1, Math.floor(height / Theme.rowHeight) - 1)
+        const target = {
+            [Qt.Key_Home]: 0,
+            [Qt.Key_End]: count - 1,
+            [Qt.Key_PageUp]: Math.max(0, currentIndex - page),
+            [Qt.Key_PageDown]: Math.min(count - 1, currentIndex + page)
+        }[key]
+        if (target === undefined) return false
+        currentIndex = target
+        return true
+    }
+
+    TypeAhead {
+        id: typeAhead
+        rows: list.rows
+        currentRow: list.currentIndex
+        onMeant: row => list.currentIndex = row
+        onActivated: list.press(list.currentItem as CardRow)
+    }
+}

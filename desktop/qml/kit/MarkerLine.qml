@@ -1,0 +1,36 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// A marker in one small line, as the header shows it.
+Row {
+    id: line
+    required property marker marker
+    // What there is room for; a longer text is cut at its end.
+    property real maximumWidth: Infinity
+
+    spacing: Theme.unit
+
+    BusyIndicator {
+        anchors.verticalCenter: parent.verticalCenter
+        visible: line.marker.showsProgress
+        width: Theme.smallIconSize
+        height: width
+        name: line.marker.text
+    }
+    Symbol {
+        anchors.verticalCenter: parent.verticalCenter
+        visible: line.marker.symbol !== ""
+        width: Theme.smallIconSize
+        height: width
+        name: line.marker.symbol
+        color: Theme.toneColor(line.marker.symbolTone)
+    }
+    Label {
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, Math.max(0, line.maximumWidth - x))
+        text: line.marker.text
+        font.pointSize: Theme.caption
+        color: Theme.toneColor(line.marker.tone)
+    }
+}

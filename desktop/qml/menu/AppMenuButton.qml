@@ -1,0 +1,22 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// Opens the rows of the panel's item, for desktops that show no such item and for those who work in the window.
+ToolbarButton {
+    id: button
+    required property MenuBridge menu
+
+    symbol: "line.3.horizontal"
+    help: qsTr("Menu")
+    isMenuOpen: popup.visible
+    onClicked: popup.open()
+
+    AppMenu {
+        id: popup
+        x: button.width - width
+        y: button.height + Theme.halfUnit
+        menu: button.menu
+        onClosed: button.forceActiveFocus(Qt.PopupFocusReason)
+    }
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+namespace larkspan::presentation {
+
+/// A way out of the program.
+struct Link {
+    std::string symbol{};
+    std::string title{};
+    std::string subtitle{};
+    /// A URL.
+    std::string destination{};
+
+    bool operator==(const Link&) const = default;
+};
+
+}  // namespace larkspan::presentation

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+#include "presentation/Tone.h"
+
+namespace larkspan::presentation {
+
+/// A status word on a tint of its own colour.
+struct Pill {
+    std::string text{};
+    Tone tone = Tone::gray;
+
+    bool operator==(const Pill&) const = default;
+};
+
+}  // namespace larkspan::presentation

@@ -1,0 +1,32 @@
+#include "presentation/RunningAction.h"
+
+#include <exception>
+#include <utility>
+
+#include "support/LocalizedError.h"
+
+namespace larkspan::presentation {
+
+using support::Task;
+
+void RunningAction::run(Task<void> work)
+{
+    if (*isInProgress) return;
+    isInProgress = true;
+    alert = {};
+    support::start(main_, carryOut(shared_from_this(), std::move(work)));
+}
+
+Task<void> RunningAction::carryOut(std::shared_ptr<RunningAction> self, Task<void> work)
+{
+    std::exception_ptr failure;
+    try {
+        co_await std::move(work);
+    } catch (...) {
+        failure = std::current_exception();
+    }
+    if (failure) self->alert = support::localizedDescription(failure);
+    self->isInProgress = false;
+}
+
+}  // namespace larkspan::presentation

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/Executor.h"
+#include "support/Observable.h"
+#include "support/Task.h"
+
+namespace larkspan::presentation {
+
+/// What a screen has done at the service on the user's wish: one at a time, with a mark while it runs and an alert if
+/// it fails. Main thread only; a running action outlives the screen that began it.
+class RunningAction final : public support::Observable, public std::enable_shared_from_this<RunningAction> {
+public:
+    explicit RunningAction(platform::Executor& main)
+        : main_(main)
+    {
+    }
+
+    static constexpr const char* alertTitle = "Error";
+
+    support::Published<bool> isInProgress{*this, false};
+    /// The words of the alert; empty while there is none.
+    support::Published<std::string> alert{*this};
+
+    /// Runs `work` on the main thread; whatever it throws becomes the alert. While another runs, it is dropped.
+    void run(support::Task<void> work);
+
+    void dismissAlert() { alert = {}; }
+
+private:
+    static support::Task<void> carryOut(std::shared_ptr<RunningAction> self, support::Task<void> work);
+
+    platform::Executor& main_;
+};
+
+}  // namespace larkspan::presentation

@@ -1,0 +1,17 @@
+#include "workspace/StatusPageRow.h"
+
+#include "presentation/StatusPagePresentation.h"
+
+namespace larkspan::workspace {
+
+StatusPageRow StatusPageRow::of(const model::StatusPage& page)
+{
+    const auto shown = presentation::StatusPagePresentation::of(page.status);
+    return {.id = page.id,
+        .title = page.name,
+        .symbol = std::string(shown.symbol),
+        .tone = shown.tone,
+        .status = {.text = std::string(shown.label), .tone = shown.tone}};
+}
+
+}  // namespace larkspan::workspace

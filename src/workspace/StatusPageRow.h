@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+#include "model/StatusPage.h"
+#include "presentation/Pill.h"
+#include "presentation/Tone.h"
+
+namespace larkspan::workspace {
+
+/// One page in the dashboard's list.
+struct StatusPageRow {
+    std::string id{};
+    std::string title{};
+    std::string symbol{};
+    presentation::Tone tone = presentation::Tone::gray;
+    presentation::Pill status{};
+
+    static StatusPageRow of(const model::StatusPage& page);
+
+    bool operator==(const StatusPageRow&) const = default;
+};
+
+}  // namespace larkspan::workspace

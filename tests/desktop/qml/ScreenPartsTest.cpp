@@ -1,0 +1,100 @@
+#include <QAccessible>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include "KitWindow.h"
+
+namespace larkspan {
+
+namespace {
+
+QStringList namesOf(QAccessibleInterface* interface, QAccessible::Role role)
+{
+    QStringList names;
+    if (!interface || interface->state().invisible) return names;
+    if (interface->role() == role) names << interface->text(QAccessible::Name);
+    for (int child = 0; child < interface->childCount(); ++child) names << namesOf(interface->child(child), role);
+    return names;
+}
+
+class BusyScreen : public testing::Test, public KitWindow {
+protected:
+    BusyScreen()
+        : KitWindow(QStringLiteral(R"(
+            property int clicks: 0
+            property bool isDeleting: false
+            ScreenFrame {
+                anchors.fill: parent
+                title: "Screen"
+                isBusy: window.isDeleting
+                CommandButton { width: 200; height: 200; text: "Press"; onClicked: window.clicks += 1 }
+            })"))
+    {
+    }
+
+    void click()
+    {
+        QTest::mouseClick(&window(), Qt::LeftButton, {}, QPoint(50, 150));
+        settle();
+    }
+};
+
+TEST_F(BusyScreen, CannotBeClickedAndNamesItsProgress)
+{
+    click();
+    EXPECT_EQ(property("clicks").toInt(), 1);
+    setProperty("isDeleting", true);
+    click();
+    EXPECT_EQ(property("clicks").toInt(), 1);
+    EXPECT_EQ(namesOf(QAccessible::queryAccessibleInterface(&window()), QAccessible::ProgressBar),
+        QStringList{"In progress"});
+}
+
+class AlertOfAScreen : public testing::Test, public KitWindow {
+protected:
+    AlertOfAScreen()
+        : KitWindow(QStringLiteral(R"(
+            property string failure: ""
+            property int dismissals: 0
+            ScreenFrame {
+                anchors.fill: parent
+                title: "Screen"
+                alert: window.failure
+                onAlertDismissed: { window.dismissals += 1; window.failure = "" }
+                CommandButton { objectName: "before"; text: "Before"; focus: true }
+            })"))
+    {
+        item(QStringLiteral("before")).forceActiveFocus(Qt::TabFocusReason);
+        setProperty("failure", QStringLiteral("Server returned HTTP status code 409."));
+    }
+
+    QStringList dialogs() const
+    {
+        return namesOf(QAccessible::queryAccessibleInterface(&window()), QAccessible::Dialog);
+    }
+};
+
+TEST_F(AlertOfAScreen, IsADialogTitledErrorWithTheWordsAndOneButton)
+{
+    EXPECT_EQ(dialogs(), QStringList{"Error"});
+    EXPECT_TRUE(namesOf(QAccessible::queryAccessibleInterface(&window()), QAccessible::StaticText)
+                    .contains(QStringLiteral("Server returned HTTP status code 409.")));
+    EXPECT_EQ(
+        namesOf(QAccessible::queryAccessibleInterface(&window()), QAccessible::Button), (QStringList{"Before", "OK"}));
+}
+
+TEST_F(AlertOfAScreen, ReturnAndEscapeDismissItOnceAndGiveTheFocusBack)
+{
+    press(Qt::Key_Return);
+    EXPECT_EQ(property("dismissals").toInt(), 1);
+    setProperty("failure", QStringLiteral("Again."));
+    press(Qt::Key_Escape);
+    EXPECT_EQ(property("dismissals").toInt(), 2);
+    EXPECT_TRUE(dialogs().isEmpty());
+    EXPECT_TRUE(item(QStringLiteral("before")).hasActiveFocus());
+}
+
+}  // namespace
+
+}  // namespace larkspan
