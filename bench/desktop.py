@@ -1,4 +1,4 @@
-"""usage: desktop.py first_frame|resident_after_cycle|idle RESULT
+"""usage: desktop.py first_frame|resident_after_cycle|scroll|idle RESULT
 
 Starts larkspan and the bare window in turn, by the same hand in the same session, and writes the medians to RESULT as
 JSON. It runs in the world of the end-to-end tests, with their stand-ins around the programs.
@@ -32,6 +32,8 @@ FRAME_ROUNDS = 9
 RESIDENT_ROUNDS = 3
 SETTLING_SECONDS = 2
 IDLE_SECONDS = 60
+SCROLL_ROUNDS = 3
+SCROLLED_ROWS = 10_000
 OVERVIEW_PATH = "/user/api/status-pages/status"
 
 
@@ -84,6 +86,21 @@ def size_of(name, surroundings, await_readiness):
         return {kind: int(re.search(rf"^{kind}: +(\d+) kB", rollup, re.M).group(1)) / 1024 for kind in ("Rss", "Pss")}
 
 
+def scrolled():
+    """What a frame costs while a list of many rows scrolls, by the scale of the display: in milliseconds."""
+    found = {}
+    with desktop(lambda: display.server("2400x1600")) as (_, surroundings, _):
+        for scale in ("1", "2"):
+            times = {"window": [], "bare": []}
+            for _ in range(SCROLL_ROUNDS):
+                for kind, taken in times.items():
+                    command = [BINARIES / "larkspan-bench-scroll", kind, str(SCROLLED_ROWS)]
+                    ended = output_of(command, env=surroundings | {"QT_SCALE_FACTOR": scale})
+                    taken.append([float(time) for time in ended.stdout.split()])
+            found[scale] = {kind: [statistics.median(column) for column in zip(*taken)] for kind, taken in times.items()}
+    return found
+
+
 def idle():
     """What a minute costs with the window minimised: CPU in milliseconds and context switches, of all threads."""
     with desktop(display.display) as (simulator, surroundings, screen):
@@ -107,7 +124,7 @@ def spent_by(process_id):
     return spent
 
 
-MEASURES = {"first_frame": first_frames, "resident_after_cycle": resident, "idle": idle}
+MEASURES = {"first_frame": first_frames, "resident_after_cycle": resident, "scroll": scrolled, "idle": idle}
 
 
 def main(what, result):

@@ -13,6 +13,7 @@ sys.path.append(str(ROOT / "tests/e2e"))
 import world
 
 GOAL = 1.25
+SCROLL_GOAL = 2
 # What a minute may cost while the window is minimised, polls and all.
 IDLE_CPU = 5
 IDLE_SWITCHES = 60
@@ -29,14 +30,25 @@ def measure_resident(build):
             measurement("proportional_after_cycle", found["larkspan"]["Pss"], "MiB", found["bare"]["Pss"])]
 
 
+def measure_scroll(build):
+    found = on_the_desktop(build, "scroll", "larkspan-bench-scroll")
+    measurements = []
+    for scale, times in found.items():
+        name = f"scroll_10000_{scale}x"
+        (middle, slow), (bare_middle, bare_slow) = times["window"], times["bare"]
+        measurements += [measurement(name, middle, "ms", bare_middle, SCROLL_GOAL),
+                         measurement(f"{name}_95th", slow, "ms", bare_slow, SCROLL_GOAL)]
+    return measurements
+
+
 def measure_idle(build):
     found = on_the_desktop(build, "idle")
     return [measurement("idle_cpu", found["larkspan"]["cpu"], "ms", IDLE_CPU, 1),
             measurement("idle_switches", found["larkspan"]["switches"], "switches", IDLE_SWITCHES, 1)]
 
 
-def on_the_desktop(build, what):
-    for name in ("larkspan", "larkspan-bench-bare", "larkspan-bench-first-frame", "larkspan-simulator"):
+def on_the_desktop(build, what, *programs):
+    for name in ("larkspan", "larkspan-bench-bare", "larkspan-bench-first-frame", "larkspan-simulator", *programs):
         program(build, name)
     measuring = str(ROOT / "bench/desktop.py")
     with tempfile.NamedTemporaryFile("r", suffix=".json") as result:

@@ -51,10 +51,10 @@ class Display:
 
 
 @contextmanager
-def server() -> Iterator[Display]:
+def server(size: str = "1280x960") -> Iterator[Display]:
     """A display without a window manager."""
     reading, writing = os.pipe()
-    with running("Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x960x24", "-nolisten", "tcp", "-noreset",
+    with running("Xvfb", "-displayfd", str(writing), "-screen", "0", f"{size}x24", "-nolisten", "tcp", "-noreset",
                  pass_fds=[writing], stderr=subprocess.DEVNULL):
         os.close(writing)
         with os.fdopen(reading) as announced:

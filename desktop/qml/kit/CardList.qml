@@ -44,13 +44,20 @@ ListView {
         onHeightChanged: if (!list.isScrolled) list.contentY = list.originY - list.topMargin
     }
 
-    // One card under all rows, however many of them exist.
+    // One card under all rows, however many of them exist. While they scroll it stands still, only its ends follow them:
+    // so a frame draws what moves and not the whole window.
     Rectangle {
-        parent: list.contentItem
+        readonly property real begin: list.originY + (list.headerItem ? list.headerItem.height : 0) - list.contentY
+        readonly property real end: list.originY + list.contentHeight - list.contentY
+        readonly property real beyond: 2 * Theme.cardRadius
+
+        parent: list
         z: -1
+        x: list.leftMargin
+        y: Math.max(begin, -beyond)
         width: list.width - list.leftMargin - list.rightMargin
-        height: list.contentHeight - (list.headerItem ? list.headerItem.height : 0)
-        visible: list.count > 0
+        height: Math.min(end, list.height + beyond) - y
+        visible: list.count > 0 && height > 0
         radius: Theme.cardRadius
         color: Theme.card
         border.width: Theme.hairline
