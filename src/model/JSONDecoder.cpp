@@ -6,12 +6,7 @@
 
 #include "model/DataResponse.h"
 #include "model/Decoding.h"
-#include "model/EmptyResponseKeys.h"
-#include "model/IncidentKeys.h"
-#include "model/IncidentStateKeys.h"
-#include "model/MaintenanceKeys.h"
-#include "model/StatusPageKeys.h"
-#include "model/StatusPagesStatusEnvelopeKeys.h"
+#include "model/ResultRecords.h"
 
 namespace larkspan::model {
 

@@ -3,8 +3,8 @@
 #include <tuple>
 
 #include "model/Encoding.h"
-#include "model/IncidentRequestsKeys.h"
-#include "model/MaintenanceRequestsKeys.h"
+#include "model/IncidentRequests.h"
+#include "model/MaintenanceRequests.h"
 
 namespace larkspan::model {
 
