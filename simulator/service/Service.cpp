@@ -13,7 +13,7 @@ Service::Service(Account account, const platform::Clock& clock)
     : clock_(clock)
     , account_(std::move(account))
 {
-    for (const auto addRoutes : {addIncidentsRoutes, addMaintenancesRoutes, addStatusPagesRoutes}) addRoutes(router_);
+    for (const auto addRoutes : addRoutesOfEachResource) addRoutes(router_);
 }
 
 Reply Service::answer(const Request& request)

@@ -9,18 +9,26 @@
 
 namespace larkspan::api {
 
+/// The operations of each resource, over one engine.
+template <typename... Endpoints>
+class OperationsOf : public RequestEngine, public Endpoints... {
+public:
+    /// `serviceHost` is a host or host:port and is reached over HTTPS.
+    OperationsOf(Ports ports, const std::string& serviceHost)
+        : RequestEngine(ports, serviceHost)
+        , Endpoints(static_cast<RequestEngine&>(*this))...
+    {
+    }
+};
+
 /// The program's only road to the service. Its operations may be awaited from any executor; they work on the
 /// client's own and interleave there while they wait. They throw `APIError`, `platform::URLError` or
 /// `model::DecodingError`, and nothing is ever sent twice. It must outlive every task that it gave.
 ///
-/// Each resource has its operations in a base, and whoever uses one resource alone asks for that base.
-class KestruneAPI final : public RequestEngine,
-                          public StatusPageEndpoints,
-                          public IncidentEndpoints,
-                          public MaintenanceEndpoints {
+/// Whoever uses the operations of one resource alone asks for that base.
+class KestruneAPI final : public OperationsOf<StatusPageEndpoints, IncidentEndpoints, MaintenanceEndpoints> {
 public:
-    /// `serviceHost` is a host or host:port and is reached over HTTPS.
-    KestruneAPI(Ports ports, const std::string& serviceHost);
+    using OperationsOf::OperationsOf;
 };
 
 }  // namespace larkspan::api
