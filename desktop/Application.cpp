@@ -40,8 +40,8 @@ Application::Application(adapters::MainExecutor& main, ServiceAccess service)
     , app_(std::make_unique<core::LarkspanApp>(core::AppStateManager::Ports{
           main_, timers_, clock_, notifications_, networkMonitor_, statusItems_, updates_, windows_, api_}))
 {
-    auto dashboard = std::make_shared<workspace::Dashboard>(
-        workspace::Dashboard::Ports{main_, timers_, clock_, service_.credentials, keys_, app_->appState()});
+    auto dashboard = std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{
+        main_, timers_, clock_, service_.credentials, keys_, app_->appState(), locale_, links_});
     window_ = std::make_unique<MainWindow>(
         MainWindow::Content{std::move(dashboard), updates_, about_, app_->showingAbout, *app_, menu_}, main_);
     windows_.add(window_->window());

@@ -12,6 +12,7 @@
 #include "adapters/FreedesktopNotificationCenter.h"
 #include "adapters/MainExecutor.h"
 #include "adapters/PackageKitUpdater.h"
+#include "adapters/QtLocaleText.h"
 #include "adapters/QtNetworkPathMonitor.h"
 #include "adapters/QtTimers.h"
 #include "adapters/QtWindowSystem.h"
@@ -67,6 +68,7 @@ private:
     adapters::FreedesktopNotificationCenter notifications_;
     adapters::QtNetworkPathMonitor networkMonitor_;
     adapters::DesktopLinkOpener links_;
+    adapters::QtLocaleText locale_;
     adapters::PackageKitUpdater updater_;
     adapters::StatusNotifierItem tray_;
     bridge::MenuBridge menu_;

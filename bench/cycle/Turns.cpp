@@ -18,6 +18,8 @@
 #include "Client.h"
 #include "account/Seed.h"
 #include "bridge/DashboardBridge.h"
+#include "fakes/FakeLinkOpener.h"
+#include "fakes/FakeLocaleText.h"
 #include "service/WallClock.h"
 #include "workspace/Dashboard.h"
 
@@ -83,8 +85,10 @@ void measure(std::size_t incidents, std::size_t cycles)
     TimedExecutor worker;
     bench::Client client(accountWith(incidents), main, worker);
     api::APIKeyStore keys(worker, client.store());
-    auto dashboard = std::make_shared<workspace::Dashboard>(
-        workspace::Dashboard::Ports{main, client.timers(), client.clock(), client.store(), keys, client.sharedState()});
+    const fakes::FakeLocaleText locale;
+    fakes::FakeLinkOpener links;
+    auto dashboard = std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{
+        main, client.timers(), client.clock(), client.store(), keys, client.sharedState(), locale, links});
     const bridge::ScreenUpdates updates(main);
     const bridge::DashboardBridge window(dashboard, updates);
 

@@ -21,6 +21,7 @@
 #include "account/Seed.h"
 #include "adapters/MainExecutor.h"
 #include "fakes/FakeLinkOpener.h"
+#include "fakes/FakeLocaleText.h"
 #include "qml/MainWindow.h"
 #include "qml/Renderer.h"
 #include "service/WallClock.h"
@@ -53,13 +54,14 @@ private:
     bench::Client client_;
     api::APIKeyStore keys_{main_, client_.store()};
     fakes::FakeLinkOpener links_;
+    fakes::FakeLocaleText locale_;
     fakes::FakeUpdater updater_;
     workspace::AboutKestruneView about_{workspace::AboutKestruneView::Bundle(), links_};
     support::Published<bool> showingAbout_{*this, false};
     bridge::MenuBridge menu_{[] {}};
     MainWindow mainWindow_{
         {std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{
-             main_, client_.timers(), client_.clock(), client_.store(), keys_, client_.sharedState()}),
+             main_, client_.timers(), client_.clock(), client_.store(), keys_, client_.sharedState(), locale_, links_}),
             std::make_shared<core::UpdaterController>(updater_), about_, showingAbout_, *this, menu_},
         main_};
 };

@@ -1,5 +1,7 @@
 #include "bridge/AboutBridge.h"
 
+#include "bridge/ValueList.h"
+
 namespace larkspan::bridge {
 
 AboutBridge::AboutBridge(const workspace::AboutKestruneView& about, support::Published<bool>& showing,
@@ -23,9 +25,7 @@ QString AboutBridge::text() const
 
 QList<LinkValue> AboutBridge::links() const
 {
-    QList<LinkValue> links;
-    for (const auto& link : about_.links()) links << LinkValue::of(link);
-    return links;
+    return valuesOf<LinkValue>(about_.links());
 }
 
 void AboutBridge::openLink(int place)

@@ -20,16 +20,8 @@ void DashboardBridge::readState()
     headline_ = HeadlineValue::of(dashboard_->headline());
     status_ = MarkerValue::of(dashboard_->status());
     rows_.update(dashboard_->rows());
-    followSettings();
-}
-
-void DashboardBridge::followSettings()
-{
-    if (shownSettings_ == dashboard_->settings()) return;
-    shownSettings_ = dashboard_->settings();
-    // A sheet that closes still reads its own.
-    if (settings_) settings_.release()->deleteLater();
-    if (shownSettings_) settings_ = std::make_unique<SettingsBridge>(shownSettings_, updates_);
+    settings_.follow(dashboard_->settings(), updates_);
+    openedPage_.follow(*dashboard_->openedPage, updates_);
 }
 
 int DashboardBridge::selectedRow() const

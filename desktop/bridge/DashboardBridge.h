@@ -5,9 +5,11 @@
 
 #include <memory>
 
+#include "bridge/ChildScreen.h"
 #include "bridge/RowListModel.h"
 #include "bridge/ScreenBridge.h"
 #include "bridge/SettingsBridge.h"
+#include "bridge/StatusPageDetailBridge.h"
 #include "bridge/values/HeadlineValue.h"
 #include "bridge/values/MarkerValue.h"
 #include "bridge/values/PlaceholderValue.h"
@@ -36,6 +38,8 @@ class DashboardBridge : public ScreenBridge {
     Q_PROPERTY(QStringList refreshIntervalLabels READ refreshIntervalLabels CONSTANT)
     /// What the settings sheet shows; null while it is down.
     Q_PROPERTY(larkspan::bridge::SettingsBridge* settings READ settings NOTIFY changed)
+    /// The page that is open; null while none is.
+    Q_PROPERTY(larkspan::bridge::StatusPageDetailBridge* openedPage READ openedPage NOTIFY changed)
 
 public:
     DashboardBridge(
@@ -52,16 +56,17 @@ public:
     bool isRefreshEnabled() const { return dashboard_->isRefreshEnabled(); }
     QStringList refreshIntervalLabels() const;
     SettingsBridge* settings() const { return settings_.get(); }
+    StatusPageDetailBridge* openedPage() const { return openedPage_.get(); }
 
     Q_INVOKABLE void refresh() { dashboard_->refresh(); }
     Q_INVOKABLE void chooseRefreshInterval(int choice);
-    Q_INVOKABLE void openPage(const QString& id) { dashboard_->selectedPageId = id.toStdString(); }
+    Q_INVOKABLE void openPage(const QString& id) { dashboard_->openPage(id.toStdString()); }
+    Q_INVOKABLE void closePage() { dashboard_->closePage(); }
     Q_INVOKABLE void openSettings() { dashboard_->openSettings(); }
     Q_INVOKABLE void closeSettings() { dashboard_->closeSettings(); }
 
 private:
     void readState() override;
-    void followSettings();
 
     std::shared_ptr<workspace::Dashboard> dashboard_;
     const ScreenUpdates& updates_;
@@ -69,8 +74,8 @@ private:
     HeadlineValue headline_;
     MarkerValue status_;
     RowListModel<StatusPageRowValue> rows_;
-    std::shared_ptr<workspace::Settings> shownSettings_;
-    std::unique_ptr<SettingsBridge> settings_;
+    ChildScreen<SettingsBridge, workspace::Settings> settings_;
+    ChildScreen<StatusPageDetailBridge, workspace::StatusPageDetailView> openedPage_;
 };
 
 }  // namespace larkspan::bridge

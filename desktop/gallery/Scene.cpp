@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "api/APIError.h"
+#include "gallery/PageScenes.h"
 #include "model/DecodingError.h"
 #include "platform/URLError.h"
 
@@ -287,6 +288,7 @@ std::vector<Scene> otherScenes()
 std::vector<Scene> scenes()
 {
     auto scenes = dashboardScenes();
+    std::ranges::move(pageScenes(), std::back_inserter(scenes));
     std::ranges::move(menuScenes(), std::back_inserter(scenes));
     std::ranges::move(settingsScenes(), std::back_inserter(scenes));
     std::ranges::move(otherScenes(), std::back_inserter(scenes));

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "adapters/MainExecutor.h"
+#include "adapters/QtLocaleText.h"
 #include "adapters/QtTimers.h"
 #include "adapters/SystemClock.h"
 #include "api/APIKeyStore.h"
@@ -63,6 +64,7 @@ private:
     adapters::QtTimers timers_;
     adapters::SystemClock clock_;
     NoOutside outside_;
+    adapters::QtLocaleText locale_;
     support::Published<bool> showingAbout_{*this, false};
     bridge::MenuBridge menu_{[this] { showAbout(); }};
     api::KestruneAPI api_{{main_, outside_, outside_, clock_}, "kestrune.example"};

@@ -38,10 +38,21 @@ Window {
         anchors.fill: parent
 
         DashboardView {
+            id: dashboardView
             anchors.fill: parent
             focus: true
             dashboard: window.dashboard
             menu: window.menu
+        }
+        PushedPage {
+            id: statusPage
+            isShown: window.dashboard.openedPage !== null
+            beneath: dashboardView
+            onDismissed: window.dashboard.closePage()
+            sourceComponent: StatusPageDetailView {
+                page: window.dashboard.openedPage
+                onWentBack: statusPage.goBack()
+            }
         }
     }
 

@@ -20,7 +20,8 @@ Dashboard::Dashboard(Ports ports)
     , ports_(std::move(ports))
     , tick_(ports_.timers.every(10s, [this] { currentTime = ports_.clock.now(); }))
     , openStatusPage_(ports_.appState->inProcessNotifications().observe(
-          core::InProcessNotifications::openStatusPage, [this](const std::string& id) { selectedPageId = id; }))
+          core::InProcessNotifications::openStatusPage, [this](const std::string& id) { openPage(id); }))
+    , accountChanges_(ports_.appState->objectWillChange([this] { followOpenedPageSoon(); }))
 {
 }
 
@@ -102,6 +103,50 @@ void Dashboard::refresh()
 void Dashboard::chooseRefreshInterval(std::chrono::seconds interval)
 {
     ports_.appState->setRefreshInterval(interval);
+}
+
+const model::StatusPage* Dashboard::selectedPage() const
+{
+    const auto row = selectedRow();
+    return row ? &(*state().statusPages)[*row] : nullptr;
+}
+
+void Dashboard::openPage(const std::string& id)
+{
+    if (*openedPage && (*openedPage)->page->id == id) return;
+    selectedPageId = id;
+    const auto* const page = selectedPage();
+    openedPage = page ? std::make_shared<StatusPageDetailView>(
+                     StatusPageDetailView::Ports{ports_.clock, ports_.locale, ports_.links, ports_.appState}, *page)
+                      : nullptr;
+}
+
+void Dashboard::closePage()
+{
+    selectedPageId = std::nullopt;
+    openedPage = nullptr;
+}
+
+void Dashboard::followOpenedPageSoon()
+{
+    if (!*openedPage || std::exchange(*followsSoon_, true)) return;
+    ports_.main.post([this, weak = std::weak_ptr(followsSoon_)] {
+        const auto followsSoon = weak.lock();
+        if (!followsSoon) return;
+        *followsSoon = false;
+        followOpenedPage();
+    });
+}
+
+void Dashboard::followOpenedPage()
+{
+    if (!*openedPage) return;
+    const auto* const page = selectedPage();
+    if (!page) {
+        closePage();
+    } else if (*page != *(*openedPage)->page) {
+        (*openedPage)->page = *page;
+    }
 }
 
 void Dashboard::openSettings()

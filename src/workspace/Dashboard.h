@@ -14,6 +14,8 @@
 #include "platform/Clock.h"
 #include "platform/CredentialStore.h"
 #include "platform/Executor.h"
+#include "platform/LinkOpener.h"
+#include "platform/LocaleText.h"
 #include "platform/Timers.h"
 #include "presentation/Content.h"
 #include "presentation/Headline.h"
@@ -23,6 +25,7 @@
 #include "support/Time.h"
 #include "workspace/DashboardOperationalSummary.h"
 #include "workspace/Settings.h"
+#include "workspace/StatusPageDetailView.h"
 #include "workspace/StatusPageRow.h"
 
 namespace larkspan::workspace {
@@ -38,6 +41,8 @@ public:
         platform::CredentialStore& credentials;
         api::APIKeyStore& keys;
         std::shared_ptr<core::AppStateManager> appState;
+        const platform::LocaleText& locale;
+        platform::LinkOpener& links;
     };
 
     static constexpr std::string_view windowTitle = "Kestrune";
@@ -52,6 +57,8 @@ public:
     support::Published<bool> showingSettings{*this, false};
     /// The page that the user has opened, or that the menu has.
     support::Published<std::optional<std::string>> selectedPageId{*this};
+    /// The selected page's own screen; null while none is open.
+    support::Published<std::shared_ptr<StatusPageDetailView>> openedPage{*this};
     /// The reference of the text after "Updated "; it ticks, so that the text ages on screen.
     support::Published<support::Time> currentTime;
 
@@ -74,6 +81,11 @@ public:
     void refresh();
     void chooseRefreshInterval(std::chrono::seconds interval);
 
+    /// Selects the page and opens it, if the account has it. One that is open already stays as it is.
+    void openPage(const std::string& id);
+    /// The user has gone back to the list.
+    void closePage();
+
     void openSettings();
     /// The sheet has closed, in whatever way; a key that was saved takes effect now.
     void closeSettings();
@@ -82,10 +94,16 @@ public:
 
 private:
     const core::AppStateManager& state() const { return *ports_.appState; }
+    const model::StatusPage* selectedPage() const;
+    /// What the account's list has made of the opened page, once the list has landed.
+    void followOpenedPageSoon();
+    void followOpenedPage();
 
     Ports ports_;
     std::unique_ptr<platform::Timer> tick_;
     support::Subscription openStatusPage_;
+    support::Subscription accountChanges_;
+    std::shared_ptr<bool> followsSoon_ = std::make_shared<bool>(false);
     std::shared_ptr<Settings> settings_;
 };
 

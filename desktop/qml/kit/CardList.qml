@@ -11,6 +11,10 @@ ListView {
     required property string name
     // What stands above the rows and scrolls with them.
     property Component above: null
+    // What stands below them.
+    property Component below: null
+    // No wider than this; the rest is margin on both sides.
+    property real widest: Infinity
     // The row that is to be seen; -1 for none.
     property int selectedRow: -1
     // What floats over the end of the list, so that the last row can be scrolled clear of it.
@@ -23,8 +27,9 @@ ListView {
     clip: true
     topMargin: Theme.margin
     bottomMargin: Theme.margin + reserve
-    leftMargin: Theme.margin
-    rightMargin: Theme.margin
+    leftMargin: Math.max(Theme.margin, Math.round((width - widest) / 2))
+    rightMargin: leftMargin
+    onLeftMarginChanged: contentX = -leftMargin
     reuseItems: true
     keyNavigationEnabled: true
     boundsBehavior: Flickable.DragOverBounds
@@ -44,11 +49,16 @@ ListView {
         onHeightChanged: if (!list.isScrolled) list.contentY = list.originY - list.topMargin
     }
 
+    footer: Loader {
+        width: list.width - list.leftMargin - list.rightMargin
+        sourceComponent: list.below
+    }
+
     // One card under all rows, however many of them exist. While they scroll it stands still, only its ends follow them:
     // so a frame draws what moves and not the whole window.
     Rectangle {
         readonly property real begin: list.originY + (list.headerItem ? list.headerItem.height : 0) - list.contentY
-        readonly property real end: list.originY + list.contentHeight - list.contentY
+        readonly property real end: list.originY + list.contentHeight - (list.footerItem ? list.footerItem.height : 0) - list.contentY
         readonly property real beyond: 2 * Theme.cardRadius
 
         parent: list
@@ -76,6 +86,11 @@ ListView {
     onMovementEnded: Qt.callLater(settleReadingOrder)
     function settleReadingOrder() {
         ReadingOrder.follow(list.contentItem)
+    }
+
+    // A press in a list reaches no handler behind it.
+    TapHandler {
+        onPressedChanged: if (pressed) InputHand.isKeyboard = false
     }
 
     function press(row: CardRow) {

@@ -11,12 +11,17 @@ T.ItemDelegate {
     required property string name
     property string description
     property bool isSelected: false
+    // Rows that only tell are met by the keyboard and the screen reader, and nothing happens when they are pressed.
+    property bool isPressable: true
 
     width: ListView.view ? ListView.view.width - ListView.view.leftMargin - ListView.view.rightMargin : implicitWidth
     implicitHeight: Math.max(Theme.rowHeight, implicitContentHeight + 2 * Theme.unit)
     leftPadding: 2 * Theme.unit - Theme.halfUnit
     rightPadding: leftPadding
-    hoverEnabled: true
+    // A row that waits to be used again is not drawn, but a screen reader would still meet it.
+    ListView.onPooled: visible = false
+    ListView.onReused: visible = true
+    hoverEnabled: isPressable
     focusPolicy: Qt.NoFocus
     // The current row has the focus within its list; a blank may belong to what is typed, so the list has the keys first.
     Keys.forwardTo: ListView.view ? [ListView.view] : []
@@ -35,7 +40,7 @@ T.ItemDelegate {
             anchors.fill: parent
             anchors.margins: Theme.halfUnit
             radius: Theme.controlRadius
-            color: card.down ? Theme.pressed
+            color: card.down && card.isPressable ? Theme.pressed
                 : card.isSelected ? Qt.alpha(Theme.accentOnCard, Theme.selectionOpacity)
                 : card.hovered ? Theme.hover : "transparent"
             border.width: InputHand.isKeyboard && card.Accessible.focused ? Theme.focusWidth : 0

@@ -43,6 +43,6 @@ T.Button {
                 ColorAnimation { duration: Theme.quick }
             }
         }
-        FocusRing { control: button }
+        FocusRing { isShown: button.visualFocus }
     }
 }

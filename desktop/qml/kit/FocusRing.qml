@@ -1,15 +1,13 @@
 import QtQuick
-import QtQuick.Templates as T
 import Larkspan
 
 // Shows which control the keyboard acts on.
 Rectangle {
-    id: ring
-    required property T.Control control
+    required property bool isShown
 
     anchors.fill: parent
     anchors.margins: -Theme.focusWidth
-    visible: ring.control.visualFocus
+    visible: isShown
     radius: Theme.controlRadius + Theme.focusWidth
     color: "transparent"
     border.width: Theme.focusWidth

@@ -7,6 +7,8 @@ Column {
     id: group
     required property string title
     property string symbol
+    // Without, the title stands over what follows below.
+    property bool hasCard: true
     default property alias content: column.data
 
     spacing: Theme.unit
@@ -34,6 +36,7 @@ Column {
     }
 
     Rectangle {
+        visible: group.hasCard
         width: parent.width
         height: column.implicitHeight + 4 * Theme.unit
         radius: Theme.cardRadius

@@ -41,9 +41,11 @@ Rectangle {
 
     Label {
         anchors.verticalCenter: parent.verticalCenter
-        // Half a title helps nobody, and the window's frame has it too.
-        visible: implicitWidth <= bar.freeRight - bar.freeLeft
-        x: Math.round(Math.max(bar.freeLeft, Math.min((bar.width - implicitWidth) / 2, bar.freeRight - implicitWidth)))
+        // Half the program's name helps nobody, and the window's frame has it too; a record's name stands nowhere else.
+        visible: bar.canGoBack || implicitWidth <= room
+        readonly property real room: Math.max(0, bar.freeRight - bar.freeLeft)
+        width: Math.min(implicitWidth, room)
+        x: Math.round(Math.max(bar.freeLeft, Math.min((bar.width - width) / 2, bar.freeRight - width)))
         text: bar.title
         font.weight: Font.DemiBold
         Accessible.role: Accessible.Heading

@@ -66,6 +66,6 @@ T.Button {
         Behavior on color {
             ColorAnimation { duration: Theme.quick }
         }
-        FocusRing { control: row }
+        FocusRing { isShown: row.visualFocus }
     }
 }

@@ -59,6 +59,10 @@ QtObject {
     readonly property int headerHeight: Math.round(48 * scale)
     readonly property int rowHeight: Math.round(44 * scale)
     readonly property int placeholderWidth: 420
+    readonly property int pickerWidth: 560
+    readonly property int columnWidth: 680
+    readonly property int columnSpacing: 18
+    readonly property int statusIconSize: Math.round(30 * scale)
     readonly property int sheetWidth: 520
     readonly property int aboutWidth: 420
     readonly property int dialogWidth: 400

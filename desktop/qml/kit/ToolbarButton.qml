@@ -37,7 +37,7 @@ T.Button {
         Behavior on color {
             ColorAnimation { duration: Theme.quick }
         }
-        FocusRing { control: button }
+        FocusRing { isShown: button.visualFocus }
     }
 
     KitToolTip {

@@ -12,6 +12,9 @@ Item {
     signal entered
     signal triggered
 
+    // A row that waits to be used again is not drawn, but a screen reader would still meet it.
+    ListView.onPooled: visible = false
+    ListView.onReused: visible = true
     implicitHeight: row.isSeparator ? Theme.unit + Theme.hairline : Theme.menuRowHeight
     Accessible.role: row.isSeparator ? Accessible.Separator : Accessible.MenuItem
     Accessible.name: row.title

@@ -7,6 +7,8 @@
 #include <memory>
 
 #include "fakes/Account.h"
+#include "fakes/FakeLinkOpener.h"
+#include "fakes/FakeLocaleText.h"
 
 namespace larkspan::bridge {
 
@@ -17,8 +19,10 @@ using namespace std::chrono_literals;
 class DashboardForScreens : public testing::Test, public fakes::Account {
 protected:
     api::APIKeyStore keys{client, credentials};
+    fakes::FakeLocaleText locale;
+    fakes::FakeLinkOpener links;
     std::shared_ptr<workspace::Dashboard> dashboard = std::make_shared<workspace::Dashboard>(
-        workspace::Dashboard::Ports{main, timers, clock, credentials, keys, state});
+        workspace::Dashboard::Ports{main, timers, clock, credentials, keys, state, locale, links});
     ScreenUpdates updatesOfWindow{main};
 };
 

@@ -186,7 +186,7 @@ TEST_F(HeadlineOnScreen, SaysTheAccountsStateAndItsDetails)
     EXPECT_TRUE(shows(QStringLiteral("1 Status Page · 1 active incident")));
 }
 
-TEST_F(HeadlineOnScreen, APageThatTheMenuAsksForIsSelectedAndInSight)
+TEST_F(HeadlineOnScreen, APageThatTheMenuAskedForIsTheCurrentRowInSightOnTheWayBack)
 {
     std::vector<std::string> ids;
     for (int number = 0; number < 300; ++number) ids.push_back("page-" + std::to_string(number));
@@ -195,19 +195,22 @@ TEST_F(HeadlineOnScreen, APageThatTheMenuAsksForIsSelectedAndInSight)
     settle();
     state->openStatusPage("page-250");
     settle();
+    EXPECT_TRUE(names(Role::ListItem).isEmpty());
+    press(Qt::Key_Escape);
     for (const auto& thing : things()) {
         if (thing.role != Role::ListItem) continue;
-        const bool isSelected = QAccessible::queryAccessibleInterface(thing.object)->state().selected;
-        EXPECT_EQ(isSelected, thing.name == QStringLiteral("page-250")) << thing.name.toStdString();
+        const bool isCurrent = QAccessible::queryAccessibleInterface(thing.object)->state().focused;
+        EXPECT_EQ(isCurrent, thing.name == QStringLiteral("page-250")) << thing.name.toStdString();
     }
     EXPECT_TRUE(names(Role::ListItem).contains(QStringLiteral("page-250")));
 }
 
-TEST_F(HeadlineOnScreen, ReturnOnARowSelectsItsPage)
+TEST_F(HeadlineOnScreen, ReturnOnARowOpensItsPage)
 {
     item(Role::List, QStringLiteral("Status Pages")).forceActiveFocus(Qt::TabFocusReason);
     press(Qt::Key_Return);
     EXPECT_EQ(*dashboard->selectedPageId, "a");
+    EXPECT_EQ(names(Role::PageTab), (QStringList{"Overview", "Incidents", "Monitors", "Components", "Maintenances"}));
 }
 
 TEST_F(HeadlineOnScreen, AListAtItsTopStaysThereWhenTheHeadlineTakesMoreLines)

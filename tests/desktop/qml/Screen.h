@@ -10,6 +10,7 @@
 
 #include "fakes/Account.h"
 #include "fakes/FakeLinkOpener.h"
+#include "fakes/FakeLocaleText.h"
 #include "qml/MainWindow.h"
 #include "workspace/Dashboard.h"
 
@@ -51,9 +52,10 @@ public:
     };
 
     api::APIKeyStore keys{client, credentials};
-    std::shared_ptr<workspace::Dashboard> dashboard = std::make_shared<workspace::Dashboard>(
-        workspace::Dashboard::Ports{main, timers, clock, credentials, keys, state});
     fakes::FakeLinkOpener links;
+    fakes::FakeLocaleText locale;
+    std::shared_ptr<workspace::Dashboard> dashboard = std::make_shared<workspace::Dashboard>(
+        workspace::Dashboard::Ports{main, timers, clock, credentials, keys, state, locale, links});
     workspace::AboutKestruneView about{{.shortVersion = "1.2",
                                            .buildNumber = "34",
                                            .websiteAddress = "https://site.example",

@@ -7,6 +7,8 @@
 
 #include "api/KeychainHelper.h"
 #include "fakes/Account.h"
+#include "fakes/FakeLinkOpener.h"
+#include "fakes/FakeLocaleText.h"
 
 namespace larkspan::workspace {
 
@@ -21,7 +23,9 @@ using presentation::Tone;
 class DashboardScreen : public testing::Test, public fakes::Account {
 protected:
     api::APIKeyStore keys{client, credentials};
-    Dashboard dashboard{{main, timers, clock, credentials, keys, state}};
+    fakes::FakeLocaleText locale;
+    fakes::FakeLinkOpener links;
+    Dashboard dashboard{{main, timers, clock, credentials, keys, state, locale, links}};
 };
 
 TEST_F(DashboardScreen, BeforeTheFirstCycleIsEmpty)

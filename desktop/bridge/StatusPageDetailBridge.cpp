@@ -1,0 +1,43 @@
+#include "bridge/StatusPageDetailBridge.h"
+
+#include <utility>
+
+#include "bridge/ValueList.h"
+
+namespace larkspan::bridge {
+
+using workspace::StatusPageDetailView;
+
+StatusPageDetailBridge::StatusPageDetailBridge(
+    std::shared_ptr<StatusPageDetailView> view, const ScreenUpdates& updates, QObject* parent)
+    : ScreenBridge(updates, parent)
+    , view_(std::move(view))
+{
+    for (const auto& subscription : view_->observe(observer())) keep(subscription);
+    StatusPageDetailBridge::readState();
+}
+
+QStringList StatusPageDetailBridge::tabs() const
+{
+    QStringList labels;
+    for (const auto tab : StatusPageDetailView::tabs) labels << words(workspace::rawValue(tab));
+    return labels;
+}
+
+void StatusPageDetailBridge::select(int tab)
+{
+    view_->select(StatusPageDetailView::tabs.at(static_cast<std::size_t>(tab)));
+}
+
+void StatusPageDetailBridge::readState()
+{
+    auto overview = view_->overview();
+    status_ = HeadlineValue::of(overview.status);
+    information_ = valuesOf<FactValue>(overview.information);
+    activity_.update(std::move(overview.activity));
+    quiet_ = MarkerValue::of(overview.quiet);
+    about_ = words(overview.about);
+    uptime_ = valuesOf<FactValue>(overview.uptime);
+}
+
+}  // namespace larkspan::bridge

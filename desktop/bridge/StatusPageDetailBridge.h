@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QList>
+#include <QStringList>
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+
+#include "bridge/RowListModel.h"
+#include "bridge/ScreenBridge.h"
+#include "bridge/values/ActivityRowValue.h"
+#include "bridge/values/FactValue.h"
+#include "bridge/values/HeadlineValue.h"
+#include "bridge/values/MarkerValue.h"
+#include "workspace/StatusPageDetailView.h"
+
+namespace larkspan::bridge {
+
+/// An opened page for QML: its tabs and its overview, worded and decided by `workspace::StatusPageDetailView`.
+class StatusPageDetailBridge : public ScreenBridge {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the application")
+    Q_PROPERTY(QString title READ title NOTIFY changed)
+    Q_PROPERTY(QString pickerLabel READ pickerLabel CONSTANT)
+    Q_PROPERTY(QStringList tabs READ tabs CONSTANT)
+    Q_PROPERTY(int selectedTab READ selectedTab NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::HeadlineValue status MEMBER status_ NOTIFY changed)
+    Q_PROPERTY(QList<larkspan::bridge::FactValue> information MEMBER information_ NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::ListModel* activity READ activity CONSTANT)
+    Q_PROPERTY(larkspan::bridge::MarkerValue quiet MEMBER quiet_ NOTIFY changed)
+    Q_PROPERTY(QString about MEMBER about_ NOTIFY changed)
+    Q_PROPERTY(QList<larkspan::bridge::FactValue> uptime MEMBER uptime_ NOTIFY changed)
+
+public:
+    StatusPageDetailBridge(
+        std::shared_ptr<workspace::StatusPageDetailView> view, const ScreenUpdates& updates, QObject* parent = nullptr);
+
+    QString title() const { return words(view_->page->name); }
+    QString pickerLabel() const { return words(workspace::StatusPageDetailView::pickerLabel); }
+    QStringList tabs() const;
+    int selectedTab() const { return static_cast<int>(*view_->selectedTab); }
+    ListModel* activity() { return &activity_; }
+
+    Q_INVOKABLE void select(int tab);
+    Q_INVOKABLE void selectNext() { view_->selectNext(); }
+    Q_INVOKABLE void selectPrevious() { view_->selectPrevious(); }
+    Q_INVOKABLE void openPublicURL() { view_->openPublicURL(); }
+
+private:
+    void readState() override;
+
+    std::shared_ptr<workspace::StatusPageDetailView> view_;
+    HeadlineValue status_;
+    QList<FactValue> information_;
+    RowListModel<ActivityRowValue> activity_;
+    MarkerValue quiet_;
+    QString about_;
+    QList<FactValue> uptime_;
+};
+
+}  // namespace larkspan::bridge

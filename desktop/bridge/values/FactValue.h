@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+#include "bridge/ToneNames.h"
+#include "bridge/Words.h"
+#include "presentation/Fact.h"
+
+namespace larkspan::bridge {
+
+/// `presentation::Fact` for QML; where its text leads stays below.
+struct FactValue {
+    Q_GADGET
+    QML_VALUE_TYPE(fact)
+    Q_PROPERTY(QString label MEMBER label)
+    Q_PROPERTY(QString text MEMBER text)
+    Q_PROPERTY(int tone MEMBER tone)
+    Q_PROPERTY(bool isLink MEMBER isLink)
+    Q_PROPERTY(QString caption MEMBER caption)
+
+public:
+    QString label{};
+    QString text{};
+    int tone = Tone::Secondary;
+    bool isLink = false;
+    QString caption{};
+
+    static FactValue of(const presentation::Fact& fact)
+    {
+        return {words(fact.label), words(fact.text), toneOf(fact.tone), !fact.destination.empty(), words(fact.caption)};
+    }
+
+    bool operator==(const FactValue&) const = default;
+};
+
+}  // namespace larkspan::bridge

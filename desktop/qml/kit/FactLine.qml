@@ -1,0 +1,47 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// A labelled value in one line; one that is a link leads out of the program.
+Item {
+    id: line
+    required property fact fact
+    signal followed
+
+    implicitHeight: Math.max(label.implicitHeight, value.implicitHeight)
+
+    Label {
+        id: label
+        width: Math.min(implicitWidth, line.width / 2 - Theme.unit)
+        height: parent.height
+        text: line.fact.label
+        color: Theme.secondary
+    }
+    Row {
+        id: value
+        anchors.right: parent.right
+        spacing: Theme.unit
+
+        LinkLabel {
+            visible: line.fact.isLink
+            width: Math.min(implicitWidth, line.width - label.width - 2 * Theme.unit)
+            text: line.fact.text
+            onClicked: line.followed()
+        }
+        Label {
+            visible: !line.fact.isLink
+            width: Math.min(implicitWidth, line.width - label.width - caption.width - 3 * Theme.unit)
+            text: line.fact.text
+            font.weight: line.fact.tone === Tone.Secondary ? Font.Normal : Font.Medium
+            color: Theme.toneColor(line.fact.tone)
+        }
+        Label {
+            id: caption
+            visible: text !== ""
+            height: parent.height
+            text: line.fact.caption
+            font.pointSize: Theme.caption
+            color: Theme.secondary
+        }
+    }
+}

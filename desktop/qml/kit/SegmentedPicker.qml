@@ -1,0 +1,82 @@
+import QtQuick
+import Larkspan
+
+// A choice of one among a few, side by side. The arrow keys choose the neighbour.
+Rectangle {
+    id: picker
+    required property string name
+    required property list<string> segments
+    required property int selected
+    signal chosen(int segment)
+
+    readonly property real wordsWidth: {
+        let sum = 0
+        for (let at = 0; at < repeater.count; ++at) sum += (repeater.itemAt(at) as Pressable)?.wordWidth ?? 0
+        return sum
+    }
+
+    implicitHeight: Theme.controlHeight + Theme.unit
+    radius: Theme.controlRadius + Theme.halfUnit
+    color: Theme.hover
+    activeFocusOnTab: true
+    Accessible.role: Accessible.PageTabList
+    Accessible.name: name
+    Accessible.focusable: true
+    Keys.onLeftPressed: event => choose(selected - 1, event)
+    Keys.onRightPressed: event => choose(selected + 1, event)
+    function choose(segment: int, event: KeyEvent) {
+        // With Alt it is the way back.
+        event.accepted = !(event.modifiers & Qt.AltModifier)
+        if (event.accepted && segment >= 0 && segment < segments.length) chosen(segment)
+    }
+
+    FocusRing { isShown: picker.activeFocus && InputHand.isKeyboard }
+    Row {
+        anchors.fill: parent
+        anchors.margins: Theme.halfUnit
+
+        Repeater {
+            id: repeater
+            model: picker.segments
+
+            Pressable {
+                id: segment
+                required property int index
+                required property string modelData
+                wordWidth: label.implicitWidth
+                readonly property bool isSelected: index === picker.selected
+
+                // Each has the room of its word and its share of what is left or missing.
+                width: label.implicitWidth + (picker.width - 2 * Theme.halfUnit - picker.wordsWidth) / picker.segments.length
+                height: picker.height - 2 * Theme.halfUnit
+                activeFocusOnTab: false
+                text: modelData
+                onClicked: picker.chosen(index)
+                Accessible.role: Accessible.PageTab
+                Accessible.selectable: true
+                Accessible.selected: isSelected
+
+                Rectangle {
+                    anchors.fill: parent
+                    radius: Theme.controlRadius
+                    color: segment.isSelected ? Theme.card : segment.down ? Theme.pressed : segment.hovered ? Theme.hover : "transparent"
+                    border.width: segment.isSelected ? Theme.hairline : 0
+                    border.color: Theme.line
+                }
+                Label {
+                    id: label
+                    anchors.fill: parent
+                    anchors.leftMargin: Theme.halfUnit
+                    anchors.rightMargin: Theme.halfUnit
+                    text: segment.text
+                    horizontalAlignment: Text.AlignHCenter
+                    font.pointSize: Theme.subheadline
+                    fontSizeMode: Text.HorizontalFit
+                    minimumPointSize: Theme.caption2
+                    font.weight: segment.isSelected ? Font.DemiBold : Font.Normal
+                    Accessible.ignored: true
+                }
+            }
+        }
+    }
+}

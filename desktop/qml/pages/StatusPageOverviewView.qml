@@ -1,0 +1,82 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// A page in summary. What goes on may be much, so it is the list, and the rest stands above and below it.
+CardList {
+    id: overview
+    required property StatusPageDetailBridge page
+
+    rows: page.activity
+    name: qsTr("Current Activity")
+    widest: Theme.columnWidth * Theme.scale
+
+    above: Column {
+        spacing: Theme.columnSpacing
+        bottomPadding: Theme.unit
+
+        StatusHeader {
+            width: parent.width
+            headline: overview.page.status
+        }
+        GroupBox {
+            visible: overview.page.information.length > 0
+            width: parent.width
+            title: qsTr("Status Page")
+
+            Repeater {
+                model: overview.page.information
+                FactLine {
+                    required property fact modelData
+                    width: parent.width
+                    fact: modelData
+                    onFollowed: overview.page.openPublicURL()
+                }
+            }
+        }
+        GroupBox {
+            width: parent.width
+            title: overview.name
+            hasCard: overview.count === 0
+
+            IconLabel {
+                width: parent.width
+                symbol: overview.page.quiet.symbol
+                text: overview.page.quiet.text
+                tone: overview.page.quiet.tone
+            }
+        }
+    }
+    delegate: ActivityRow {}
+    below: Column {
+        spacing: Theme.columnSpacing
+        topPadding: Theme.columnSpacing
+
+        GroupBox {
+            visible: overview.page.about !== ""
+            width: parent.width
+            title: qsTr("About This Status Page")
+
+            Label {
+                width: parent.width
+                text: overview.page.about
+                color: Theme.secondary
+                wrapMode: Text.Wrap
+            }
+        }
+        GroupBox {
+            visible: overview.page.uptime.length > 0
+            width: parent.width
+            title: qsTr("Uptime")
+
+            Repeater {
+                model: overview.page.uptime
+                FactLine {
+                    required property fact modelData
+                    width: parent.width
+                    fact: modelData
+                }
+            }
+        }
+    }
+}

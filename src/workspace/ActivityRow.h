@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+#include "model/Incident.h"
+#include "model/Maintenance.h"
+#include "presentation/Tone.h"
+
+namespace larkspan::workspace {
+
+/// An incident or a maintenance that a page has now.
+struct ActivityRow {
+    std::string id{};
+    std::string symbol{};
+    presentation::Tone tone = presentation::Tone::secondary;
+    std::string title{};
+    std::string caption{};
+
+    static ActivityRow of(const model::Incident& incident);
+    static ActivityRow of(const model::Maintenance& maintenance);
+
+    bool operator==(const ActivityRow&) const = default;
+};
+
+}  // namespace larkspan::workspace

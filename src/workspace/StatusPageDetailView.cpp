@@ -1,0 +1,58 @@
+#include "workspace/StatusPageDetailView.h"
+
+#include <utility>
+
+#include "workspace/WebAddress.h"
+
+namespace larkspan::workspace {
+
+StatusPageDetailView::StatusPageDetailView(Ports ports, model::StatusPage opened)
+    : page(*this, std::move(opened))
+    , ports_(std::move(ports))
+{
+}
+
+std::array<support::Subscription, 2> StatusPageDetailView::observe(const std::function<void()>& observer)
+{
+    return {objectWillChange(observer), ports_.appState->objectWillChange(observer)};
+}
+
+void StatusPageDetailView::select(Tab tab)
+{
+    if (tab != *selectedTab) selectedTab = tab;
+}
+
+void StatusPageDetailView::selectNext()
+{
+    select(tabs[(static_cast<std::size_t>(*selectedTab) + 1) % tabs.size()]);
+}
+
+void StatusPageDetailView::selectPrevious()
+{
+    select(tabs[(static_cast<std::size_t>(*selectedTab) + tabs.size() - 1) % tabs.size()]);
+}
+
+StatusPageOverviewView StatusPageDetailView::overview() const
+{
+    return StatusPageOverviewView::of(*page, *ports_.appState, ports_.locale, ports_.clock.now());
+}
+
+void StatusPageDetailView::openPublicURL() const
+{
+    if (page->url && isWebAddress(page->url->text())) ports_.links.open(page->url->text());
+}
+
+std::string_view rawValue(StatusPageDetailView::Tab tab)
+{
+    using Tab = StatusPageDetailView::Tab;
+    switch (tab) {
+    case Tab::overview: return "Overview";
+    case Tab::incidents: return "Incidents";
+    case Tab::monitors: return "Monitors";
+    case Tab::components: return "Components";
+    case Tab::maintenances: break;
+    }
+    return "Maintenances";
+}
+
+}  // namespace larkspan::workspace

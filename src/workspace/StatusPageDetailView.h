@@ -1,0 +1,61 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <string_view>
+
+#include "core/AppStateManager.h"
+#include "model/StatusPage.h"
+#include "platform/Clock.h"
+#include "platform/LinkOpener.h"
+#include "platform/LocaleText.h"
+#include "support/Observable.h"
+#include "workspace/StatusPageOverviewView.h"
+
+namespace larkspan::workspace {
+
+/// One status page, opened: its tabs, of which the selected one alone has a screen. Main thread only.
+class StatusPageDetailView final : public support::Observable {
+public:
+    struct Ports {
+        const platform::Clock& clock;
+        const platform::LocaleText& locale;
+        platform::LinkOpener& links;
+        std::shared_ptr<core::AppStateManager> appState;
+    };
+
+    enum class Tab { overview, incidents, monitors, components, maintenances };
+
+    static constexpr std::string_view pickerLabel = "View";
+    static constexpr std::array<Tab, 5> tabs{
+        Tab::overview, Tab::incidents, Tab::monitors, Tab::components, Tab::maintenances};
+
+    StatusPageDetailView(Ports ports, model::StatusPage opened);
+
+    /// The record as the dashboard last handed it in.
+    support::Published<model::StatusPage> page;
+    support::Published<Tab> selectedTab{*this, Tab::overview};
+
+    /// Calls `observer` before anything changes that the page shows, the account's state included.
+    [[nodiscard]] std::array<support::Subscription, 2> observe(const std::function<void()>& observer);
+
+    /// Leaves the screen of the tab that was selected, and makes that of `tab` anew; the selected tab stays as it is.
+    void select(Tab tab);
+    /// The tab beside the selected one, forwards or backwards; over the ends it goes round.
+    void selectNext();
+    void selectPrevious();
+
+    StatusPageOverviewView overview() const;
+
+    /// Opens the page as the public sees it; what is no web address is not opened.
+    void openPublicURL() const;
+
+private:
+    Ports ports_;
+};
+
+/// The label of a tab's segment.
+std::string_view rawValue(StatusPageDetailView::Tab tab);
+
+}  // namespace larkspan::workspace

@@ -1,0 +1,118 @@
+#include "workspace/StatusPageOverviewView.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <iterator>
+#include <utility>
+
+#include "core/OverallStatus.h"
+#include "presentation/RelativeDate.h"
+#include "presentation/StatusPagePresentation.h"
+#include "workspace/WebAddress.h"
+
+namespace larkspan::workspace {
+
+using presentation::Fact;
+using presentation::Headline;
+using presentation::Marker;
+using presentation::StatusPagePresentation;
+using presentation::Tone;
+
+namespace {
+
+Headline statusOf(const model::StatusPage& page)
+{
+    const auto shown = StatusPagePresentation::of(page.status);
+    return {.symbol = std::string(shown.symbol),
+        .tone = shown.tone,
+        .title = std::string(shown.label),
+        .details = "Current Status"};
+}
+
+std::vector<Fact> informationOf(const model::StatusPage& page, const platform::LocaleText& locale, support::Time now)
+{
+    std::vector<Fact> facts;
+    if (page.url) {
+        const auto host = page.url->host();
+        facts.push_back({.label = "Public URL",
+            .text = host.empty() ? page.url->text() : std::string(host),
+            .destination = isWebAddress(page.url->text()) ? page.url->text() : ""});
+    }
+    if (page.updatedAt) {
+        facts.push_back({.label = "Last Updated", .text = presentation::relativeDate(locale, *page.updatedAt, now)});
+    }
+    if (page.createdAt) facts.push_back({.label = "Created", .text = locale.dateOnly(*page.createdAt)});
+    return facts;
+}
+
+std::string percentage(double value)
+{
+    std::array<char, 400> text{};
+    const int length = std::snprintf(text.data(), text.size(), "%.2f%%", value);
+    return {text.data(), static_cast<std::size_t>(length)};
+}
+
+Fact uptimeOf(const model::StatusPageMetric& metric)
+{
+    Fact fact{.label = std::string(periodLabel(metric.period)), .text = "Unavailable"};
+    if (metric.uptime) {
+        fact.text = percentage(*metric.uptime);
+        fact.tone = *metric.uptime > 99.0 ? Tone::green : Tone::orange;
+    }
+    if (metric.incidents) {
+        fact.caption = std::to_string(*metric.incidents) + " incident" + (*metric.incidents == 1 ? "" : "s");
+    }
+    return fact;
+}
+
+template <typename Records>
+void addRows(const Records& records, std::vector<ActivityRow>& rows)
+{
+    std::ranges::transform(
+        records, std::back_inserter(rows), [](const auto& record) { return ActivityRow::of(record); });
+}
+
+}  // namespace
+
+std::string_view periodLabel(std::string_view period)
+{
+    static constexpr std::array<std::pair<std::string_view, std::string_view>, 5> labels{{{"1h", "Last Hour"},
+        {"24h", "Last 24 Hours"}, {"7d", "Last 7 Days"}, {"30d", "Last 30 Days"}, {"90d", "Last 90 Days"}}};
+    const auto found = std::ranges::find(labels, period, [](const auto& row) { return row.first; });
+    return found == labels.end() ? period : found->second;
+}
+
+std::vector<model::Incident> activeIncidents(const model::StatusPage& page, const core::AppStateManager& state)
+{
+    std::vector<model::Incident> active;
+    std::ranges::copy_if(*state.incidents, std::back_inserter(active),
+        [&page](const auto& incident) { return incident.statusPageId == page.id && core::isActive(incident); });
+    return active;
+}
+
+std::vector<model::Maintenance> activeMaintenances(const model::StatusPage& page, const core::AppStateManager& state)
+{
+    std::vector<model::Maintenance> active;
+    std::ranges::copy_if(*state.maintenances, std::back_inserter(active), [&page](const auto& maintenance) {
+        return maintenance.statusPageId == page.id && core::hasStatus(maintenance, "in_progress");
+    });
+    return active;
+}
+
+StatusPageOverviewView StatusPageOverviewView::of(const model::StatusPage& page, const core::AppStateManager& state,
+    const platform::LocaleText& locale, support::Time now)
+{
+    StatusPageOverviewView view{.status = statusOf(page),
+        .information = informationOf(page, locale, now),
+        .about = page.description.value_or("")};
+    addRows(activeIncidents(page, state), view.activity);
+    addRows(activeMaintenances(page, state), view.activity);
+    if (view.activity.empty()) {
+        view.quiet = {.symbol = "checkmark.circle", .text = "No active incidents or maintenance"};
+    }
+    if (page.metrics) std::ranges::transform(*page.metrics, std::back_inserter(view.uptime), uptimeOf);
+    return view;
+}
+
+}  // namespace larkspan::workspace

@@ -1,0 +1,159 @@
+#include <QQuickItem>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include "Screen.h"
+
+namespace larkspan {
+
+namespace {
+
+using Role = QAccessible::Role;
+
+/// A page with all that a page can have, opened from its row with the keyboard.
+class PageOnScreen : public testing::Test, public Screen {
+protected:
+    PageOnScreen()
+    {
+        transport.script(pagesURL, 200, R"([{"id": "a", "name": "Acme Cloud", "url": "https://status.acme.example/x",
+            "description": "We host <b>mail</b>.", "created_at": "2024-03-01T09:30:00Z",
+            "updated_at": "2024-03-02T09:30:00Z",
+            "metrics": [{"period": "24h", "uptime": 99.95, "incidents": 1}, {"period": "7d"}]},
+            {"id": "b", "name": "Beta"}])");
+        transport.script(overviewURL, 200, overview({{"a", "major-outage"}}));
+        serveIncidents({incident("1", "Login errors", R"(, "status_page_id": "a")")});
+        refresh();
+        settle();
+        item(Role::List, QStringLiteral("Status Pages")).forceActiveFocus(Qt::TabFocusReason);
+        press(Qt::Key_Return);
+    }
+
+    QString selectedTab() const
+    {
+        for (const auto& thing : things()) {
+            if (thing.role == Role::PageTab && QAccessible::queryAccessibleInterface(thing.object)->state().selected) {
+                return thing.name;
+            }
+        }
+        return {};
+    }
+
+    QString focused() const
+    {
+        const auto* interface = QAccessible::queryAccessibleInterface(mainWindow.window().activeFocusItem());
+        return interface ? interface->text(QAccessible::Name) : QString();
+    }
+};
+
+TEST_F(PageOnScreen, ShowsEveryBlockOfItsOverviewInItsExactWords)
+{
+    for (const auto* const text :
+        {"Acme Cloud", "Down", "Current Status", "Status Page", "Public URL", "Last Updated", "2024-03-02", "Created",
+            "2024-03-01", "Current Activity", "Login errors", "Active Incident", "About This Status Page",
+            "We host <b>mail</b>.", "Uptime", "Last 24 Hours", "99.95%", "1 incident", "Last 7 Days", "Unavailable"}) {
+        EXPECT_TRUE(shows(QString::fromUtf8(text))) << text;
+    }
+    EXPECT_EQ(names(Role::Link), QStringList{"status.acme.example"});
+    EXPECT_EQ(selectedTab(), QStringLiteral("Overview"));
+}
+
+TEST_F(PageOnScreen, ItsPublicURLOpensInTheBrowser)
+{
+    item(Role::Link, QStringLiteral("status.acme.example")).forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Return);
+    EXPECT_EQ(links.opened, std::vector<std::string>{"https://status.acme.example/x"});
+}
+
+TEST_F(PageOnScreen, OfWhichLittleIsKnownShowsNoEmptyGroups)
+{
+    press(Qt::Key_Escape);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(shows(QStringLiteral("No active incidents or maintenance")));
+    for (const auto* const text : {"Status Page", "Public URL", "About This Status Page", "Uptime"}) {
+        EXPECT_FALSE(shows(QString::fromUtf8(text))) << text;
+    }
+}
+
+TEST_F(PageOnScreen, ControlWithADigitAndWithThePageKeysChooseATab)
+{
+    press(Qt::Key_2, Qt::ControlModifier);
+    EXPECT_EQ(selectedTab(), QStringLiteral("Incidents"));
+    press(Qt::Key_5, Qt::ControlModifier);
+    EXPECT_EQ(selectedTab(), QStringLiteral("Maintenances"));
+    press(Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(selectedTab(), QStringLiteral("Overview"));
+    press(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(selectedTab(), QStringLiteral("Maintenances"));
+    press(Qt::Key_1, Qt::ControlModifier);
+    EXPECT_EQ(selectedTab(), QStringLiteral("Overview"));
+    EXPECT_TRUE(shows(QStringLiteral("Login errors")));
+}
+
+TEST_F(PageOnScreen, TheArrowsOfThePickerAndAClickChooseATab)
+{
+    item(Role::PageTabList, QStringLiteral("View")).forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Right);
+    EXPECT_EQ(selectedTab(), QStringLiteral("Incidents"));
+    press(Qt::Key_Left);
+    press(Qt::Key_Left);
+    EXPECT_EQ(selectedTab(), QStringLiteral("Overview"));
+    const auto& tab = item(Role::PageTab, QStringLiteral("Components"));
+    QTest::mouseClick(&window(), Qt::LeftButton, {}, tab.mapToScene({tab.width() / 2, tab.height() / 2}).toPoint());
+    settle();
+    EXPECT_EQ(selectedTab(), QStringLiteral("Components"));
+}
+
+TEST_F(PageOnScreen, TheKeyboardReachesBackPickerAndContentInTheirOrder)
+{
+    item(Role::Button, QStringLiteral("Back")).forceActiveFocus(Qt::TabFocusReason);
+    QStringList order;
+    for (int step = 0; step < 4; ++step) {
+        press(Qt::Key_Tab);
+        order << focused();
+    }
+    EXPECT_EQ(order, (QStringList{"View", "Login errors", "status.acme.example", "Back"}));
+}
+
+TEST_F(PageOnScreen, EscapeLeadsBackToItsRow)
+{
+    press(Qt::Key_Escape);
+    EXPECT_EQ(focused(), QStringLiteral("Acme Cloud"));
+    EXPECT_EQ(names(Role::ListItem), (QStringList{"Acme Cloud", "Beta"}));
+    EXPECT_EQ(*dashboard->openedPage, nullptr);
+}
+
+TEST_F(PageOnScreen, AskedForInTheMenuWhileAnotherIsOpenTakesItsPlace)
+{
+    press(Qt::Key_2, Qt::ControlModifier);
+    state->openStatusPage("b");
+    settle();
+    EXPECT_TRUE(names(Role::Heading).contains(QStringLiteral("Beta")));
+    EXPECT_FALSE(shows(QStringLiteral("Acme Cloud")));
+    EXPECT_EQ(selectedTab(), QStringLiteral("Overview"));
+    press(Qt::Key_Escape);
+    EXPECT_EQ(names(Role::ListItem), (QStringList{"Acme Cloud", "Beta"}));
+}
+
+TEST_F(PageOnScreen, ThatIsGoneFromTheAccountClosesAndTheListHasTheFocus)
+{
+    servePages({"b"}, {});
+    refresh();
+    settle();
+    EXPECT_EQ(names(Role::ListItem), QStringList{"b"});
+    EXPECT_EQ(focused(), QStringLiteral("b"));
+}
+
+TEST_F(PageOnScreen, FollowsTheAccountWhileItIsOpen)
+{
+    serveIncidents({});
+    refresh();
+    settle();
+    EXPECT_FALSE(shows(QStringLiteral("Login errors")));
+    EXPECT_TRUE(shows(QStringLiteral("No active incidents or maintenance")));
+}
+
+}  // namespace
+
+}  // namespace larkspan

@@ -1,0 +1,102 @@
+#include "workspace/StatusPageDetailView.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "fakes/Account.h"
+#include "fakes/FakeLinkOpener.h"
+#include "fakes/FakeLocaleText.h"
+
+namespace larkspan::workspace {
+
+namespace {
+
+using Tab = StatusPageDetailView::Tab;
+
+model::StatusPage acme()
+{
+    model::StatusPage page;
+    page.id = "a";
+    page.name = "Acme";
+    return page;
+}
+
+class OpenedPage : public testing::Test, public fakes::Account {
+protected:
+    fakes::FakeLocaleText locale;
+    fakes::FakeLinkOpener links;
+    StatusPageDetailView view{{clock, locale, links, state}, acme()};
+};
+
+TEST_F(OpenedPage, StartsWithTheOverview)
+{
+    EXPECT_EQ(*view.selectedTab, Tab::overview);
+    EXPECT_EQ(view.page->name, "Acme");
+}
+
+TEST_F(OpenedPage, HasFiveTabsInTheirOrder)
+{
+    std::vector<std::string> labels;
+    for (const auto tab : StatusPageDetailView::tabs) labels.emplace_back(rawValue(tab));
+    EXPECT_EQ(labels, (std::vector<std::string>{"Overview", "Incidents", "Monitors", "Components", "Maintenances"}));
+    EXPECT_EQ(StatusPageDetailView::pickerLabel, "View");
+}
+
+TEST_F(OpenedPage, GoesFromTabToTabAndOverTheEnds)
+{
+    view.selectPrevious();
+    EXPECT_EQ(*view.selectedTab, Tab::maintenances);
+    view.selectNext();
+    view.selectNext();
+    EXPECT_EQ(*view.selectedTab, Tab::incidents);
+    view.selectPrevious();
+    EXPECT_EQ(*view.selectedTab, Tab::overview);
+}
+
+TEST_F(OpenedPage, ChoosingTheSelectedTabChangesNothing)
+{
+    int changes = 0;
+    const auto subscription = view.objectWillChange([&changes] { ++changes; });
+    view.select(Tab::overview);
+    EXPECT_EQ(changes, 0);
+    view.select(Tab::monitors);
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(OpenedPage, RedrawsItsActivityWhenTheAccountPublishesNewLists)
+{
+    int changes = 0;
+    const auto subscriptions = view.observe([&changes] { ++changes; });
+    model::Incident incident;
+    incident.statusPageId = "a";
+    state->incidents = std::vector{incident};
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(view.overview().activity.size(), 1u);
+}
+
+TEST_F(OpenedPage, OpensItsPublicURLInTheBrowser)
+{
+    auto page = acme();
+    page.url = model::URL::parse("HTTPS://status.acme.example");
+    view.page = page;
+    view.openPublicURL();
+    EXPECT_EQ(links.opened, std::vector<std::string>{"HTTPS://status.acme.example"});
+}
+
+TEST_F(OpenedPage, OpensNothingThatIsNoWebAddress)
+{
+    view.openPublicURL();
+    for (const auto* const address : {"file:///etc/passwd", "javascript:alert(1)", "http:/x", "https", "xhttp://a"}) {
+        auto page = acme();
+        page.url = model::URL::parse(address);
+        view.page = page;
+        view.openPublicURL();
+    }
+    EXPECT_TRUE(links.opened.empty());
+}
+
+}  // namespace
+
+}  // namespace larkspan::workspace
