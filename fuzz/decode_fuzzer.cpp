@@ -4,16 +4,10 @@
 #include <cstdint>
 #include <cstdlib>
 #include <string_view>
-#include <vector>
 
 #include "model/DecodingError.h"
-#include "model/EmptyResponse.h"
-#include "model/Incident.h"
-#include "model/IncidentState.h"
 #include "model/JSONDecoder.h"
-#include "model/Maintenance.h"
-#include "model/StatusPage.h"
-#include "model/StatusPagesStatusEnvelope.h"
+#include "model/ResultRecords.h"
 #include "support/Utf8.h"
 
 namespace {
@@ -32,7 +26,7 @@ bool isOneShortLine(std::string_view sentence)
 }
 
 template <typename... Results>
-void decodeAll(const model::JSONDecoder& decoder, std::string_view body)
+void decodeAll(const model::JSONDecoder& decoder, std::string_view body, model::TypeList<Results...>)
 {
     const auto decode = [&]<typename Result>(const Result*) {
         try {
@@ -51,8 +45,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const StandingClock clock;
     const model::JSONDecoder decoder(clock);
     const std::string_view body(reinterpret_cast<const char*>(data), size);
-    decodeAll<model::EmptyResponse, model::Incident, model::IncidentStatesEnvelope, model::Maintenance,
-        model::StatusPagesStatusEnvelope, std::vector<model::Incident>, std::vector<model::Maintenance>,
-        std::vector<model::StatusPage>>(decoder, body);
+    decodeAll(decoder, body, model::Results{});
     return 0;
 }

@@ -1,10 +1,10 @@
-#include "service/IncidentsResource.h"
-
 #include <algorithm>
 
 #include "account/IncidentWorkflow.h"
 #include "service/Known.h"
 #include "service/RequestBody.h"
+#include "service/Resources.h"
+#include "service/Router.h"
 #include "service/WireRecord.h"
 
 namespace larkspan::simulator {
@@ -19,21 +19,26 @@ std::optional<std::string> stageOf(const Incident& incident, const Account& acco
 
 Json wireIncident(const Incident& incident, const Account& account)
 {
-    return WireRecord()
-        .with("id", Json(incident.id))
-        .with("title", Json(incident.title))
-        .with("message", incident.message)
-        .with("created_at", Json(wireDate(incident.createdAt)))
-        .with("updated_at", incident.updatedAt)
-        .with("ended_at", incident.endedAt)
-        .with("acknowledged_at", incident.acknowledgedAt)
-        .with("assigned_to_user_id", incident.assignedToUserId)
-        .with("component_id", incident.componentId)
-        .with("status_page_id", incident.statusPageId)
-        .with("severity_name", incident.severityName)
-        .with("incident_state_id", Json(std::to_string(incident.stateId)))
-        .with("incident_state", stageOf(incident, account))
-        .json();
+    return wireRecord({
+        {"id", incident.id},
+        {"title", incident.title},
+        {"message", incident.message},
+        {"created_at", incident.createdAt},
+        {"updated_at", incident.updatedAt},
+        {"ended_at", incident.endedAt},
+        {"acknowledged_at", incident.acknowledgedAt},
+        {"assigned_to_user_id", incident.assignedToUserId},
+        {"component_id", incident.componentId},
+        {"status_page_id", incident.statusPageId},
+        {"severity_name", incident.severityName},
+        {"incident_state_id", std::to_string(incident.stateId)},
+        {"incident_state", stageOf(incident, account)},
+    });
+}
+
+Json wireState(const IncidentState& state)
+{
+    return wireRecord({{"id", state.id}, {"stage", state.stage}, {"sort_order", state.sortOrder}});
 }
 
 Answer listIncidents(const Call& call)
@@ -43,17 +48,12 @@ Answer listIncidents(const Call& call)
     for (const auto& incident : call.account.incidents) {
         if (!page || incident.statusPageId == page) incidents.push_back(wireIncident(incident, call.account));
     }
-    return {200, Json(std::move(incidents))};
+    return ok(std::move(incidents));
 }
 
 Incident& named(const Call& call)
 {
     return known(call.account.findIncident(call.wildcards.front()));
-}
-
-Answer fetchIncident(const Call& call)
-{
-    return {200, wireIncident(named(call), call.account)};
 }
 
 Answer createIncident(const Call& call)
@@ -93,10 +93,10 @@ Answer updateIncident(const Call& call)
         incident.updatedAt = call.now;
     }
     if (state) moveTo(call.account, incident, *state, call.now);
-    return {200, wireIncident(incident, call.account)};
+    return ok(wireIncident(incident, call.account));
 }
 
-const Answer taken{200, Json::object({{"success", true}})};
+const Answer taken = ok(wireRecord({{"success", true}}));
 
 Answer acknowledgeIncident(const Call& call)
 {
@@ -118,27 +118,21 @@ Answer deleteIncident(const Call& call)
     return {204};
 }
 
-Answer listStates(const Call& call)
-{
-    Json::Array states;
-    for (const auto& state : call.account.incidentStates) {
-        states.push_back(Json::object({{"id", state.id}, {"stage", state.stage}, {"sort_order", state.sortOrder}}));
-    }
-    return {200, Json::object({{"incident_states", std::move(states)}})};
-}
-
 }  // namespace
 
 void addIncidentsRoutes(Router& router)
 {
     router.add("GET", "/user/api/v1/incidents", listIncidents);
     router.add("POST", "/user/api/v1/incidents", createIncident);
-    router.add("GET", "/user/api/v1/incidents/*", fetchIncident);
+    router.add("GET", "/user/api/v1/incidents/*",
+        [](const Call& call) { return ok(wireIncident(named(call), call.account)); });
     router.add("PATCH", "/user/api/v1/incidents/*", updateIncident);
     router.add("DELETE", "/user/api/v1/incidents/*", deleteIncident);
     router.add("POST", "/user/api/incidents/*/acknowledge", acknowledgeIncident);
     router.add("POST", "/user/api/incidents/*/escalate", escalateIncident);
-    router.add("GET", "/user/api/incident-states", listStates);
+    router.add("GET", "/user/api/incident-states", [](const Call& call) {
+        return ok(wireRecord({{"incident_states", wireList(call.account.incidentStates, wireState)}}));
+    });
 }
 
 }  // namespace larkspan::simulator

@@ -1,23 +1,13 @@
-#include "service/MaintenancesResource.h"
-
-#include <charconv>
-
 #include "account/MaintenanceCalendar.h"
 #include "service/Known.h"
 #include "service/RequestBody.h"
+#include "service/Resources.h"
+#include "service/Router.h"
 #include "service/WireRecord.h"
 
 namespace larkspan::simulator {
 
 namespace {
-
-Json wireId(const std::string& id)
-{
-    std::int64_t number = 0;
-    const auto* const end = id.data() + id.size();
-    const auto [stop, error] = std::from_chars(id.data(), end, number);
-    return error == std::errc{} && stop == end ? Json(number) : Json(id);
-}
 
 const char* wordFor(MaintenancePhase phase)
 {
@@ -31,29 +21,26 @@ const char* wordFor(MaintenancePhase phase)
 
 Json wireMaintenance(const Maintenance& maintenance, support::Time now)
 {
-    return WireRecord()
-        .with("id", wireId(maintenance.id))
-        .with("title", Json(maintenance.title))
-        .with("message", maintenance.message)
-        .with("status", Json(maintenance.status.value_or(wordFor(maintenance.phaseAt(now)))))
-        .with("start_at", maintenance.startAt)
-        .with("started_at", maintenance.startedAt)
-        .with("end_at", maintenance.endAt)
-        .with("created_at", maintenance.createdAt)
-        .with("updated_at", maintenance.updatedAt)
-        .with("affected_components", maintenance.affectedComponents)
-        .with("affected_monitor_ids", maintenance.affectedMonitorIds)
-        .with("status_page_id", maintenance.statusPageId)
-        .json();
+    return wireRecord({
+        {"id", wireId(maintenance.id)},
+        {"title", maintenance.title},
+        {"message", maintenance.message},
+        {"status", maintenance.status.value_or(wordFor(maintenance.phaseAt(now)))},
+        {"start_at", maintenance.startAt},
+        {"started_at", maintenance.startedAt},
+        {"end_at", maintenance.endAt},
+        {"created_at", maintenance.createdAt},
+        {"updated_at", maintenance.updatedAt},
+        {"affected_components", maintenance.affectedComponents},
+        {"affected_monitor_ids", maintenance.affectedMonitorIds},
+        {"status_page_id", maintenance.statusPageId},
+    });
 }
 
 Answer listMaintenances(const Call& call)
 {
-    Json::Array maintenances;
-    for (const auto& maintenance : call.account.maintenances) {
-        maintenances.push_back(wireMaintenance(maintenance, call.now));
-    }
-    return {200, Json(std::move(maintenances))};
+    return ok(wireList(call.account.maintenances,
+        [&call](const Maintenance& maintenance) { return wireMaintenance(maintenance, call.now); }));
 }
 
 Maintenance& named(const Call& call)
@@ -66,11 +53,6 @@ void refuseEndBeforeStart(const Maintenance& maintenance)
     if (maintenance.startAt && maintenance.endAt && *maintenance.endAt < *maintenance.startAt) {
         throw Refusal(422, "The end lies before the start.");
     }
-}
-
-Answer fetchMaintenance(const Call& call)
-{
-    return {200, wireMaintenance(named(call), call.now)};
 }
 
 Answer createMaintenance(const Call& call)
@@ -102,7 +84,7 @@ Answer updateMaintenance(const Call& call)
     refuseEndBeforeStart(changed);
     maintenance = std::move(changed);
     amended(call.account, maintenance, call.now);
-    return {200, wireMaintenance(maintenance, call.now)};
+    return ok(wireMaintenance(maintenance, call.now));
 }
 
 Answer deleteMaintenance(const Call& call)
@@ -117,7 +99,8 @@ void addMaintenancesRoutes(Router& router)
 {
     router.add("GET", "/user/api/v1/maintenances", listMaintenances);
     router.add("POST", "/user/api/v1/maintenances", createMaintenance);
-    router.add("GET", "/user/api/v1/maintenances/*", fetchMaintenance);
+    router.add("GET", "/user/api/v1/maintenances/*",
+        [](const Call& call) { return ok(wireMaintenance(named(call), call.now)); });
     router.add("PATCH", "/user/api/v1/maintenances/*", updateMaintenance);
     router.add("DELETE", "/user/api/v1/maintenances/*", deleteMaintenance);
 }

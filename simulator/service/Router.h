@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "account/Account.h"
@@ -28,6 +29,12 @@ struct Answer {
     std::optional<Json> result = {};
     Headers headers = {};
 };
+
+/// The answer to a request that did what it asked for.
+inline Answer ok(Json result)
+{
+    return {200, std::move(result)};
+}
 
 using Handler = std::function<Answer(const Call&)>;
 

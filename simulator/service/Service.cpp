@@ -4,10 +4,8 @@
 
 #include "account/MaintenanceCalendar.h"
 #include "service/Authentication.h"
-#include "service/IncidentsResource.h"
-#include "service/MaintenancesResource.h"
 #include "service/RequestBody.h"
-#include "service/StatusPagesResource.h"
+#include "service/Resources.h"
 
 namespace larkspan::simulator {
 
@@ -15,9 +13,7 @@ Service::Service(Account account, const platform::Clock& clock)
     : clock_(clock)
     , account_(std::move(account))
 {
-    addStatusPagesRoutes(router_);
-    addIncidentsRoutes(router_);
-    addMaintenancesRoutes(router_);
+    for (const auto addRoutes : addRoutesOfEachResource) addRoutes(router_);
 }
 
 Reply Service::answer(const Request& request)

@@ -1,64 +1,56 @@
-#include "service/StatusPagesResource.h"
-
-#include "json/WireDate.h"
+#include "service/Resources.h"
+#include "service/Router.h"
+#include "service/WireRecord.h"
 
 namespace larkspan::simulator {
 
 namespace {
 
-Json wireMetrics(const std::vector<PageMetric>& metrics)
+Json wireMetric(const PageMetric& metric)
 {
-    Json::Array list;
-    for (const auto& metric : metrics) {
-        Json::Object object{{"period", metric.period}};
-        if (metric.uptime) object.emplace_back("uptime", *metric.uptime);
-        if (metric.incidents) object.emplace_back("incidents", *metric.incidents);
-        list.emplace_back(std::move(object));
-    }
-    return list;
+    return wireRecord({{"period", metric.period}, {"uptime", metric.uptime}, {"incidents", metric.incidents}});
+}
+
+std::optional<Json> wireMetrics(const std::optional<std::vector<PageMetric>>& metrics)
+{
+    if (!metrics) return std::nullopt;
+    return wireList(*metrics, wireMetric);
 }
 
 Json wirePage(const StatusPage& page)
 {
-    Json::Object object{{"id", page.id}, {"name", page.name}};
-    const auto add = [&object](const char* key, const std::optional<std::string>& text) {
-        if (text) object.emplace_back(key, *text);
-    };
-    add("slug", page.slug);
-    add("url", page.url);
-    add("description", page.description);
-    add("status", page.status);
-    if (page.createdAt) object.emplace_back("created_at", wireDate(*page.createdAt));
-    if (page.updatedAt) object.emplace_back("updated_at", wireDate(*page.updatedAt));
-    if (page.metrics) object.emplace_back("metrics", wireMetrics(*page.metrics));
-    return object;
+    return wireRecord({
+        {"id", page.id},
+        {"name", page.name},
+        {"slug", page.slug},
+        {"url", page.url},
+        {"description", page.description},
+        {"status", page.status},
+        {"created_at", page.createdAt},
+        {"updated_at", page.updatedAt},
+        {"metrics", wireMetrics(page.metrics)},
+    });
 }
 
-Answer listPages(const Call& call)
-{
-    Json::Array pages;
-    pages.reserve(call.account.statusPages.size());
-    for (const auto& page : call.account.statusPages) pages.push_back(wirePage(page));
-    return {200, Json(std::move(pages))};
-}
-
-Answer overview(const Call& call)
+Json wireOverview(const std::vector<StatusPage>& pages)
 {
     Json::Array entries;
-    for (const auto& page : call.account.statusPages) {
+    for (const auto& page : pages) {
         if (!page.overview) continue;
-        auto status = Json::object({{"code", page.overview->code}, {"label", page.overview->label}});
-        entries.push_back(Json::object({{"id", page.id}, {"name", page.name}, {"status", std::move(status)}}));
+        auto status = wireRecord({{"code", page.overview->code}, {"label", page.overview->label}});
+        entries.push_back(wireRecord({{"id", page.id}, {"name", page.name}, {"status", std::move(status)}}));
     }
-    return {200, Json::object({{"status_pages", std::move(entries)}})};
+    return wireRecord({{"status_pages", std::move(entries)}});
 }
 
 }  // namespace
 
 void addStatusPagesRoutes(Router& router)
 {
-    router.add("GET", "/user/api/v1/status-pages", listPages);
-    router.add("GET", "/user/api/status-pages/status", overview);
+    router.add("GET", "/user/api/v1/status-pages",
+        [](const Call& call) { return ok(wireList(call.account.statusPages, wirePage)); });
+    router.add("GET", "/user/api/status-pages/status",
+        [](const Call& call) { return ok(wireOverview(call.account.statusPages)); });
 }
 
 }  // namespace larkspan::simulator

@@ -1,37 +1,60 @@
 #pragma once
 
+#include <concepts>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "json/Json.h"
 #include "json/WireDate.h"
 
 namespace larkspan::simulator {
 
-/// A record on its way onto the wire; what is absent is left out.
-class WireRecord {
+/// What a record has under one key; nothing where it is absent.
+class WireValue {
 public:
-    WireRecord& with(const char* key, Json value)
-    {
-        members_.emplace_back(key, std::move(value));
-        return *this;
-    }
+    template <typename Value>
+        requires std::constructible_from<Json, Value> WireValue(Value value)
+            : json_(Json(std::move(value)))
+        {
+        }
 
-    WireRecord& with(const char* key, const std::optional<std::string>& text)
-    {
-        return text ? with(key, Json(*text)) : *this;
-    }
+        WireValue(support::Time time)
+            : json_(wireDate(time))
+        {
+        }
 
-    WireRecord& with(const char* key, const std::optional<support::Time>& time)
-    {
-        return time ? with(key, Json(wireDate(*time))) : *this;
-    }
+        template <typename Value>
+        WireValue(const std::optional<Value>& value)
+            : json_(value ? WireValue(*value).json_ : std::nullopt)
+        {
+        }
 
-    Json json() { return std::move(members_); }
+        const std::optional<Json>& json() const
+        {
+            return json_;
+        }
 
-private:
-    Json::Object members_;
+    private:
+        std::optional<Json> json_;
 };
+
+/// A record on the wire, key by key; what is absent is left out.
+Json wireRecord(std::initializer_list<std::pair<const char*, WireValue>> fields);
+
+/// An id as the service sends it: as a number where it is one.
+Json wireId(const std::string& id);
+
+/// What `wire` makes of each of the records.
+template <typename Record, typename Wire>
+Json wireList(const std::vector<Record>& records, Wire wire)
+{
+    Json::Array list;
+    list.reserve(records.size());
+    for (const auto& record : records) list.push_back(wire(record));
+    return list;
+}
 
 }  // namespace larkspan::simulator

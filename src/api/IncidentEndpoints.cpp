@@ -1,10 +1,13 @@
+#include "api/IncidentEndpoints.h"
+
 #include <algorithm>
 #include <utility>
 
 #include "api/APIError.h"
-#include "api/KestruneAPI.h"
-#include "api/RecordSending.h"
+#include "api/RequestSending.h"
 #include "api/RequestURL.h"
+#include "model/Incident.h"
+#include "model/IncidentRequests.h"
 #include "support/IgnoringCase.h"
 
 namespace larkspan::api {
@@ -13,86 +16,80 @@ using model::AppendIncidentUpdateRequest;
 using model::Incident;
 using model::IncidentState;
 using support::Task;
+using Base = RequestEngine::Base;
 
-namespace {
-
-std::string incidentPath(const std::string& id)
+IncidentEndpoints::IncidentEndpoints(RequestEngine& engine)
+    : engine_(engine)
 {
-    return "/incidents/" + id;
 }
 
-}  // namespace
-
-Task<std::vector<Incident>> KestruneAPI::fetchIncidents(std::optional<std::string> statusPageId, std::stop_token stop)
+Task<std::vector<Incident>> IncidentEndpoints::fetchIncidents(
+    std::optional<std::string> statusPageId, std::stop_token stop)
 {
     const bool ofOnePage = statusPageId && !statusPageId->empty();
-    Call call{.path = ofOnePage ? "incidents?status_page_id=" + queryEscaped(*statusPageId) : "/incidents"};
-    return sendRequest<std::vector<Incident>>(std::move(call), std::move(stop));
+    RequestEngine::Call call{
+        .path = ofOnePage ? "incidents?status_page_id=" + queryEscaped(*statusPageId) : "/incidents"};
+    return engine_.sendRequest<std::vector<Incident>>(std::move(call), std::move(stop));
 }
 
-Task<Incident> KestruneAPI::fetchIncident(std::string id)
+Task<Incident> IncidentEndpoints::fetchIncident(std::string id)
 {
-    return sendRequest<Incident>({.path = incidentPath(id)});
+    return engine_.sendRequest<Incident>({.path = "/incidents/" + id});
 }
 
-Task<Incident> KestruneAPI::createIncident(model::CreateIncidentRequest request)
+Task<Incident> IncidentEndpoints::createIncident(model::CreateIncidentRequest request)
 {
-    Call call{.method = "POST", .path = "/incidents"};
-    return support::on(ports_.executor, sendRecord<Incident>(std::move(call), std::move(request)));
+    return engine_.sendRecord<Incident>({.method = "POST", .path = "/incidents"}, std::move(request));
 }
 
-Task<Incident> KestruneAPI::updateIncident(std::string id, std::string message)
+Task<Incident> IncidentEndpoints::updateIncident(std::string id, std::string message)
 {
     return appendIncidentUpdate(std::move(id), std::move(message), std::nullopt);
 }
 
-Task<Incident> KestruneAPI::appendIncidentUpdate(
+Task<Incident> IncidentEndpoints::appendIncidentUpdate(
     std::string id, std::optional<std::string> message, std::optional<std::string> incidentStateId)
 {
-    Call call{.method = "PATCH", .path = incidentPath(id)};
     AppendIncidentUpdateRequest body{.message = std::move(message), .incidentStateId = std::move(incidentStateId)};
-    return support::on(ports_.executor, sendRecord<Incident>(std::move(call), std::move(body)));
+    return engine_.sendRecord<Incident>({.method = "PATCH", .path = "/incidents/" + id}, std::move(body));
 }
 
-Task<void> KestruneAPI::acknowledgeIncident(std::string id)
+Task<void> IncidentEndpoints::acknowledgeIncident(std::string id)
 {
-    Call call{.base = Base::feature, .method = "POST", .path = incidentPath(id) + "/acknowledge"};
-    return support::on(ports_.executor, sendForNothing(std::move(call)));
+    return engine_.sendForNothing({Base::feature, "POST", "/incidents/" + id + "/acknowledge"});
 }
 
-Task<void> KestruneAPI::escalateIncident(std::string id)
+Task<void> IncidentEndpoints::escalateIncident(std::string id)
 {
-    Call call{.base = Base::feature, .method = "POST", .path = incidentPath(id) + "/escalate"};
-    return support::on(ports_.executor, sendForNothing(std::move(call)));
+    return engine_.sendForNothing({Base::feature, "POST", "/incidents/" + id + "/escalate"});
 }
 
-Task<void> KestruneAPI::deleteIncident(std::string id)
+Task<void> IncidentEndpoints::deleteIncident(std::string id)
 {
-    Call call{.method = "DELETE", .path = incidentPath(id)};
-    return support::on(ports_.executor, sendForNothing(std::move(call)));
+    return engine_.sendForNothing({.method = "DELETE", .path = "/incidents/" + id});
 }
 
-Task<std::vector<IncidentState>> KestruneAPI::fetchIncidentStates()
+Task<std::vector<IncidentState>> IncidentEndpoints::fetchIncidentStates()
 {
-    return support::on(ports_.executor, incidentStates());
+    return support::on(engine_.executor(), incidentStates());
 }
 
-Task<std::vector<IncidentState>> KestruneAPI::incidentStates()
+Task<std::vector<IncidentState>> IncidentEndpoints::incidentStates()
 {
     if (cachedIncidentStates_) co_return *cachedIncidentStates_;
-    Call call{.base = Base::feature, .path = "incident-states"};
-    auto sending = sendRequest<model::IncidentStatesEnvelope>(std::move(call));
+    RequestEngine::Call call{.base = Base::feature, .path = "incident-states"};
+    auto sending = engine_.sendRequest<model::IncidentStatesEnvelope>(std::move(call));
     auto envelope = co_await std::move(sending);
     cachedIncidentStates_ = std::move(envelope.incidentStates);
     co_return *cachedIncidentStates_;
 }
 
-Task<Incident> KestruneAPI::resolveIncident(std::string id)
+Task<Incident> IncidentEndpoints::resolveIncident(std::string id)
 {
-    return support::on(ports_.executor, resolve(std::move(id)));
+    return support::on(engine_.executor(), resolve(std::move(id)));
 }
 
-Task<Incident> KestruneAPI::resolve(std::string id)
+Task<Incident> IncidentEndpoints::resolve(std::string id)
 {
     // Which state means the end is the account's own choice, so its number is asked for and never assumed.
     auto fetching = incidentStates();

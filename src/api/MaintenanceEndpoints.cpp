@@ -1,7 +1,9 @@
+#include "api/MaintenanceEndpoints.h"
+
 #include <utility>
 
-#include "api/KestruneAPI.h"
-#include "api/RecordSending.h"
+#include "api/RequestSending.h"
+#include "model/Maintenance.h"
 #include "model/MaintenanceRequests.h"
 
 namespace larkspan::api {
@@ -9,28 +11,23 @@ namespace larkspan::api {
 using model::Maintenance;
 using support::Task;
 
-namespace {
-
-std::string maintenancePath(const std::string& id)
+MaintenanceEndpoints::MaintenanceEndpoints(RequestEngine& engine)
+    : engine_(engine)
 {
-    return "/maintenances/" + id;
 }
 
-}  // namespace
-
-Task<std::vector<Maintenance>> KestruneAPI::fetchMaintenances(std::stop_token stop)
+Task<std::vector<Maintenance>> MaintenanceEndpoints::fetchMaintenances(std::stop_token stop)
 {
-    return sendRequest<std::vector<Maintenance>>({.path = "/maintenances"}, std::move(stop));
+    return engine_.sendRequest<std::vector<Maintenance>>({.path = "/maintenances"}, std::move(stop));
 }
 
-Task<Maintenance> KestruneAPI::fetchMaintenance(std::string id)
+Task<Maintenance> MaintenanceEndpoints::fetchMaintenance(std::string id)
 {
-    return sendRequest<Maintenance>({.path = maintenancePath(id)});
+    return engine_.sendRequest<Maintenance>({.path = "/maintenances/" + id});
 }
 
-Task<Maintenance> KestruneAPI::createMaintenance(NewMaintenance arguments)
+Task<Maintenance> MaintenanceEndpoints::createMaintenance(NewMaintenance arguments)
 {
-    Call call{.method = "POST", .path = "/maintenances"};
     model::CreateMaintenanceRequest body{
         .title = std::move(arguments.title),
         .message = std::move(arguments.message),
@@ -40,12 +37,11 @@ Task<Maintenance> KestruneAPI::createMaintenance(NewMaintenance arguments)
         .affectedComponents = model::joinedIds(arguments.componentIds),
         .affectedMonitorIds = model::joinedIds(arguments.monitorIds),
     };
-    return support::on(ports_.executor, sendRecord<Maintenance>(std::move(call), std::move(body)));
+    return engine_.sendRecord<Maintenance>({.method = "POST", .path = "/maintenances"}, std::move(body));
 }
 
-Task<Maintenance> KestruneAPI::updateMaintenance(std::string id, MaintenanceChanges arguments)
+Task<Maintenance> MaintenanceEndpoints::updateMaintenance(std::string id, MaintenanceChanges arguments)
 {
-    Call call{.method = "PATCH", .path = maintenancePath(id)};
     model::UpdateMaintenanceRequest body{
         .title = std::move(arguments.title),
         .message = std::move(arguments.message),
@@ -54,13 +50,12 @@ Task<Maintenance> KestruneAPI::updateMaintenance(std::string id, MaintenanceChan
         .affectedComponents = model::joinedIds(arguments.componentIds),
         .affectedMonitorIds = model::joinedIds(arguments.monitorIds),
     };
-    return support::on(ports_.executor, sendRecord<Maintenance>(std::move(call), std::move(body)));
+    return engine_.sendRecord<Maintenance>({.method = "PATCH", .path = "/maintenances/" + id}, std::move(body));
 }
 
-Task<void> KestruneAPI::deleteMaintenance(std::string id)
+Task<void> MaintenanceEndpoints::deleteMaintenance(std::string id)
 {
-    Call call{.method = "DELETE", .path = maintenancePath(id)};
-    return support::on(ports_.executor, sendForNothing(std::move(call)));
+    return engine_.sendForNothing({.method = "DELETE", .path = "/maintenances/" + id});
 }
 
 }  // namespace larkspan::api

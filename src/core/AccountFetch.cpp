@@ -7,6 +7,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "api/KestruneAPI.h"
 #include "support/Child.h"
 #include "support/FatalError.h"
 

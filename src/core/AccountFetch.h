@@ -2,13 +2,18 @@
 
 #include <vector>
 
-#include "api/KestruneAPI.h"
 #include "model/Incident.h"
 #include "model/Maintenance.h"
 #include "model/StatusPage.h"
 #include "model/StatusPagesStatusEnvelope.h"
 #include "platform/Executor.h"
 #include "support/Task.h"
+
+namespace larkspan::api {
+
+class KestruneAPI;
+
+}  // namespace larkspan::api
 
 namespace larkspan::core {
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "api/APIKey.h"
+#include "api/KestruneAPI.h"
 #include "support/Trimming.h"
 
 namespace larkspan::core {

@@ -8,7 +8,6 @@
 #include <string>
 #include <vector>
 
-#include "api/KestruneAPI.h"
 #include "core/APIKeyVerification.h"
 #include "core/AccountFetch.h"
 #include "core/ChangeNotifications.h"
@@ -29,6 +28,12 @@
 #include "support/Observable.h"
 #include "support/Task.h"
 #include "support/Time.h"
+
+namespace larkspan::api {
+
+class KestruneAPI;
+
+}  // namespace larkspan::api
 
 namespace larkspan::core {
 

@@ -1,20 +1,13 @@
 #pragma once
 
-#include "model/KeyTable.h"
+#include "model/WireField.h"
 
 namespace larkspan::model {
 
 /// The envelope that most results arrive in.
 template <typename Payload>
 struct DataResponse {
-    Payload data{};
-};
-
-template <typename Payload>
-struct KeyTable<DataResponse<Payload>> {
-    static constexpr auto rows = std::tuple{
-        required("data", &DataResponse<Payload>::data),
-    };
+    WIRE_FIELD(Payload, data);
 };
 
 }  // namespace larkspan::model

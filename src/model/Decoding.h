@@ -13,13 +13,14 @@
 
 #include "model/ISO8601.h"
 #include "model/JSONValue.h"
-#include "model/KeyTable.h"
 #include "model/RawTexts.h"
 #include "model/URL.h"
+#include "model/WireTable.h"
 
 namespace larkspan::model {
 
-/// `value` as a `T`: a text, a number, a date, a URL, a word of an enumeration, a list, or a record with a `KeyTable`.
+/// `value` as a `T`: a text (a view of one lives as long as the body), a number, a date, a URL, a word of an
+/// enumeration, a list, or a record of wire fields.
 template <typename T>
 T decode(const JSONValue& value);
 
@@ -62,31 +63,31 @@ private:
 };
 
 template <typename Record, typename Field>
-void read(const Required<Record, Field>& row, Record& record, const KeyedValue& value)
+void read(const RequiredRow<Record, Field>& row, Record& record, const KeyedValue& value)
 {
     record.*row.field = value.required<Field>();
 }
 
 template <typename Record, typename Field>
-void read(const Optional<Record, Field>& row, Record& record, const KeyedValue& value)
+void read(const OptionalRow<Record, Field>& row, Record& record, const KeyedValue& value)
 {
     record.*row.field = value.optional<Field>();
 }
 
-template <typename Record, typename Field, typename Default>
-void read(const Defaulted<Record, Field, Default>& row, Record& record, const KeyedValue& value)
+template <typename Record, typename Field, typename Value>
+void read(const DefaultedRow<Record, Field, Value>& row, Record& record, const KeyedValue& value)
 {
     record.*row.field = value.optional<Field>().value_or(row.otherwise);
 }
 
 template <typename Record>
-void read(const Identifier<Record>& row, Record& record, const KeyedValue& value)
+void read(const IdentifierRow<Record>& row, Record& record, const KeyedValue& value)
 {
     record.*row.field = value.required<IdentifierText>().text;
 }
 
 template <typename Record>
-void read(const Derived<Record>& row, Record& record, const KeyedValue& value)
+void read(const DerivedRow<Record>& row, Record& record, const KeyedValue& value)
 {
     row.derive(record, value);
 }
@@ -106,7 +107,7 @@ Record decodeRecord(const JSONValue& value)
             (read(rows, record, KeyedValue(value, rows.key, members[at++])), ...);
             return record;
         },
-        KeyTable<Record>::rows);
+        wireRows<Record>);
 }
 
 template <typename Element>
@@ -160,6 +161,8 @@ T decode(const JSONValue& value)
 {
     if constexpr (std::same_as<T, std::string>)
         return std::string(value.text());
+    else if constexpr (std::same_as<T, std::string_view>)
+        return value.text();
     else if constexpr (std::same_as<T, std::int64_t>)
         return value.integer();
     else if constexpr (std::same_as<T, double>)

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <tuple>
 
-#include "model/KeyTable.h"
+#include "model/WireTable.h"
 #include "support/Time.h"
 
 namespace larkspan::model {
@@ -27,23 +27,29 @@ private:
 };
 
 template <typename Record, typename Field>
-void write(const Required<Record, Field>& row, const Record& record, JSONObjectWriter& writer)
+void write(const RequiredRow<Record, Field>& row, const Record& record, JSONObjectWriter& writer)
 {
     writer.write(row.key, record.*row.field);
 }
 
 template <typename Record, typename Field>
-void write(const Optional<Record, Field>& row, const Record& record, JSONObjectWriter& writer)
+void write(const OptionalRow<Record, Field>& row, const Record& record, JSONObjectWriter& writer)
 {
     if (const auto& value = record.*row.field) writer.write(row.key, *value);
 }
 
-/// `record` as a JSON object, by its `KeyTable`.
+template <typename Record, typename Field, typename Value>
+void write(const DefaultedRow<Record, Field, Value>& row, const Record& record, JSONObjectWriter& writer)
+{
+    writer.write(row.key, record.*row.field);
+}
+
+/// `record` as a JSON object, by its wire fields.
 template <typename Record>
 std::string encodeRecord(const Record& record)
 {
     JSONObjectWriter writer;
-    std::apply([&](const auto&... rows) { (write(rows, record, writer), ...); }, KeyTable<Record>::rows);
+    std::apply([&](const auto&... rows) { (write(rows, record, writer), ...); }, wireRows<Record>);
     return std::move(writer).finish();
 }
 

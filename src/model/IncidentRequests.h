@@ -3,25 +3,27 @@
 #include <optional>
 #include <string>
 
+#include "model/WireField.h"
+
 namespace larkspan::model {
 
 struct CreateIncidentRequest {
-    std::string title{};
-    std::optional<std::string> message{};
-    std::optional<std::string> statusPageId{};
-    std::optional<std::string> componentId{};
-    std::optional<std::string> monitorId{};
-    bool notifySubscribers = false;
+    WIRE_FIELD(std::string, title);
+    WIRE_FIELD(std::optional<std::string>, message);
+    WIRE_FIELD(std::optional<std::string>, statusPageId);
+    WIRE_FIELD(std::optional<std::string>, componentId);
+    WIRE_FIELD(std::optional<std::string>, monitorId);
+    WIRE_FIELD(bool, notifySubscribers);
 
     bool operator==(const CreateIncidentRequest&) const = default;
 };
 
 /// Adds to an incident's timeline and, with a state, moves the incident there.
 struct AppendIncidentUpdateRequest {
-    std::optional<std::string> message{};
+    WIRE_FIELD(std::optional<std::string>, message);
     /// The decimal text of `IncidentState::id`.
-    std::optional<std::string> incidentStateId{};
-    bool appendUpdate = true;
+    WIRE_FIELD(std::optional<std::string>, incidentStateId);
+    WIRE_FIELD(bool, appendUpdate, otherwise(true));
 
     bool operator==(const AppendIncidentUpdateRequest&) const = default;
 };

@@ -4,20 +4,22 @@
 #include <string>
 #include <vector>
 
+#include "model/WireField.h"
+
 namespace larkspan::model {
 
 /// One stage of the account's incident workflow.
 struct IncidentState {
-    std::int64_t id = 0;
-    std::string stage{};
-    std::int64_t sortOrder = 0;
+    WIRE_FIELD(std::int64_t, id);
+    WIRE_FIELD(std::string, stage);
+    WIRE_FIELD(std::int64_t, sortOrder);
 
     bool operator==(const IncidentState&) const = default;
 };
 
 /// The account's incident workflow.
 struct IncidentStatesEnvelope {
-    std::vector<IncidentState> incidentStates{};
+    WIRE_FIELD(std::vector<IncidentState>, incidentStates);
 
     bool operator==(const IncidentStatesEnvelope&) const = default;
 };

@@ -2,9 +2,18 @@
 
 #include <string_view>
 
+#include "model/Results.h"
 #include "platform/Clock.h"
 
 namespace larkspan::model {
+
+namespace detail {
+
+/// Compiled for each of `Results`.
+template <typename Result>
+Result decodeResult(std::string_view body, support::Time now);
+
+}  // namespace detail
 
 /// Reads the service's answers. Safe to share between threads; `clock` must outlive it.
 ///
@@ -16,10 +25,14 @@ public:
     explicit JSONDecoder(const platform::Clock& clock);
 
     /// The result in `body`: under the key `data` of an object, else the body as a whole, else, where a list is wanted
-    /// and `data` is null, an empty list. Throws the `DecodingError` of the first of these attempts. Instantiated for
-    /// every type of result that the service gives.
-    template <typename T>
-    T decodeResult(std::string_view body) const;
+    /// and `data` is null, an empty list. Throws the `DecodingError` of the first of these attempts.
+    template <typename Result>
+    Result decodeResult(std::string_view body) const
+    {
+        static_assert(
+            Results::holds<Result>, "a result is named in model/Results.h, from where decoder and fuzzer know it");
+        return detail::decodeResult<Result>(body, clock_.now());
+    }
 
 private:
     const platform::Clock& clock_;

@@ -4,29 +4,30 @@
 #include <string>
 #include <vector>
 
+#include "model/WireField.h"
 #include "support/Time.h"
 
 namespace larkspan::model {
 
 struct CreateMaintenanceRequest {
-    std::string title{};
-    std::optional<std::string> message{};
-    std::string statusPageId{};
-    support::Time startAt{};
-    support::Time endAt{};
-    std::optional<std::string> affectedComponents{};
-    std::optional<std::string> affectedMonitorIds{};
+    WIRE_FIELD(std::string, title);
+    WIRE_FIELD(std::optional<std::string>, message);
+    WIRE_FIELD(std::string, statusPageId);
+    WIRE_FIELD(support::Time, startAt);
+    WIRE_FIELD(support::Time, endAt);
+    WIRE_FIELD(std::optional<std::string>, affectedComponents);
+    WIRE_FIELD(std::optional<std::string>, affectedMonitorIds);
 
     bool operator==(const CreateMaintenanceRequest&) const = default;
 };
 
 struct UpdateMaintenanceRequest {
-    std::optional<std::string> title{};
-    std::optional<std::string> message{};
-    std::optional<support::Time> startAt{};
-    std::optional<support::Time> endAt{};
-    std::optional<std::string> affectedComponents{};
-    std::optional<std::string> affectedMonitorIds{};
+    WIRE_FIELD(std::optional<std::string>, title);
+    WIRE_FIELD(std::optional<std::string>, message);
+    WIRE_FIELD(std::optional<support::Time>, startAt);
+    WIRE_FIELD(std::optional<support::Time>, endAt);
+    WIRE_FIELD(std::optional<std::string>, affectedComponents);
+    WIRE_FIELD(std::optional<std::string>, affectedMonitorIds);
 
     bool operator==(const UpdateMaintenanceRequest&) const = default;
 };

@@ -7,30 +7,31 @@
 
 #include "model/StatusPageStatus.h"
 #include "model/URL.h"
+#include "model/WireField.h"
 #include "support/Time.h"
 
 namespace larkspan::model {
 
 /// One period's figures of a page.
 struct StatusPageMetric {
-    std::string period{};
-    std::optional<double> uptime{};
-    std::optional<std::int64_t> incidents{};
+    WIRE_FIELD(std::string, period);
+    WIRE_FIELD(std::optional<double>, uptime);
+    WIRE_FIELD(std::optional<std::int64_t>, incidents);
 
     bool operator==(const StatusPageMetric&) const = default;
 };
 
 /// One status page of the account.
 struct StatusPage {
-    std::string id{};
-    std::string name{};
-    std::optional<std::string> slug{};
-    std::optional<URL> url{};
-    std::optional<std::string> description{};
-    StatusPageStatus status = StatusPageStatus::unknown;
-    std::optional<support::Time> createdAt{};
-    std::optional<support::Time> updatedAt{};
-    std::optional<std::vector<StatusPageMetric>> metrics{};
+    WIRE_FIELD(std::string, id);
+    WIRE_FIELD(std::string, name);
+    WIRE_FIELD(std::optional<std::string>, slug);
+    WIRE_FIELD(std::optional<URL>, url);
+    WIRE_FIELD(std::optional<std::string>, description);
+    WIRE_FIELD(StatusPageStatus, status, otherwise(StatusPageStatus::unknown));
+    WIRE_FIELD(std::optional<support::Time>, createdAt);
+    WIRE_FIELD(std::optional<support::Time>, updatedAt);
+    WIRE_FIELD(std::optional<std::vector<StatusPageMetric>>, metrics);
 
     bool operator==(const StatusPage&) const = default;
 };

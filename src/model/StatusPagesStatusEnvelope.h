@@ -3,28 +3,30 @@
 #include <string>
 #include <vector>
 
+#include "model/WireField.h"
+
 namespace larkspan::model {
 
 /// A page's status as the status overview reports it; its codes are not the words of `StatusPageStatus`.
 struct OverallStatusDTO {
-    std::string code{};
-    std::string label{};
+    WIRE_FIELD(std::string, code);
+    WIRE_FIELD(std::string, label);
 
     bool operator==(const OverallStatusDTO&) const = default;
 };
 
 /// One row of the status overview.
 struct PageStatusEntry {
-    std::string id{};
-    std::string name{};
-    OverallStatusDTO status{};
+    WIRE_FIELD(std::string, id);
+    WIRE_FIELD(std::string, name);
+    WIRE_FIELD(OverallStatusDTO, status);
 
     bool operator==(const PageStatusEntry&) const = default;
 };
 
 /// The status overview.
 struct StatusPagesStatusEnvelope {
-    std::vector<PageStatusEntry> statusPages{};
+    WIRE_FIELD(std::vector<PageStatusEntry>, statusPages);
 
     bool operator==(const StatusPagesStatusEnvelope&) const = default;
 };

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Rules of the house that a reader of the text can check: layers, colours, plain text, coroutines, words, sizes.
+"""Rules of the house that a reader of the text can check: layers, colours, plain text, coroutines, sizes.
 
 usage: source_rules.py FILE...    prints path:line: sentence for each breach, and ends with 1 if there is one
 """
@@ -123,12 +123,6 @@ def files_stay_readable(path: str, text: str) -> Iterator[Breach]:
         yield Breach(1, "a file is named after what it is, not utils, helpers or common")
 
 
-def words_are_the_projects_own(path: str, text: str) -> Iterator[Breach]:
-    foreign = re.compile(r"\bParts? \d+\.\d+|\bspec\.m[d]\b|\bdesign\.m[d]\b|/wor[k]/|/tmp/larkspa[n]/|\bTOD[O]\b|\bFIXM[E]\b")
-    for match in foreign.finditer(text):
-        yield Breach(line_of(text, match.start()), f'"{match[0]}" has no place in the tree')
-
-
 CPP = r"\.(h|cpp)$"
 RULES: list[tuple[str, Check]] = [
     (r"^src/.*" + CPP, src_stands_on_nothing_of_a_desktop),
@@ -142,7 +136,6 @@ RULES: list[tuple[str, Check]] = [
     (r"^desktop/.*\.qml$", controls_are_the_kits),
     (r"^desktop/qml/kit/.*\.qml$", the_kit_shows_plain_text),
     (r"\.(h|cpp|qml|py)$", files_stay_readable),
-    (r"", words_are_the_projects_own),
 ]
 
 

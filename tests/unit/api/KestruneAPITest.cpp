@@ -7,9 +7,13 @@
 #include <vector>
 
 #include "api/APIError.h"
+#include "api/KeychainHelper.h"
+#include "api/RequestSending.h"
 #include "fakes/Service.h"
 #include "model/DecodingError.h"
 #include "model/EmptyResponse.h"
+#include "model/StatusPage.h"
+#include "model/StatusPagesStatusEnvelope.h"
 
 namespace larkspan::api {
 

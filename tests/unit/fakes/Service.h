@@ -1,12 +1,11 @@
 #pragma once
 
 #include <exception>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <utility>
 
-#include "api/KestruneAPI.h"
-#include "api/KeychainHelper.h"
 #include "fakes/FakeCredentialStore.h"
 #include "fakes/FakeTransport.h"
 #include "fakes/ManualClock.h"
@@ -14,6 +13,12 @@
 #include "support/LocalizedError.h"
 #include "support/Outcome.h"
 #include "support/Task.h"
+
+namespace larkspan::api {
+
+class KestruneAPI;
+
+}  // namespace larkspan::api
 
 namespace larkspan::fakes {
 
@@ -25,7 +30,10 @@ struct Service {
     static constexpr auto maintenancesURL = "https://service.example/user/api/v1/maintenances";
     static constexpr auto overviewURL = "https://service.example/user/api/status-pages/status";
 
-    Service() { api::KeychainHelper::saveAPIKey(credentials, "k-123"); }
+    Service();
+    Service(const Service&) = delete;
+    Service& operator=(const Service&) = delete;
+    ~Service();
 
     /// Turns both executors until neither has work left.
     void run()
@@ -61,7 +69,10 @@ struct Service {
     FakeTransport transport{client};
     FakeCredentialStore credentials;
     ManualClock clock;
-    api::KestruneAPI api{{client, transport, credentials, clock}, host};
+
+    /// Behind a pointer, so that a test which calls none of its operations need not know them.
+    const std::unique_ptr<api::KestruneAPI> ownAPI;
+    api::KestruneAPI& api;
 
 private:
     template <typename T>

@@ -11,25 +11,11 @@ using namespace std::chrono_literals;
 namespace {
 
 struct Announcement {
-    std::string title{};
-    std::optional<std::string> message{};
-    bool notifySubscribers = false;
-    std::optional<support::Time> startAt{};
+    WIRE_FIELD(std::string, title);
+    WIRE_FIELD(std::optional<std::string>, message);
+    WIRE_FIELD(bool, notifySubscribers);
+    WIRE_FIELD(std::optional<support::Time>, startAt);
 };
-
-}  // namespace
-
-template <>
-struct KeyTable<Announcement> {
-    static constexpr auto rows = std::tuple{
-        required("title", &Announcement::title),
-        optional("message", &Announcement::message),
-        required("notifySubscribers", &Announcement::notifySubscribers),
-        optional("startAt", &Announcement::startAt),
-    };
-};
-
-namespace {
 
 TEST(Encoding, WritesEveryFieldUnderItsWireKeyInTheOrderOfTheTable)
 {

@@ -1,14 +1,13 @@
-#include "api/KestruneAPI.h"
+#include "api/RequestEngine.h"
 
-#include <type_traits>
 #include <utility>
 #include <variant>
 
 #include "api/APIError.h"
 #include "api/APIKey.h"
 #include "api/KeychainHelper.h"
+#include "api/RequestSending.h"
 #include "api/RequestURL.h"
-#include "model/EmptyResponse.h"
 #include "support/Completion.h"
 
 namespace larkspan::api {
@@ -30,59 +29,30 @@ void authenticate(HttpRequest& request, const std::string& key)
 
 }  // namespace
 
-KestruneAPI::KestruneAPI(Ports ports, const std::string& serviceHost)
+RequestEngine::RequestEngine(Ports ports, const std::string& serviceHost)
     : baseURL_("https://" + serviceHost + "/user/api/v1")
     , featureBaseURL_("https://" + serviceHost + "/user/api")
     , ports_(ports)
-    , decoder_(ports.clock)
 {
 }
 
-template <typename T>
-Task<T> KestruneAPI::sendRequest(Call call, std::stop_token stop)
+Task<void> RequestEngine::sendForNothing(Call call)
 {
-    return support::on(ports_.executor, sendAndDecode<T>(std::move(call), std::move(stop)));
+    return support::on(ports_.executor, ignoreAnswer(std::move(call)));
 }
 
-template Task<model::EmptyResponse> KestruneAPI::sendRequest(Call, std::stop_token);
-template Task<std::vector<model::StatusPage>> KestruneAPI::sendRequest(Call, std::stop_token);
-template Task<model::StatusPagesStatusEnvelope> KestruneAPI::sendRequest(Call, std::stop_token);
-template Task<std::vector<model::Incident>> KestruneAPI::sendRequest(Call, std::stop_token);
-template Task<model::Incident> KestruneAPI::sendRequest(Call, std::stop_token);
-template Task<model::IncidentStatesEnvelope> KestruneAPI::sendRequest(Call, std::stop_token);
-template Task<std::vector<model::Maintenance>> KestruneAPI::sendRequest(Call, std::stop_token);
-template Task<model::Maintenance> KestruneAPI::sendRequest(Call, std::stop_token);
-
-Task<std::string> KestruneAPI::sendRawRequest(Base base, std::string path, std::stop_token stop)
+Task<std::string> RequestEngine::sendRawRequest(Base base, std::string path, std::stop_token stop)
 {
     Call call{.base = base, .path = std::move(path)};
     return support::on(ports_.executor, send(std::move(call), std::move(stop)));
 }
 
-Task<std::vector<model::StatusPage>> KestruneAPI::fetchStatusPages(std::stop_token stop)
-{
-    return sendRequest<std::vector<model::StatusPage>>({.path = "/status-pages"}, std::move(stop));
-}
-
-Task<std::vector<model::PageStatusEntry>> KestruneAPI::fetchStatusPageStatuses(std::stop_token stop)
-{
-    return support::on(ports_.executor, statusPageStatuses(std::move(stop)));
-}
-
-Task<void> KestruneAPI::validateAPIKey(std::string key, std::stop_token stop)
+Task<void> RequestEngine::validateAPIKey(std::string key, std::stop_token stop)
 {
     return support::on(ports_.executor, validate(std::move(key), std::move(stop)));
 }
 
-Task<std::vector<model::PageStatusEntry>> KestruneAPI::statusPageStatuses(std::stop_token stop)
-{
-    Call call{.base = Base::feature, .path = "status-pages/status"};
-    auto sending = sendAndDecode<model::StatusPagesStatusEnvelope>(std::move(call), std::move(stop));
-    auto envelope = co_await std::move(sending);
-    co_return std::move(envelope.statusPages);
-}
-
-Task<void> KestruneAPI::validate(std::string key, std::stop_token stop)
+Task<void> RequestEngine::validate(std::string key, std::stop_token stop)
 {
     auto request = preparedRequest({.path = "status-pages"});
     authenticate(request, key);
@@ -90,25 +60,13 @@ Task<void> KestruneAPI::validate(std::string key, std::stop_token stop)
     co_await std::move(exchanging);
 }
 
-template <typename T>
-Task<T> KestruneAPI::sendAndDecode(Call call, std::stop_token stop)
-{
-    auto sending = send(std::move(call), std::move(stop));
-    const std::string body = co_await std::move(sending);
-    if (body.empty()) {
-        if constexpr (std::is_same_v<T, model::EmptyResponse>) co_return T{};
-        throw APIError::invalidResponse();
-    }
-    co_return decoder_.decodeResult<T>(body);
-}
-
-Task<void> KestruneAPI::sendForNothing(Call call)
+Task<void> RequestEngine::ignoreAnswer(Call call)
 {
     auto sending = sendAndDecode<model::EmptyResponse>(std::move(call), {});
     co_await std::move(sending);
 }
 
-Task<std::string> KestruneAPI::send(Call call, std::stop_token stop)
+Task<std::string> RequestEngine::send(Call call, std::stop_token stop)
 {
     auto request = preparedRequest(call);
     authenticate(request, storedKey());
@@ -120,7 +78,7 @@ Task<std::string> KestruneAPI::send(Call call, std::stop_token stop)
     co_return co_await std::move(exchanging);
 }
 
-Task<std::string> KestruneAPI::exchange(HttpRequest request, std::stop_token stop)
+Task<std::string> RequestEngine::exchange(HttpRequest request, std::stop_token stop)
 {
     auto send = [this, request = std::move(request), stop](support::Completion<HttpTransport::Result> answer) mutable {
         auto complete = [answer = std::move(answer)](HttpTransport::Result result) mutable {
@@ -138,13 +96,13 @@ Task<std::string> KestruneAPI::exchange(HttpRequest request, std::stop_token sto
     co_return std::move(response.body);
 }
 
-HttpRequest KestruneAPI::preparedRequest(const Call& call) const
+HttpRequest RequestEngine::preparedRequest(const Call& call) const
 {
     const auto& base = call.base == Base::feature ? featureBaseURL_ : baseURL_;
     return {.method = call.method, .url = requestURL(base, call.path), .headers = {}, .body = {}};
 }
 
-std::string KestruneAPI::storedKey() const
+std::string RequestEngine::storedKey() const
 {
     auto key = KeychainHelper::readAPIKey(ports_.credentials);
     if (!key || key->empty()) throw APIError::missingAPIKey();

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <stop_token>
+#include <vector>
+
+#include "support/Task.h"
+
+namespace larkspan::model {
+
+struct PageStatusEntry;
+struct StatusPage;
+
+}  // namespace larkspan::model
+
+namespace larkspan::api {
+
+class RequestEngine;
+
+/// What the client asks of the account's status pages.
+class StatusPageEndpoints {
+public:
+    explicit StatusPageEndpoints(RequestEngine& engine);
+
+    support::Task<std::vector<model::StatusPage>> fetchStatusPages(std::stop_token stop = {});
+    support::Task<std::vector<model::PageStatusEntry>> fetchStatusPageStatuses(std::stop_token stop = {});
+
+private:
+    support::Task<std::vector<model::PageStatusEntry>> statusPageStatuses(std::stop_token stop);
+
+    RequestEngine& engine_;
+};
+
+}  // namespace larkspan::api
