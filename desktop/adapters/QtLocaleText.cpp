@@ -1,0 +1,59 @@
+#include "adapters/QtLocaleText.h"
+
+#include <QDateTime>
+#include <QRegularExpression>
+
+namespace larkspan::adapters {
+
+namespace {
+
+// Qt's long format carries the day of the week, its short one may leave open which number is the month.
+QString withoutWeekday(QString format)
+{
+    static const QRegularExpression weekday(QStringLiteral("d{3,4}[\\s,،፣⹁]*"));
+    static const QRegularExpression separatorAtTheEnd(QStringLiteral("[\\s,،-]+$"));
+    return format.remove(weekday).remove(separatorAtTheEnd).trimmed();
+}
+
+QDateTime localTime(support::Time moment)
+{
+    return QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count(), Qt::LocalTime);
+}
+
+QString text(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+}  // namespace
+
+QtLocaleText::QtLocaleText(const QLocale& locale)
+    : locale_(locale)
+    , dateFormat_(withoutWeekday(locale.dateFormat(QLocale::LongFormat)))
+    , collator_(locale.collation())
+{
+    collator_.setCaseSensitivity(Qt::CaseInsensitive);
+}
+
+std::string QtLocaleText::dateOnly(support::Time moment) const
+{
+    return locale_.toString(localTime(moment).date(), dateFormat_).toStdString();
+}
+
+std::string QtLocaleText::timeOnly(support::Time moment) const
+{
+    return locale_.toString(localTime(moment).time(), QLocale::ShortFormat).toStdString();
+}
+
+std::chrono::local_days QtLocaleText::day(support::Time moment) const
+{
+    static const auto julianDayOfTheEpoch = QDate(1970, 1, 1).toJulianDay();
+    return std::chrono::local_days(std::chrono::days(localTime(moment).date().toJulianDay() - julianDayOfTheEpoch));
+}
+
+std::weak_ordering QtLocaleText::compareIgnoringCase(std::string_view left, std::string_view right) const
+{
+    return collator_.compare(text(left), text(right)) <=> 0;
+}
+
+}  // namespace larkspan::adapters

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QCollator>
+#include <QLocale>
+#include <QString>
+
+#include "platform/LocaleText.h"
+
+namespace larkspan::adapters {
+
+/// The desktop's own locale unless another is given, in the time zone that the desktop has when it is asked.
+class QtLocaleText final : public platform::LocaleText {
+public:
+    explicit QtLocaleText(const QLocale& locale = QLocale::system());
+
+    std::string dateOnly(support::Time moment) const override;
+    std::string timeOnly(support::Time moment) const override;
+    std::chrono::local_days day(support::Time moment) const override;
+    std::weak_ordering compareIgnoringCase(std::string_view left, std::string_view right) const override;
+
+private:
+    const QLocale locale_;
+    const QString dateFormat_;
+    QCollator collator_;
+};
+
+}  // namespace larkspan::adapters
