@@ -25,17 +25,23 @@ bool isOneShortLine(std::string_view sentence)
         && support::isValidUtf8(sentence);
 }
 
-template <typename... Results>
-void decodeAll(const model::JSONDecoder& decoder, std::string_view body, model::TypeList<Results...>)
+template <typename Decode>
+void expectResultOrSentence(Decode decode)
 {
-    const auto decode = [&]<typename Result>(const Result*) {
-        try {
-            decoder.decodeResult<Result>(body);
-        } catch (const model::DecodingError& error) {
-            if (!isOneShortLine(error.localizedDescription())) std::abort();
-        }
-    };
-    (decode(static_cast<const Results*>(nullptr)), ...);
+    try {
+        decode();
+    } catch (const model::DecodingError& error) {
+        if (!isOneShortLine(error.localizedDescription())) std::abort();
+    }
+}
+
+template <typename... Results, typename... Envelopes, typename... BareResults>
+void decodeAll(const model::JSONDecoder& decoder, std::string_view body, model::TypeList<Results...>,
+    model::TypeList<Envelopes...>, model::TypeList<BareResults...>)
+{
+    (expectResultOrSentence([&] { decoder.decodeResult<Results>(body); }), ...);
+    (expectResultOrSentence([&] { decoder.decodeList<Envelopes>(body); }), ...);
+    (expectResultOrSentence([&] { decoder.decodeBare<BareResults>(body); }), ...);
 }
 
 }  // namespace
@@ -45,6 +51,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const StandingClock clock;
     const model::JSONDecoder decoder(clock);
     const std::string_view body(reinterpret_cast<const char*>(data), size);
-    decodeAll(decoder, body, model::Results{});
+    decodeAll(decoder, body, model::Results{}, model::ListEnvelopes{}, model::BareResults{});
     return 0;
 }

@@ -2,8 +2,10 @@
 
 #include <string>
 
+#include "api/ComponentEndpoints.h"
 #include "api/IncidentEndpoints.h"
 #include "api/MaintenanceEndpoints.h"
+#include "api/MonitorEndpoints.h"
 #include "api/RequestEngine.h"
 #include "api/StatusPageEndpoints.h"
 
@@ -26,7 +28,8 @@ public:
 /// `model::DecodingError`, and nothing is ever sent twice. It must outlive every task that it gave.
 ///
 /// Whoever uses the operations of one resource alone asks for that base.
-class KestruneAPI final : public OperationsOf<StatusPageEndpoints, IncidentEndpoints, MaintenanceEndpoints> {
+class KestruneAPI final : public OperationsOf<StatusPageEndpoints, IncidentEndpoints, MaintenanceEndpoints,
+                              MonitorEndpoints, ComponentEndpoints> {
 public:
     using OperationsOf::OperationsOf;
 };

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "api/RequestSending.h"
+#include "model/JoinedIds.h"
 #include "model/Maintenance.h"
 #include "model/MaintenanceRequests.h"
 
@@ -10,6 +11,17 @@ namespace larkspan::api {
 
 using model::Maintenance;
 using support::Task;
+
+namespace {
+
+/// The service is sent nothing for an empty list.
+std::optional<std::string> affected(const Ids& ids)
+{
+    if (!ids || ids->empty()) return std::nullopt;
+    return model::joinedIds(*ids);
+}
+
+}  // namespace
 
 MaintenanceEndpoints::MaintenanceEndpoints(RequestEngine& engine)
     : engine_(engine)
@@ -34,8 +46,8 @@ Task<Maintenance> MaintenanceEndpoints::createMaintenance(NewMaintenance argumen
         .statusPageId = std::move(arguments.statusPageId),
         .startAt = arguments.startAt,
         .endAt = arguments.endAt,
-        .affectedComponents = model::joinedIds(arguments.componentIds),
-        .affectedMonitorIds = model::joinedIds(arguments.monitorIds),
+        .affectedComponents = affected(arguments.componentIds),
+        .affectedMonitorIds = affected(arguments.monitorIds),
     };
     return engine_.sendRecord<Maintenance>({.method = "POST", .path = "/maintenances"}, std::move(body));
 }
@@ -47,8 +59,8 @@ Task<Maintenance> MaintenanceEndpoints::updateMaintenance(std::string id, Mainte
         .message = std::move(arguments.message),
         .startAt = arguments.startAt,
         .endAt = arguments.endAt,
-        .affectedComponents = model::joinedIds(arguments.componentIds),
-        .affectedMonitorIds = model::joinedIds(arguments.monitorIds),
+        .affectedComponents = affected(arguments.componentIds),
+        .affectedMonitorIds = affected(arguments.monitorIds),
     };
     return engine_.sendRecord<Maintenance>({.method = "PATCH", .path = "/maintenances/" + id}, std::move(body));
 }

@@ -59,6 +59,9 @@ public:
     /// Where every request is made, and where an operation of several requests runs.
     platform::Executor& executor() const { return ports_.executor; }
 
+    /// For an operation that decodes its answer itself.
+    const platform::Clock& clock() const { return ports_.clock; }
+
 private:
     platform::HttpRequest preparedRequest(const Call& call) const;
     std::string storedKey() const;

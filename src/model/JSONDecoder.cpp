@@ -60,6 +60,30 @@ T decodeShapes(const JSONValue& root)
     }
 }
 
+/// What an envelope of one key holds.
+template <typename Envelope>
+auto decodeContent(const JSONValue& root)
+{
+    constexpr auto& rows = wireRows<Envelope>;
+    static_assert(std::tuple_size_v<std::remove_cvref_t<decltype(rows)>> == 1);
+    return decode<Envelope>(root).*std::get<0>(rows).field;
+}
+
+template <typename Envelope>
+typename Envelope::List decodeListShapes(const JSONValue& root)
+{
+    using List = typename Envelope::List;
+    try {
+        return decodeContent<DataResponse<List>>(root);
+    } catch (const DecodingError&) {
+        try {
+            return decodeContent<Envelope>(root);
+        } catch (const DecodingError&) {
+            return decode<List>(root);
+        }
+    }
+}
+
 }  // namespace
 
 JSONDecoder::JSONDecoder(const platform::Clock& clock)
@@ -74,16 +98,31 @@ Result detail::decodeResult(std::string_view body, support::Time now)
     return decodeShapes<Result>(JSONValue(document.root(), now));
 }
 
+template <typename Envelope>
+typename Envelope::List detail::decodeList(std::string_view body, support::Time now)
+{
+    const Document document(body);
+    return decodeListShapes<Envelope>(JSONValue(document.root(), now));
+}
+
+template <typename Result>
+Result detail::decodeBare(std::string_view body, support::Time now)
+{
+    const Document document(body);
+    return decode<Result>(JSONValue(document.root(), now));
+}
+
 namespace {
 
-template <typename... Types>
-constexpr auto decodingsOf(TypeList<Types...>)
+template <typename... Types, typename... Envelopes, typename... BareTypes>
+constexpr auto decodingsOf(TypeList<Types...>, TypeList<Envelopes...>, TypeList<BareTypes...>)
 {
-    return std::tuple{&detail::decodeResult<Types>...};
+    return std::tuple{
+        &detail::decodeResult<Types>..., &detail::decodeList<Envelopes>..., &detail::decodeBare<BareTypes>...};
 }
 
 // Others only see that there is such a function; the compiler writes those that somebody points to.
-[[gnu::used]] constexpr auto decodings = decodingsOf(Results{});
+[[gnu::used]] constexpr auto decodings = decodingsOf(Results{}, ListEnvelopes{}, BareResults{});
 
 }  // namespace
 

@@ -13,6 +13,14 @@ namespace detail {
 template <typename Result>
 Result decodeResult(std::string_view body, support::Time now);
 
+/// Compiled for each of `ListEnvelopes`.
+template <typename Envelope>
+typename Envelope::List decodeList(std::string_view body, support::Time now);
+
+/// Compiled for each of `BareResults`.
+template <typename Result>
+Result decodeBare(std::string_view body, support::Time now);
+
 }  // namespace detail
 
 /// Reads the service's answers. Safe to share between threads; `clock` must outlive it.
@@ -32,6 +40,23 @@ public:
         static_assert(
             Results::holds<Result>, "a result is named in model/Results.h, from where decoder and fuzzer know it");
         return detail::decodeResult<Result>(body, clock_.now());
+    }
+
+    /// The list in `body`: under the key `data` of an object, else under the one key of `Envelope`, else the body as a
+    /// whole. Null is no list. Throws the `DecodingError` of the last of these attempts.
+    template <typename Envelope>
+    typename Envelope::List decodeList(std::string_view body) const
+    {
+        static_assert(ListEnvelopes::holds<Envelope>, "such a list is named in model/Results.h by its envelope");
+        return detail::decodeList<Envelope>(body, clock_.now());
+    }
+
+    /// The body as a whole and in no other shape. Throws `DecodingError`.
+    template <typename Result>
+    Result decodeBare(std::string_view body) const
+    {
+        static_assert(BareResults::holds<Result>, "such a result is named in model/Results.h");
+        return detail::decodeBare<Result>(body, clock_.now());
     }
 
 private:

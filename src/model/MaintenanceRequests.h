@@ -2,7 +2,6 @@
 
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "model/WireField.h"
 #include "support/Time.h"
@@ -31,9 +30,5 @@ struct UpdateMaintenanceRequest {
 
     bool operator==(const UpdateMaintenanceRequest&) const = default;
 };
-
-/// Ids as `affectedComponents` and `affectedMonitorIds` hold them: parted by commas, in their order. An empty list is
-/// absent too, since the service is sent nothing for it.
-std::optional<std::string> joinedIds(const std::optional<std::vector<std::string>>& ids);
 
 }  // namespace larkspan::model

@@ -1,7 +1,10 @@
 #pragma once
 
-// The records of `Results`, for those who need them all.
+// The records that the service answers with, for those who need them all.
 
+#include "model/Component.h"
+#include "model/ComponentGroup.h"
+#include "model/ComponentMonitor.h"
 #include "model/EmptyResponse.h"
 #include "model/Incident.h"
 #include "model/IncidentState.h"

@@ -1,11 +1,13 @@
 #include "support/Utf8.h"
 
-#include <cstddef>
+#include <algorithm>
 #include <cstdint>
 
 namespace larkspan::support {
 
 namespace {
+
+constexpr Utf8Character illFormed{U'\uFFFD', 1};
 
 struct LeadByte {
     std::size_t continuations;
@@ -24,26 +26,69 @@ constexpr LeadByte readLead(std::uint8_t byte)
     return invalidLead;
 }
 
+constexpr bool isContinuation(char byte)
+{
+    return static_cast<std::uint8_t>(byte) >> 6 == 0b10;
+}
+
 constexpr bool isScalarValue(std::uint32_t code)
 {
     return code <= 0x10'FFFF && (code < 0xD800 || code > 0xDFFF);
 }
 
+constexpr char byteOf(std::uint32_t bits)
+{
+    return static_cast<char>(static_cast<std::uint8_t>(bits));
+}
+
 }  // namespace
+
+Utf8Character firstCharacter(std::string_view bytes)
+{
+    auto [continuations, code, smallest] = readLead(static_cast<std::uint8_t>(bytes.front()));
+    if (bytes.size() <= continuations) return illFormed;
+    for (std::size_t at = 1; at <= continuations; ++at) {
+        if (!isContinuation(bytes[at])) return illFormed;
+        code = code << 6 | (static_cast<std::uint8_t>(bytes[at]) & 0x3Fu);
+    }
+    if (code < smallest || !isScalarValue(code)) return illFormed;
+    return {code, continuations + 1};
+}
+
+Utf8Character lastCharacter(std::string_view bytes)
+{
+    const auto furthest = std::min<std::size_t>(bytes.size(), 4);
+    for (std::size_t length = 1; length <= furthest; ++length) {
+        if (isContinuation(bytes[bytes.size() - length])) continue;
+        const auto character = firstCharacter(bytes.substr(bytes.size() - length));
+        return character.length == length ? character : illFormed;
+    }
+    return illFormed;
+}
 
 bool isValidUtf8(std::string_view bytes)
 {
-    for (std::size_t at = 0; at < bytes.size();) {
-        auto [continuations, code, smallest] = readLead(static_cast<std::uint8_t>(bytes[at++]));
-        for (; continuations > 0; --continuations, ++at) {
-            if (at == bytes.size()) return false;
-            const auto next = static_cast<std::uint8_t>(bytes[at]);
-            if (next >> 6 != 0b10) return false;
-            code = code << 6 | (next & 0x3Fu);
-        }
-        if (code < smallest || !isScalarValue(code)) return false;
+    while (!bytes.empty()) {
+        const auto character = firstCharacter(bytes);
+        if (!character.isWellFormed()) return false;
+        bytes.remove_prefix(character.length);
     }
     return true;
+}
+
+void appendCharacter(std::string& text, char32_t code)
+{
+    const std::uint32_t bits = isScalarValue(code) ? code : U'\uFFFD';
+    if (bits < 0x80) {
+        text += byteOf(bits);
+    } else if (bits < 0x800) {
+        text += {byteOf(0xC0 | bits >> 6), byteOf(0x80 | (bits & 0x3F))};
+    } else if (bits < 0x1'0000) {
+        text += {byteOf(0xE0 | bits >> 12), byteOf(0x80 | (bits >> 6 & 0x3F)), byteOf(0x80 | (bits & 0x3F))};
+    } else {
+        text += {byteOf(0xF0 | bits >> 18), byteOf(0x80 | (bits >> 12 & 0x3F)), byteOf(0x80 | (bits >> 6 & 0x3F)),
+            byteOf(0x80 | (bits & 0x3F))};
+    }
 }
 
 }  // namespace larkspan::support

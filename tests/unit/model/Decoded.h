@@ -20,6 +20,20 @@ T decoded(std::string_view body, support::Time now = fakes::ManualClock().time)
     return JSONDecoder(clock).decodeResult<T>(body);
 }
 
+/// The list in `body` in one of the three shapes of a list with an envelope of its own.
+template <typename Envelope>
+typename Envelope::List decodedList(std::string_view body)
+{
+    return JSONDecoder(fakes::ManualClock()).decodeList<Envelope>(body);
+}
+
+/// The result that `body` is as a whole.
+template <typename T>
+T decodedBare(std::string_view body)
+{
+    return JSONDecoder(fakes::ManualClock()).decodeBare<T>(body);
+}
+
 /// What a failed decoding says.
 struct DecodingFailure {
     DecodingError::Kind kind;
@@ -34,17 +48,38 @@ inline void PrintTo(const DecodingFailure& failure, std::ostream* out)
     *out << "kind " << static_cast<int>(failure.kind) << " at '" << failure.path << "': " << failure.description;
 }
 
-/// How `body` fails to be a `T`; the test fails if it is one after all.
-template <typename T>
-DecodingFailure failureOf(std::string_view body)
+/// How `decode` fails to read `body`; the test fails if it reads it after all.
+template <typename Decode>
+DecodingFailure failureOfDecoding(Decode decode, std::string_view body)
 {
     try {
-        decoded<T>(body);
+        decode(body);
     } catch (const DecodingError& error) {
         return {error.kind(), error.path(), error.localizedDescription()};
     }
     ADD_FAILURE() << "decoded: " << body.substr(0, 200);
     return {};
+}
+
+/// How `body` fails to be a `T`, in either result shape.
+template <typename T>
+DecodingFailure failureOf(std::string_view body)
+{
+    return failureOfDecoding([](std::string_view text) { decoded<T>(text); }, body);
+}
+
+/// How `body` fails to be a list in any of its three shapes.
+template <typename Envelope>
+DecodingFailure failureOfList(std::string_view body)
+{
+    return failureOfDecoding(decodedList<Envelope>, body);
+}
+
+/// How `body` fails to be a `T` as a whole.
+template <typename T>
+DecodingFailure failureOfBare(std::string_view body)
+{
+    return failureOfDecoding(decodedBare<T>, body);
 }
 
 inline DecodingFailure keyNotFound(const std::string& path)

@@ -84,18 +84,6 @@ TEST(JSONEncoder, FailsOnTextThatIsNotUTF8)
     EXPECT_THROW(encoder.encode(CreateIncidentRequest{.title = "\xC0\x80"}), EncodingError);
 }
 
-TEST(JoinedIds, AreJoinedWithCommasInTheOrderGiven)
-{
-    EXPECT_EQ(joinedIds(std::vector<std::string>{"b"}), "b");
-    EXPECT_EQ(joinedIds(std::vector<std::string>{"b", "a", " c"}), "b,a, c");
-}
-
-TEST(JoinedIds, OfAnAbsentOrEmptyListAreAbsent)
-{
-    EXPECT_EQ(joinedIds(std::nullopt), std::nullopt);
-    EXPECT_EQ(joinedIds(std::vector<std::string>{}), std::nullopt);
-}
-
 }  // namespace
 
 }  // namespace larkspan::model

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string_view>
+
+namespace larkspan::incidents {
+
+/// Each with its blank, without which it is no marker.
+inline constexpr std::array<std::string_view, 3> unorderedMarkers{"- ", "* ", "+ "};
+
+struct HeadingLine {
+    int level;
+    std::string_view text;
+
+    bool operator==(const HeadingLine&) const = default;
+};
+
+/// One to six "#", a blank and a text.
+std::optional<HeadingLine> parseHeadingLine(std::string_view trimmedLine);
+
+/// The text behind one of `unorderedMarkers`.
+std::optional<std::string_view> parseUnorderedItem(std::string_view trimmedLine);
+
+/// The text behind a whole number, a dot and a blank.
+std::optional<std::string_view> parseOrderedItem(std::string_view trimmedLine);
+
+}  // namespace larkspan::incidents

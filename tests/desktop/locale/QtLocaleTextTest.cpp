@@ -1,0 +1,135 @@
+#include "adapters/QtLocaleText.h"
+
+#include <QByteArray>
+#include <QDate>
+#include <QRegularExpression>
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <ctime>
+#include <string>
+
+namespace larkspan::adapters {
+
+namespace {
+
+using namespace std::chrono_literals;
+using std::chrono::sys_days;
+
+support::Time momentOf(std::chrono::year_month_day date, std::chrono::minutes utc)
+{
+    return sys_days(date) + utc;
+}
+
+constexpr auto autumn = std::chrono::year{2026} / 11 / 20;
+constexpr auto endOfSummerTime = std::chrono::year{2026} / 10 / 25;
+
+/// Lives in `zone` for one test.
+class InTheZone {
+public:
+    explicit InTheZone(const char* zone) { live(zone); }
+    ~InTheZone() { before_.isEmpty() ? live(nullptr) : live(before_.constData()); }
+
+private:
+    static void live(const char* zone)
+    {
+        if (zone)
+            qputenv("TZ", zone);
+        else
+            qunsetenv("TZ");
+        tzset();
+    }
+
+    const QByteArray before_ = qgetenv("TZ");
+};
+
+TEST(DateOfALocale, IsWrittenInItsOrderAndWordsWithoutTheDayOfTheWeek)
+{
+    const InTheZone zone("UTC");
+    const auto moment = momentOf(autumn, 9h + 30min);
+    EXPECT_EQ(QtLocaleText(QLocale("en_US")).dateOnly(moment), "November 20, 2026");
+    EXPECT_EQ(QtLocaleText(QLocale("de_DE")).dateOnly(moment), "20. November 2026");
+    EXPECT_EQ(QtLocaleText(QLocale("hu_HU")).dateOnly(moment), "2026. november 20.");
+    EXPECT_EQ(QtLocaleText(QLocale("ko_KR")).dateOnly(moment), "2026년 11월 20일");
+}
+
+TEST(DateOfALocale, NamesNoDayOfTheWeekAndEndsInNoSeparatorAnywhere)
+{
+    const InTheZone zone("UTC");
+    const QDate date(2026, 11, 20);
+    for (const auto& locale : QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry)) {
+        const auto text = QString::fromStdString(QtLocaleText(locale).dateOnly(momentOf(autumn, 12h)));
+        EXPECT_FALSE(text.contains(locale.toString(date, u"dddd"))) << locale.name().toStdString();
+        EXPECT_TRUE(text.contains(locale.toString(date, u"d"))) << locale.name().toStdString();
+        EXPECT_TRUE(text.contains(locale.toString(date, u"yyyy"))) << locale.name().toStdString();
+        EXPECT_FALSE(text.contains(QRegularExpression("^[\\s,،-]|[\\s,،-]$"))) << locale.name().toStdString();
+    }
+}
+
+TEST(TimeOfALocale, IsWrittenOnItsOwnClock)
+{
+    const InTheZone zone("UTC");
+    const auto moment = momentOf(autumn, 21h + 5min);
+    EXPECT_EQ(QtLocaleText(QLocale("en_US")).timeOnly(moment), "9:05 PM");
+    EXPECT_EQ(QtLocaleText(QLocale("de_DE")).timeOnly(moment), "21:05");
+}
+
+TEST(MomentInAZone, IsShownAsThatZonesClocksStandAlsoAcrossTheEndOfSummerTime)
+{
+    const InTheZone zone("Europe/Berlin");
+    const QtLocaleText german(QLocale("de_DE"));
+    EXPECT_EQ(german.timeOnly(momentOf(endOfSummerTime, 30min)), "02:30") << "two hours ahead of UTC";
+    EXPECT_EQ(german.timeOnly(momentOf(endOfSummerTime, 1h + 30min)), "02:30") << "the clock was put back";
+    EXPECT_EQ(german.timeOnly(momentOf(endOfSummerTime, 2h + 30min)), "03:30") << "one hour ahead";
+    EXPECT_EQ(german.dateOnly(momentOf(endOfSummerTime, 22h + 59min)), "25. Oktober 2026");
+    EXPECT_EQ(german.dateOnly(momentOf(endOfSummerTime, 23h)), "26. Oktober 2026");
+}
+
+TEST(MomentInAZone, FollowsADesktopThatMoves)
+{
+    const QtLocaleText american(QLocale("en_US"));
+    const auto moment = momentOf(autumn, 2h);
+    {
+        const InTheZone zone("Asia/Tokyo");
+        EXPECT_EQ(american.dateOnly(moment) + " " + american.timeOnly(moment), "November 20, 2026 11:00 AM");
+    }
+    const InTheZone zone("America/New_York");
+    EXPECT_EQ(american.dateOnly(moment) + " " + american.timeOnly(moment), "November 19, 2026 9:00 PM");
+}
+
+TEST(DayOfAZone, BeginsAtItsMidnightAndIsTwentyFiveHoursLongWhenSummerTimeEnds)
+{
+    const InTheZone zone("Europe/Berlin");
+    const QtLocaleText german(QLocale("de_DE"));
+    const std::chrono::local_days day{std::chrono::year_month_day(endOfSummerTime)};
+    const auto midnight = momentOf(endOfSummerTime, -2h);
+    EXPECT_EQ(german.day(midnight), day);
+    EXPECT_EQ(german.day(midnight - 1ms), day - std::chrono::days(1));
+    EXPECT_EQ(german.day(midnight + 25h - 1ms), day);
+    EXPECT_EQ(german.day(midnight + 25h), day + std::chrono::days(1));
+}
+
+TEST(DayOfAZone, OfTheEpochIsTheFirstOfJanuary1970)
+{
+    const InTheZone zone("UTC");
+    EXPECT_EQ(QtLocaleText(QLocale("en_US")).day(support::Time{}), std::chrono::local_days{});
+    EXPECT_EQ(QtLocaleText(QLocale("en_US")).day(support::Time{-1ms}), std::chrono::local_days{std::chrono::days(-1)});
+}
+
+TEST(OrderOfNames, IgnoresCaseAndIsTheLocales)
+{
+    const QtLocaleText german(QLocale("de_DE"));
+    EXPECT_EQ(german.compareIgnoringCase("api", "API"), std::weak_ordering::equivalent);
+    EXPECT_EQ(german.compareIgnoringCase("apple", "Banana"), std::weak_ordering::less);
+    EXPECT_EQ(german.compareIgnoringCase("Zebra", "apple"), std::weak_ordering::greater);
+    EXPECT_EQ(german.compareIgnoringCase("Äpfel", "Birnen"), std::weak_ordering::less);
+    EXPECT_EQ(german.compareIgnoringCase("ÄPFEL", "äpfel"), std::weak_ordering::equivalent);
+    EXPECT_EQ(german.compareIgnoringCase("Äpfel", "Zebra"), std::weak_ordering::less);
+    EXPECT_EQ(QtLocaleText(QLocale("sv_SE")).compareIgnoringCase("Äpfel", "Zebra"), std::weak_ordering::greater)
+        << "Swedish has that letter behind z";
+}
+
+}  // namespace
+
+}  // namespace larkspan::adapters
