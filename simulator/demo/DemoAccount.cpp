@@ -1,5 +1,6 @@
 #include "demo/DemoAccount.h"
 
+#include "account/Storyline.h"
 #include "demo/LivelyAccount.h"
 
 namespace larkspan::simulator {

@@ -4,6 +4,7 @@
 
 #include "server/FaultReader.h"
 #include "server/ServerCertificates.h"
+#include "service/Router.h"
 #include "service/Service.h"
 
 namespace larkspan::simulator {

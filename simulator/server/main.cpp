@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "account/Seed.h"
+#include "account/Storyline.h"
 #include "server/AuthorityStore.h"
 #include "server/HttpsServer.h"
 #include "server/Options.h"

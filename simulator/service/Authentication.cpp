@@ -1,5 +1,7 @@
 #include "service/Authentication.h"
 
+#include "account/Account.h"
+
 namespace larkspan::simulator {
 
 std::optional<int> refusal(const Request& request, const Account& account)

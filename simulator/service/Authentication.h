@@ -2,10 +2,11 @@
 
 #include <optional>
 
-#include "account/Account.h"
 #include "service/Exchange.h"
 
 namespace larkspan::simulator {
+
+struct Account;
 
 /// The status with which the service turns the request away, if it does: 401 unless both headers carry the same known
 /// key, 403 for a key without rights.

@@ -7,11 +7,13 @@
 #include <utility>
 #include <vector>
 
-#include "account/Account.h"
 #include "service/Exchange.h"
+#include "support/Time.h"
 #include "json/Json.h"
 
 namespace larkspan::simulator {
+
+struct Account;
 
 /// A request on its way into a handler.
 struct Call {

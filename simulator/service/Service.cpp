@@ -1,77 +1,119 @@
 #include "service/Service.h"
 
+#include <deque>
+#include <mutex>
+#include <optional>
 #include <utility>
 
+#include "account/Account.h"
 #include "account/MaintenanceCalendar.h"
+#include "account/Storyline.h"
 #include "service/Authentication.h"
 #include "service/RequestBody.h"
 #include "service/Resources.h"
+#include "service/Router.h"
 
 namespace larkspan::simulator {
 
+namespace {
+
+struct Life {
+    Storyline story;
+    support::Time start;
+};
+
+}  // namespace
+
+struct Service::State {
+    State(Account served, const platform::Clock& keptClock)
+        : clock(keptClock)
+        , account(std::move(served))
+    {
+        for (const auto addRoutes : addRoutesOfEachResource) addRoutes(router);
+    }
+
+    Reply replyTo(const Request& request, const std::vector<Fault>& faultsOfRequest, support::Time now);
+    Answer answerOfResource(const Request& request, support::Time now);
+    void record(const Request& request);
+
+    const platform::Clock& clock;
+    std::mutex mutex;
+    Account account;
+    std::optional<Life> life;
+    Router router;
+    ResultShape shape = ResultShape::underData;
+    FaultPlan faults;
+    std::deque<Request> received;
+};
+
 Service::Service(Account account, const platform::Clock& clock)
-    : clock_(clock)
-    , account_(std::move(account))
+    : state_(std::make_unique<State>(std::move(account), clock))
 {
-    for (const auto addRoutes : addRoutesOfEachResource) addRoutes(router_);
+}
+
+Service::~Service() = default;
+
+support::Time Service::now() const
+{
+    return state_->clock.now();
 }
 
 Reply Service::answer(const Request& request)
 {
-    const std::scoped_lock lock(mutex_);
-    record(request);
-    const auto now = clock_.now();
-    if (life_) life_->story.tellUpTo(now - life_->start, now, account_);
-    letMaintenancesPass(account_, now);
-    const auto faults = faults_.take(request);
-    auto reply = replyTo(request, faults, now);
+    const std::scoped_lock lock(state_->mutex);
+    state_->record(request);
+    const auto now = state_->clock.now();
+    if (auto& life = state_->life) life->story.tellUpTo(now - life->start, now, state_->account);
+    letMaintenancesPass(state_->account, now);
+    const auto faults = state_->faults.take(request);
+    auto reply = state_->replyTo(request, faults, now);
     for (const auto& fault : faults) spoil(fault, reply);
     return reply;
 }
 
 void Service::withAccount(const std::function<void(Account&)>& use)
 {
-    const std::scoped_lock lock(mutex_);
-    use(account_);
+    const std::scoped_lock lock(state_->mutex);
+    use(state_->account);
 }
 
 void Service::live(Storyline story)
 {
-    const std::scoped_lock lock(mutex_);
-    life_.emplace(Life{std::move(story), clock_.now()});
+    const std::scoped_lock lock(state_->mutex);
+    state_->life.emplace(Life{std::move(story), state_->clock.now()});
 }
 
 void Service::setShape(ResultShape shape)
 {
-    const std::scoped_lock lock(mutex_);
-    shape_ = shape;
+    const std::scoped_lock lock(state_->mutex);
+    state_->shape = shape;
 }
 
 void Service::inject(FaultRule rule)
 {
-    const std::scoped_lock lock(mutex_);
-    faults_.add(std::move(rule));
+    const std::scoped_lock lock(state_->mutex);
+    state_->faults.add(std::move(rule));
 }
 
 void Service::clearFaults()
 {
-    const std::scoped_lock lock(mutex_);
-    faults_.clear();
+    const std::scoped_lock lock(state_->mutex);
+    state_->faults.clear();
 }
 
 std::vector<Request> Service::received() const
 {
-    const std::scoped_lock lock(mutex_);
-    return {received_.begin(), received_.end()};
+    const std::scoped_lock lock(state_->mutex);
+    return {state_->received.begin(), state_->received.end()};
 }
 
 void Service::forgetReceived()
 {
-    const std::scoped_lock lock(mutex_);
-    received_.clear();
+    const std::scoped_lock lock(state_->mutex);
+    state_->received.clear();
 }
 
-Reply Service::replyTo(const Request& request, const std::vector<Fault>& faults, support::Time now)
+Reply Service::State::replyTo(const Request& request, const std::vector<Fault>& faultsOfRequest, support::Time now)
 {
     auto answer = answerOfResource(request, now);
     Reply reply;
@@ -82,32 +124,32 @@ Reply Service::replyTo(const Request& request, const std::vector<Fault>& faults,
     auto& result = *answer.result;
     const bool isSuccess = answer.status >= 200 && answer.status < 300;
     if (isSuccess) {
-        for (const auto& fault : faults) spoil(fault, result);
-        if (shape_ == ResultShape::underData) result = Json::object({{"data", std::move(result)}});
+        for (const auto& fault : faultsOfRequest) spoil(fault, result);
+        if (shape == ResultShape::underData) result = Json::object({{"data", std::move(result)}});
     }
     reply.body = result.text();
     return reply;
 }
 
-Answer Service::answerOfResource(const Request& request, support::Time now)
+Answer Service::State::answerOfResource(const Request& request, support::Time now)
 {
     if (!request.path().starts_with("/user/api/")) return {404, Json::object({{"error", "Not found"}})};
-    if (const auto status = refusal(request, account_)) {
+    if (const auto status = refusal(request, account)) {
         const auto* reason = *status == 401 ? "Unauthorized" : "Forbidden";
         return {*status, Json::object({{"error", reason}})};
     }
     try {
-        return router_.route(request, account_, now);
+        return router.route(request, account, now);
     } catch (const Refusal& refusal) {
         return {refusal.status(), Json::object({{"error", refusal.what()}})};
     }
 }
 
-void Service::record(const Request& request)
+void Service::State::record(const Request& request)
 {
     constexpr std::size_t most = 10'000;
-    if (received_.size() == most) received_.pop_front();
-    received_.push_back(request);
+    if (received.size() == most) received.pop_front();
+    received.push_back(request);
 }
 
 }  // namespace larkspan::simulator

@@ -1,20 +1,18 @@
 #pragma once
 
-#include <deque>
 #include <functional>
-#include <mutex>
-#include <optional>
+#include <memory>
 #include <vector>
 
-#include "account/Account.h"
-#include "account/Storyline.h"
 #include "platform/Clock.h"
 #include "service/Exchange.h"
 #include "service/FaultPlan.h"
-#include "service/Router.h"
 #include "service/WallClock.h"
 
 namespace larkspan::simulator {
+
+struct Account;
+class Storyline;
 
 /// How results are wrapped.
 enum class ResultShape { underData, bare };
@@ -25,6 +23,7 @@ class Service {
 public:
     /// `clock` outlives the service.
     explicit Service(Account account, const platform::Clock& clock = wallClock());
+    ~Service();
 
     /// Answers a request and records it.
     Reply answer(const Request& request);
@@ -35,7 +34,7 @@ public:
     /// Lets a story happen to the account, from now on.
     void live(Storyline story);
 
-    support::Time now() const { return clock_.now(); }
+    support::Time now() const;
 
     void setShape(ResultShape shape);
 
@@ -47,23 +46,9 @@ public:
     void forgetReceived();
 
 private:
-    Reply replyTo(const Request& request, const std::vector<Fault>& faults, support::Time now);
-    Answer answerOfResource(const Request& request, support::Time now);
-    void record(const Request& request);
-
-    struct Life {
-        Storyline story;
-        support::Time start;
-    };
-
-    const platform::Clock& clock_;
-    mutable std::mutex mutex_;
-    Account account_;
-    std::optional<Life> life_;
-    Router router_;
-    ResultShape shape_ = ResultShape::underData;
-    FaultPlan faults_;
-    std::deque<Request> received_;
+    // Behind a pointer, so that whoever carries requests need not know what an account holds.
+    struct State;
+    const std::unique_ptr<State> state_;
 };
 
 }  // namespace larkspan::simulator

@@ -1,3 +1,4 @@
+#include "account/Account.h"
 #include "service/Resources.h"
 #include "service/Router.h"
 #include "service/WireRecord.h"

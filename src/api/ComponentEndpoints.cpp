@@ -6,6 +6,8 @@
 #include "api/RequestURL.h"
 #include "model/Component.h"
 #include "model/ComponentGroup.h"
+#include "model/ComponentRequests.h"
+#include "model/Encoding.h"
 
 namespace larkspan::api {
 
@@ -25,10 +27,53 @@ Task<std::vector<Component>> ComponentEndpoints::fetchComponents(std::optional<s
     return support::on(engine_.executor(), fetchList<model::ComponentsResponse>("/components" + query));
 }
 
+Task<Component> ComponentEndpoints::createComponent(model::CreateComponentRequest request)
+{
+    return engine_.sendRecord<Component>({Base::feature, "POST", "/components"}, std::move(request));
+}
+
+Task<Component> ComponentEndpoints::updateComponent(std::string id, model::UpdateComponentRequest changes)
+{
+    return engine_.sendRecord<Component>({Base::feature, "PUT", "/components/" + id}, std::move(changes));
+}
+
+Task<void> ComponentEndpoints::deleteComponent(std::string id)
+{
+    return engine_.sendForNothing({Base::feature, "DELETE", "/components/" + id});
+}
+
 Task<std::vector<ComponentGroup>> ComponentEndpoints::fetchComponentGroups(std::string statusPageId)
 {
     auto path = "/component-groups?status_page_id=" + queryEscaped(statusPageId);
     return support::on(engine_.executor(), fetchList<model::ComponentGroupsResponse>(std::move(path)));
+}
+
+Task<ComponentGroup> ComponentEndpoints::createComponentGroup(std::string statusPageId, std::string name)
+{
+    return support::on(engine_.executor(), createGroup(std::move(statusPageId), std::move(name)));
+}
+
+Task<ComponentGroup> ComponentEndpoints::createGroup(std::string statusPageId, std::string name)
+{
+    // The record of a new group has a name and no page, so this body is written key by key.
+    model::JSONObjectWriter body;
+    body.write("name", name);
+    body.write("status_page_id", statusPageId);
+    RequestEngine::Call call{Base::feature, "POST", "/component-groups", std::move(body).finish()};
+    auto sending = engine_.sendRequest<ComponentGroup>(std::move(call));
+    auto group = co_await std::move(sending);
+    co_return group;
+}
+
+Task<ComponentGroup> ComponentEndpoints::updateComponentGroup(std::string id, std::optional<std::string> name)
+{
+    model::UpdateGroupRequest changes{.name = std::move(name)};
+    return engine_.sendRecord<ComponentGroup>({Base::feature, "PUT", "/component-groups/" + id}, std::move(changes));
+}
+
+Task<void> ComponentEndpoints::deleteComponentGroup(std::string id)
+{
+    return engine_.sendForNothing({Base::feature, "DELETE", "/component-groups/" + id});
 }
 
 template <typename Envelope>

@@ -8,6 +8,7 @@
 #include "api/MonitorEndpoints.h"
 #include "api/RequestEngine.h"
 #include "api/StatusPageEndpoints.h"
+#include "api/TeamEndpoints.h"
 
 namespace larkspan::api {
 
@@ -29,7 +30,7 @@ public:
 ///
 /// Whoever uses the operations of one resource alone asks for that base.
 class KestruneAPI final : public OperationsOf<StatusPageEndpoints, IncidentEndpoints, MaintenanceEndpoints,
-                              MonitorEndpoints, ComponentEndpoints> {
+                              MonitorEndpoints, ComponentEndpoints, TeamEndpoints> {
 public:
     using OperationsOf::OperationsOf;
 };

@@ -6,10 +6,15 @@
 #include "api/RequestURL.h"
 #include "model/ComponentMonitor.h"
 #include "model/JoinedIds.h"
+#include "model/Monitor.h"
+#include "model/MonitorMetricsResponse.h"
+#include "model/MonitorWithMetrics.h"
 
 namespace larkspan::api {
 
 using model::ComponentMonitor;
+using model::Monitor;
+using model::MonitorWithMetrics;
 using support::Task;
 using Base = RequestEngine::Base;
 
@@ -25,6 +30,47 @@ std::string underComponents(const std::vector<std::string>& ids)
 MonitorEndpoints::MonitorEndpoints(RequestEngine& engine)
     : engine_(engine)
 {
+}
+
+Task<std::vector<Monitor>> MonitorEndpoints::fetchMonitors()
+{
+    return engine_.sendRequest<std::vector<Monitor>>({.path = "/monitors"});
+}
+
+Task<void> MonitorEndpoints::runMonitor(std::string id)
+{
+    return engine_.sendForNothing({Base::feature, "POST", "/monitors/" + id + "/run"});
+}
+
+Task<void> MonitorEndpoints::pauseMonitor(std::string id)
+{
+    return engine_.sendForNothing({Base::feature, "POST", "/monitors/" + id + "/pause"});
+}
+
+Task<void> MonitorEndpoints::resumeMonitor(std::string id)
+{
+    return engine_.sendForNothing({Base::feature, "POST", "/monitors/" + id + "/resume"});
+}
+
+Task<MonitorEndpoints::MetricsWindows> MonitorEndpoints::fetchMonitorMetrics(
+    std::vector<std::string> ids, std::string range)
+{
+    auto path = "monitors/metrics?ids=" + queryEscaped(model::joinedIds(ids)) + "&range=" + queryEscaped(range);
+    return support::on(engine_.executor(), metricsOf(std::move(path)));
+}
+
+Task<MonitorEndpoints::MetricsWindows> MonitorEndpoints::metricsOf(std::string path)
+{
+    RequestEngine::Call call{.base = Base::feature, .path = std::move(path)};
+    auto sending = engine_.sendRequest<model::MonitorMetricsResponse>(std::move(call));
+    auto answer = co_await std::move(sending);
+    co_return std::move(answer.metrics);
+}
+
+Task<std::vector<MonitorWithMetrics>> MonitorEndpoints::fetchMonitorsWithMetrics(std::vector<std::string> componentIds)
+{
+    RequestEngine::Call call{.base = Base::feature, .path = underComponents(componentIds)};
+    return engine_.sendRequest<std::vector<MonitorWithMetrics>>(std::move(call));
 }
 
 Task<std::vector<ComponentMonitor>> MonitorEndpoints::fetchComponentMonitors(std::vector<std::string> componentIds)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -8,6 +9,9 @@
 namespace larkspan::model {
 
 struct ComponentMonitor;
+struct Monitor;
+struct MonitorMetricsWindow;
+struct MonitorWithMetrics;
 
 }  // namespace larkspan::model
 
@@ -18,13 +22,26 @@ class RequestEngine;
 /// What the client asks of the account's monitors.
 class MonitorEndpoints {
 public:
+    using MetricsWindows = std::map<std::string, model::MonitorMetricsWindow>;
+
     explicit MonitorEndpoints(RequestEngine& engine);
 
+    /// Those of the whole account, as the service lists them.
+    support::Task<std::vector<model::Monitor>> fetchMonitors();
+    /// Checks the target now; the answer comes before the check's result.
+    support::Task<void> runMonitor(std::string id);
+    support::Task<void> pauseMonitor(std::string id);
+    support::Task<void> resumeMonitor(std::string id);
+    /// The monitors' windows over a span of time such as "24h", by the monitors' ids.
+    support::Task<MetricsWindows> fetchMonitorMetrics(std::vector<std::string> ids, std::string range);
+    support::Task<std::vector<model::MonitorWithMetrics>> fetchMonitorsWithMetrics(
+        std::vector<std::string> componentIds);
     /// Those under the components; without any component there is nothing to ask for, and nothing is sent.
     support::Task<std::vector<model::ComponentMonitor>> fetchComponentMonitors(std::vector<std::string> componentIds);
 
 private:
-    // A task that runs on the client's executor; the public operation sends it there.
+    // Tasks that run on the client's executor; the public operations send them there.
+    support::Task<MetricsWindows> metricsOf(std::string path);
     support::Task<std::vector<model::ComponentMonitor>> componentMonitors(std::vector<std::string> componentIds);
 
     RequestEngine& engine_;

@@ -4,7 +4,9 @@
 
 #include "api/RequestSending.h"
 #include "model/StatusPage.h"
+#include "model/StatusPageAnalytics.h"
 #include "model/StatusPagesStatusEnvelope.h"
+#include "model/UpdateStatusPageRequest.h"
 
 namespace larkspan::api {
 
@@ -34,6 +36,22 @@ Task<std::vector<PageStatusEntry>> StatusPageEndpoints::statusPageStatuses(std::
     auto sending = engine_.sendRequest<model::StatusPagesStatusEnvelope>(std::move(call), std::move(stop));
     auto envelope = co_await std::move(sending);
     co_return std::move(envelope.statusPages);
+}
+
+Task<StatusPage> StatusPageEndpoints::updateStatusPage(std::string id, model::UpdateStatusPageRequest changes)
+{
+    return engine_.sendRecord<StatusPage>({.method = "PATCH", .path = "/status-pages/" + id}, std::move(changes));
+}
+
+Task<model::StatusPageAnalytics> StatusPageEndpoints::fetchStatusPageViews(std::string pageId)
+{
+    RequestEngine::Call call{.base = Base::feature, .path = "/analytics/status-pages/" + pageId + "/views"};
+    return engine_.sendRequest<model::StatusPageAnalytics>(std::move(call));
+}
+
+Task<model::SubscriberCount> StatusPageEndpoints::fetchSubscriberCount(std::string pageId)
+{
+    return engine_.sendRequest<model::SubscriberCount>({.path = "/status-pages/" + pageId + "/subscribers/count"});
 }
 
 }  // namespace larkspan::api

@@ -3,6 +3,7 @@
 #include <array>
 #include <concepts>
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,14 +14,15 @@
 
 #include "model/ISO8601.h"
 #include "model/JSONValue.h"
+#include "model/KeyConversion.h"
 #include "model/RawTexts.h"
 #include "model/URL.h"
 #include "model/WireTable.h"
 
 namespace larkspan::model {
 
-/// `value` as a `T`: a text (a view of one lives as long as the body), a number, a date, a URL, a word of an
-/// enumeration, a list, or a record of wire fields.
+/// `value` as a `T`: a text (a view of one lives as long as the body), a number, a boolean, a date, a URL, a word of an
+/// enumeration, a list, a map by converted keys, or a record of wire fields.
 template <typename T>
 T decode(const JSONValue& value);
 
@@ -51,6 +53,17 @@ public:
     {
         if (!member_ || member_->element.is_null()) return std::nullopt;
         return decode<T>(JSONValue(object_, *member_));
+    }
+
+    /// As `optional`, and absent too where the value does not read.
+    template <typename T>
+    std::optional<T> ifReadable() const
+    {
+        try {
+            return optional<T>();
+        } catch (const DecodingError&) {
+            return std::nullopt;
+        }
     }
 
     /// The moment of decoding.
@@ -86,6 +99,12 @@ void read(const IdentifierRow<Record>& row, Record& record, const KeyedValue& va
     record.*row.field = value.required<IdentifierText>().text;
 }
 
+template <typename Record, typename Field>
+void read(const ForgivingRow<Record, Field>& row, Record& record, const KeyedValue& value)
+{
+    record.*row.field = value.ifReadable<Field>();
+}
+
 template <typename Record>
 void read(const DerivedRow<Record>& row, Record& record, const KeyedValue& value)
 {
@@ -116,6 +135,20 @@ std::vector<Element> decodeList(const JSONValue& value)
     std::vector<Element> list;
     for (const auto element : value.list()) list.push_back(decode<Element>(JSONValue(value, list.size(), element)));
     return list;
+}
+
+/// Of several keys that convert alike the first counts, as in a record.
+template <typename Map>
+Map decodeMap(const JSONValue& value)
+{
+    Map map;
+    std::string buffer;
+    for (const auto [wireKey, element] : value.object()) {
+        const auto [place, isFirst] = map.try_emplace(std::string(fromSnakeCase(wireKey, buffer)));
+        if (!isFirst) continue;
+        place->second = decode<typename Map::mapped_type>(JSONValue(value, JSONValue::Member{wireKey, element}));
+    }
+    return map;
 }
 
 template <typename Enumeration>
@@ -157,6 +190,14 @@ struct IsList<std::vector<Element>> : std::true_type {
 };
 
 template <typename T>
+struct IsMap : std::false_type {
+};
+
+template <typename Value>
+struct IsMap<std::map<std::string, Value>> : std::true_type {
+};
+
+template <typename T>
 T decode(const JSONValue& value)
 {
     if constexpr (std::same_as<T, std::string>)
@@ -167,6 +208,8 @@ T decode(const JSONValue& value)
         return value.integer();
     else if constexpr (std::same_as<T, double>)
         return value.number();
+    else if constexpr (std::same_as<T, bool>)
+        return value.boolean();
     else if constexpr (std::same_as<T, support::Time>)
         return decodeDate(value);
     else if constexpr (std::same_as<T, URL>)
@@ -177,6 +220,8 @@ T decode(const JSONValue& value)
         return decodeWord<T>(value);
     else if constexpr (IsList<T>::value)
         return decodeList<typename T::value_type>(value);
+    else if constexpr (IsMap<T>::value)
+        return decodeMap<T>(value);
     else
         return decodeRecord<T>(value);
 }

@@ -2,9 +2,11 @@
 
 #include <tuple>
 
+#include "model/ComponentRequests.h"
 #include "model/Encoding.h"
 #include "model/IncidentRequests.h"
 #include "model/MaintenanceRequests.h"
+#include "model/UpdateStatusPageRequest.h"
 
 namespace larkspan::model {
 

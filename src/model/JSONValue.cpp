@@ -70,6 +70,13 @@ std::string_view JSONValue::text() const
     return text;
 }
 
+bool JSONValue::boolean() const
+{
+    bool truth = false;
+    if (element_.get(truth) != simdjson::SUCCESS) failMismatch("a boolean");
+    return truth;
+}
+
 double JSONValue::number() const
 {
     double number = 0;
@@ -103,13 +110,17 @@ simdjson::dom::array JSONValue::list() const
     return list;
 }
 
-void JSONValue::find(std::span<const std::string_view> keyNames, std::span<std::optional<Member>> found) const
+simdjson::dom::object JSONValue::object() const
 {
     simdjson::dom::object object;
     if (element_.get(object) != simdjson::SUCCESS) failMismatch("an object");
+    return object;
+}
 
+void JSONValue::find(std::span<const std::string_view> keyNames, std::span<std::optional<Member>> found) const
+{
     std::string buffer;
-    for (const auto [wireKey, element] : object) {
+    for (const auto [wireKey, element] : object()) {
         const auto key = fromSnakeCase(wireKey, buffer);
         for (std::size_t at = 0; at < keyNames.size(); ++at) {
             if (keyNames[at] != key) continue;

@@ -35,6 +35,7 @@ public:
 
     bool isNull() const;
     std::string_view text() const;
+    bool boolean() const;
     double number() const;
 
     /// The integer that this is, if it is one within 64 bits. A number with a fraction of zero is one too (`1.0`,
@@ -45,6 +46,7 @@ public:
     std::int64_t integer() const;
 
     simdjson::dom::array list() const;
+    simdjson::dom::object object() const;
 
     /// Puts each key that converts to one of `keyNames` at that name's place in `found`, which has as many. Where
     /// several keys convert to one name the first counts, whatever the others hold.

@@ -10,9 +10,22 @@ struct RawText {
     Enumeration value;
 };
 
-/// The words of an enumeration on the wire, compared exactly. A specialization holds `static constexpr RawText<E>
-/// table[]`.
+/// The words of an enumeration, compared exactly where they come from the wire. A specialization holds
+/// `static constexpr RawText<E> table[]` with a row for each value.
 template <typename Enumeration>
 struct RawTexts;
+
+/// The word for `value`.
+template <typename Enumeration>
+constexpr std::string_view rawText(Enumeration value) requires requires
+{
+    RawTexts<Enumeration>::table;
+}
+{
+    for (const auto& row : RawTexts<Enumeration>::table) {
+        if (row.value == value) return row.text;
+    }
+    return {};
+}
 
 }  // namespace larkspan::model

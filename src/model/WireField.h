@@ -13,7 +13,8 @@
 ///     WIRE_FIELD(std::optional<support::Time>, resolvedAt, key("endedAt"));
 ///
 /// Its key name is its own unless a `key` says otherwise. An optional field may be missing on the wire, and any other
-/// fails the record then, unless there is an `otherwise`. An `identifier` may be an integer there.
+/// fails the record then, unless there is an `otherwise`. An `identifier` may be an integer there, and an optional
+/// field that is `forgiving` may be anything.
 ///
 /// A class cannot count its members, so a row is found by the line that its field stands on; see `WireTable.h`.
 #define WIRE_FIELD(Type, name, ...)                                                                                    \
@@ -46,6 +47,11 @@ constexpr Key key(std::string_view name)
 struct Identifier {};
 
 inline constexpr Identifier identifier;
+
+/// An optional field that is absent where its value does not read.
+struct Forgiving {};
+
+inline constexpr Forgiving forgiving;
 
 /// What a field is until it is read, and if it is missing.
 template <typename Value>
@@ -98,6 +104,12 @@ constexpr DefaultedRow<Record, Field, Value> wireRow(
 
 template <typename Record>
 constexpr IdentifierRow<Record> wireRow(std::string_view name, std::string Record::*field, Identifier)
+{
+    return {name, field};
+}
+
+template <typename Record, typename Field>
+constexpr ForgivingRow<Record, Field> wireRow(std::string_view name, std::optional<Field> Record::*field, Forgiving)
 {
     return {name, field};
 }

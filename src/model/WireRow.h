@@ -37,6 +37,13 @@ struct IdentifierRow {
     std::string Record::*field;
 };
 
+/// As `OptionalRow`, and a value that does not read leaves the field absent too.
+template <typename Record, typename Field>
+struct ForgivingRow {
+    std::string_view key;
+    std::optional<Field> Record::*field;
+};
+
 /// `derive` works out fields of the record from what the key holds and from the rows above, which are read already.
 template <typename Record>
 struct DerivedRow {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "Samples.h"
+#include "account/Storyline.h"
 #include "fakes/ManualClock.h"
 #include "json/Json.h"
 

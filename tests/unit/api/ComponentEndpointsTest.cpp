@@ -2,12 +2,16 @@
 
 #include "api/Endpoint.h"
 #include "model/ComponentGroup.h"
+#include "model/ComponentRequests.h"
 
 namespace larkspan::api {
 
 namespace {
 
 using fakes::Service;
+
+const std::string aComponent = R"({"data": {"id": 7, "name": "API"}})";
+const std::string aGroup = R"({"data": {"id": "g", "name": "Backend"}})";
 
 class ComponentEndpoint : public Endpoint {};
 
@@ -44,6 +48,40 @@ INSTANTIATE_TEST_SUITE_P(EachOperation, ComponentEndpoint,
             R"([{"id": "1", "name": "A"}])", "GET", feature + "/component-groups?status_page_id=p", "none", "1"}),
     [](const auto& row) { return row.param.name; });
 
+INSTANTIATE_TEST_SUITE_P(EachChange, ComponentEndpoint,
+    testing::Values(
+        EndpointRow{"createComponent",
+            [](Service& s) {
+                return resultOf(s, s.api.createComponent({.name = "N", .description = "D", .groupId = "g"}));
+            },
+            aComponent, "POST", feature + "/components", R"({"name":"N","description":"D","group_id":"g"})", "7"},
+        EndpointRow{"createComponentOfANameAlone",
+            [](Service& s) { return resultOf(s, s.api.createComponent({.name = "N"})); }, aComponent, "POST",
+            feature + "/components", R"({"name":"N"})", "7"},
+        EndpointRow{"updateComponent",
+            [](Service& s) {
+                return resultOf(
+                    s, s.api.updateComponent("7", {.name = "N", .description = "D", .status = "up", .groupId = "g"}));
+            },
+            aComponent, "PUT", feature + "/components/7",
+            R"({"name":"N","description":"D","status":"up","group_id":"g"})", "7"},
+        EndpointRow{"updateComponentOfNothing", [](Service& s) { return resultOf(s, s.api.updateComponent("7", {})); },
+            aComponent, "PUT", feature + "/components/7", "{}", "7"},
+        EndpointRow{"deleteComponent", [](Service& s) { return resultOf(s, s.api.deleteComponent("7")); }, "", "DELETE",
+            feature + "/components/7", "none", "nothing"},
+        EndpointRow{"createComponentGroup",
+            [](Service& s) { return resultOf(s, s.api.createComponentGroup("p", "A \"B\"")); }, aGroup, "POST",
+            feature + "/component-groups", R"({"name":"A \"B\"","status_page_id":"p"})", "g"},
+        EndpointRow{"updateComponentGroup",
+            [](Service& s) { return resultOf(s, s.api.updateComponentGroup("g", "N")); }, aGroup, "PUT",
+            feature + "/component-groups/g", R"({"name":"N"})", "g"},
+        EndpointRow{"updateComponentGroupOfNothing",
+            [](Service& s) { return resultOf(s, s.api.updateComponentGroup("g", {})); }, aGroup, "PUT",
+            feature + "/component-groups/g", "{}", "g"},
+        EndpointRow{"deleteComponentGroup", [](Service& s) { return resultOf(s, s.api.deleteComponentGroup("g")); },
+            "{}", "DELETE", feature + "/component-groups/g", "none", "nothing"}),
+    [](const auto& row) { return row.param.name; });
+
 class Components : public testing::Test, public Service {
 protected:
     std::string failureWhenAnswered(int status, const std::string& body)
@@ -75,6 +113,13 @@ TEST_F(Components, FailWithTheStatusOfTheAnswer)
         EXPECT_EQ(
             failureWhenAnswered(status, "[]"), "Server returned HTTP status code " + std::to_string(status) + ".");
     }
+}
+
+TEST_F(Components, AGroupWhoseNameIsNoTextIsNotSent)
+{
+    EXPECT_EQ(
+        failure(api.createComponentGroup("p", "\xff")), "The request could not be written: name is not valid text.");
+    EXPECT_TRUE(transport.requests.empty());
 }
 
 }  // namespace

@@ -2,6 +2,9 @@
 
 #include "api/Endpoint.h"
 #include "model/ComponentMonitor.h"
+#include "model/Monitor.h"
+#include "model/MonitorMetricsWindow.h"
+#include "model/MonitorWithMetrics.h"
 
 namespace larkspan::api {
 
@@ -16,13 +19,56 @@ TEST_P(MonitorEndpoint, SendsItsMethodToItsURLWithItsBodyAndGivesItsResult)
     expectRequestAndResult();
 }
 
+/// The ids of the monitors that have a window.
+std::string monitorsIn(const MonitorEndpoints::MetricsWindows& windows)
+{
+    std::string ids;
+    for (const auto& [id, window] : windows) ids += (ids.empty() ? "" : " ") + id;
+    return ids;
+}
+
 INSTANTIATE_TEST_SUITE_P(EachOperation, MonitorEndpoint,
-    testing::Values(EndpointRow{"fetchComponentMonitors",
-        [](Service& s) {
-            return resultOf(s, s.api.fetchComponentMonitors({"a", "b c"}));
-        },
-        R"({"monitors": [{"id": 2, "name": "B", "component_id": "a"}, {"id": "1", "name": "A", "component_id": "b c"}]})",
-        "GET", feature + "/monitors?component_ids=a,b%20c", "none", "2 1"}),
+    testing::Values(
+        EndpointRow{"fetchMonitors", [](Service& s) { return resultOf(s, s.api.fetchMonitors()); },
+            R"([{"id": "b", "name": "B"}, {"id": 1, "name": "A"}])", "GET", v1 + "/monitors", "none", "b 1"},
+        EndpointRow{"fetchMonitorsOfNull", [](Service& s) { return resultOf(s, s.api.fetchMonitors()); },
+            R"({"data": null})", "GET", v1 + "/monitors", "none", ""},
+        EndpointRow{"runMonitor", [](Service& s) { return resultOf(s, s.api.runMonitor("7")); }, "{}", "POST",
+            feature + "/monitors/7/run", "none", "nothing"},
+        EndpointRow{"pauseMonitor", [](Service& s) { return resultOf(s, s.api.pauseMonitor("7")); }, "{}", "POST",
+            feature + "/monitors/7/pause", "none", "nothing"},
+        EndpointRow{"resumeMonitor", [](Service& s) { return resultOf(s, s.api.resumeMonitor("7")); }, "", "POST",
+            feature + "/monitors/7/resume", "none", "nothing"},
+        EndpointRow{"fetchMonitorMetrics",
+            [](Service& s) {
+                return monitorsIn(s.result(s.api.fetchMonitorMetrics({"a", "b"}, "24h")));
+            },
+            R"({"data": {"metrics": {"a": {}, "b": {}}}})", "GET", feature + "/monitors/metrics?ids=a,b&range=24h",
+            "none", "a b"},
+        EndpointRow{"fetchMonitorMetricsOfNoMonitor",
+            [](Service& s) { return monitorsIn(s.result(s.api.fetchMonitorMetrics({}, "24h"))); }, R"({"metrics": {}})",
+            "GET", feature + "/monitors/metrics?ids=&range=24h", "none", ""},
+        EndpointRow{"fetchMonitorMetricsOutsideTheQuerySet",
+            [](Service& s) {
+                return monitorsIn(s.result(s.api.fetchMonitorMetrics({"a b", "#"}, "1 h")));
+            },
+            R"({"metrics": {}})", "GET", feature + "/monitors/metrics?ids=a%20b,%23&range=1%20h", "none", ""},
+        EndpointRow{"fetchMonitorsWithMetrics",
+            [](Service& s) {
+                return resultOf(s, s.api.fetchMonitorsWithMetrics({"a", "b c"}));
+            },
+            R"([{"id": "m", "name": "M", "metrics": {}}])", "GET", feature + "/monitors?component_ids=a,b%20c", "none",
+            "m"},
+        EndpointRow{"fetchMonitorsWithMetricsOfNoComponent",
+            [](Service& s) { return resultOf(s, s.api.fetchMonitorsWithMetrics({})); }, "[]", "GET",
+            feature + "/monitors?component_ids=", "none", ""},
+        EndpointRow{"fetchComponentMonitors",
+            [](Service& s) {
+                return resultOf(s, s.api.fetchComponentMonitors({"a", "b c"}));
+            },
+            R"({"monitors": [{"id": 2, "name": "B", "component_id": "a"},
+                {"id": "1", "name": "A", "component_id": "b c"}]})",
+            "GET", feature + "/monitors?component_ids=a,b%20c", "none", "2 1"}),
     [](const auto& row) { return row.param.name; });
 
 class Monitors : public testing::Test, public Service {};
@@ -43,6 +89,25 @@ TEST_F(Monitors, OfComponentsInAnEmptyBodyAreADecodingError)
 {
     transport.script(feature + "/monitors?component_ids=a", 200, "");
     EXPECT_EQ(failure(api.fetchComponentMonitors({"a"})), "The server’s answer: Not valid JSON");
+}
+
+TEST_F(Monitors, ARunAnsweredBy202WithAnEmptyBodySucceeds)
+{
+    transport.script(feature + "/monitors/7/run", 202, "");
+    EXPECT_EQ(failure(api.runMonitor("7")), "no failure");
+}
+
+TEST_F(Monitors, OfAnEmptyBodyAreNoValidResponse)
+{
+    transport.script(v1 + "/monitors", 200, "");
+    EXPECT_EQ(failure(api.fetchMonitors()), "Received an invalid response from the server.");
+}
+
+TEST_F(Monitors, WhoseIdsAreNoTextAreAskedForRawAndGiveNoURL)
+{
+    EXPECT_EQ(failure(api.fetchMonitorMetrics({"\xff"}, "24h")), "Could not build a valid API URL.");
+    EXPECT_EQ(failure(api.fetchComponentMonitors({"\xff"})), "Could not build a valid API URL.");
+    EXPECT_TRUE(transport.requests.empty());
 }
 
 }  // namespace

@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "model/ComponentRequests.h"
 #include "model/EncodingError.h"
 #include "model/IncidentRequests.h"
 #include "model/MaintenanceRequests.h"
+#include "model/UpdateStatusPageRequest.h"
 
 namespace larkspan::model {
 
@@ -77,6 +79,38 @@ TEST(UpdateMaintenanceRequest, WritesEveryField)
 TEST(UpdateMaintenanceRequest, WithNothingToChangeIsAnEmptyObject)
 {
     EXPECT_EQ(encoder.encode(UpdateMaintenanceRequest{}), "{}");
+}
+
+TEST(CreateComponentRequest, WritesEveryFieldAndLeavesOutWhatIsAbsent)
+{
+    EXPECT_EQ(encoder.encode(CreateComponentRequest{.name = "N", .description = "D", .groupId = "g"}),
+        R"({"name":"N","description":"D","group_id":"g"})");
+    EXPECT_EQ(encoder.encode(CreateComponentRequest{.name = "N"}), R"({"name":"N"})");
+}
+
+TEST(UpdateComponentRequest, WritesEveryFieldAndLeavesOutWhatIsAbsent)
+{
+    EXPECT_EQ(encoder.encode(UpdateComponentRequest{.name = "N", .description = "D", .status = "up", .groupId = "g"}),
+        R"({"name":"N","description":"D","status":"up","group_id":"g"})");
+    EXPECT_EQ(encoder.encode(UpdateComponentRequest{}), "{}");
+}
+
+TEST(CreateGroupRequest, IsAName)
+{
+    EXPECT_EQ(encoder.encode(CreateGroupRequest{.name = "N"}), R"({"name":"N"})");
+}
+
+TEST(UpdateGroupRequest, IsANameOrNothing)
+{
+    EXPECT_EQ(encoder.encode(UpdateGroupRequest{.name = "N"}), R"({"name":"N"})");
+    EXPECT_EQ(encoder.encode(UpdateGroupRequest{}), "{}");
+}
+
+TEST(UpdateStatusPageRequest, WritesEveryFieldAndLeavesOutWhatIsAbsent)
+{
+    EXPECT_EQ(encoder.encode(UpdateStatusPageRequest{.title = "T", .description = "D"}),
+        R"({"title":"T","description":"D"})");
+    EXPECT_EQ(encoder.encode(UpdateStatusPageRequest{}), "{}");
 }
 
 TEST(JSONEncoder, FailsOnTextThatIsNotUTF8)
