@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "PreparedTransport.h"
+#include "account/Account.h"
 #include "api/KestruneAPI.h"
 #include "api/KeychainHelper.h"
 #include "core/AppStateManager.h"
