@@ -11,7 +11,7 @@ ACCESSIBLE = "org.a11y.atspi.Accessible"
 ACTION = "org.a11y.atspi.Action"
 TEXT = "org.a11y.atspi.Text"
 ROOT = "/org/a11y/atspi/accessible/root"
-FOCUSED, SELECTED, SHOWING, VISIBLE = 12, 23, 25, 30
+FOCUSED, SHOWING, VISIBLE = 12, 25, 30
 
 
 class Thing(NamedTuple):
@@ -66,9 +66,6 @@ class Screen:
             return [thing.name for thing in sorted(rows, key=self._top)]
         except dbus.DBusException:
             return []
-
-    def selected_rows(self) -> list[str]:
-        return [thing.name for thing in self.things() if thing.role == "list item" and thing.is_in(SELECTED)]
 
     def wait_for(self, text: str, seconds: float = 10) -> None:
         eventually(lambda: self.shows(text), lambda: f"\"{text}\" does not show; this does: {self.texts()}", seconds)

@@ -62,7 +62,6 @@ ScreenFrame {
             }
         }
         delegate: StatusPageRow {
-            isSelected: index === view.dashboard.selectedRow
             onClicked: view.dashboard.openPage(row.id)
         }
     }

@@ -2,15 +2,13 @@ import QtQuick
 import QtQuick.Templates as T
 import Larkspan
 
-// A row of a `CardList`: a list item for screen readers, with the ring of the keyboard, the tint of the selection and
-// the line above it. What stands in it is read in the order in which it is written down.
+// A row of a `CardList`: a list item for screen readers, with the ring of the keyboard and the line above it. What stands in it is read in the order in which it is written down.
 T.ItemDelegate {
     id: card
     required property int index
     // What a screen reader says of the row: its title and its status.
     required property string name
     property string description
-    property bool isSelected: false
     // Rows that only tell are met by the keyboard and the screen reader, and nothing happens when they are pressed.
     property bool isPressable: true
 
@@ -29,8 +27,6 @@ T.ItemDelegate {
     Accessible.name: name
     Accessible.description: description
     Accessible.focusable: true
-    Accessible.selectable: true
-    Accessible.selected: isSelected
     // Qt 6.4 tells assistive technologies of the action, but does nothing when they take it.
     Accessible.onPressAction: clicked()
     Accessible.focused: ListView.isCurrentItem && ListView.view.activeFocus
@@ -41,7 +37,6 @@ T.ItemDelegate {
             anchors.margins: Theme.halfUnit
             radius: Theme.controlRadius
             color: card.down && card.isPressable ? Theme.pressed
-                : card.isSelected ? Qt.alpha(Theme.accentOnCard, Theme.selectionOpacity)
                 : card.hovered ? Theme.hover : "transparent"
             border.width: InputHand.isKeyboard && card.Accessible.focused ? Theme.focusWidth : 0
             border.color: Theme.focus

@@ -31,7 +31,6 @@ QtObject {
     readonly property color dimming: "#66000000"
     readonly property color veil: "#33000000"
     readonly property real pillOpacity: 0.15
-    readonly property real selectionOpacity: 0.10
 
     readonly property real base: Application.font.pointSize > 0 ? Application.font.pointSize : 10
     readonly property real title: base * 1.8
