@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "incidents/markdown/MarkdownText.h"
+
+namespace larkspan::incidents {
+
+/// One row of a message on screen, small enough to be made when it scrolls into view. A long text goes on in the rows
+/// below, which then have no label and no gap.
+struct MarkdownRow {
+    enum class Kind {
+        title,  ///< a heading of level 1
+        headline,  ///< any other heading
+        paragraph,
+        bulletItem,
+        numberedItem,
+        quote,
+        tableHeader,
+        tableDivider,
+        tableRow,
+    };
+
+    Kind kind;
+    /// Of an item: its bullet or number.
+    std::string label = {};
+    /// Of all rows but a table's.
+    MarkdownText text = {};
+    /// Of a table's rows, from the left; where there are fewer than columns, the rest is empty.
+    std::vector<MarkdownText> cells = {};
+    /// Of a table's rows: which of `MarkdownRows::tables` it is of.
+    std::size_t table = 0;
+    bool continuesPrevious = false;
+    /// In points, to the row above.
+    int gap = 0;
+
+    bool operator==(const MarkdownRow&) const = default;
+};
+
+/// What the rows of a table have in common.
+struct MarkdownColumns {
+    /// For each column, the plain text of its longest cell: the measure of its width.
+    std::vector<std::string> longestTexts;
+
+    bool operator==(const MarkdownColumns&) const = default;
+};
+
+struct MarkdownRows {
+    std::vector<MarkdownRow> rows;
+    std::vector<MarkdownColumns> tables;
+
+    bool operator==(const MarkdownRows&) const = default;
+};
+
+}  // namespace larkspan::incidents

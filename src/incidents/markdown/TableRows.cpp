@@ -1,0 +1,90 @@
+#include "incidents/markdown/TableRows.h"
+
+#include <algorithm>
+#include <span>
+
+namespace larkspan::incidents {
+
+namespace {
+
+using Kind = MarkdownRow::Kind;
+using Cells = std::span<const std::string>;
+
+constexpr std::size_t mostColumns = 64;
+constexpr int gapOfRows = 7;
+constexpr int gapOfTables = 10;
+
+/// Appends the rows of as many columns of a table as one row holds.
+class ColumnsWriter {
+public:
+    ColumnsWriter(MarkdownRows& content, std::size_t columns)
+        : content_(content)
+        , table_(content.tables.size())
+    {
+        content_.tables.push_back({std::vector<std::string>(columns)});
+    }
+
+    /// A cell that is too long for one item goes on in the row below.
+    void add(Kind kind, Cells texts, int gap)
+    {
+        std::vector<std::vector<MarkdownText>> columns;
+        std::size_t height = 1;
+        for (const auto& text : texts) {
+            columns.push_back(MarkdownText::piecesOf(inlineMarkdownText(text)));
+            height = std::max(height, columns.back().size());
+        }
+        for (std::size_t line = 0; line < height; ++line) addLine(kind, columns, line, line == 0 ? gap : 0);
+    }
+
+    void addDivider() { content_.rows.push_back({.kind = Kind::tableDivider, .table = table_, .gap = gapOfRows}); }
+
+private:
+    void addLine(Kind kind, std::vector<std::vector<MarkdownText>>& columns, std::size_t line, int gap)
+    {
+        MarkdownRow row{.kind = kind, .table = table_, .continuesPrevious = line > 0, .gap = gap};
+        for (std::size_t column = 0; column < columns.size(); ++column) {
+            if (line >= columns[column].size()) continue;
+            row.cells.resize(column + 1);
+            row.cells[column] = std::move(columns[column][line]);
+            auto& longest = content_.tables[table_].longestTexts[column];
+            if (row.cells[column].plain.size() > longest.size()) longest = row.cells[column].plain;
+        }
+        content_.rows.push_back(std::move(row));
+    }
+
+    MarkdownRows& content_;
+    std::size_t table_;
+};
+
+Cells behind(Cells cells, std::size_t count)
+{
+    return cells.subspan(std::min(count, cells.size()));
+}
+
+Cells upTo(Cells cells, std::size_t count)
+{
+    return cells.first(std::min(count, cells.size()));
+}
+
+}  // namespace
+
+void appendTable(MarkdownRows& content, const MarkdownTable& table, int gap)
+{
+    Cells headers = table.headers;
+    std::vector<Cells> rows(table.rows.begin(), table.rows.end());
+    while (!headers.empty()) {
+        const auto columns = std::min(headers.size(), mostColumns);
+        ColumnsWriter writer(content, columns);
+        writer.add(Kind::tableHeader, headers.first(columns), gap + tablePadding);
+        writer.addDivider();
+        for (const auto& row : rows) writer.add(Kind::tableRow, upTo(row, columns), gapOfRows);
+
+        // Only rows that have more to show go on, or many short rows would be repeated for each of many columns.
+        headers = headers.subspan(columns);
+        for (auto& row : rows) row = behind(row, columns);
+        std::erase_if(rows, [](Cells row) { return row.empty(); });
+        gap = gapOfTables + tablePadding;
+    }
+}
+
+}  // namespace larkspan::incidents
