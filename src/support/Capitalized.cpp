@@ -23,8 +23,7 @@ struct LetterRange {
 
 // The standard library's own mapping depends on the locale of the process, in which no word of the service is written.
 constexpr std::array alphabets{
-    LetterRange{U'A', U'Z', 32},
-    LetterRange{0x00C0, 0x00D6, 32},  // Latin: À to Ö
+    LetterRange{U'A', U'Z', 32}, LetterRange{0x00C0, 0x00D6, 32},  // Latin: À to Ö
     LetterRange{0x00D8, 0x00DE, 32},  // Ø to Þ
     LetterRange{0x0100, 0x012E, 1},  // Ā to Į
     LetterRange{0x0132, 0x0136, 1},  // Ĳ to Ķ
