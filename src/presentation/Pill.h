@@ -10,6 +10,8 @@ namespace larkspan::presentation {
 struct Pill {
     std::string text{};
     Tone tone = Tone::gray;
+    /// Empty for none.
+    std::string symbol{};
 
     bool operator==(const Pill&) const = default;
 };

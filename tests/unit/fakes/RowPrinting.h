@@ -104,6 +104,16 @@ void PrintTo(const T& row, std::ostream* out)
 
 }  // namespace larkspan::presentation
 
+namespace larkspan::incidents {
+
+template <fakes::Row T>
+void PrintTo(const T& row, std::ostream* out)
+{
+    fakes::printFields(row, out);
+}
+
+}  // namespace larkspan::incidents
+
 namespace larkspan::workspace {
 
 template <fakes::Row T>

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string_view>
+
+#include "model/IncidentStatus.h"
+#include "presentation/Tone.h"
+
+namespace larkspan::incidents {
+
+presentation::Tone incidentStatusColor(model::IncidentStatus status);
+
+/// Of a severity's name in any case of letters; an account may have names of its own, which are gray.
+presentation::Tone severityColor(std::string_view name);
+
+}  // namespace larkspan::incidents

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "model/Incident.h"
+#include "presentation/Pill.h"
+
+namespace larkspan::incidents {
+
+/// The status as a word, without a symbol.
+presentation::Pill statusPill(const model::Incident& incident);
+
+/// Absent if the incident has no severity.
+std::optional<presentation::Pill> severityPill(const model::Incident& incident);
+
+/// Those under the title of an incident that is shown alone: status, severity, acknowledgement.
+std::vector<presentation::Pill> headerPills(const model::Incident& incident);
+
+}  // namespace larkspan::incidents

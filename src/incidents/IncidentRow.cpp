@@ -1,0 +1,18 @@
+#include "incidents/IncidentRow.h"
+
+#include "incidents/IncidentColors.h"
+#include "incidents/IncidentPills.h"
+
+namespace larkspan::incidents {
+
+IncidentRow IncidentRow::of(const model::Incident& incident, const platform::LocaleText& locale)
+{
+    return {.id = incident.id,
+        .title = incident.title,
+        .tone = incidentStatusColor(incident.status),
+        .severity = severityPill(incident),
+        .date = locale.dateOnly(incident.createdAt),
+        .status = statusPill(incident)};
+}
+
+}  // namespace larkspan::incidents

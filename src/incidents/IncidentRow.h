@@ -1,0 +1,28 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "model/Incident.h"
+#include "platform/LocaleText.h"
+#include "presentation/Pill.h"
+#include "presentation/Tone.h"
+
+namespace larkspan::incidents {
+
+/// One incident in the list of its page.
+struct IncidentRow {
+    std::string id{};
+    std::string title{};
+    /// Of the dot.
+    presentation::Tone tone = presentation::Tone::gray;
+    std::optional<presentation::Pill> severity{};
+    std::string date{};
+    presentation::Pill status{};
+
+    static IncidentRow of(const model::Incident& incident, const platform::LocaleText& locale);
+
+    bool operator==(const IncidentRow&) const = default;
+};
+
+}  // namespace larkspan::incidents

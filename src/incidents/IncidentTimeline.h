@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "model/Incident.h"
+#include "platform/LocaleText.h"
+#include "presentation/TimelineRow.h"
+
+namespace larkspan::incidents {
+
+std::vector<presentation::TimelineRow> incidentTimeline(
+    const model::Incident& incident, const platform::LocaleText& locale);
+
+/// How long the incident lasted or, if it is not resolved, has lasted by `now`.
+std::string incidentDuration(const model::Incident& incident, support::Time now);
+
+}  // namespace larkspan::incidents

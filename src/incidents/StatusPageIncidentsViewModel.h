@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "api/IncidentEndpoints.h"
+#include "model/Incident.h"
+#include "presentation/FetchedList.h"
+
+namespace larkspan::incidents {
+
+/// The incidents of one page, fetched apart from the account's cycle.
+class StatusPageIncidentsViewModel final : public presentation::FetchedList<model::Incident> {
+public:
+    StatusPageIncidentsViewModel(platform::Executor& main, api::IncidentEndpoints& api, std::string page);
+
+    const std::string pageId;
+
+    /// The list, in the order in which the service gave it.
+    support::Published<std::vector<model::Incident>>& incidents = records;
+
+    /// Puts an incident that was just made at the head, where it stands until the next load.
+    void insertFirst(model::Incident incident);
+};
+
+}  // namespace larkspan::incidents

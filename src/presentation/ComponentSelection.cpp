@@ -1,0 +1,147 @@
+#include "presentation/ComponentSelection.h"
+
+#include <exception>
+#include <utility>
+
+#include "support/Child.h"
+#include "support/LocalizedError.h"
+
+namespace larkspan::presentation {
+
+using model::ComponentMonitor;
+using support::Child;
+using support::Task;
+
+namespace {
+
+template <typename Record>
+std::vector<Choice> choices(std::string nameOfNone, const std::vector<Record>& records)
+{
+    std::vector<Choice> entries{{.id = "", .name = std::move(nameOfNone)}};
+    entries.reserve(records.size() + 1);
+    for (const auto& record : records) entries.push_back({.id = record.id, .name = record.name});
+    return entries;
+}
+
+}  // namespace
+
+ComponentSelection::ComponentSelection(
+    Ports ports, std::string pageId, ComponentFailure failure, std::function<void(std::string)> alert)
+    : ports_(ports)
+    , pageId_(std::move(pageId))
+    , failure_(failure)
+    , alert_(std::move(alert))
+{
+}
+
+void ComponentSelection::load()
+{
+    isLoadingComponents = true;
+    support::start(ports_.main, fetchChoices(shared_from_this()));
+}
+
+Task<void> ComponentSelection::fetchChoices(std::shared_ptr<ComponentSelection> self)
+{
+    auto& api = self->ports_.components;
+    Child<Components> fetchingComponents(self->ports_.main, api.fetchComponents(self->pageId_));
+    Child<ComponentGroups> fetchingGroups(self->ports_.main, api.fetchComponentGroups(self->pageId_));
+    Components components;
+    ComponentGroups groups;
+    std::exception_ptr failure;
+    try {
+        auto awaitingComponents = fetchingComponents.result();
+        components = co_await std::move(awaitingComponents);
+    } catch (...) {
+        failure = std::current_exception();
+    }
+    if (failure) {
+        self->offer({}, {});
+        if (self->failure_ == ComponentFailure::told) self->tell("Could not load components: ", failure);
+        self->isLoadingComponents = false;
+        co_return;
+    }
+    try {
+        auto awaitingGroups = fetchingGroups.result();
+        groups = co_await std::move(awaitingGroups);
+    } catch (...) {
+        // A form without groups still does for the whole page.
+    }
+    self->offer(std::move(components), std::move(groups));
+    self->isLoadingComponents = false;
+}
+
+void ComponentSelection::offer(Components fetchedComponents, ComponentGroups fetchedGroups)
+{
+    components = std::move(fetchedComponents);
+    componentGroups = std::move(fetchedGroups);
+    offeredGroups_ = groupsWithComponents(*componentGroups, *components);
+    offerComponentsOfGroup();
+}
+
+void ComponentSelection::offerComponentsOfGroup()
+{
+    offeredComponents_ = showsComponentPicker()
+        ? componentsForGroup(*selectedComponentGroupID, *componentGroups, *components, ports_.locale)
+        : Components();
+}
+
+void ComponentSelection::chooseGroup(const std::string& id)
+{
+    if (id == *selectedComponentGroupID) return;
+    selectedComponentGroupID = id;
+    selectedComponentID = {};
+    forgetMonitors();
+    offerComponentsOfGroup();
+}
+
+void ComponentSelection::chooseComponent(const std::string& id)
+{
+    if (id == *selectedComponentID) return;
+    selectedComponentID = id;
+    forgetMonitors();
+    if (id.empty()) return;
+    isLoadingMonitors = true;
+    support::start(ports_.main, fetchMonitors(shared_from_this(), id));
+}
+
+void ComponentSelection::forgetMonitors()
+{
+    selectedMonitorID = {};
+    componentMonitors = {};
+}
+
+// What a component's monitors are is asked once and lands when it comes, also if the user has moved on meanwhile.
+Task<void> ComponentSelection::fetchMonitors(std::shared_ptr<ComponentSelection> self, std::string componentID)
+{
+    try {
+        std::vector<std::string> ids{std::move(componentID)};
+        auto fetching = self->ports_.monitors.fetchComponentMonitors(std::move(ids));
+        std::vector<ComponentMonitor> fetched = co_await std::move(fetching);
+        self->componentMonitors = std::move(fetched);
+    } catch (...) {
+        self->tell("Could not load monitors for this component: ", std::current_exception());
+    }
+    self->isLoadingMonitors = false;
+}
+
+void ComponentSelection::tell(std::string words, const std::exception_ptr& failure) const
+{
+    alert_(std::move(words) + support::localizedDescription(failure));
+}
+
+std::vector<Choice> ComponentSelection::groupChoices() const
+{
+    return choices("Entire status page", offeredGroups_);
+}
+
+std::vector<Choice> ComponentSelection::componentChoices() const
+{
+    return choices("Select a component", offeredComponents_);
+}
+
+std::vector<Choice> ComponentSelection::monitorChoices(std::string nameOfNone) const
+{
+    return choices(std::move(nameOfNone), *componentMonitors);
+}
+
+}  // namespace larkspan::presentation

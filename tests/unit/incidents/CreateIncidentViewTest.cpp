@@ -1,0 +1,280 @@
+#include "incidents/CreateIncidentView.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "api/KestruneAPI.h"
+#include "fakes/PageComponents.h"
+#include "incidents/Refusal.h"
+#include "presentation/Confirmation.h"
+
+namespace larkspan::incidents {
+
+namespace {
+
+using platform::HttpResponse;
+using Words = std::vector<std::string>;
+
+const std::string created = R"({"id": "8", "title": "Down", "created_at": "2026-11-20T09:00:00Z"})";
+
+class FormOfAnIncident : public testing::Test, public fakes::PageComponents {
+protected:
+    /// With the components there to choose from.
+    std::shared_ptr<CreateIncidentView> opened()
+    {
+        CreateIncidentView::Owner owner{.onCreated = [this](const model::Incident& incident) { note(incident.id); },
+            .dismiss = [this] { note("dismiss"); }};
+        form = std::make_shared<CreateIncidentView>(
+            CreateIncidentView::Ports{api, {main, api, api, locale}}, "p", std::move(owner));
+        form->appear();
+        run();
+        transport.requests.clear();
+        return form;
+    }
+
+    std::shared_ptr<CreateIncidentView> titled(const std::string& title)
+    {
+        opened()->title = title;
+        return form;
+    }
+
+    void choose(const std::string& group, const std::string& component)
+    {
+        form->selection->chooseGroup(group);
+        form->selection->chooseComponent(component);
+        run();
+        transport.requests.clear();
+    }
+
+    void note(const std::string& effect)
+    {
+        effects.push_back(effect + (form && *form->action->isInProgress ? " while busy" : ""));
+    }
+
+    /// The body of the request after "Save" was pressed.
+    std::string saved()
+    {
+        transport.script(incidentsURL, 200, created);
+        form->save();
+        run();
+        return transport.requests.empty() ? "nothing" : transport.requests.back().body.value_or("none");
+    }
+
+    std::shared_ptr<CreateIncidentView> form;
+    Words effects;
+};
+
+TEST_F(FormOfAnIncident, OpensEmptyForTheEntirePageWithSubscribersNotified)
+{
+    opened();
+    EXPECT_EQ(*form->title, "");
+    EXPECT_EQ(*form->message, "");
+    EXPECT_TRUE(*form->notifySubscribers);
+    EXPECT_EQ(*form->selection->selectedComponentGroupID, "");
+    EXPECT_FALSE(form->isSaveEnabled());
+    EXPECT_TRUE(form->isCancelEnabled());
+    EXPECT_EQ(form->selectionHint(), "Choose a group only when the incident is limited to it.");
+    form->selection->chooseGroup("back");
+    EXPECT_EQ(form->selectionHint(), "Then choose the affected component within that group.");
+}
+
+TEST_F(FormOfAnIncident, NamesTheMonitorThatIsNotYetChosen)
+{
+    opened();
+    choose("back", "api");
+    EXPECT_EQ(form->monitorChoices().at(0), (presentation::Choice{"", "Select a monitor"}));
+    EXPECT_EQ(form->monitorChoices().size(), 3u);
+}
+
+struct TitleRow {
+    std::string title;
+    bool isEnabled;
+};
+
+class TitleOfAnIncident : public FormOfAnIncident, public testing::WithParamInterface<TitleRow> {};
+
+TEST_P(TitleOfAnIncident, IsNeededAndBlanksAreNone)
+{
+    titled(GetParam().title);
+    EXPECT_EQ(form->isSaveEnabled(), GetParam().isEnabled);
+    EXPECT_EQ(saved() != "nothing", GetParam().isEnabled);
+}
+
+INSTANTIATE_TEST_SUITE_P(EachKind, TitleOfAnIncident,
+    testing::Values(TitleRow{"", false}, TitleRow{"   ", false}, TitleRow{" \t\u00a0", false}, TitleRow{"\n\n", true},
+        TitleRow{" a ", true}));
+
+TEST_F(FormOfAnIncident, WithAGroupButNoComponentCannotBeSaved)
+{
+    titled("Down");
+    EXPECT_TRUE(form->isSaveEnabled());
+    form->selection->chooseGroup("back");
+    EXPECT_FALSE(form->isSelectionComplete());
+    EXPECT_FALSE(form->isSaveEnabled());
+}
+
+TEST_F(FormOfAnIncident, WithAComponentWhoseMonitorsLoadCannotBeSaved)
+{
+    titled("Down")->selection->chooseGroup("back");
+    form->selection->chooseComponent("cron");
+    EXPECT_FALSE(form->isSaveEnabled());
+    run();
+    EXPECT_TRUE(form->isSaveEnabled()) << "it has no monitors";
+}
+
+TEST_F(FormOfAnIncident, WithAComponentThatHasMonitorsNeedsOneOfThem)
+{
+    titled("Down");
+    choose("back", "api");
+    EXPECT_FALSE(form->isSaveEnabled());
+    form->selection->chooseMonitor("m1");
+    EXPECT_TRUE(form->isSaveEnabled());
+    form->selection->chooseMonitor("");
+    EXPECT_FALSE(form->isSaveEnabled());
+}
+
+TEST_F(FormOfAnIncident, WhoseMonitorsCannotBeFetchedSaysSoAndCanBeSavedWithout)
+{
+    transport.script(apiMonitorsURL, 500, "");
+    titled("Down");
+    choose("back", "api");
+    EXPECT_EQ(
+        *form->action->alert, "Could not load monitors for this component: Server returned HTTP status code 500.");
+    EXPECT_TRUE(form->isSaveEnabled());
+    form->action->dismissAlert();
+    EXPECT_EQ(saved(), R"({"title":"Down","status_page_id":"p","component_id":"api","notify_subscribers":true})");
+}
+
+TEST_F(FormOfAnIncident, WithoutComponentsSaysNothingAndDoesForTheEntirePage)
+{
+    transport.script(componentsURL, 500, "");
+    titled("Down");
+    EXPECT_EQ(*form->action->alert, "");
+    EXPECT_EQ(form->selection->groupChoices().size(), 1u);
+    EXPECT_TRUE(form->isSaveEnabled());
+}
+
+TEST_F(FormOfAnIncident, SendsTitleAndMessageAsTypedAndWhatIsEmptyNotAtAll)
+{
+    titled("  a  ");
+    EXPECT_EQ(saved(), R"({"title":"  a  ","status_page_id":"p","notify_subscribers":true})");
+    titled("a")->message = " \n";
+    form->notifySubscribers = false;
+    EXPECT_EQ(saved(), R"({"title":"a","message":" \n","status_page_id":"p","notify_subscribers":false})");
+}
+
+TEST_F(FormOfAnIncident, SendsTheComponentAndTheMonitorButNotTheGroup)
+{
+    titled("Down");
+    choose("back", "api");
+    form->selection->chooseMonitor("m1");
+    EXPECT_EQ(saved(),
+        R"({"title":"Down","status_page_id":"p","component_id":"api","monitor_id":"m1","notify_subscribers":true})");
+}
+
+TEST_F(FormOfAnIncident, CreatedTellsItsOwnerThenClosesThenIsIdle)
+{
+    titled("Down");
+    saved();
+    EXPECT_EQ(effects, (Words{"8 while busy", "dismiss while busy"}));
+    EXPECT_FALSE(*form->action->isInProgress);
+    EXPECT_EQ(*form->action->alert, "");
+}
+
+TEST_F(FormOfAnIncident, WhileItIsSentCanNeitherBeSavedAgainNorLeft)
+{
+    titled("Down")->save();
+    EXPECT_FALSE(form->isSaveEnabled());
+    EXPECT_FALSE(form->isCancelEnabled());
+    form->save();
+    form->cancel();
+    form->requestClose();
+    run();
+    EXPECT_EQ(transport.requests.size(), 1u);
+    EXPECT_EQ(effects, Words{});
+    EXPECT_FALSE(*form->showDiscardConfirmation);
+}
+
+class RefusedIncident : public FormOfAnIncident, public testing::WithParamInterface<Refusal> {};
+
+TEST_P(RefusedIncident, IsAnAlertOverAFormThatKeepsAllThatWasTypedAndChosen)
+{
+    titled("Down")->message = "We look";
+    choose("back", "api");
+    form->selection->chooseMonitor("m2");
+    form->notifySubscribers = false;
+    transport.script(incidentsURL, GetParam().answer);
+    form->save();
+    run();
+    EXPECT_EQ(*form->action->alert, GetParam().alert);
+    EXPECT_FALSE(*form->action->isInProgress);
+    EXPECT_EQ(transport.requests.size(), 1u) << "nothing is tried again";
+    EXPECT_EQ(effects, Words{});
+    EXPECT_EQ(saved(),
+        R"({"title":"Down","message":"We look","status_page_id":"p","component_id":"api","monitor_id":"m2",)"
+        R"("notify_subscribers":false})");
+    EXPECT_EQ(*form->action->alert, "");
+}
+
+INSTANTIATE_TEST_SUITE_P(EachAnswer, RefusedIncident, testing::ValuesIn(refusals()));
+
+TEST_F(FormOfAnIncident, LeftByEscapeWithNothingTypedJustCloses)
+{
+    titled("  ")->requestClose();
+    EXPECT_EQ(effects, Words{"dismiss"});
+}
+
+TEST_F(FormOfAnIncident, LeftByEscapeWithSomethingTypedAsksFirst)
+{
+    opened()->message = "We look";
+    EXPECT_TRUE(form->hasUnsavedText());
+    form->requestClose();
+    EXPECT_TRUE(*form->showDiscardConfirmation);
+    EXPECT_EQ(presentation::discardConfirmation.title, "Discard Changes?");
+    form->keepEditing();
+    EXPECT_FALSE(*form->showDiscardConfirmation);
+    EXPECT_EQ(*form->message, "We look");
+    EXPECT_EQ(effects, Words{});
+    form->requestClose();
+    form->discardChanges();
+    EXPECT_FALSE(*form->showDiscardConfirmation);
+    EXPECT_EQ(effects, Words{"dismiss"});
+}
+
+TEST_F(FormOfAnIncident, CancelledClosesWithoutAsking)
+{
+    titled("Down")->cancel();
+    EXPECT_EQ(effects, Words{"dismiss"});
+}
+
+TEST_F(FormOfAnIncident, TellsItsObserversOfItsTextItsSelectionAndItsRequests)
+{
+    opened();
+    int changes = 0;
+    const auto subscriptions = form->observe([&changes] { ++changes; });
+    form->title = "Down";
+    EXPECT_EQ(changes, 1);
+    form->selection->chooseMonitor("m");
+    EXPECT_EQ(changes, 2);
+    form->action->dismissAlert();
+    EXPECT_EQ(changes, 3);
+}
+
+TEST_F(FormOfAnIncident, ThatIsGoneStillEndsItsRequestAndThenIsFreed)
+{
+    titled("Down")->save();
+    run();
+    const std::weak_ptr<CreateIncidentView> held = form;
+    form.reset();
+    EXPECT_FALSE(held.expired());
+    transport.answer(HttpResponse{200, created});
+    run();
+    EXPECT_TRUE(held.expired());
+}
+
+}  // namespace
+
+}  // namespace larkspan::incidents

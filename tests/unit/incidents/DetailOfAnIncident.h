@@ -1,0 +1,98 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "api/KestruneAPI.h"
+#include "fakes/FakeLocaleText.h"
+#include "fakes/Service.h"
+#include "incidents/IncidentDetailView.h"
+#include "model/JSONDecoder.h"
+
+namespace larkspan::incidents {
+
+using Words = std::vector<std::string>;
+
+inline const std::string recordURL = "https://service.example/user/api/v1/incidents/7";
+inline const std::string actionURL = "https://service.example/user/api/incidents/7/";
+inline const std::string statesURL = "https://service.example/user/api/incident-states";
+
+inline std::string record(const std::string& rest = "")
+{
+    return R"({"id": "7", "title": "Outage", "created_at": "2026-11-20T07:00:00Z")" + rest + "}";
+}
+
+inline const std::string acknowledged = R"(, "acknowledged_at": "x")";
+inline const std::string resolved = R"(, "incident_state_id": "4", "ended_at": "2026-11-20T08:30:00Z")";
+
+/// An incident "7" on the screen, whose owner hands back what it is told.
+class DetailOfAnIncident : public testing::Test, public fakes::Service {
+protected:
+    using Action = IncidentDetailView::DetailAction;
+
+    model::Incident decoded(const std::string& json)
+    {
+        return model::JSONDecoder(clock).decodeResult<model::Incident>(json);
+    }
+
+    std::shared_ptr<IncidentDetailView> opened(const std::string& rest = "")
+    {
+        IncidentDetailView::Owner owner{.onUpdate = [this](const model::Incident& changed) { update(changed); },
+            .dismiss = [this] { note("dismiss"); }};
+        view = std::make_shared<IncidentDetailView>(
+            IncidentDetailView::Ports{main, api, clock, locale}, decoded(record(rest)), std::move(owner));
+        return view;
+    }
+
+    std::shared_ptr<IncidentDetailView> editing(const std::string& text)
+    {
+        opened()->addUpdate();
+        view->editMessage = text;
+        return view;
+    }
+
+    void update(const model::Incident& changed)
+    {
+        note("update");
+        if (view) view->show(changed);
+    }
+
+    void note(const std::string& effect)
+    {
+        effects.push_back(effect + (view && *view->action->isInProgress ? " while busy" : ""));
+    }
+
+    void performed(Action action)
+    {
+        view->performAction(action);
+        run();
+    }
+
+    Words sent() const
+    {
+        Words lines;
+        for (const auto& request : transport.requests) {
+            lines.push_back(request.method + " " + request.url.substr(std::string("https://service.example").size()));
+        }
+        return lines;
+    }
+
+    Words enabledButtons() const
+    {
+        Words labels;
+        for (const auto& button : view->buttons()) {
+            if (button.isEnabled) labels.push_back(button.label);
+        }
+        return labels;
+    }
+
+    fakes::FakeLocaleText locale;
+    std::shared_ptr<IncidentDetailView> view;
+    Words effects;
+};
+
+}  // namespace larkspan::incidents

@@ -1,0 +1,118 @@
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "incidents/DetailOfAnIncident.h"
+#include "incidents/Refusal.h"
+
+namespace larkspan::incidents {
+
+namespace {
+
+using platform::HttpResponse;
+using presentation::ActionButton;
+
+TEST_F(DetailOfAnIncident, OpensItsEditorEmptyAlsoAfterOneThatWasCancelled)
+{
+    editing("half a text")->close();
+    EXPECT_FALSE(*view->isEditing);
+    EXPECT_EQ(effects, Words{}) << "the screen stays open";
+    view->press("addUpdate");
+    EXPECT_TRUE(*view->isEditing);
+    EXPECT_EQ(*view->editMessage, "");
+}
+
+TEST_F(DetailOfAnIncident, WhileEditingHasTheOneButtonThatSaves)
+{
+    editing("text");
+    EXPECT_EQ(view->buttons(),
+        (std::vector<ActionButton>{
+            {.id = "saveUpdate", .label = "Save Update", .symbol = "checkmark", .isProminent = true}}));
+    view->editMessage = " \n\t ";
+    EXPECT_FALSE(view->buttons().at(0).isEnabled);
+    view->saveUpdate();
+    run();
+    EXPECT_TRUE(transport.requests.empty());
+}
+
+TEST_F(DetailOfAnIncident, SavesTheTextWithoutTheSpaceAroundItThenHandsOverTheRecordAndClosesTheEditor)
+{
+    transport.script(recordURL, 200, record(R"(, "message": "hello")"));
+    editing("  hello \n")->press("saveUpdate");
+    run();
+    EXPECT_EQ(sent(), Words{"PATCH /user/api/v1/incidents/7"});
+    EXPECT_EQ(transport.requests.at(0).body, R"({"message":"hello","append_update":true})");
+    EXPECT_EQ(effects, Words{"update while busy"});
+    EXPECT_FALSE(*view->isEditing);
+    EXPECT_FALSE(*view->action->isInProgress);
+    EXPECT_EQ(view->description(), "hello");
+}
+
+class RefusedUpdate : public DetailOfAnIncident, public testing::WithParamInterface<Refusal> {};
+
+TEST_P(RefusedUpdate, KeepsTheEditorOpenWithTheTextAndSaysWhy)
+{
+    transport.script(recordURL, GetParam().answer);
+    editing("hello ")->saveUpdate();
+    run();
+    EXPECT_EQ(*view->action->alert, GetParam().alert);
+    EXPECT_TRUE(*view->isEditing);
+    EXPECT_EQ(*view->editMessage, "hello ");
+    EXPECT_EQ(effects, Words{});
+    transport.script(recordURL, 200, record());
+    view->press("saveUpdate");
+    run();
+    EXPECT_FALSE(*view->isEditing) << "it can be sent again";
+}
+
+INSTANTIATE_TEST_SUITE_P(EachAnswer, RefusedUpdate, testing::ValuesIn(refusals()));
+
+TEST_F(DetailOfAnIncident, SavedTwiceSendsOnce)
+{
+    editing("hello")->saveUpdate();
+    view->saveUpdate();
+    run();
+    EXPECT_EQ(transport.requests.size(), 1u);
+}
+
+TEST_F(DetailOfAnIncident, LeftByEscapeClosesTheEditorFirstAndThenTheScreen)
+{
+    editing(" ")->requestClose();
+    EXPECT_FALSE(*view->isEditing);
+    EXPECT_EQ(effects, Words{});
+    view->requestClose();
+    EXPECT_EQ(effects, Words{"dismiss"});
+}
+
+TEST_F(DetailOfAnIncident, LeftByEscapeWithATypedTextAsksFirst)
+{
+    editing("hello")->requestClose();
+    EXPECT_TRUE(view->hasUnsavedText());
+    EXPECT_TRUE(*view->showDiscardConfirmation);
+    EXPECT_TRUE(*view->isEditing);
+    view->keepEditing();
+    EXPECT_FALSE(*view->showDiscardConfirmation);
+    EXPECT_EQ(*view->editMessage, "hello");
+    view->requestClose();
+    view->discardChanges();
+    EXPECT_FALSE(*view->showDiscardConfirmation);
+    EXPECT_FALSE(*view->isEditing);
+    EXPECT_FALSE(view->hasUnsavedText());
+    EXPECT_EQ(effects, Words{}) << "the incident stays in sight";
+}
+
+TEST_F(DetailOfAnIncident, NoLongerAsksAboutATextThatTheServiceHasMeanwhile)
+{
+    editing("hello")->saveUpdate();
+    run();
+    view->requestClose();
+    EXPECT_TRUE(*view->showDiscardConfirmation);
+    transport.answer(HttpResponse{200, record()});
+    run();
+    EXPECT_FALSE(*view->showDiscardConfirmation);
+    EXPECT_FALSE(*view->isEditing);
+}
+
+}  // namespace
+
+}  // namespace larkspan::incidents

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/HttpTransport.h"
+
+namespace larkspan::incidents {
+
+/// A way in which the service fails a request, and the words that the user sees.
+struct Refusal {
+    platform::HttpTransport::Result answer;
+    std::string alert;
+};
+
+inline std::vector<Refusal> refusals()
+{
+    using platform::HttpResponse;
+    return {{HttpResponse{409, ""}, "Server returned HTTP status code 409."},
+        {HttpResponse{422, R"({"message": "No."})"}, "Server returned HTTP status code 422."},
+        {HttpResponse{500, ""}, "Server returned HTTP status code 500."},
+        {platform::URLError::Code::timedOut, "The request timed out."}};
+}
+
+}  // namespace larkspan::incidents
