@@ -1,6 +1,7 @@
 #include "presentation/ComponentCascade.h"
 
 #include <algorithm>
+#include <compare>
 #include <iterator>
 #include <string>
 #include <unordered_set>
@@ -37,7 +38,7 @@ Components mergedComponents(Components list, const platform::LocaleText& locale)
 {
     auto merged = withoutRepetitions(std::move(list));
     std::ranges::stable_sort(merged, [&locale](const Component& left, const Component& right) {
-        return locale.compareIgnoringCase(left.name, right.name) < 0;
+        return std::is_lt(locale.compareIgnoringCase(left.name, right.name));
     });
     return merged;
 }
