@@ -41,7 +41,7 @@ Application::Application(adapters::MainExecutor& main, ServiceAccess service)
           main_, timers_, clock_, notifications_, networkMonitor_, statusItems_, updates_, windows_, api_}))
 {
     auto dashboard = std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{
-        main_, timers_, clock_, service_.credentials, keys_, app_->appState(), locale_, links_});
+        main_, timers_, clock_, service_.credentials, keys_, app_->appState(), locale_, links_, api_});
     window_ = std::make_unique<MainWindow>(
         MainWindow::Content{std::move(dashboard), updates_, about_, app_->showingAbout, *app_, menu_}, main_);
     windows_.add(window_->window());

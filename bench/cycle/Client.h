@@ -37,6 +37,7 @@ public:
     }
 
     core::AppStateManager& state() { return *state_; }
+    api::KestruneAPI& api() { return api_; }
     const std::shared_ptr<core::AppStateManager>& sharedState() const { return state_; }
     platform::Timers& timers() { return timers_; }
     const platform::Clock& clock() const { return clock_; }

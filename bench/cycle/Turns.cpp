@@ -87,8 +87,8 @@ void measure(std::size_t incidents, std::size_t cycles)
     api::APIKeyStore keys(worker, client.store());
     const fakes::FakeLocaleText locale;
     fakes::FakeLinkOpener links;
-    auto dashboard = std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{
-        main, client.timers(), client.clock(), client.store(), keys, client.sharedState(), locale, links});
+    auto dashboard = std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{main, client.timers(),
+        client.clock(), client.store(), keys, client.sharedState(), locale, links, client.api()});
     const bridge::ScreenUpdates updates(main);
     const bridge::DashboardBridge window(dashboard, updates);
 

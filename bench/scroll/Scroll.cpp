@@ -60,8 +60,8 @@ private:
     support::Published<bool> showingAbout_{*this, false};
     bridge::MenuBridge menu_{[] {}};
     MainWindow mainWindow_{
-        {std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{
-             main_, client_.timers(), client_.clock(), client_.store(), keys_, client_.sharedState(), locale_, links_}),
+        {std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{main_, client_.timers(), client_.clock(),
+             client_.store(), keys_, client_.sharedState(), locale_, links_, client_.api()}),
             std::make_shared<core::UpdaterController>(updater_), about_, showingAbout_, *this, menu_},
         main_};
 };

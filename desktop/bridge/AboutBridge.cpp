@@ -10,7 +10,7 @@ AboutBridge::AboutBridge(const workspace::AboutKestruneView& about, support::Pub
     , about_(about)
     , showing_(showing)
 {
-    follow(owner);
+    followChangesOf(owner);
 }
 
 QString AboutBridge::title() const

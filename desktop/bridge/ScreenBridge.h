@@ -23,7 +23,10 @@ protected:
     ScreenBridge(const ScreenUpdates& updates, QObject* parent);
 
     /// From now on the changes of `observed` are told.
-    void follow(support::Observable& observed) { subscriptions_.push_back(observed.objectWillChange(observer())); }
+    void followChangesOf(support::Observable& observed)
+    {
+        subscriptions_.push_back(observed.objectWillChange(observer()));
+    }
     void keep(support::Subscription subscription) { subscriptions_.push_back(std::move(subscription)); }
 
     /// What an object with observers of its own calls before it changes.

@@ -9,7 +9,7 @@ SettingsBridge::SettingsBridge(
     : ScreenBridge(updates, parent)
     , settings_(std::move(settings))
 {
-    follow(*settings_);
+    followChangesOf(*settings_);
 }
 
 void SettingsBridge::readState()

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "bridge/ScreenBridge.h"
+#include "bridge/values/ConfirmationValue.h"
 #include "bridge/values/MarkerValue.h"
 #include "workspace/Settings.h"
 
@@ -20,6 +21,7 @@ class SettingsBridge : public ScreenBridge {
     Q_PROPERTY(bool showsSavedKey READ showsSavedKey NOTIFY changed)
     Q_PROPERTY(bool isSaveEnabled READ isSaveEnabled NOTIFY changed)
     Q_PROPERTY(bool showsDeleteConfirmation READ showsDeleteConfirmation NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::ConfirmationValue deleteConfirmation READ deleteConfirmation CONSTANT)
     Q_PROPERTY(larkspan::bridge::MarkerValue marker READ marker NOTIFY changed)
 
 public:
@@ -30,6 +32,10 @@ public:
     bool showsSavedKey() const { return settings_->showsSavedKey(); }
     bool isSaveEnabled() const { return settings_->isSaveEnabled(); }
     bool showsDeleteConfirmation() const { return *settings_->showDeleteConfirmation; }
+    ConfirmationValue deleteConfirmation() const
+    {
+        return ConfirmationValue::of(workspace::Settings::deleteConfirmation);
+    }
     MarkerValue marker() const { return MarkerValue::of(settings_->marker()); }
 
     Q_INVOKABLE void edit(const QString& text) { settings_->edit(text.toStdString()); }

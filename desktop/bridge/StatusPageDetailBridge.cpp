@@ -12,6 +12,7 @@ StatusPageDetailBridge::StatusPageDetailBridge(
     std::shared_ptr<StatusPageDetailView> view, const ScreenUpdates& updates, QObject* parent)
     : ScreenBridge(updates, parent)
     , view_(std::move(view))
+    , updates_(updates)
 {
     for (const auto& subscription : view_->observe(observer())) keep(subscription);
     StatusPageDetailBridge::readState();
@@ -38,6 +39,7 @@ void StatusPageDetailBridge::readState()
     quiet_ = MarkerValue::of(overview.quiet);
     about_ = words(overview.about);
     uptime_ = valuesOf<FactValue>(overview.uptime);
+    incidents_.follow(view_->incidents(), updates_);
 }
 
 }  // namespace larkspan::bridge

@@ -6,6 +6,8 @@
 
 #include <memory>
 
+#include "bridge/ChildScreen.h"
+#include "bridge/IncidentListBridge.h"
 #include "bridge/RowListModel.h"
 #include "bridge/ScreenBridge.h"
 #include "bridge/values/ActivityRowValue.h"
@@ -31,6 +33,8 @@ class StatusPageDetailBridge : public ScreenBridge {
     Q_PROPERTY(larkspan::bridge::MarkerValue quiet MEMBER quiet_ NOTIFY changed)
     Q_PROPERTY(QString about MEMBER about_ NOTIFY changed)
     Q_PROPERTY(QList<larkspan::bridge::FactValue> uptime MEMBER uptime_ NOTIFY changed)
+    /// The screen of the tab "Incidents"; null while another is selected.
+    Q_PROPERTY(larkspan::bridge::IncidentListBridge* incidents READ incidents NOTIFY changed)
 
 public:
     StatusPageDetailBridge(
@@ -41,6 +45,7 @@ public:
     QStringList tabs() const;
     int selectedTab() const { return static_cast<int>(*view_->selectedTab); }
     ListModel* activity() { return &activity_; }
+    IncidentListBridge* incidents() const { return incidents_.get(); }
 
     Q_INVOKABLE void select(int tab);
     Q_INVOKABLE void selectNext() { view_->selectNext(); }
@@ -51,12 +56,14 @@ private:
     void readState() override;
 
     std::shared_ptr<workspace::StatusPageDetailView> view_;
+    const ScreenUpdates& updates_;
     HeadlineValue status_;
     QList<FactValue> information_;
     RowListModel<ActivityRowValue> activity_;
     MarkerValue quiet_;
     QString about_;
     QList<FactValue> uptime_;
+    ChildScreen<IncidentListBridge, incidents::StatusPageIncidentsView> incidents_;
 };
 
 }  // namespace larkspan::bridge

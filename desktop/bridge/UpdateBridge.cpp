@@ -9,7 +9,7 @@ UpdateBridge::UpdateBridge(
     : ScreenBridge(updates, parent)
     , controller_(std::move(controller))
 {
-    follow(*controller_);
+    followChangesOf(*controller_);
 }
 
 }  // namespace larkspan::bridge

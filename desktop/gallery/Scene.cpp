@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "api/APIError.h"
+#include "gallery/IncidentScenes.h"
 #include "gallery/PageScenes.h"
 #include "model/DecodingError.h"
 #include "platform/URLError.h"
@@ -289,6 +290,7 @@ std::vector<Scene> scenes()
 {
     auto scenes = dashboardScenes();
     std::ranges::move(pageScenes(), std::back_inserter(scenes));
+    std::ranges::move(incidentScenes(), std::back_inserter(scenes));
     std::ranges::move(menuScenes(), std::back_inserter(scenes));
     std::ranges::move(settingsScenes(), std::back_inserter(scenes));
     std::ranges::move(otherScenes(), std::back_inserter(scenes));

@@ -52,6 +52,22 @@ Window {
             sourceComponent: StatusPageDetailView {
                 page: window.dashboard.openedPage
                 onWentBack: statusPage.goBack()
+                onAccountWanted: window.dashboard.refresh()
+            }
+        }
+        PushedPage {
+            id: incidentPage
+            readonly property IncidentListBridge incidents: window.dashboard.openedPage ? window.dashboard.openedPage.incidents : null
+            readonly property IncidentDetailBridge incident: incidents ? incidents.detail : null
+
+            isShown: incident !== null
+            beneath: statusPage
+            isGuarded: incident !== null && incident.isEditing
+            onBackWanted: incident.requestClose()
+            onDismissed: incidents.closeDetail()
+            sourceComponent: IncidentDetailView {
+                incident: incidentPage.incident
+                onWentBack: incidentPage.incident.isEditing ? incidentPage.incident.close() : incidentPage.goBack()
             }
         }
     }

@@ -23,6 +23,7 @@ bool isOver(const Incident& incident)
 IncidentDetailView::IncidentDetailView(Ports ports, Incident shown, Owner owner)
     : incident(*this, std::move(shown))
     , action(std::make_shared<presentation::RunningAction>(ports.main))
+    , message(std::make_shared<MessageView>(ports.links))
     , ports_(ports)
     , owner_(std::move(owner))
 {

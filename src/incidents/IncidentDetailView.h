@@ -10,9 +10,11 @@
 #include "api/IncidentEndpoints.h"
 #include "incidents/IncidentPills.h"
 #include "incidents/IncidentTimeline.h"
+#include "incidents/MessageView.h"
 #include "model/Incident.h"
 #include "platform/Clock.h"
 #include "platform/Executor.h"
+#include "platform/LinkOpener.h"
 #include "platform/LocaleText.h"
 #include "presentation/ActionButton.h"
 #include "presentation/Confirmation.h"
@@ -31,6 +33,7 @@ public:
         api::IncidentEndpoints& api;
         const platform::Clock& clock;
         const platform::LocaleText& locale;
+        platform::LinkOpener& links;
     };
 
     struct Owner {
@@ -57,6 +60,8 @@ public:
     support::Published<std::string> editMessage{*this};
     /// The request that runs, and the alert of the one that failed.
     const std::shared_ptr<presentation::RunningAction> action;
+    /// The description as it is shown.
+    const std::shared_ptr<MessageView> message;
 
     /// Calls `observer` before anything changes that the screen shows.
     [[nodiscard]] std::array<support::Subscription, 2> observe(const std::function<void()>& observer);

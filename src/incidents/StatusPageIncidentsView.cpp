@@ -58,7 +58,7 @@ void StatusPageIncidentsView::openIncident(const std::string& id)
     const auto& incidents = *viewModel->incidents;
     const auto opened = std::ranges::find(incidents, id, &Incident::id);
     if (opened == incidents.end()) return;
-    const IncidentDetailView::Ports ports{ports_.main, ports_.incidents, ports_.clock, ports_.locale};
+    const IncidentDetailView::Ports ports{ports_.main, ports_.incidents, ports_.clock, ports_.locale, ports_.links};
     detail_ = std::make_shared<IncidentDetailView>(ports, *opened, ownerOf(*opened));
     presentedIncident = *opened;
 }

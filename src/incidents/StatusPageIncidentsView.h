@@ -17,6 +17,7 @@
 #include "platform/Clock.h"
 #include "platform/CredentialStore.h"
 #include "platform/Executor.h"
+#include "platform/LinkOpener.h"
 #include "platform/LocaleText.h"
 #include "presentation/Content.h"
 #include "presentation/Placeholder.h"
@@ -36,6 +37,7 @@ public:
         platform::CredentialStore& credentials;
         const platform::Clock& clock;
         const platform::LocaleText& locale;
+        platform::LinkOpener& links;
     };
 
     StatusPageIncidentsView(Ports ports, const std::string& pageID);

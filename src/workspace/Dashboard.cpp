@@ -116,9 +116,12 @@ void Dashboard::openPage(const std::string& id)
     if (*openedPage && (*openedPage)->page->id == id) return;
     selectedPageId = id;
     const auto* const page = selectedPage();
-    openedPage = page ? std::make_shared<StatusPageDetailView>(
-                     StatusPageDetailView::Ports{ports_.clock, ports_.locale, ports_.links, ports_.appState}, *page)
-                      : nullptr;
+    openedPage = page ? std::make_shared<StatusPageDetailView>(portsOfPage(), *page) : nullptr;
+}
+
+StatusPageDetailView::Ports Dashboard::portsOfPage() const
+{
+    return {ports_.main, ports_.clock, ports_.locale, ports_.links, ports_.credentials, ports_.api, ports_.appState};
 }
 
 void Dashboard::closePage()

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "api/APIKeyStore.h"
+#include "api/KestruneAPI.h"
 #include "core/AppStateManager.h"
 #include "platform/Clock.h"
 #include "platform/CredentialStore.h"
@@ -43,6 +44,7 @@ public:
         std::shared_ptr<core::AppStateManager> appState;
         const platform::LocaleText& locale;
         platform::LinkOpener& links;
+        api::KestruneAPI& api;
     };
 
     static constexpr std::string_view windowTitle = "Kestrune";
@@ -95,6 +97,7 @@ public:
 private:
     const core::AppStateManager& state() const { return *ports_.appState; }
     const model::StatusPage* selectedPage() const;
+    StatusPageDetailView::Ports portsOfPage() const;
     /// What the account's list has made of the opened page, once the list has landed.
     void followOpenedPageSoon();
     void followOpenedPage();

@@ -8,6 +8,7 @@
 #include "api/APIKeyStore.h"
 #include "core/AppStateManager.h"
 #include "platform/Executor.h"
+#include "presentation/Confirmation.h"
 #include "presentation/Marker.h"
 #include "support/Observable.h"
 #include "support/Task.h"
@@ -32,6 +33,11 @@ public:
 
         bool operator==(const ValidationState&) const = default;
     };
+
+    static constexpr presentation::Confirmation deleteConfirmation{.title = "Delete API Key",
+        .text = "Are you sure you want to delete your API key? You will need to enter it again to use the app.",
+        .confirm = "Delete",
+        .cancel = "Cancel"};
 
     explicit Settings(Ports ports, std::function<void()> onApiKeyDeleted = {});
 

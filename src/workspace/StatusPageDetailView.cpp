@@ -19,7 +19,16 @@ std::array<support::Subscription, 2> StatusPageDetailView::observe(const std::fu
 
 void StatusPageDetailView::select(Tab tab)
 {
-    if (tab != *selectedTab) selectedTab = tab;
+    if (tab == *selectedTab) return;
+    incidents_.reset();
+    if (tab == Tab::incidents) {
+        incidents_ = std::make_shared<incidents::StatusPageIncidentsView>(
+            incidents::StatusPageIncidentsView::Ports{ports_.main, ports_.api, ports_.api, ports_.api,
+                ports_.credentials, ports_.clock, ports_.locale, ports_.links},
+            page->id);
+        incidents_->appear();
+    }
+    selectedTab = tab;
 }
 
 void StatusPageDetailView::selectNext()

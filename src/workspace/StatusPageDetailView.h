@@ -5,9 +5,13 @@
 #include <memory>
 #include <string_view>
 
+#include "api/KestruneAPI.h"
 #include "core/AppStateManager.h"
+#include "incidents/StatusPageIncidentsView.h"
 #include "model/StatusPage.h"
 #include "platform/Clock.h"
+#include "platform/CredentialStore.h"
+#include "platform/Executor.h"
 #include "platform/LinkOpener.h"
 #include "platform/LocaleText.h"
 #include "support/Observable.h"
@@ -19,9 +23,12 @@ namespace larkspan::workspace {
 class StatusPageDetailView final : public support::Observable {
 public:
     struct Ports {
+        platform::Executor& main;
         const platform::Clock& clock;
         const platform::LocaleText& locale;
         platform::LinkOpener& links;
+        platform::CredentialStore& credentials;
+        api::KestruneAPI& api;
         std::shared_ptr<core::AppStateManager> appState;
     };
 
@@ -47,12 +54,15 @@ public:
     void selectPrevious();
 
     StatusPageOverviewView overview() const;
+    /// The screen of the tab "Incidents"; null while another is selected.
+    const std::shared_ptr<incidents::StatusPageIncidentsView>& incidents() const { return incidents_; }
 
     /// Opens the page as the public sees it; what is no web address is not opened.
     void openPublicURL() const;
 
 private:
     Ports ports_;
+    std::shared_ptr<incidents::StatusPageIncidentsView> incidents_;
 };
 
 /// The label of a tab's segment.

@@ -54,7 +54,7 @@ class Service:
         self._order("PUT", "certificate", {"certificate": "valid"})
         self._order("PUT", "keys", {KEY: "full"})
         self.give(PAGES)
-        self._order("DELETE", "requests")
+        self.forget()
 
     def give(self, pages: list[dict]) -> None:
         self._order("PUT", "pages", {"pages": pages})
@@ -80,6 +80,10 @@ class Service:
 
     def mend(self) -> None:
         self._order("DELETE", "faults")
+
+    def forget(self) -> None:
+        """What it was sent so far."""
+        self._order("DELETE", "requests")
 
     def requests(self) -> list[dict]:
         return self._order("GET", "requests")

@@ -15,12 +15,17 @@ struct PillValue {
     QML_VALUE_TYPE(pill)
     Q_PROPERTY(QString text MEMBER text)
     Q_PROPERTY(int tone MEMBER tone)
+    Q_PROPERTY(QString symbol MEMBER symbol)
 
 public:
     QString text{};
     int tone = Tone::Gray;
+    QString symbol{};
 
-    static PillValue of(const presentation::Pill& pill) { return {words(pill.text), toneOf(pill.tone)}; }
+    static PillValue of(const presentation::Pill& pill)
+    {
+        return {words(pill.text), toneOf(pill.tone), words(pill.symbol)};
+    }
 
     bool operator==(const PillValue&) const = default;
 };

@@ -76,7 +76,7 @@ ScreenFrame {
 
     Shortcut {
         sequences: ["F5", "Ctrl+R"]
-        enabled: view.dashboard.isRefreshEnabled
+        enabled: view.visible && view.dashboard.isRefreshEnabled
         onActivated: view.dashboard.refresh()
     }
 }

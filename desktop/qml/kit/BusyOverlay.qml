@@ -4,7 +4,8 @@ import Larkspan
 // Lies over a screen while something is done that the user waits for; nothing beneath it can be pressed meanwhile.
 Rectangle {
     id: overlay
-    property alias name: indicator.name
+    // What is under way; without, nobody is told but that something is.
+    property string text
 
     anchors.fill: parent
     z: 2
@@ -23,8 +24,8 @@ Rectangle {
 
     Rectangle {
         anchors.centerIn: parent
-        width: indicator.width + 6 * Theme.unit
-        height: indicator.height + 6 * Theme.unit
+        width: Math.max(indicator.width, label.width) + 6 * Theme.unit
+        height: label.y + label.height + 3 * Theme.unit
         radius: Theme.cardRadius
         color: Theme.card
         border.width: Theme.hairline
@@ -32,9 +33,18 @@ Rectangle {
 
         BusyIndicator {
             id: indicator
-            anchors.centerIn: parent
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: 3 * Theme.unit
             width: 2 * Theme.iconSize
             height: width
+            name: overlay.text !== "" ? overlay.text : qsTr("In progress")
+        }
+        Label {
+            id: label
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: indicator.y + indicator.height + (text === "" ? 0 : Theme.unit)
+            height: text === "" ? 0 : implicitHeight
+            text: overlay.text
         }
     }
 }

@@ -11,6 +11,7 @@ T.ItemDelegate {
     property string description
     // Rows that only tell are met by the keyboard and the screen reader, and nothing happens when they are pressed.
     property bool isPressable: true
+    property bool hasDivider: true
 
     width: ListView.view ? ListView.view.width - ListView.view.leftMargin - ListView.view.rightMargin : implicitWidth
     implicitHeight: Math.max(Theme.rowHeight, implicitContentHeight + 2 * Theme.unit)
@@ -42,7 +43,7 @@ T.ItemDelegate {
             border.color: Theme.focus
         }
         Rectangle {
-            visible: card.index > 0
+            visible: card.hasDivider && card.index > 0
             width: parent.width
             height: Theme.hairline
             color: Theme.line

@@ -1,12 +1,16 @@
 import QtQuick
 import QtQuick.Templates as T
 import Larkspan
+import Larkspan.Bridge
 
 // A button with words; the prominent one is what the user most likely wants.
 T.Button {
     id: button
     property bool isProminent: false
     property bool isDestructive: false
+    property string symbol
+    property int tone: Tone.Primary
+    readonly property color ink: isProminent ? Theme.accentText : isDestructive ? Theme.red : Theme.toneColor(tone)
 
     implicitWidth: Math.max(implicitContentWidth + leftPadding + rightPadding, Theme.controlHeight * 2)
     implicitHeight: Math.max(Theme.controlHeight, implicitContentHeight + topPadding + bottomPadding)
@@ -22,18 +26,35 @@ T.Button {
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
 
-    contentItem: Label {
-        text: button.text
-        color: button.isProminent ? Theme.accentText : button.isDestructive ? Theme.red : Theme.text
-        horizontalAlignment: Text.AlignHCenter
-        Accessible.ignored: true
+    contentItem: Item {
+        implicitWidth: caption.x + caption.implicitWidth
+        implicitHeight: caption.implicitHeight
+
+        Symbol {
+            visible: button.symbol !== ""
+            anchors.verticalCenter: parent.verticalCenter
+            width: Theme.smallIconSize
+            height: width
+            name: button.symbol
+            color: button.ink
+        }
+        Label {
+            id: caption
+            x: button.symbol === "" ? 0 : Theme.smallIconSize + Theme.unit - 2
+            width: parent.width - x
+            height: parent.height
+            text: button.text
+            color: button.ink
+            horizontalAlignment: button.symbol === "" ? Text.AlignHCenter : Text.AlignLeft
+            Accessible.ignored: true
+        }
     }
 
     background: Rectangle {
         radius: Theme.controlRadius
         color: button.isProminent ? Theme.accent : Theme.card
         border.width: button.isProminent ? 0 : Theme.hairline
-        border.color: Theme.line
+        border.color: button.tone === Tone.Primary ? Theme.line : button.ink
 
         Rectangle {
             anchors.fill: parent

@@ -9,6 +9,9 @@ FocusScope {
     // What it lies over, and hides while it is there.
     required property Item beneath
     property alias sourceComponent: loader.sourceComponent
+    // What the page holds could be lost, so that it decides itself what the way back does.
+    property bool isGuarded: false
+    signal backWanted
     // The user has gone back.
     signal dismissed
 
@@ -19,6 +22,7 @@ FocusScope {
 
     function goBack() {
         if (!isShown || isLeaving) return
+        if (isGuarded) return backWanted()
         isLeaving = true
         progress = 0
         if (!sliding.running) leave()

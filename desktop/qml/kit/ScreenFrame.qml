@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Larkspan
 import Larkspan.Bridge
 
@@ -8,15 +7,15 @@ import Larkspan.Bridge
 FocusScope {
     id: frame
     required property string title
-    property bool showsContent: true
-    property placeholder placeholder
+    property alias showsContent: area.showsContent
+    property alias placeholder: area.placeholder
     property bool isBusy: false
     property string alert
     property alias status: header.status
     property alias canGoBack: header.canGoBack
     property alias leading: header.leading
     property alias trailing: header.trailing
-    default property alias content: middle.data
+    default property alias content: area.content
     signal wentBack
     signal retried
     signal settingsRequested
@@ -29,36 +28,14 @@ FocusScope {
         title: frame.title
         onWentBack: frame.wentBack()
     }
-
-    Item {
-        id: middle
+    ContentArea {
+        id: area
         anchors.fill: parent
         anchors.topMargin: header.height
-        visible: frame.showsContent
+        focus: true
+        onRetried: frame.retried()
+        onSettingsRequested: frame.settingsRequested()
     }
-
-    // Scrolls where a long sentence meets a small window.
-    Flickable {
-        id: instead
-        anchors.fill: middle
-        visible: !frame.showsContent
-        contentHeight: Math.max(height, state.height + 2 * Theme.margin)
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
-
-        PlaceholderState {
-            id: state
-            x: Math.round((instead.width - width) / 2)
-            y: Math.round((instead.contentHeight - height) / 2)
-            width: Math.min(Theme.placeholderWidth * Theme.scale, instead.width - 2 * Theme.margin)
-            placeholder: frame.placeholder
-            onRetried: frame.retried()
-            onSettingsRequested: frame.settingsRequested()
-        }
-
-        T.ScrollBar.vertical: SlimScrollBar {}
-    }
-
     BusyOverlay {
         visible: frame.isBusy
     }

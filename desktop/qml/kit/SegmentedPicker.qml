@@ -9,6 +9,7 @@ Rectangle {
     required property int selected
     signal chosen(int segment)
 
+    readonly property real room: width - 2 * Theme.halfUnit
     readonly property real wordsWidth: {
         let sum = 0
         for (let at = 0; at < repeater.count; ++at) sum += (repeater.itemAt(at) as Pressable)?.wordWidth ?? 0
@@ -46,8 +47,9 @@ Rectangle {
                 wordWidth: label.implicitWidth
                 readonly property bool isSelected: index === picker.selected
 
-                // Each has the room of its word and its share of what is left or missing.
-                width: label.implicitWidth + (picker.width - 2 * Theme.halfUnit - picker.wordsWidth) / picker.segments.length
+                // Each has the room of its word, and its share of what is left or missing.
+                width: picker.room < picker.wordsWidth ? label.implicitWidth * picker.room / picker.wordsWidth
+                    : label.implicitWidth + (picker.room - picker.wordsWidth) / picker.segments.length
                 height: picker.height - 2 * Theme.halfUnit
                 activeFocusOnTab: false
                 text: modelData

@@ -9,6 +9,16 @@ ModalDialog {
     property int preferredWidth: Theme.sheetWidth
     default property alias content: column.data
     property alias barItems: bar.trailing
+    property alias barLeading: bar.leading
+    // A sheet whose text could be lost decides itself what Escape does.
+    property bool closesByItself: true
+    property bool isBusy: false
+    property string busyText
+    property string alert
+    signal closeRequested
+    signal alertDismissed
+
+    closePolicy: closesByItself ? T.Popup.CloseOnEscape : T.Popup.NoAutoClose
 
     width: parent ? Math.min(preferredWidth * Theme.scale, parent.width - 2 * Theme.margin) : 0
     height: parent ? Math.min(Theme.headerHeight + column.implicitHeight + 2 * Theme.margin, parent.height - 2 * Theme.margin) : 0
@@ -17,7 +27,8 @@ ModalDialog {
         focus: true
         Keys.onPressed: event => {
             InputHand.isKeyboard = true
-            event.accepted = false
+            event.accepted = !sheet.closesByItself && event.key === Qt.Key_Escape
+            if (event.accepted && !sheet.isBusy) sheet.closeRequested()
         }
         Accessible.role: Accessible.Dialog
         Accessible.name: sheet.title
@@ -60,6 +71,18 @@ ModalDialog {
             }
 
             T.ScrollBar.vertical: SlimScrollBar {}
+        }
+
+        BusyOverlay {
+            visible: sheet.isBusy
+            text: sheet.busyText
+        }
+        PopupLoader {
+            isShown: sheet.alert !== ""
+            onDismissed: sheet.alertDismissed()
+            sourceComponent: ErrorAlert {
+                text: sheet.alert
+            }
         }
     }
 }

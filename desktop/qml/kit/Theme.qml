@@ -31,6 +31,7 @@ QtObject {
     readonly property color dimming: "#66000000"
     readonly property color veil: "#33000000"
     readonly property real pillOpacity: 0.15
+    readonly property real badgeOpacity: 0.20
 
     readonly property real base: Application.font.pointSize > 0 ? Application.font.pointSize : 10
     readonly property real title: base * 1.8
@@ -68,6 +69,13 @@ QtObject {
     readonly property int menuWidth: 320
     readonly property int menuRowHeight: Math.round(28 * scale)
     readonly property int dotSize: 8
+    readonly property int recordDotSize: 10
+    readonly property int quoteBarWidth: 3
+    readonly property int itemIndent: Math.round(8 * scale)
+    readonly property int columnMostWidth: 240
+    readonly property int textBoxHeight: 100
+    readonly property int textBoxMostHeight: 220
+    readonly property int popupMostHeight: 260
     readonly property int aboutIconSize: 88
     readonly property int headlineIconSize: Math.round(28 * scale)
     readonly property int pullDistance: 64

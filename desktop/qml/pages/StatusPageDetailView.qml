@@ -6,9 +6,17 @@ import Larkspan.Bridge
 ScreenFrame {
     id: view
     required property StatusPageDetailBridge page
+    // The account's lists are asked for, of which the overview is made.
+    signal accountWanted
 
     title: page.title
     canGoBack: true
+    trailing: ToolbarButton {
+        visible: view.page.incidents !== null
+        symbol: "plus"
+        help: qsTr("New Incident")
+        onClicked: view.page.incidents.openForm()
+    }
 
     SegmentedPicker {
         id: picker
@@ -26,8 +34,14 @@ ScreenFrame {
         anchors.fill: parent
         anchors.topMargin: picker.y + picker.height
         focus: true
-        sourceComponent: view.page.selectedTab === 0 ? overview : null
+        sourceComponent: view.page.incidents ? incidents : view.page.selectedTab === 0 ? overview : null
         onLoaded: item.focus = true
+    }
+    Component {
+        id: incidents
+        StatusPageIncidentsView {
+            incidents: view.page.incidents
+        }
     }
     Component {
         id: overview
@@ -36,6 +50,19 @@ ScreenFrame {
         }
     }
 
+    PopupLoader {
+        isShown: view.page.incidents !== null && view.page.incidents.form !== null
+        onDismissed: view.page.incidents.form.cancel()
+        sourceComponent: CreateIncidentView {
+            form: view.page.incidents.form
+        }
+    }
+
+    Shortcut {
+        sequences: ["F5", "Ctrl+R"]
+        enabled: view.visible
+        onActivated: view.page.incidents ? view.page.incidents.refresh() : view.accountWanted()
+    }
     Shortcut {
         sequences: ["Ctrl+PgDown"]
         onActivated: view.page.selectNext()

@@ -110,9 +110,7 @@ Sheet {
         isShown: sheet.settings.showsDeleteConfirmation
         onDismissed: sheet.settings.cancelDelete()
         sourceComponent: ConfirmDialog {
-            title: qsTr("Delete API Key")
-            text: qsTr("Are you sure you want to delete your API key? You will need to enter it again to use the app.")
-            confirmText: qsTr("Delete")
+            confirmation: sheet.settings.deleteConfirmation
             onConfirmed: sheet.settings.deleteKey()
         }
     }

@@ -22,7 +22,7 @@ protected:
     fakes::FakeLocaleText locale;
     fakes::FakeLinkOpener links;
     std::shared_ptr<workspace::Dashboard> dashboard = std::make_shared<workspace::Dashboard>(
-        workspace::Dashboard::Ports{main, timers, clock, credentials, keys, state, locale, links});
+        workspace::Dashboard::Ports{main, timers, clock, credentials, keys, state, locale, links, api});
     ScreenUpdates updatesOfWindow{main};
 };
 

@@ -40,6 +40,7 @@ void Screen::settle()
     for (int turn = 0; turn < 3; ++turn) {
         run();
         QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         window().grabWindow();
     }
 }

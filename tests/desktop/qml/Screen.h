@@ -55,7 +55,7 @@ public:
     fakes::FakeLinkOpener links;
     fakes::FakeLocaleText locale;
     std::shared_ptr<workspace::Dashboard> dashboard = std::make_shared<workspace::Dashboard>(
-        workspace::Dashboard::Ports{main, timers, clock, credentials, keys, state, locale, links});
+        workspace::Dashboard::Ports{main, timers, clock, credentials, keys, state, locale, links, api});
     workspace::AboutKestruneView about{{.shortVersion = "1.2",
                                            .buildNumber = "34",
                                            .websiteAddress = "https://site.example",

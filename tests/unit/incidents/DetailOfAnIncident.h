@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "api/KestruneAPI.h"
+#include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocaleText.h"
 #include "fakes/Service.h"
 #include "incidents/IncidentDetailView.h"
@@ -44,7 +45,7 @@ protected:
         IncidentDetailView::Owner owner{.onUpdate = [this](const model::Incident& changed) { update(changed); },
             .dismiss = [this] { note("dismiss"); }};
         view = std::make_shared<IncidentDetailView>(
-            IncidentDetailView::Ports{main, api, clock, locale}, decoded(record(rest)), std::move(owner));
+            IncidentDetailView::Ports{main, api, clock, locale, links}, decoded(record(rest)), std::move(owner));
         return view;
     }
 
@@ -91,6 +92,7 @@ protected:
     }
 
     fakes::FakeLocaleText locale;
+    fakes::FakeLinkOpener links;
     std::shared_ptr<IncidentDetailView> view;
     Words effects;
 };

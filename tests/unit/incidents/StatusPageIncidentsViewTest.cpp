@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "api/KestruneAPI.h"
+#include "fakes/FakeLinkOpener.h"
 #include "fakes/PageComponents.h"
 
 namespace larkspan::incidents {
@@ -58,8 +59,9 @@ protected:
         return all;
     }
 
+    fakes::FakeLinkOpener links;
     std::shared_ptr<StatusPageIncidentsView> view = std::make_shared<StatusPageIncidentsView>(
-        StatusPageIncidentsView::Ports{main, api, api, api, credentials, clock, locale}, "p");
+        StatusPageIncidentsView::Ports{main, api, api, api, credentials, clock, locale, links}, "p");
 };
 
 TEST_F(IncidentsOfAPage, DuringTheFirstLoadAreProgress)

@@ -27,8 +27,8 @@ protected:
     api::APIKeyStore keys{client, credentials};
     fakes::FakeLocaleText locale;
     fakes::FakeLinkOpener links;
-    std::unique_ptr<Dashboard> dashboard
-        = std::make_unique<Dashboard>(Dashboard::Ports{main, timers, clock, credentials, keys, state, locale, links});
+    std::unique_ptr<Dashboard> dashboard = std::make_unique<Dashboard>(
+        Dashboard::Ports{main, timers, clock, credentials, keys, state, locale, links, api});
 };
 
 TEST_F(PageOfTheDashboard, OpensFromItsRowAndClosesOnTheWayBack)

@@ -25,7 +25,7 @@ protected:
     api::APIKeyStore keys{client, credentials};
     fakes::FakeLocaleText locale;
     fakes::FakeLinkOpener links;
-    Dashboard dashboard{{main, timers, clock, credentials, keys, state, locale, links}};
+    Dashboard dashboard{{main, timers, clock, credentials, keys, state, locale, links, api}};
 };
 
 TEST_F(DashboardScreen, BeforeTheFirstCycleIsEmpty)

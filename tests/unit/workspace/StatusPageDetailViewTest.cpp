@@ -27,7 +27,7 @@ class OpenedPage : public testing::Test, public fakes::Account {
 protected:
     fakes::FakeLocaleText locale;
     fakes::FakeLinkOpener links;
-    StatusPageDetailView view{{clock, locale, links, state}, acme()};
+    StatusPageDetailView view{{main, clock, locale, links, credentials, api, state}, acme()};
 };
 
 TEST_F(OpenedPage, StartsWithTheOverview)

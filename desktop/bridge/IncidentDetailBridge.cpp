@@ -1,0 +1,34 @@
+#include "bridge/IncidentDetailBridge.h"
+
+#include <utility>
+
+#include "bridge/ValueList.h"
+
+namespace larkspan::bridge {
+
+using incidents::IncidentDetailView;
+
+IncidentDetailBridge::IncidentDetailBridge(
+    std::shared_ptr<IncidentDetailView> view, const ScreenUpdates& updates, QObject* parent)
+    : ScreenBridge(updates, parent)
+    , view_(std::move(view))
+    , message_(view_->message, updates)
+{
+    for (const auto& subscription : view_->observe(observer())) keep(subscription);
+    IncidentDetailBridge::readState();
+}
+
+ConfirmationValue IncidentDetailBridge::deleteConfirmation() const
+{
+    return ConfirmationValue::of(IncidentDetailView::deleteConfirmation);
+}
+
+void IncidentDetailBridge::readState()
+{
+    pills_ = valuesOf<PillValue>(view_->pills());
+    timeline_ = valuesOf<TimelineRowValue>(view_->timeline());
+    message_.show(view_->showsDescription() ? view_->description() : "");
+    buttons_ = valuesOf<ActionButtonValue>(view_->buttons());
+}
+
+}  // namespace larkspan::bridge

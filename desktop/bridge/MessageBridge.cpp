@@ -1,0 +1,38 @@
+#include "bridge/MessageBridge.h"
+
+#include <utility>
+
+namespace larkspan::bridge {
+
+MessageBridge::MessageBridge(
+    std::shared_ptr<incidents::MessageView> view, const ScreenUpdates& updates, QObject* parent)
+    : ScreenBridge(updates, parent)
+    , view_(std::move(view))
+{
+    followChangesOf(*view_);
+}
+
+void MessageBridge::show(const std::string& source)
+{
+    if (source_ == source) return;
+    source_ = source;
+    rows_.update(MessageEntry::entriesOf(incidents::MessageView::rowsOf(source)));
+}
+
+ConfirmationValue MessageBridge::linkConfirmation() const
+{
+    auto confirmation = ConfirmationValue::of(incidents::MessageView::linkConfirmation);
+    confirmation.text = words(view_->questionText());
+    return confirmation;
+}
+
+void MessageBridge::follow(int row, int cell, const QString& href)
+{
+    const auto& shown = rows_.rows().at(static_cast<std::size_t>(row)).row;
+    const auto& text = cell < 0 ? shown.text : shown.cells.at(static_cast<std::size_t>(cell));
+    bool isNumber = false;
+    const auto place = href.toULongLong(&isNumber);
+    if (isNumber && place < text.links.size()) view_->follow(text.links[place]);
+}
+
+}  // namespace larkspan::bridge

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "bridge/RowListModel.h"
+#include "bridge/ScreenBridge.h"
+#include "bridge/values/ConfirmationValue.h"
+#include "bridge/values/MarkdownRowValue.h"
+#include "incidents/MessageView.h"
+
+namespace larkspan::bridge {
+
+/// A message for QML: its rows, and the question before a link is opened, both of `incidents::MessageView`.
+class MessageBridge : public ScreenBridge {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the application")
+    Q_PROPERTY(larkspan::bridge::ListModel* rows READ rows CONSTANT)
+    Q_PROPERTY(bool asksAboutLink READ asksAboutLink NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::ConfirmationValue linkConfirmation READ linkConfirmation NOTIFY changed)
+
+public:
+    MessageBridge(
+        std::shared_ptr<incidents::MessageView> view, const ScreenUpdates& updates, QObject* parent = nullptr);
+
+    /// Makes the rows those of `source`, where it is another than before.
+    void show(const std::string& source);
+
+    ListModel* rows() { return &rows_; }
+    bool asksAboutLink() const { return view_->linkInQuestion->has_value(); }
+    ConfirmationValue linkConfirmation() const;
+
+    /// The user pressed the link of that name, an href of the text at `row` or of the cell `cell` in it; -1 for none.
+    Q_INVOKABLE void follow(int row, int cell, const QString& href);
+    Q_INVOKABLE void openLink() { view_->openLink(); }
+    Q_INVOKABLE void cancelLink() { view_->cancelLink(); }
+
+private:
+    std::shared_ptr<incidents::MessageView> view_;
+    std::optional<std::string> source_;
+    RowListModel<MarkdownRowValue> rows_;
+};
+
+}  // namespace larkspan::bridge

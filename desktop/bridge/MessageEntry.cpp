@@ -1,0 +1,24 @@
+#include "bridge/MessageEntry.h"
+
+namespace larkspan::bridge {
+
+std::vector<MessageEntry> MessageEntry::entriesOf(incidents::MarkdownRows rows)
+{
+    std::vector<std::shared_ptr<const incidents::MarkdownColumns>> tables;
+    for (auto& table : rows.tables) {
+        tables.push_back(std::make_shared<const incidents::MarkdownColumns>(std::move(table)));
+    }
+    std::vector<MessageEntry> entries;
+    entries.reserve(rows.rows.size());
+    for (auto& row : rows.rows) {
+        auto columns = row.cells.empty() ? nullptr : tables.at(row.table);
+        auto title = row.text.plain;
+        entries.push_back({.id = std::to_string(entries.size()),
+            .title = std::move(title),
+            .row = std::move(row),
+            .columns = std::move(columns)});
+    }
+    return entries;
+}
+
+}  // namespace larkspan::bridge

@@ -1,0 +1,30 @@
+#include "bridge/values/MarkdownRowValue.h"
+
+#include "bridge/ValueList.h"
+#include "bridge/Words.h"
+
+namespace larkspan::bridge {
+
+MarkdownRowValue MarkdownRowValue::of(const MessageEntry& entry)
+{
+    using Kind = incidents::MarkdownRow::Kind;
+    const auto& row = entry.row;
+    MarkdownRowValue value;
+    value.isTitle = row.kind == Kind::title;
+    value.isHeading = row.kind == Kind::title || row.kind == Kind::headline;
+    value.isQuote = row.kind == Kind::quote;
+    value.isItem = row.kind == Kind::bulletItem || row.kind == Kind::numberedItem;
+    value.isTable = row.kind == Kind::tableHeader || row.kind == Kind::tableRow;
+    value.isTableHeader = row.kind == Kind::tableHeader;
+    value.isDivider = row.kind == Kind::tableDivider;
+    value.label = words(row.label);
+    value.text = MarkdownTextValue::of(row.text);
+    value.cells = valuesOf<MarkdownTextValue>(row.cells);
+    value.gap = row.gap;
+    if (entry.columns) {
+        for (const auto& longest : entry.columns->longestTexts) value.columns << words(longest);
+    }
+    return value;
+}
+
+}  // namespace larkspan::bridge

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QtQml/qqmlregistration.h>
+
+#include "bridge/MessageEntry.h"
+#include "bridge/values/MarkdownTextValue.h"
+
+namespace larkspan::bridge {
+
+/// A row of a message for QML.
+struct MarkdownRowValue {
+    Q_GADGET
+    QML_VALUE_TYPE(markdownRow)
+    Q_PROPERTY(bool isTitle MEMBER isTitle)
+    Q_PROPERTY(bool isHeading MEMBER isHeading)
+    Q_PROPERTY(bool isQuote MEMBER isQuote)
+    Q_PROPERTY(bool isItem MEMBER isItem)
+    Q_PROPERTY(bool isTable MEMBER isTable)
+    Q_PROPERTY(bool isTableHeader MEMBER isTableHeader)
+    Q_PROPERTY(bool isDivider MEMBER isDivider)
+    Q_PROPERTY(QString label MEMBER label)
+    Q_PROPERTY(larkspan::bridge::MarkdownTextValue text MEMBER text)
+    Q_PROPERTY(QList<larkspan::bridge::MarkdownTextValue> cells MEMBER cells)
+    /// For each column of the table, its longest text.
+    Q_PROPERTY(QStringList columns MEMBER columns)
+    Q_PROPERTY(int gap MEMBER gap)
+
+public:
+    using Row = MessageEntry;
+
+    bool isTitle = false;
+    bool isHeading = false;
+    bool isQuote = false;
+    bool isItem = false;
+    bool isTable = false;
+    bool isTableHeader = false;
+    bool isDivider = false;
+    QString label{};
+    MarkdownTextValue text{};
+    QList<MarkdownTextValue> cells{};
+    QStringList columns{};
+    int gap = 0;
+
+    static MarkdownRowValue of(const MessageEntry& entry);
+
+    bool operator==(const MarkdownRowValue&) const = default;
+};
+
+}  // namespace larkspan::bridge

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+#include "bridge/Words.h"
+#include "incidents/markdown/MarkdownText.h"
+
+namespace larkspan::bridge {
+
+/// `incidents::MarkdownText` for QML; where its links lead stays below.
+struct MarkdownTextValue {
+    Q_GADGET
+    QML_VALUE_TYPE(markdownText)
+    Q_PROPERTY(QString styled MEMBER styled)
+    Q_PROPERTY(QString plain MEMBER plain)
+    Q_PROPERTY(int linkCount MEMBER linkCount)
+
+public:
+    QString styled{};
+    QString plain{};
+    int linkCount = 0;
+
+    static MarkdownTextValue of(const incidents::MarkdownText& text)
+    {
+        return {words(text.styled), words(text.plain), static_cast<int>(text.links.size())};
+    }
+
+    bool operator==(const MarkdownTextValue&) const = default;
+};
+
+}  // namespace larkspan::bridge

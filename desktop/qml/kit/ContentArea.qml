@@ -1,0 +1,43 @@
+import QtQuick
+import QtQuick.Templates as T
+import Larkspan
+import Larkspan.Bridge
+
+// What a screen shows or, where there is nothing to show, the placeholder.
+FocusScope {
+    id: area
+    property bool showsContent: true
+    property placeholder placeholder
+    default property alias content: middle.data
+    signal retried
+    signal settingsRequested
+
+    FocusScope {
+        id: middle
+        anchors.fill: parent
+        visible: area.showsContent
+        focus: true
+    }
+
+    // Scrolls where a long sentence meets a small window.
+    Flickable {
+        id: instead
+        anchors.fill: parent
+        visible: !area.showsContent
+        contentHeight: Math.max(height, state.height + 2 * Theme.margin)
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+
+        PlaceholderState {
+            id: state
+            x: Math.round((instead.width - width) / 2)
+            y: Math.round((instead.contentHeight - height) / 2)
+            width: Math.min(Theme.placeholderWidth * Theme.scale, instead.width - 2 * Theme.margin)
+            placeholder: area.placeholder
+            onRetried: area.retried()
+            onSettingsRequested: area.settingsRequested()
+        }
+
+        T.ScrollBar.vertical: SlimScrollBar {}
+    }
+}

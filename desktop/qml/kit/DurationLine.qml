@@ -1,0 +1,31 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// How long a record has lasted.
+Item {
+    id: line
+    required property string duration
+
+    implicitHeight: label.implicitHeight
+
+    Symbol {
+        anchors.verticalCenter: parent.verticalCenter
+        width: Theme.smallIconSize
+        height: width
+        name: "timer"
+        color: Theme.secondary
+    }
+    Label {
+        id: label
+        x: Theme.iconSize + Theme.unit
+        text: qsTr("Duration")
+        font.pointSize: Theme.subheadline
+        color: Theme.secondary
+    }
+    Label {
+        anchors.right: parent.right
+        text: line.duration
+        font.pointSize: Theme.subheadline
+    }
+}

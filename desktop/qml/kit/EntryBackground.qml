@@ -1,0 +1,23 @@
+import QtQuick
+import Larkspan
+
+// The frame of an entry, with the words that stand in it while it is empty.
+Rectangle {
+    id: frame
+    required property bool isFocused
+    property string placeholder
+
+    radius: Theme.controlRadius
+    color: Theme.window
+    border.width: isFocused ? Theme.focusWidth : Theme.hairline
+    border.color: isFocused ? Theme.focus : Theme.line
+
+    Label {
+        anchors.fill: parent
+        anchors.leftMargin: Theme.unit + Theme.halfUnit
+        anchors.rightMargin: anchors.leftMargin
+        visible: text !== ""
+        text: frame.placeholder
+        color: Theme.secondary
+    }
+}

@@ -1,0 +1,65 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// A row of a message. Its markup is the program's own, made of the message's text; Return asks about its links, one after
+// the other.
+CardRow {
+    id: delegate
+    required property markdownRow row
+    property int nextLink: 0
+    signal followed(cell: int, href: string)
+
+    name: row.text.plain
+    isPressable: false
+    hasDivider: false
+    topPadding: row.gap + (index === 0 ? 2 * Theme.unit : 0)
+    bottomPadding: index === ListView.view.count - 1 ? 2 * Theme.unit : 0
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    onClicked: {
+        if (row.text.linkCount === 0) return
+        followed(-1, nextLink % row.text.linkCount)
+        nextLink += 1
+    }
+
+    contentItem: Item {
+        implicitHeight: delegate.row.isDivider ? Theme.hairline : delegate.row.isTable ? table.height : text.height
+
+        Rectangle {
+            visible: delegate.row.isDivider
+            width: parent.width
+            height: Theme.hairline
+            color: Theme.line
+        }
+        Rectangle {
+            visible: delegate.row.isQuote
+            width: Theme.quoteBarWidth
+            height: parent.height
+            color: Theme.secondary
+        }
+        Label {
+            id: mark
+            visible: text !== ""
+            text: delegate.row.label
+            color: Theme.secondary
+        }
+        MessageText {
+            id: text
+            visible: !delegate.row.isTable && !delegate.row.isDivider
+            x: delegate.row.isQuote ? Theme.quoteBarWidth + 10 : delegate.row.isItem ? Math.max(mark.implicitWidth, Theme.itemIndent) + 7 : 0
+            width: parent.width - x
+            words: delegate.row.text
+            color: delegate.row.isQuote ? Theme.secondary : Theme.text
+            font.pointSize: delegate.row.isTitle ? Theme.title3 : Theme.body
+            font.weight: delegate.row.isHeading ? Font.DemiBold : Font.Normal
+            onFollowed: href => delegate.followed(-1, href)
+        }
+        TableLine {
+            id: table
+            visible: delegate.row.isTable
+            width: parent.width
+            row: delegate.row
+            onFollowed: (cell, href) => delegate.followed(cell, href)
+        }
+    }
+}

@@ -1,0 +1,52 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// A row of a table, whose columns are as wide as their longest text; what has no room is reached by scrolling sideways.
+Flickable {
+    id: line
+    required property markdownRow row
+    signal followed(cell: int, href: string)
+
+    height: cells.implicitHeight
+    contentWidth: cells.implicitWidth
+    boundsBehavior: Flickable.StopAtBounds
+    flickableDirection: Flickable.HorizontalFlick
+    clip: true
+
+    Row {
+        id: cells
+        spacing: 2 * Theme.unit
+
+        Repeater {
+            model: line.row.columns
+
+            Item {
+                id: cell
+                required property int index
+                required property string modelData
+
+                width: Math.ceil(Math.min(metrics.advanceWidth, Theme.columnMostWidth * Theme.scale)) + Theme.unit
+                height: text.height
+
+                TextMetrics {
+                    id: metrics
+                    // One for headers and rows, so that they stand in line; the widest that either has.
+                    font.pointSize: Theme.subheadline
+                    font.weight: Font.DemiBold
+                    text: cell.modelData
+                }
+                MessageText {
+                    id: text
+                    property markdownText none
+                    width: cell.width
+                    words: cell.index < line.row.cells.length ? line.row.cells[cell.index] : none
+                    font.pointSize: line.row.isTableHeader ? Theme.caption : Theme.subheadline
+                    font.weight: line.row.isTableHeader ? Font.DemiBold : Font.Normal
+                    color: line.row.isTableHeader ? Theme.secondary : Theme.text
+                    onFollowed: href => line.followed(cell.index, href)
+                }
+            }
+        }
+    }
+}

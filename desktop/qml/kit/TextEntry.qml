@@ -1,0 +1,27 @@
+import QtQuick
+import QtQuick.Templates as T
+import Larkspan
+
+// A line of text that the user types.
+T.TextField {
+    id: field
+    required property string name
+
+    implicitHeight: Theme.controlHeight
+    leftPadding: Theme.unit + Theme.halfUnit
+    rightPadding: leftPadding
+    selectByMouse: true
+    color: Theme.text
+    selectionColor: Theme.accent
+    selectedTextColor: Theme.accentText
+    font.pointSize: Theme.body
+    renderType: Text.NativeRendering
+    verticalAlignment: TextInput.AlignVCenter
+    Accessible.role: Accessible.EditableText
+    Accessible.name: name
+
+    background: EntryBackground {
+        isFocused: field.activeFocus
+        placeholder: field.length === 0 && field.preeditText === "" ? field.placeholderText : ""
+    }
+}

@@ -1,0 +1,50 @@
+import QtQuick
+import Larkspan
+
+// A setting that is on or off, with its words before it.
+Pressable {
+    id: toggle
+    required property bool isOn
+
+    implicitHeight: Theme.controlHeight
+    Accessible.role: Accessible.CheckBox
+    Accessible.checkable: true
+    Accessible.checked: isOn
+
+    Label {
+        anchors.left: parent.left
+        anchors.right: track.left
+        anchors.rightMargin: Theme.unit
+        anchors.verticalCenter: parent.verticalCenter
+        text: toggle.text
+        Accessible.ignored: true
+    }
+    Rectangle {
+        id: track
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.round(36 * Theme.scale)
+        height: Math.round(20 * Theme.scale)
+        radius: height / 2
+        color: toggle.isOn ? Theme.accent : Qt.alpha(Theme.text, 0.25)
+        Behavior on color {
+            ColorAnimation { duration: Theme.quick }
+        }
+
+        Rectangle {
+            x: toggle.isOn ? track.width - width - 2 : 2
+            anchors.verticalCenter: parent.verticalCenter
+            width: track.height - 4
+            height: width
+            radius: width / 2
+            color: Theme.accentText
+            Behavior on x {
+                NumberAnimation { duration: Theme.quick; easing.type: Easing.OutCubic }
+            }
+        }
+        FocusRing {
+            isShown: toggle.visualFocus
+            radius: height / 2
+        }
+    }
+}

@@ -1,0 +1,27 @@
+#include "incidents/MessageView.h"
+
+#include <utility>
+
+#include "incidents/markdown/StatusMarkdownContent.h"
+
+namespace larkspan::incidents {
+
+MarkdownRows MessageView::rowsOf(const std::string& source)
+{
+    return StatusMarkdownContent(source).rows();
+}
+
+std::string MessageView::questionText() const
+{
+    return *linkInQuestion ? "This link leads to " + (*linkInQuestion)->host + "." : "";
+}
+
+void MessageView::openLink()
+{
+    if (!*linkInQuestion) return;
+    const auto link = **linkInQuestion;
+    linkInQuestion = std::nullopt;
+    opener_.open(link.destination);
+}
+
+}  // namespace larkspan::incidents

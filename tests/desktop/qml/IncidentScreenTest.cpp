@@ -1,0 +1,295 @@
+#include <QQuickItem>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include "Screen.h"
+
+namespace larkspan {
+
+namespace {
+
+using platform::HttpResponse;
+using Role = QAccessible::Role;
+
+constexpr auto pageIncidentsURL = "https://service.example/user/api/v1/incidents?status_page_id=a";
+constexpr auto incidentURL = "https://service.example/user/api/v1/incidents/1";
+constexpr auto acknowledgeURL = "https://service.example/user/api/incidents/1/acknowledge";
+constexpr auto createURL = "https://service.example/user/api/v1/incidents";
+constexpr auto componentsURL = "https://service.example/user/api/components?status_page_id=a";
+constexpr auto groupsURL = "https://service.example/user/api/component-groups?status_page_id=a";
+
+/// The incidents of page "a", reached and worked with the keyboard alone.
+class IncidentsOnScreen : public testing::Test, public Screen {
+protected:
+    IncidentsOnScreen()
+    {
+        servePages({"a"}, {});
+        serve({incident("1", "Login errors", R"(, "severity_name": "CRITICAL", "message": "We see **errors**.")"),
+            incident("2", "Slow checkout", R"(, "acknowledged_at": "x")")});
+        refresh();
+        settle();
+        item(Role::List, QStringLiteral("Status Pages")).forceActiveFocus(Qt::TabFocusReason);
+        press(Qt::Key_Return);
+        press(Qt::Key_2, Qt::ControlModifier);
+        transport.requests.clear();
+    }
+
+    void serve(const std::vector<std::string>& incidents)
+    {
+        std::string joined;
+        for (const auto& each : incidents) joined += (joined.empty() ? "" : ",") + each;
+        transport.script(pageIncidentsURL, 200, "[" + joined + "]");
+    }
+
+    void openFirst()
+    {
+        item(Role::List, QStringLiteral("Incidents")).forceActiveFocus(Qt::TabFocusReason);
+        press(Qt::Key_Return);
+    }
+
+    void openForm()
+    {
+        transport.script(componentsURL, 200, "[]");
+        transport.script(groupsURL, 200, "[]");
+        choose("New Incident");
+    }
+
+    /// Presses a button as the keyboard does.
+    void choose(const char* name)
+    {
+        item(Role::Button, QString::fromUtf8(name)).forceActiveFocus(Qt::TabFocusReason);
+        press(Qt::Key_Space);
+    }
+
+    void type(const char* field, const char* text)
+    {
+        auto& entry = item(Role::EditableText, QString::fromUtf8(field));
+        entry.forceActiveFocus(Qt::TabFocusReason);
+        for (const char* letter = text; *letter != '\0'; ++letter) QTest::keyClick(&window(), *letter);
+        settle();
+    }
+
+    bool isEnabled(const char* button) const { return item(Role::Button, QString::fromUtf8(button)).isEnabled(); }
+    bool asks(const char* title) const { return names(Role::Dialog).contains(QString::fromUtf8(title)); }
+
+    /// "METHOD url" of what was sent.
+    std::vector<std::string> sent() const
+    {
+        std::vector<std::string> lines;
+        for (const auto& request : transport.requests) lines.push_back(request.method + " " + request.url);
+        return lines;
+    }
+};
+
+TEST_F(IncidentsOnScreen, AreRowsWithTheirTitleSeverityDateAndStatus)
+{
+    EXPECT_EQ(names(Role::ListItem), (QStringList{"Login errors", "Slow checkout"}));
+    for (const auto* const text : {"Critical", "2026-11-20", "Active", "Acknowledged"}) {
+        EXPECT_TRUE(names(Role::StaticText).contains(QString::fromUtf8(text))) << text;
+    }
+}
+
+TEST_F(IncidentsOnScreen, ThatCannotBeFetchedAreTriedAgainFromTheKeyboard)
+{
+    press(Qt::Key_1, Qt::ControlModifier);
+    transport.script(pageIncidentsURL, 503, "");
+    press(Qt::Key_2, Qt::ControlModifier);
+    EXPECT_TRUE(shows(QStringLiteral("Server returned HTTP status code 503.")));
+    serve({});
+    choose("Retry");
+    EXPECT_TRUE(shows(QStringLiteral("No Incidents")));
+    EXPECT_TRUE(shows(QStringLiteral("All systems are running smoothly.")));
+}
+
+TEST_F(IncidentsOnScreen, AreFetchedAfreshByF5AndTheAccountIsNot)
+{
+    serve({incident("7", "A new one")});
+    press(Qt::Key_F5);
+    EXPECT_EQ(sent(), std::vector<std::string>{std::string("GET ") + pageIncidentsURL});
+    EXPECT_EQ(names(Role::ListItem), QStringList{"A new one"});
+}
+
+TEST_F(IncidentsOnScreen, OneOpensWithAllItsGroupsAndClosesToItsRow)
+{
+    openFirst();
+    for (const auto* const text :
+        {"Login errors", "Active", "Critical", "Timeline", "Created", "09:30", "Duration", "Description"}) {
+        EXPECT_TRUE(shows(QString::fromUtf8(text))) << text;
+    }
+    EXPECT_TRUE(shows(QStringLiteral("We see errors.")));
+    EXPECT_FALSE(shows(QStringLiteral("Assigned To")));
+    choose("Close");
+    EXPECT_EQ(names(Role::ListItem), (QStringList{"Login errors", "Slow checkout"}));
+    EXPECT_EQ(sent(), std::vector<std::string>{std::string("GET ") + pageIncidentsURL}) << "it is fetched afresh";
+}
+
+TEST_F(IncidentsOnScreen, OneIsAcknowledgedAndShownAnew)
+{
+    openFirst();
+    transport.script(acknowledgeURL, 200, "{}");
+    transport.script(incidentURL, 200, incident("1", "Login errors", R"(, "acknowledged_at": "x")"));
+    choose("Acknowledge");
+    EXPECT_EQ(
+        sent(), (std::vector<std::string>{std::string("POST ") + acknowledgeURL, std::string("GET ") + incidentURL}));
+    EXPECT_FALSE(isEnabled("Acknowledge"));
+    EXPECT_TRUE(isEnabled("Resolve"));
+}
+
+TEST_F(IncidentsOnScreen, WhileSomethingIsDoneNothingElseCanBePressed)
+{
+    openFirst();
+    choose("Escalate");
+    EXPECT_TRUE(names(Role::ProgressBar).contains(QStringLiteral("In progress")));
+    for (const auto* const button : {"Acknowledge", "Resolve", "Escalate", "Add Update", "Delete Incident"}) {
+        EXPECT_FALSE(isEnabled(button)) << button;
+    }
+    transport.answer(HttpResponse{.status = 409, .body = ""});
+    settle();
+    EXPECT_TRUE(asks("Error"));
+    EXPECT_TRUE(shows(QStringLiteral("Server returned HTTP status code 409.")));
+    press(Qt::Key_Return);
+    EXPECT_FALSE(asks("Error"));
+    EXPECT_TRUE(isEnabled("Escalate"));
+}
+
+TEST_F(IncidentsOnScreen, AnUpdateIsWrittenKeptWhenItFailsAndSent)
+{
+    openFirst();
+    choose("Add Update");
+    EXPECT_TRUE(names(Role::Heading).contains(QStringLiteral("Add Update")));
+    EXPECT_FALSE(isEnabled("Save Update"));
+    type("Update", "  fixed ");
+    EXPECT_TRUE(isEnabled("Save Update"));
+    transport.script(incidentURL, 500, "");
+    choose("Save Update");
+    EXPECT_TRUE(asks("Error"));
+    press(Qt::Key_Return);
+    EXPECT_TRUE(isEnabled("Save Update")) << "the text is still there";
+
+    transport.script(incidentURL, 200, incident("1", "Login errors", R"(, "message": "fixed")"));
+    choose("Save Update");
+    EXPECT_EQ(transport.requests.back().body, R"({"message":"fixed","append_update":true})");
+    EXPECT_FALSE(names(Role::Heading).contains(QStringLiteral("Add Update")));
+    EXPECT_TRUE(shows(QStringLiteral("fixed")));
+}
+
+TEST_F(IncidentsOnScreen, EscapeInTheEditorAsksBeforeTypedTextIsLost)
+{
+    openFirst();
+    choose("Add Update");
+    type("Update", "half a sentence");
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(asks("Discard Changes?"));
+    choose("Keep Editing");
+    EXPECT_TRUE(isEnabled("Save Update"));
+    press(Qt::Key_Escape);
+    choose("Discard");
+    EXPECT_TRUE(names(Role::Heading).contains(QStringLiteral("Login errors")));
+    press(Qt::Key_Escape);
+    EXPECT_EQ(names(Role::ListItem), (QStringList{"Login errors", "Slow checkout"}));
+}
+
+TEST_F(IncidentsOnScreen, OneIsDeletedAfterAQuestionWhoseDefaultIsCancel)
+{
+    openFirst();
+    choose("Delete Incident");
+    EXPECT_TRUE(asks("Delete Incident"));
+    EXPECT_TRUE(shows(QStringLiteral("Are you sure you want to delete this incident? This action cannot be undone.")));
+    press(Qt::Key_Return);
+    EXPECT_TRUE(sent().empty());
+    transport.script(incidentURL, 204, "");
+    serve({incident("2", "Slow checkout")});
+    choose("Delete Incident");
+    choose("Delete");
+    EXPECT_EQ(sent(),
+        (std::vector<std::string>{std::string("DELETE ") + incidentURL, std::string("GET ") + pageIncidentsURL}));
+    EXPECT_EQ(names(Role::ListItem), QStringList{"Slow checkout"});
+}
+
+TEST_F(IncidentsOnScreen, ALinkOfAMessageIsOpenedAfterItsHostWasShown)
+{
+    serve({incident("1", "a", R"j(, "message": "See [https://bank.example](https://evil.example/x)")j")});
+    press(Qt::Key_1, Qt::ControlModifier);
+    press(Qt::Key_2, Qt::ControlModifier);
+    openFirst();
+    item(Role::List, QStringLiteral("Description")).forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(shows(QStringLiteral("This link leads to evil.example.")));
+    EXPECT_TRUE(links.opened.empty());
+    choose("Open");
+    EXPECT_EQ(links.opened, std::vector<std::string>{"https://evil.example/x"});
+}
+
+TEST_F(IncidentsOnScreen, TheFormSendsWhatWasTypedAndTheNewOneStandsFirst)
+{
+    openForm();
+    EXPECT_TRUE(asks("New Incident"));
+    EXPECT_FALSE(isEnabled("Save"));
+    type("Title", "Mail is down");
+    type("Message (Optional)", "since 9");
+    item(Role::CheckBox, QStringLiteral("Notify subscribers")).forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Space);
+    transport.script(createURL, 201, incident("3", "Mail is down"));
+    choose("Save");
+    EXPECT_EQ(transport.requests.back().body,
+        R"({"title":"Mail is down","message":"since 9","status_page_id":"a","notify_subscribers":false})");
+    EXPECT_FALSE(asks("New Incident"));
+    EXPECT_EQ(names(Role::ListItem), (QStringList{"Mail is down", "Login errors", "Slow checkout"}));
+}
+
+TEST_F(IncidentsOnScreen, TheFormKeepsWhatWasTypedWhenTheServiceRefusesIt)
+{
+    openForm();
+    type("Title", "Mail");
+    transport.script(createURL, 422, "");
+    choose("Save");
+    EXPECT_TRUE(asks("Error"));
+    press(Qt::Key_Return);
+    EXPECT_EQ(item(Role::EditableText, QStringLiteral("Title")).property("text").toString(), QStringLiteral("Mail"));
+    EXPECT_TRUE(isEnabled("Save"));
+}
+
+TEST_F(IncidentsOnScreen, EscapeInTheFormAsksBeforeTypedTextIsLostAndElseClosesIt)
+{
+    openForm();
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(asks("New Incident"));
+    openForm();
+    type("Title", "Mail");
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(asks("Discard Changes?"));
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(asks("Discard Changes?"));
+    EXPECT_TRUE(asks("New Incident"));
+    press(Qt::Key_Escape);
+    choose("Discard");
+    EXPECT_FALSE(asks("New Incident"));
+}
+
+TEST_F(IncidentsOnScreen, APageThatIsGoneTakesItsIncidentWithIt)
+{
+    openFirst();
+    servePages({}, {});
+    refresh();
+    settle();
+    EXPECT_TRUE(shows(QStringLiteral("No Status Pages")));
+    EXPECT_FALSE(shows(QStringLiteral("Timeline")));
+}
+
+TEST_F(IncidentsOnScreen, OfTenThousandOnlyThoseInSightCostAnItem)
+{
+    std::vector<std::string> many;
+    for (int number = 0; number < 10'000; ++number) {
+        many.push_back(incident(std::to_string(number), "incident " + std::to_string(number)));
+    }
+    serve(many);
+    press(Qt::Key_1, Qt::ControlModifier);
+    press(Qt::Key_2, Qt::ControlModifier);
+    EXPECT_LT(names(Role::ListItem).size(), 60);
+    EXPECT_GT(names(Role::ListItem).size(), 5);
+}
+
+}  // namespace
+
+}  // namespace larkspan
