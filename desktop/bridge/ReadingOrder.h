@@ -1,23 +1,37 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
 namespace larkspan::bridge {
 
-/// The order in which a screen reader meets the rows of a list. Qt reads them in the order of their making, and a list
-/// that scrolls or refreshes makes and reuses its rows in any order.
+/// Keeps the order in which a screen reader meets the rows of a list: as they stand on screen, top to bottom. Qt reads
+/// them in the order of their making, and a list that scrolls or refreshes makes, moves and reuses its rows in any
+/// order.
 class ReadingOrder : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    QML_SINGLETON
+    /// The item whose children are the rows.
+    Q_PROPERTY(QQuickItem* container READ container WRITE setContainer NOTIFY containerChanged)
 
 public:
     using QObject::QObject;
 
-    /// Puts the children of `container` into the order in which they stand on screen, top to bottom.
-    Q_INVOKABLE void follow(QQuickItem* container) const;
+    QQuickItem* container() const { return container_; }
+    void setContainer(QQuickItem* container);
+
+signals:
+    void containerChanged();
+
+private:
+    void watchRows();
+    void settleSoon();
+    void settle();
+
+    QPointer<QQuickItem> container_;
+    bool isPending_ = false;
 };
 
 }  // namespace larkspan::bridge

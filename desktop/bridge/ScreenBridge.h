@@ -14,7 +14,8 @@ namespace larkspan::bridge {
 /// What the bridges of all screens are: QML hears once that something changed, after all changes of a turn.
 class ScreenBridge : public QObject {
     Q_OBJECT
-    QML_ANONYMOUS
+    QML_ELEMENT
+    QML_UNCREATABLE("what the bridges of all screens are")
 
 signals:
     void changed();

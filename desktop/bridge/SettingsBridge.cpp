@@ -12,10 +12,4 @@ SettingsBridge::SettingsBridge(
     followChangesOf(*settings_);
 }
 
-void SettingsBridge::readState()
-{
-    const bool heldText = std::exchange(fieldHoldsText_, !settings_->apiKey->empty());
-    if (heldText && !fieldHoldsText_) emit fieldCleared();
-}
-
 }  // namespace larkspan::bridge

@@ -17,6 +17,8 @@ class SettingsBridge : public ScreenBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
+    /// Something is typed that has been neither stored nor deleted.
+    Q_PROPERTY(bool holdsKey READ holdsKey NOTIFY changed)
     Q_PROPERTY(bool hasExistingKey READ hasExistingKey NOTIFY changed)
     Q_PROPERTY(bool showsSavedKey READ showsSavedKey NOTIFY changed)
     Q_PROPERTY(bool isSaveEnabled READ isSaveEnabled NOTIFY changed)
@@ -28,6 +30,7 @@ public:
     SettingsBridge(
         std::shared_ptr<workspace::Settings> settings, const ScreenUpdates& updates, QObject* parent = nullptr);
 
+    bool holdsKey() const { return !settings_->apiKey->empty(); }
     bool hasExistingKey() const { return *settings_->hasExistingKey; }
     bool showsSavedKey() const { return settings_->showsSavedKey(); }
     bool isSaveEnabled() const { return settings_->isSaveEnabled(); }
@@ -44,15 +47,8 @@ public:
     Q_INVOKABLE void cancelDelete() { settings_->cancelDelete(); }
     Q_INVOKABLE void deleteKey() { settings_->deleteKey(); }
 
-signals:
-    /// The key has been stored or deleted; the field is to be empty.
-    void fieldCleared();
-
 private:
-    void readState() override;
-
     std::shared_ptr<workspace::Settings> settings_;
-    bool fieldHoldsText_ = false;
 };
 
 }  // namespace larkspan::bridge

@@ -18,9 +18,9 @@ StatusPageDetailBridge::StatusPageDetailBridge(
     StatusPageDetailBridge::readState();
 }
 
-QStringList StatusPageDetailBridge::tabs() const
+QList<QString> StatusPageDetailBridge::tabs() const
 {
-    QStringList labels;
+    QList<QString> labels;
     for (const auto tab : StatusPageDetailView::tabs) labels << words(workspace::rawValue(tab));
     return labels;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QList>
-#include <QStringList>
+#include <QString>
 #include <QtQml/qqmlregistration.h>
 
 #include <memory>
@@ -25,7 +25,7 @@ class StatusPageDetailBridge : public ScreenBridge {
     QML_UNCREATABLE("made by the application")
     Q_PROPERTY(QString title READ title NOTIFY changed)
     Q_PROPERTY(QString pickerLabel READ pickerLabel CONSTANT)
-    Q_PROPERTY(QStringList tabs READ tabs CONSTANT)
+    Q_PROPERTY(QList<QString> tabs READ tabs CONSTANT)
     Q_PROPERTY(int selectedTab READ selectedTab NOTIFY changed)
     Q_PROPERTY(larkspan::bridge::HeadlineValue status MEMBER status_ NOTIFY changed)
     Q_PROPERTY(QList<larkspan::bridge::FactValue> information MEMBER information_ NOTIFY changed)
@@ -42,7 +42,7 @@ public:
 
     QString title() const { return words(view_->page->name); }
     QString pickerLabel() const { return words(workspace::StatusPageDetailView::pickerLabel); }
-    QStringList tabs() const;
+    QList<QString> tabs() const;
     int selectedTab() const { return static_cast<int>(*view_->selectedTab); }
     ListModel* activity() { return &activity_; }
     IncidentListBridge* incidents() const { return incidents_.get(); }

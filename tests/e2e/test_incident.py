@@ -13,7 +13,7 @@ V1 = "/user/api/v1"
 @pytest.fixture
 def page(start, stored_key, the_service, the_display):
     """The tab "Incidents" of the first page, which has one incident."""
-    the_service.incident = the_service.open_incident("Login errors", status_page_id=PAGE)
+    the_service.incident = the_service.open_incident("Login errors", page=PAGE)
     screen = start().screen
     screen.wait_for_rows(NAMES)
     the_display.press_key("Return")
@@ -86,7 +86,7 @@ def test_an_update_is_typed_and_sent(opened, the_service, the_display):
 
 
 def test_a_refusal_is_told_and_leaves_the_incident_open(opened, the_service):
-    the_service.fail("status", path=f"/user/api/incidents/{the_service.incident}/escalate", status=409)
+    the_service.fail("status", path=f"/user/api/incidents/{the_service.incident}/escalate", code=409)
     opened.press("Escalate")
     opened.wait_for("Server returned HTTP status code 409.")
     opened.press("OK")

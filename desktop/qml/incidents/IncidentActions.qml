@@ -57,8 +57,9 @@ Item {
             spacing: Theme.unit + Theme.halfUnit
 
             Repeater {
-                model: actions.buttons.filter(button => button.isProminent)
+                model: actions.buttons
                 ActionCommand {
+                    visible: modelData.isProminent
                     anchors.horizontalCenter: parent.horizontalCenter
                 }
             }
@@ -74,8 +75,10 @@ Item {
                 spacing: Theme.unit + 2
 
                 Repeater {
-                    model: actions.buttons.filter(button => !button.isProminent)
-                    ActionCommand {}
+                    model: actions.buttons
+                    ActionCommand {
+                        visible: !modelData.isProminent
+                    }
                 }
             }
         }

@@ -81,11 +81,8 @@ ListView {
         anchors.bottom: list.bottom
     }
 
-    // Rows come, go and move in any order; a screen reader meets them as they stand.
-    onContentHeightChanged: Qt.callLater(settleReadingOrder)
-    onMovementEnded: Qt.callLater(settleReadingOrder)
-    function settleReadingOrder() {
-        ReadingOrder.follow(list.contentItem)
+    ReadingOrder {
+        container: list.contentItem
     }
 
     // A press in a list reaches no handler behind it.

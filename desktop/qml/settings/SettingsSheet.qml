@@ -46,12 +46,9 @@ Sheet {
             placeholderText: qsTr("Paste your API key here")
             onTextEdited: sheet.settings.edit(text)
 
-            Connections {
-                target: sheet.settings
-                function onFieldCleared() {
-                    field.clear()
-                }
-            }
+            // The key has been stored or deleted, and leaves the field.
+            readonly property bool holdsKey: sheet.settings.holdsKey
+            onHoldsKeyChanged: if (!holdsKey) clear()
         }
         IconLabel {
             width: parent.width
