@@ -1,4 +1,4 @@
-"""usage: desktop.py first_frame|resident_after_cycle|scroll|idle RESULT
+"""usage: desktop.py first_frame|resident_after_cycle|scroll|opening|idle RESULT
 
 Starts larkspan and the bare window in turn, by the same hand in the same session, and writes the medians to RESULT as
 JSON. It runs in the world of the end-to-end tests, with their stand-ins around the programs.
@@ -91,7 +91,7 @@ def scrolled():
     found = {}
     with desktop(lambda: display.server("2400x1600")) as (_, surroundings, _):
         for scale in ("1", "2"):
-            times = {"window": [], "bare": []}
+            times = {"pages": [], "incidents": [], "bare": []}
             for _ in range(SCROLL_ROUNDS):
                 for kind, taken in times.items():
                     command = [BINARIES / "larkspan-bench-scroll", kind, str(SCROLLED_ROWS)]
@@ -99,6 +99,13 @@ def scrolled():
                     taken.append([float(time) for time in ended.stdout.split()])
             found[scale] = {kind: [statistics.median(column) for column in zip(*taken)] for kind, taken in times.items()}
     return found
+
+
+def opened():
+    """From the choice of a page's incidents, of which there are many, to their first rows on screen, in milliseconds; the
+    service's own time left out."""
+    with desktop() as (_, surroundings, _):
+        return float(output_of([BINARIES / "larkspan-bench-scroll", "opening", str(SCROLLED_ROWS)], env=surroundings).stdout)
 
 
 def idle():
@@ -124,7 +131,7 @@ def spent_by(process_id):
     return spent
 
 
-MEASURES = {"first_frame": first_frames, "resident_after_cycle": resident, "scroll": scrolled, "idle": idle}
+MEASURES = {"first_frame": first_frames, "resident_after_cycle": resident, "scroll": scrolled, "opening": opened, "idle": idle}
 
 
 def main(what, result):

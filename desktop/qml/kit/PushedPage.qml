@@ -25,7 +25,13 @@ FocusScope {
         if (isGuarded) return backWanted()
         isLeaving = true
         progress = 0
+        returnFocus()
         if (!sliding.running) leave()
+    }
+    // At once, so that nothing that the user does next is lost to a page that only fades.
+    function returnFocus() {
+        focusBefore.giveBack()
+        if (activeFocus) beneath.forceActiveFocus(Qt.OtherFocusReason)
     }
     function leave() {
         isLeaving = false
@@ -35,6 +41,7 @@ FocusScope {
     anchors.fill: parent
     z: 1
     visible: isThere
+    enabled: !isLeaving
     opacity: progress
     onIsShownChanged: {
         if (isShown) {
@@ -44,8 +51,7 @@ FocusScope {
             forceActiveFocus(Qt.OtherFocusReason)
         } else {
             progress = 0
-            focusBefore.giveBack()
-            if (!beneath.activeFocus) beneath.forceActiveFocus(Qt.OtherFocusReason)
+            returnFocus()
         }
     }
 
@@ -62,14 +68,14 @@ FocusScope {
         target: page.beneath
         property: "visible"
         value: false
-        when: page.isThere && page.progress === 1
+        when: page.isThere && page.progress === 1 && !page.isLeaving
         restoreMode: Binding.RestoreBindingOrValue
     }
     Binding {
         target: page.beneath
         property: "enabled"
         value: false
-        when: page.isShown
+        when: page.isShown && !page.isLeaving
         restoreMode: Binding.RestoreBindingOrValue
     }
     FocusReturn {

@@ -128,6 +128,30 @@ TEST_F(PagesOfAWindow, PressedTwiceQuicklyGoesBackOnce)
     EXPECT_EQ(property("dismissals").toInt(), 1);
 }
 
+TEST_F(PagesOfAWindow, WhileAPageFadesWhatLiesBeneathIsSeenHasTheFocusAndCanBePressed)
+{
+    open();
+    setProperty("hasMotion", true);
+    QTest::keyClick(&window(), Qt::Key_Escape);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(hasPage()) << "it is still fading";
+    EXPECT_TRUE(isVisible("root"));
+    EXPECT_EQ(focused(), QStringLiteral("opener"));
+    EXPECT_TRUE(item(QStringLiteral("opener")).isEnabled());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !hasPage(); }, 2'000));
+    EXPECT_EQ(property("dismissals").toInt(), 1);
+    EXPECT_EQ(focused(), QStringLiteral("opener"));
+}
+
+TEST_F(PagesOfAWindow, APageComesInATransition)
+{
+    setProperty("hasMotion", true);
+    open();
+    EXPECT_TRUE(hasPage());
+    EXPECT_EQ(focused(), QStringLiteral("inPage"));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !isVisible("root"); }, 2'000));
+}
+
 TEST_F(PagesOfAWindow, APageWhoseOwnerTakesItAwayGoesAtOnceAndGivesTheFocusBack)
 {
     open();
