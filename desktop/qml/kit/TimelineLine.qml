@@ -2,16 +2,16 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A moment in the life of a record: what it was, and when.
+// A moment in the life of a record: what it was, and when; the moment stands below where there is no room beside.
 Item {
     id: line
     required property timelineRow row
+    readonly property bool isNarrow: label.x + label.implicitWidth + Theme.unit + moment.implicitWidth > width
 
-    implicitHeight: label.implicitHeight
+    implicitHeight: isNarrow ? moment.y + moment.height : label.implicitHeight
 
     Symbol {
-        id: mark
-        anchors.verticalCenter: parent.verticalCenter
+        anchors.verticalCenter: label.verticalCenter
         width: Theme.smallIconSize
         height: width
         name: line.row.symbol
@@ -25,7 +25,9 @@ Item {
         color: Theme.secondary
     }
     Row {
-        anchors.right: parent.right
+        id: moment
+        x: line.isNarrow ? label.x : line.width - width
+        y: line.isNarrow ? label.height : 0
         spacing: Theme.unit
 
         Label {
