@@ -35,9 +35,8 @@ FocusScope {
             selectedTextColor: Theme.accentText
             font.pointSize: Theme.body
             renderType: Text.NativeRendering
-            KeyNavigation.priority: KeyNavigation.BeforeItem
-            KeyNavigation.tab: area.nextItemInFocusChain(true)
-            KeyNavigation.backtab: area.nextItemInFocusChain(false)
+            Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+            Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
             Accessible.role: Accessible.EditableText
             Accessible.name: box.name
             onTextChanged: if (activeFocus) box.edited(text)

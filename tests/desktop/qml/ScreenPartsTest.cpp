@@ -95,6 +95,81 @@ TEST_F(AlertOfAScreen, ReturnAndEscapeDismissItOnceAndGiveTheFocusBack)
     EXPECT_TRUE(item(QStringLiteral("before")).hasActiveFocus());
 }
 
+class TitleInOneLine : public testing::Test, public KitWindow {
+protected:
+    TitleInOneLine()
+        : KitWindow(QStringLiteral(R"(
+            property string words: "A title that is far too long for the room that it has here"
+            MarqueeText { objectName: "title"; width: 100; layoutHeight: 22; text: window.words })"))
+    {
+    }
+
+    QQuickItem& title() const { return item(QStringLiteral("title")); }
+};
+
+TEST_F(TitleInOneLine, ThatExceedsTheWidthIsCutWithAnEllipsisAndDoesNotMove)
+{
+    EXPECT_TRUE(title().property("truncated").toBool());
+    EXPECT_EQ(title().property("lineCount").toInt(), 1);
+    EXPECT_EQ(title().width(), 100);
+    const auto before = title().mapToScene({0, 0});
+    QTest::qWait(100);
+    EXPECT_EQ(title().mapToScene({0, 0}), before);
+}
+
+TEST_F(TitleInOneLine, IsSaidWholeAlsoWhereTheLineIsCut)
+{
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&title())->text(QAccessible::Name), property("words").toString());
+}
+
+TEST_F(TitleInOneLine, HasItsHeightWhateverTheTitle)
+{
+    const auto height = title().height();
+    for (const auto* const words : {"", "x", "two\nlines"}) {
+        setProperty("words", QString::fromUtf8(words));
+        EXPECT_EQ(title().height(), height) << words;
+        EXPECT_LE(title().property("lineCount").toInt(), 1) << words;
+    }
+}
+
+class BoxOfText : public testing::Test, public KitWindow {
+protected:
+    BoxOfText()
+        : KitWindow(QStringLiteral(R"(
+            Column {
+                CommandButton { objectName: "before"; text: "Before" }
+                TextBox { objectName: "box"; width: 300; name: "Text" }
+                CommandButton { objectName: "after"; text: "After" }
+            })"))
+    {
+        item(QStringLiteral("before")).forceActiveFocus(Qt::TabFocusReason);
+        press(Qt::Key_Tab);
+    }
+
+    bool hasFocus(const char* name) const { return item(QString::fromLatin1(name)).hasActiveFocus(); }
+};
+
+TEST_F(BoxOfText, IsLeftByTabInBothDirectionsAndHoldsNone)
+{
+    EXPECT_TRUE(hasFocus("box"));
+    press(Qt::Key_A);
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(hasFocus("after"));
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_TRUE(hasFocus("box"));
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_TRUE(hasFocus("before"));
+    EXPECT_EQ(item(QStringLiteral("box")).property("text").toString(), QStringLiteral("a"));
+}
+
+TEST_F(BoxOfText, TakesLines)
+{
+    press(Qt::Key_A);
+    press(Qt::Key_Return);
+    press(Qt::Key_B);
+    EXPECT_EQ(item(QStringLiteral("box")).property("text").toString(), QStringLiteral("a\nb"));
+}
+
 }  // namespace
 
 }  // namespace larkspan
