@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "account/HealthWords.h"
+
 namespace larkspan::simulator {
 
 namespace {
@@ -30,6 +32,31 @@ Maintenance* Account::findMaintenance(std::string_view id)
     return findById(maintenances, id);
 }
 
+ComponentGroup* Account::findComponentGroup(std::string_view id)
+{
+    return findById(componentGroups, id);
+}
+
+Component* Account::findComponent(std::string_view id)
+{
+    return findById(components, id);
+}
+
+Monitor* Account::findMonitor(std::string_view id)
+{
+    return findById(monitors, id);
+}
+
+Team* Account::findTeam(std::string_view id)
+{
+    return findById(staff.teams, id);
+}
+
+OnCallSchedule* Account::findOnCallSchedule(std::string_view id)
+{
+    return findById(staff.schedules, id);
+}
+
 std::string Account::issueId(const std::string& prefix)
 {
     return prefix + std::to_string(++issuedIds);
@@ -39,7 +66,9 @@ void Account::followEvents(const std::optional<std::string>& pageId, support::Ti
 {
     auto* page = pageId ? findPage(*pageId) : nullptr;
     if (!page) return;
-    page->setHealth(healthOf(*pageId));
+    const auto health = healthOf(*pageId);
+    page->setHealth(health);
+    showHealth(*this, *pageId, health);
     page->updatedAt = now;
 }
 

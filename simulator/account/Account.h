@@ -7,9 +7,12 @@
 #include <string_view>
 #include <vector>
 
+#include "account/Component.h"
 #include "account/Incident.h"
 #include "account/Maintenance.h"
+#include "account/Monitor.h"
 #include "account/StatusPage.h"
+#include "account/Team.h"
 
 namespace larkspan::simulator {
 
@@ -21,6 +24,11 @@ struct Account {
     StatusPage* findPage(std::string_view id);
     Incident* findIncident(std::string_view id);
     Maintenance* findMaintenance(std::string_view id);
+    ComponentGroup* findComponentGroup(std::string_view id);
+    Component* findComponent(std::string_view id);
+    Monitor* findMonitor(std::string_view id);
+    Team* findTeam(std::string_view id);
+    OnCallSchedule* findOnCallSchedule(std::string_view id);
 
     /// An id that nothing else has.
     std::string issueId(const std::string& prefix);
@@ -34,6 +42,10 @@ struct Account {
     std::vector<Incident> incidents = {};
     std::vector<IncidentState> incidentStates = ordinaryIncidentStates();
     std::vector<Maintenance> maintenances = {};
+    std::vector<ComponentGroup> componentGroups = {};
+    std::vector<Component> components = {};
+    std::vector<Monitor> monitors = {};
+    Staff staff = {};
     std::size_t issuedIds = 0;
 
 private:

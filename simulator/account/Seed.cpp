@@ -7,6 +7,7 @@
 #include <string>
 
 #include "account/EventSeed.h"
+#include "account/PageContentsSeed.h"
 
 namespace larkspan::simulator {
 
@@ -96,6 +97,8 @@ StatusPage seededPage(std::size_t index, std::string name, PageHealth health)
     page.createdAt = firstOfAll + age;
     page.updatedAt = firstOfAll + age + 417h + 589ms;
     page.metrics = metricsOf(index);
+    page.viewsOfMonth = static_cast<std::int64_t>(130 + index * 7'919 % 48'611);
+    page.subscribers = static_cast<std::int64_t>(index * 613 % 2'411);
     return page;
 }
 
@@ -115,6 +118,8 @@ Account seededAccount(std::size_t pages, support::Time now)
     account.incidents = seededIncidents(account.statusPages, now);
     account.maintenances = seededMaintenances(account.statusPages, now);
     account.issuedIds = account.incidents.size() + account.maintenances.size();
+    addPageContents(account, now);
+    account.staff = ordinaryStaff(now);
     return account;
 }
 

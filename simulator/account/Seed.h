@@ -20,7 +20,7 @@ std::vector<StatusPage> seededPages(std::size_t count);
 /// One such page under a name of its own.
 StatusPage seededPage(std::size_t index, std::string name, PageHealth health);
 
-/// So many believable pages, and incidents and maintenances of theirs by the time `now`; no keys.
+/// So many believable pages, and events, components and monitors of theirs by the time `now`; no keys.
 Account seededAccount(std::size_t pages, support::Time now);
 
 }  // namespace larkspan::simulator

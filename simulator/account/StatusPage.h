@@ -39,6 +39,8 @@ struct StatusPage {
     std::optional<support::Time> createdAt;
     std::optional<support::Time> updatedAt;
     std::optional<std::vector<PageMetric>> metrics;
+    std::int64_t viewsOfMonth = 0;
+    std::int64_t subscribers = 0;
 };
 
 }  // namespace larkspan::simulator

@@ -2,6 +2,7 @@
 
 #include "account/EventSeed.h"
 #include "account/IncidentWorkflow.h"
+#include "account/PageContentsSeed.h"
 #include "account/Seed.h"
 
 namespace larkspan::simulator {
@@ -30,6 +31,8 @@ Account livelyAccount(const std::string& key, support::Time now)
     account.incidents = seededIncidents(account.statusPages, now);
     account.maintenances = seededMaintenances(account.statusPages, now);
     account.issuedIds = account.incidents.size() + account.maintenances.size();
+    addPageContents(account, now);
+    account.staff = ordinaryStaff(now);
 
     Incident slowPayouts;
     slowPayouts.title = "Payouts take longer";

@@ -83,8 +83,7 @@ std::map<std::string, KeyRights, std::less<>> readKeys(const Json& order)
 ResultShape readShape(const Json& order)
 {
     const auto& name = requiredText(order, "shape");
-    if (name == "data") return ResultShape::underData;
-    if (name == "bare") return ResultShape::bare;
+    if (const auto shape = resultShape(name)) return *shape;
     throw BadOrder("There is no shape \"" + name + "\".");
 }
 

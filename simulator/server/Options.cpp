@@ -21,7 +21,8 @@ signed by an authority of its own, made on first use; the path of its certificat
   --host NAME          a further name that its certificate is for, where this machine stands in under it
   --seed NAME          the account: empty, tiny (3 pages), small (12, the default), large (1000) or a number
   --key TEXT           the API key that it takes; "simulator" unless told
-  --shape NAME         how results are wrapped: data (the default) or bare
+  --shape NAME         how results are wrapped: data (the default), bare, or own (lists that have one come in an
+                       envelope of their own)
   --certificate NAME   what it shows: valid (the default), expired, wrong-name or untrusted
   --directory PATH     where the authority is kept; $XDG_DATA_HOME/larkspan-simulator unless told
   --live               incidents and maintenances come and go as time passes
@@ -57,8 +58,9 @@ bool readKey(Options& options, const std::string& value)
 
 bool readShape(Options& options, const std::string& value)
 {
-    options.shape = value == "bare" ? ResultShape::bare : ResultShape::underData;
-    return value == "bare" || value == "data";
+    const auto shape = resultShape(value);
+    options.shape = shape.value_or(options.shape);
+    return shape.has_value();
 }
 
 bool readCertificate(Options& options, const std::string& value)

@@ -59,4 +59,16 @@ std::optional<std::string> Request::query(std::string_view name) const
     return std::nullopt;
 }
 
+std::vector<std::string> Request::queryList(std::string_view name) const
+{
+    std::vector<std::string> items;
+    const auto value = query(name).value_or("");
+    for (std::string_view rest = value; !rest.empty();) {
+        const auto item = rest.substr(0, rest.find(','));
+        if (!item.empty()) items.emplace_back(item);
+        rest.remove_prefix(std::min(item.size() + 1, rest.size()));
+    }
+    return items;
+}
+
 }  // namespace larkspan::simulator

@@ -23,6 +23,9 @@ struct Request {
     /// The first value of that name in the query, its percent-encoding undone.
     std::optional<std::string> query(std::string_view name) const;
 
+    /// What stands between the commas of that value; nothing where there is none or it is empty.
+    std::vector<std::string> queryList(std::string_view name) const;
+
     std::string method;
     std::string target;
     Headers headers;

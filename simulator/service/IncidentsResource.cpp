@@ -60,7 +60,7 @@ Answer createIncident(const Call& call)
 {
     const RequestBody body(call.request);
     Incident draft;
-    draft.title = body.requiredTitle();
+    draft.title = body.requiredTextNotBlank("title");
     draft.message = body.text("message");
     if (const auto page = body.text("status_page_id")) draft.statusPageId = knownPage(call.account, *page);
     draft.componentId = body.text("component_id");

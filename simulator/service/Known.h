@@ -22,4 +22,11 @@ inline std::string knownPage(Account& account, const std::string& id)
     return id;
 }
 
+/// The same for a page that a query names, with the status 400.
+inline std::string knownPageOfQuery(Account& account, const std::optional<std::string>& id)
+{
+    if (!id || !account.findPage(*id)) throw Refusal(400, "There is no such status page.");
+    return *id;
+}
+
 }  // namespace larkspan::simulator

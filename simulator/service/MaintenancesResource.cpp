@@ -59,7 +59,7 @@ Answer createMaintenance(const Call& call)
 {
     const RequestBody body(call.request);
     Maintenance draft;
-    draft.title = body.requiredTitle();
+    draft.title = body.requiredTextNotBlank("title");
     draft.message = body.text("message");
     draft.statusPageId = knownPage(call.account, body.requiredText("status_page_id"));
     draft.startAt = body.requiredDate("start_at");
@@ -75,7 +75,7 @@ Answer updateMaintenance(const Call& call)
     auto& maintenance = named(call);
     const RequestBody body(call.request);
     auto changed = maintenance;
-    if (body.text("title")) changed.title = body.requiredTitle();
+    if (const auto title = body.textNotBlank("title")) changed.title = *title;
     if (const auto message = body.text("message")) changed.message = message;
     if (const auto start = body.date("start_at")) changed.startAt = start;
     if (const auto end = body.date("end_at")) changed.endAt = end;

@@ -69,11 +69,16 @@ std::vector<std::string> RequestBody::requiredTexts(const char* key) const
     return texts;
 }
 
-std::string RequestBody::requiredTitle() const
+std::optional<std::string> RequestBody::textNotBlank(const char* key) const
 {
-    auto title = requiredText("title");
-    if (title.find_first_not_of(' ') == std::string::npos) throw wrong("title", "is empty.");
-    return title;
+    auto said = text(key);
+    if (said && said->find_first_not_of(' ') == std::string::npos) throw wrong(key, "is empty.");
+    return said;
+}
+
+std::string RequestBody::requiredTextNotBlank(const char* key) const
+{
+    return required(key, textNotBlank(key));
 }
 
 std::optional<bool> RequestBody::flag(const char* key) const

@@ -31,8 +31,8 @@ public:
     std::optional<std::string> text(const char* key) const;
     std::string requiredText(const char* key) const;
     std::vector<std::string> requiredTexts(const char* key) const;
-    /// Not blank.
-    std::string requiredTitle() const;
+    std::optional<std::string> textNotBlank(const char* key) const;
+    std::string requiredTextNotBlank(const char* key) const;
     std::optional<bool> flag(const char* key) const;
     bool requiredFlag(const char* key) const;
     std::optional<support::Time> date(const char* key) const;

@@ -7,10 +7,15 @@ namespace larkspan::simulator {
 class Router;
 
 // The routes of each resource, each in the source of its name.
+void addComponentGroupsRoutes(Router& router);
+void addComponentsRoutes(Router& router);
 void addIncidentsRoutes(Router& router);
 void addMaintenancesRoutes(Router& router);
+void addMonitorsRoutes(Router& router);
 void addStatusPagesRoutes(Router& router);
+void addTeamsRoutes(Router& router);
 
-inline constexpr std::array addRoutesOfEachResource{addIncidentsRoutes, addMaintenancesRoutes, addStatusPagesRoutes};
+inline constexpr std::array addRoutesOfEachResource{addComponentGroupsRoutes, addComponentsRoutes, addIncidentsRoutes,
+    addMaintenancesRoutes, addMonitorsRoutes, addStatusPagesRoutes, addTeamsRoutes};
 
 }  // namespace larkspan::simulator

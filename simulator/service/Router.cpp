@@ -25,7 +25,7 @@ std::optional<std::vector<std::string>> wildcards(
     if (pattern.size() != path.size()) return std::nullopt;
     std::vector<std::string> matched;
     for (std::size_t index = 0; index < path.size(); ++index) {
-        if (pattern[index] == "*") {
+        if (pattern[index] == "*" && !path[index].empty()) {
             matched.push_back(path[index]);
         } else if (pattern[index] != path[index]) {
             return std::nullopt;

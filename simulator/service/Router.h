@@ -30,6 +30,10 @@ struct Answer {
     int status = 200;
     std::optional<Json> result = {};
     Headers headers = {};
+    /// The key under which a list may come in place of "data"; empty where the service knows none for it.
+    std::string_view envelope = {};
+    /// Whether the result comes as it is, whatever shape was asked for.
+    bool isWhole = false;
 };
 
 /// The answer to a request that did what it asked for.
@@ -43,7 +47,7 @@ using Handler = std::function<Answer(const Call&)>;
 /// From method and path to the handler.
 class Router {
 public:
-    /// In `pattern` a "*" stands for any one segment of the path.
+    /// In `pattern` a "*" stands for any one segment of the path that is not empty.
     void add(std::string method, std::string_view pattern, Handler handler);
 
     /// 404 where no route has the path, 405 where none of those has the method.

@@ -22,6 +22,13 @@ struct Life {
     support::Time start;
 };
 
+Json shaped(Answer answer, ResultShape shape)
+{
+    if (answer.isWhole || shape == ResultShape::bare) return std::move(*answer.result);
+    const bool isInOwn = shape == ResultShape::inOwnEnvelope && !answer.envelope.empty();
+    return Json::object({{isInOwn ? std::string(answer.envelope) : "data", std::move(*answer.result)}});
+}
+
 }  // namespace
 
 struct Service::State {
@@ -45,6 +52,14 @@ struct Service::State {
     FaultPlan faults;
     std::deque<Request> received;
 };
+
+std::optional<ResultShape> resultShape(std::string_view name)
+{
+    if (name == "data") return ResultShape::underData;
+    if (name == "bare") return ResultShape::bare;
+    if (name == "own") return ResultShape::inOwnEnvelope;
+    return std::nullopt;
+}
 
 Service::Service(Account account, const platform::Clock& clock)
     : state_(std::make_unique<State>(std::move(account), clock))
@@ -121,13 +136,13 @@ Reply Service::State::replyTo(const Request& request, const std::vector<Fault>& 
     reply.headers = std::move(answer.headers);
     if (!answer.result) return reply;
 
-    auto& result = *answer.result;
     const bool isSuccess = answer.status >= 200 && answer.status < 300;
     if (isSuccess) {
-        for (const auto& fault : faultsOfRequest) spoil(fault, result);
-        if (shape == ResultShape::underData) result = Json::object({{"data", std::move(result)}});
+        for (const auto& fault : faultsOfRequest) spoil(fault, *answer.result);
+        reply.body = shaped(std::move(answer), shape).text();
+    } else {
+        reply.body = answer.result->text();
     }
-    reply.body = result.text();
     return reply;
 }
 

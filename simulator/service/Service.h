@@ -2,6 +2,8 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
+#include <string_view>
 #include <vector>
 
 #include "platform/Clock.h"
@@ -14,8 +16,11 @@ namespace larkspan::simulator {
 struct Account;
 class Storyline;
 
-/// How results are wrapped.
-enum class ResultShape { underData, bare };
+/// How results are wrapped; `inOwnEnvelope` wraps a list that has none of its own under "data".
+enum class ResultShape { underData, bare, inOwnEnvelope };
+
+/// The shape of that name: "data", "bare" or "own".
+std::optional<ResultShape> resultShape(std::string_view name);
 
 /// The service over one account: its rules, the faults that somebody asked for, and a record of what it was sent.
 /// Every operation may be called from any thread.

@@ -1,4 +1,6 @@
 #include "account/Account.h"
+#include "service/Known.h"
+#include "service/RequestBody.h"
 #include "service/Resources.h"
 #include "service/Router.h"
 #include "service/WireRecord.h"
@@ -44,6 +46,34 @@ Json wireOverview(const std::vector<StatusPage>& pages)
     return wireRecord({{"status_pages", std::move(entries)}});
 }
 
+StatusPage& named(const Call& call)
+{
+    return known(call.account.findPage(call.wildcards.front()));
+}
+
+Answer updatePage(const Call& call)
+{
+    auto& page = named(call);
+    const RequestBody body(call.request);
+    const auto title = body.textNotBlank("title");
+    const auto description = body.text("description");
+    if (!title && !description) throw Refusal(422, "There is nothing to change.");
+    if (title) page.name = *title;
+    if (description) page.description = description;
+    page.updatedAt = call.now;
+    return ok(wirePage(page));
+}
+
+Answer countViews(const Call& call)
+{
+    return ok(wireRecord({{"period", "30d"}, {"view_count", named(call).viewsOfMonth}}));
+}
+
+Answer countSubscribers(const Call& call)
+{
+    return ok(wireRecord({{"count", named(call).subscribers}}));
+}
+
 }  // namespace
 
 void addStatusPagesRoutes(Router& router)
@@ -52,6 +82,9 @@ void addStatusPagesRoutes(Router& router)
         [](const Call& call) { return ok(wireList(call.account.statusPages, wirePage)); });
     router.add("GET", "/user/api/status-pages/status",
         [](const Call& call) { return ok(wireOverview(call.account.statusPages)); });
+    router.add("PATCH", "/user/api/v1/status-pages/*", updatePage);
+    router.add("GET", "/user/api/analytics/status-pages/*/views", countViews);
+    router.add("GET", "/user/api/v1/status-pages/*/subscribers/count", countSubscribers);
 }
 
 }  // namespace larkspan::simulator

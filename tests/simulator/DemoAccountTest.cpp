@@ -3,8 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <future>
 
+#include "demo/LivelyAccount.h"
 #include "fakes/ManualClock.h"
 #include "json/Json.h"
 
@@ -38,6 +40,18 @@ TEST(DemoAccount, ShowsItsPagesToTheKeyInItsStoreAndLives)
 
     EXPECT_EQ(before.find("data")->array()->size(), 4u);
     EXPECT_NE(before, after);
+}
+
+TEST(LivelyAccount, HasComponentsAndMonitorsOnEachOfItsPages)
+{
+    const auto account = livelyAccount("key", fakes::ManualClock().time);
+
+    for (const auto& page : account.statusPages) {
+        const auto isOfPage = [&page](const auto& record) { return record.statusPageId == page.id; };
+        EXPECT_TRUE(std::ranges::any_of(account.components, isOfPage)) << page.id;
+        EXPECT_TRUE(std::ranges::any_of(account.monitors, isOfPage)) << page.id;
+    }
+    EXPECT_FALSE(account.staff.teams.empty());
 }
 
 TEST(MemoryCredentialStore, HoldsEachItemByBothAttributes)

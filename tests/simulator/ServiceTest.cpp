@@ -71,7 +71,7 @@ INSTANTIATE_TEST_SUITE_P(EachPath, Routes,
         RouteRow{"PagesWithAQuery", "GET", "/user/api/v1/status-pages?x=1", 200},
         RouteRow{"PagesUnderTheOtherBase", "GET", "/user/api/status-pages", 404},
         RouteRow{"Overview", "GET", "/user/api/status-pages/status", 200},
-        RouteRow{"OverviewUnderTheOtherBase", "GET", "/user/api/v1/status-pages/status", 404},
+        RouteRow{"OverviewUnderTheOtherBase", "GET", "/user/api/v1/status-pages/status", 405},
         RouteRow{"Incidents", "GET", "/user/api/v1/incidents", 200},
         RouteRow{"IncidentsUnderTheOtherBase", "GET", "/user/api/incidents", 404},
         RouteRow{"States", "GET", "/user/api/incident-states", 200},
@@ -102,6 +102,14 @@ TEST(Service, SendsPagesUnderDataOrBare)
     ASSERT_NE(wrapped.find("data"), nullptr);
     EXPECT_EQ(*wrapped.find("data"), bare);
     EXPECT_EQ(bare.array()->size(), 2u);
+}
+
+TEST(ResultShapes, HaveNames)
+{
+    EXPECT_EQ(resultShape("data"), ResultShape::underData);
+    EXPECT_EQ(resultShape("bare"), ResultShape::bare);
+    EXPECT_EQ(resultShape("own"), ResultShape::inOwnEnvelope);
+    EXPECT_EQ(resultShape("round"), std::nullopt);
 }
 
 TEST(Service, SendsAPageInSnakeCaseAndLeavesOutWhatItLacks)
