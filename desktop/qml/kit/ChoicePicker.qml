@@ -50,7 +50,11 @@ Pressable {
         name: "chevron.down"
         color: Theme.secondary
     }
-    FocusRing { isShown: picker.visualFocus }
+    FocusRing {
+        isShown: picker.visualFocus
+        anchors.leftMargin: -Theme.unit
+        anchors.rightMargin: -Theme.unit
+    }
 
     ChoicePopup {
         id: popup
