@@ -62,7 +62,7 @@ void RowListModel<Value>::update(std::vector<Row> wanted)
     auto places = wantedPlaces(idsOf(rows_), idsOf(wanted));
     removeVanished(places);
 
-    std::vector<std::size_t> kept;
+    std::vector<std::size_t> kept{};
     kept.reserve(rows_.size());
     for (const auto& place : places) {
         if (place) kept.push_back(*place);
@@ -74,7 +74,7 @@ void RowListModel<Value>::update(std::vector<Row> wanted)
 template <typename Value>
 std::vector<std::string_view> RowListModel<Value>::idsOf(const std::vector<Row>& rows)
 {
-    std::vector<std::string_view> ids;
+    std::vector<std::string_view> ids{};
     ids.reserve(rows.size());
     for (const auto& row : rows) ids.push_back(row.id);
     return ids;
@@ -128,7 +128,7 @@ void RowListModel<Value>::sortAtOnce(std::vector<std::size_t>& places)
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::ranges::sort(order, {}, [&places](auto row) { return places[row]; });
 
-    std::vector<Row> sorted;
+    std::vector<Row> sorted{};
     sorted.reserve(order.size());
     std::vector<int> newRow(order.size());
     for (std::size_t row = 0; row < order.size(); ++row) {

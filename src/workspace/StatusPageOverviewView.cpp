@@ -15,7 +15,6 @@ namespace larkspan::workspace {
 
 using presentation::Fact;
 using presentation::Headline;
-using presentation::Marker;
 using presentation::StatusPagePresentation;
 using presentation::Tone;
 
