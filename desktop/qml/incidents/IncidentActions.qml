@@ -72,7 +72,7 @@ Item {
                 id: flow
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: Math.min(parent.width, flow.implicitWidth)
-                spacing: Theme.unit + 2
+                spacing: Theme.wideGap
 
                 Repeater {
                     model: actions.buttons

@@ -16,7 +16,7 @@ Column {
 
         MarqueeText {
             width: parent.width
-            layoutHeight: 38
+            layoutHeight: Theme.detailTitleHeight
             text: facts.incident.incidentTitle
             font.pointSize: Theme.title
             font.weight: Font.Bold
@@ -32,7 +32,7 @@ Column {
                     required property pill modelData
                     pill: modelData
                     pointSize: Theme.subheadline
-                    sidePadding: 10
+                    sidePadding: Theme.wideGap
                     topPadding: 5
                 }
             }

@@ -31,12 +31,12 @@ CardRow {
 
             MarqueeText {
                 width: parent.width
-                layoutHeight: 22
+                layoutHeight: Theme.titleHeight
                 text: delegate.row.title
                 font.weight: Font.DemiBold
             }
             Row {
-                spacing: Theme.unit - 2
+                spacing: Theme.narrowGap
 
                 Pill {
                     visible: delegate.row.severity.text !== ""

@@ -40,7 +40,7 @@ T.Button {
         }
         Label {
             id: caption
-            x: button.symbol === "" ? 0 : Theme.smallIconSize + Theme.unit - 2
+            x: button.symbol === "" ? 0 : Theme.smallIconSize + Theme.narrowGap
             width: parent.width - x
             height: parent.height
             text: button.text

@@ -46,7 +46,7 @@ CardRow {
         MessageText {
             id: text
             visible: !delegate.row.isTable && !delegate.row.isDivider
-            x: delegate.row.isQuote ? Theme.quoteBarWidth + 10 : delegate.row.isItem ? Math.max(mark.implicitWidth, Theme.itemIndent) + 7 : 0
+            x: delegate.row.isQuote ? Theme.quoteBarWidth + Theme.quoteGap : delegate.row.isItem ? Math.max(mark.implicitWidth, Theme.itemIndent) + Theme.itemGap : 0
             width: parent.width - x
             words: delegate.row.text
             color: delegate.row.isQuote ? Theme.secondary : Theme.text

@@ -32,6 +32,7 @@ QtObject {
     readonly property color veil: "#33000000"
     readonly property real pillOpacity: 0.15
     readonly property real badgeOpacity: 0.20
+    readonly property color track: Qt.alpha(text, 0.25)
 
     readonly property real base: Application.font.pointSize > 0 ? Application.font.pointSize : 10
     readonly property real title: base * 1.8
@@ -71,6 +72,14 @@ QtObject {
     readonly property int dotSize: 8
     readonly property int recordDotSize: 10
     readonly property int quoteBarWidth: 3
+    readonly property int quoteGap: 10
+    readonly property int itemGap: 7
+    readonly property int narrowGap: 6
+    readonly property int wideGap: 10
+    readonly property int titleHeight: 22
+    readonly property int detailTitleHeight: 38
+    readonly property int toggleWidth: Math.round(36 * scale)
+    readonly property int toggleHeight: Math.round(20 * scale)
     readonly property int itemIndent: Math.round(8 * scale)
     readonly property int columnMostWidth: 240
     readonly property int textBoxHeight: 100

@@ -23,10 +23,10 @@ Pressable {
         id: track
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.round(36 * Theme.scale)
-        height: Math.round(20 * Theme.scale)
+        width: Theme.toggleWidth
+        height: Theme.toggleHeight
         radius: height / 2
-        color: toggle.isOn ? Theme.accent : Qt.alpha(Theme.text, 0.25)
+        color: toggle.isOn ? Theme.accent : Theme.track
         Behavior on color {
             ColorAnimation { duration: Theme.quick }
         }
