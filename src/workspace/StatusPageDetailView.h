@@ -9,6 +9,7 @@
 #include "core/AppStateManager.h"
 #include "incidents/StatusPageIncidentsView.h"
 #include "model/StatusPage.h"
+#include "monitors/StatusPageMonitorsView.h"
 #include "platform/Clock.h"
 #include "platform/CredentialStore.h"
 #include "platform/Executor.h"
@@ -56,6 +57,8 @@ public:
     StatusPageOverviewView overview() const;
     /// The screen of the tab "Incidents"; null while another is selected.
     const std::shared_ptr<incidents::StatusPageIncidentsView>& incidents() const { return incidents_; }
+    /// The screen of the tab "Monitors"; null while another is selected.
+    const std::shared_ptr<monitors::StatusPageMonitorsView>& monitors() const { return monitors_; }
 
     /// Opens the page as the public sees it; what is no web address is not opened.
     void openPublicURL() const;
@@ -63,6 +66,7 @@ public:
 private:
     Ports ports_;
     std::shared_ptr<incidents::StatusPageIncidentsView> incidents_;
+    std::shared_ptr<monitors::StatusPageMonitorsView> monitors_;
 };
 
 /// The label of a tab's segment.
