@@ -14,7 +14,8 @@ MetricBadge TrendBadge::drawn() const
     return {.icon = std::string(trendIcon(trend)),
         .value = support::capitalized(trend),
         .label = label,
-        .color = trendColor(trend)};
+        .color = trendColor(trend),
+        .isTrend = true};
 }
 
 std::vector<MetricBadge> metricBadges(const model::MonitorMetricsWindow& metrics)

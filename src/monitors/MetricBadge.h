@@ -16,6 +16,8 @@ struct MetricBadge {
     std::string value{};
     std::string label{};
     presentation::Tone color = presentation::Tone::blue;
+    /// It is a `TrendBadge`, whose icon stands closer.
+    bool isTrend = false;
 
     bool operator==(const MetricBadge&) const = default;
 };

@@ -100,7 +100,7 @@ ListView {
         event.accepted = typeAhead.take(event) || goTo(event.key)
     }
     function goTo(key: int): bool {
-        const page = Math.max(1, Math.floor(height / Theme.rowHeight) - 1)
+        const page = Math.max(1, Math.floor(height / (currentItem ? currentItem.height : Theme.rowHeight)) - 1)
         const target = {
             [Qt.Key_Home]: 0,
             [Qt.Key_End]: count - 1,
