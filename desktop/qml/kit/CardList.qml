@@ -90,8 +90,9 @@ ListView {
         onPressedChanged: if (pressed) InputHand.isKeyboard = false
     }
 
+    // Only a row that has the keyboard: the second press of a button in it that the first has disabled is not for the row.
     function press(row: CardRow) {
-        if (row) row.clicked()
+        if (row && row.activeFocus) row.clicked()
     }
     Keys.onReturnPressed: press(currentItem as CardRow)
     Keys.onEnterPressed: press(currentItem as CardRow)

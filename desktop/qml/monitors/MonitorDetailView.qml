@@ -89,15 +89,11 @@ ScreenFrame {
             spacing: Theme.unit
 
             Repeater {
-                model: view.monitor.buttons
-                CommandButton {
-                    required property actionButton modelData
-                    text: modelData.label
-                    symbol: modelData.symbol
-                    tone: modelData.tone
-                    isProminent: modelData.isProminent
-                    enabled: modelData.isEnabled
-                    onClicked: view.monitor.press(modelData.id)
+                model: view.monitor.buttons.length
+                ActionCommand {
+                    required property int index
+                    button: view.monitor.buttons[index]
+                    onClicked: view.monitor.press(button.id)
                 }
             }
         }

@@ -30,7 +30,7 @@ Column {
     }
     CommandButton {
         visible: expanded.metrics.offersRetry
-        activeFocusOnTab: expanded.isCurrent
+        activeFocusOnTab: expanded.isCurrent || activeFocus
         isSmall: true
         text: qsTr("Retry")
         onClicked: expanded.metrics.retry()

@@ -15,8 +15,7 @@ CardRow {
     name: row.title
     description: row.status
     isPressable: false
-    topPadding: 2 * Theme.unit - Theme.halfUnit
-    bottomPadding: topPadding
+    topPadding: Theme.rowGap
 
     // The pointer has the row's buttons; a press beside them does nothing.
     MouseArea {
@@ -63,7 +62,7 @@ CardRow {
                 id: trailing
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
-                spacing: Theme.rowGap
+                spacing: Theme.halfUnit
 
                 Pill {
                     anchors.verticalCenter: parent.verticalCenter
@@ -74,7 +73,7 @@ CardRow {
                     topPadding: Theme.tightGap
                 }
                 ToolbarButton {
-                    activeFocusOnTab: delegate.ListView.isCurrentItem
+                    activeFocusOnTab: delegate.ListView.isCurrentItem || activeFocus
                     symbol: delegate.row.isOpen ? "chevron.up" : "chevron.down"
                     help: delegate.row.disclosure
                     ink: Theme.secondary
@@ -83,7 +82,7 @@ CardRow {
                     onClicked: delegate.toggled()
                 }
                 ToolbarButton {
-                    activeFocusOnTab: delegate.ListView.isCurrentItem
+                    activeFocusOnTab: delegate.ListView.isCurrentItem || activeFocus
                     symbol: "info.circle"
                     help: qsTr("Monitor Details")
                     onClicked: delegate.clicked()
@@ -119,15 +118,13 @@ CardRow {
             spacing: Theme.unit
 
             Repeater {
-                model: delegate.row.buttons
-                CommandButton {
-                    required property actionButton modelData
-                    activeFocusOnTab: delegate.ListView.isCurrentItem
+                model: delegate.row.buttons.length
+                ActionCommand {
+                    required property int index
+                    button: delegate.row.buttons[index]
+                    activeFocusOnTab: delegate.ListView.isCurrentItem || activeFocus
                     isSmall: true
-                    text: modelData.label
-                    symbol: modelData.symbol
-                    enabled: modelData.isEnabled
-                    onClicked: delegate.commanded(modelData.id)
+                    onClicked: delegate.commanded(button.id)
                 }
             }
         }
