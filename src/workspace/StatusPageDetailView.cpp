@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "workspace/WebAddress.h"
+#include "presentation/WebAddress.h"
 
 namespace larkspan::workspace {
 
@@ -21,12 +21,19 @@ void StatusPageDetailView::select(Tab tab)
 {
     if (tab == *selectedTab) return;
     incidents_.reset();
+    components_.reset();
     if (tab == Tab::incidents) {
         incidents_ = std::make_shared<incidents::StatusPageIncidentsView>(
             incidents::StatusPageIncidentsView::Ports{ports_.main, ports_.api, ports_.api, ports_.api,
                 ports_.credentials, ports_.clock, ports_.locale, ports_.links},
             page->id);
         incidents_->appear();
+    }
+    if (tab == Tab::components) {
+        components_ = std::make_shared<components::StatusPageComponentsView>(
+            components::StatusPageComponentsView::Ports{ports_.main, ports_.api, ports_.credentials, ports_.links},
+            page->id);
+        components_->appear();
     }
     selectedTab = tab;
 }
@@ -48,7 +55,7 @@ StatusPageOverviewView StatusPageDetailView::overview() const
 
 void StatusPageDetailView::openPublicURL() const
 {
-    if (page->url && isWebAddress(page->url->text())) ports_.links.open(page->url->text());
+    if (page->url && presentation::isWebAddress(page->url->text())) ports_.links.open(page->url->text());
 }
 
 std::string_view rawValue(StatusPageDetailView::Tab tab)

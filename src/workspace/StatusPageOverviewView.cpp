@@ -9,7 +9,7 @@
 #include "core/OverallStatus.h"
 #include "presentation/RelativeDate.h"
 #include "presentation/StatusPagePresentation.h"
-#include "workspace/WebAddress.h"
+#include "presentation/WebAddress.h"
 
 namespace larkspan::workspace {
 
@@ -36,7 +36,7 @@ std::vector<Fact> informationOf(const model::StatusPage& page, const platform::L
         const auto host = page.url->host();
         facts.push_back({.label = "Public URL",
             .text = host.empty() ? page.url->text() : std::string(host),
-            .destination = isWebAddress(page.url->text()) ? page.url->text() : ""});
+            .destination = presentation::isWebAddress(page.url->text()) ? page.url->text() : ""});
     }
     if (page.updatedAt) {
         facts.push_back({.label = "Last Updated", .text = presentation::relativeDate(locale, *page.updatedAt, now)});
