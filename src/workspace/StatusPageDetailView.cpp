@@ -20,23 +20,41 @@ std::array<support::Subscription, 2> StatusPageDetailView::observe(const std::fu
 void StatusPageDetailView::select(Tab tab)
 {
     if (tab == *selectedTab) return;
+    leave();
+    enter(tab);
+    selectedTab = tab;
+}
+
+void StatusPageDetailView::leave()
+{
     incidents_.reset();
     monitors_.reset();
-    if (tab == Tab::incidents) {
+    components_.reset();
+}
+
+void StatusPageDetailView::enter(Tab tab)
+{
+    switch (tab) {
+    case Tab::overview:
+    case Tab::maintenances: break;
+    case Tab::incidents:
         incidents_ = std::make_shared<incidents::StatusPageIncidentsView>(
             incidents::StatusPageIncidentsView::Ports{ports_.main, ports_.api, ports_.api, ports_.api,
                 ports_.credentials, ports_.clock, ports_.locale, ports_.links},
             page->id);
-        incidents_->appear();
-    }
-    if (tab == Tab::monitors) {
+        return incidents_->appear();
+    case Tab::monitors:
         monitors_ = std::make_shared<monitors::StatusPageMonitorsView>(
             monitors::StatusPageMonitorsView::Ports{
                 ports_.main, ports_.api, ports_.credentials, ports_.locale, ports_.links},
             *page);
-        monitors_->appear();
+        return monitors_->appear();
+    case Tab::components:
+        components_ = std::make_shared<components::StatusPageComponentsView>(
+            components::StatusPageComponentsView::Ports{ports_.main, ports_.api, ports_.credentials, ports_.links},
+            page->id);
+        return components_->appear();
     }
-    selectedTab = tab;
 }
 
 void StatusPageDetailView::selectNext()

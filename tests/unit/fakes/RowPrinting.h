@@ -104,6 +104,16 @@ namespace larkspan::incidents {
 using fakes::PrintTo;
 }  // namespace larkspan::incidents
 
+namespace larkspan::components {
+
+template <fakes::Row T>
+void PrintTo(const T& row, std::ostream* out)
+{
+    fakes::printFields(row, out);
+}
+
+}  // namespace larkspan::components
+
 namespace larkspan::workspace {
 using fakes::PrintTo;
 }  // namespace larkspan::workspace

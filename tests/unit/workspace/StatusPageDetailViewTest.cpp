@@ -78,6 +78,21 @@ TEST_F(OpenedPage, MakesTheScreenOfItsMonitorsOnEntryAndDropsItOnLeaving)
     EXPECT_TRUE(first.expired());
 }
 
+TEST_F(OpenedPage, HasTheScreenOfItsComponentsMadeOnEntryAndDroppedOnLeaving)
+{
+    EXPECT_EQ(view.components(), nullptr);
+    view.select(Tab::components);
+    const std::weak_ptr<components::StatusPageComponentsView> first = view.components();
+    ASSERT_NE(view.components(), nullptr);
+    EXPECT_EQ(view.components()->viewModel->pageId, "a");
+    EXPECT_EQ(view.components()->content(), presentation::Content::loading);
+    view.select(Tab::components);
+    EXPECT_EQ(view.components(), first.lock());
+    view.select(Tab::incidents);
+    EXPECT_EQ(view.components(), nullptr);
+    EXPECT_TRUE(first.expired());
+}
+
 TEST_F(OpenedPage, RedrawsItsActivityWhenTheAccountPublishesNewLists)
 {
     int changes = 0;
