@@ -8,13 +8,14 @@
 
 #include "api/KestruneAPI.h"
 #include "fakes/PageComponents.h"
-#include "incidents/Refusal.h"
+#include "fakes/Refusal.h"
 #include "presentation/Confirmation.h"
 
 namespace larkspan::incidents {
 
 namespace {
 
+using fakes::Refusal;
 using platform::HttpResponse;
 using Words = std::vector<std::string>;
 
@@ -219,7 +220,7 @@ TEST_P(RefusedIncident, IsAnAlertOverAFormThatKeepsAllThatWasTypedAndChosen)
     EXPECT_EQ(*form->action->alert, "");
 }
 
-INSTANTIATE_TEST_SUITE_P(EachAnswer, RefusedIncident, testing::ValuesIn(refusals()));
+INSTANTIATE_TEST_SUITE_P(EachAnswer, RefusedIncident, testing::ValuesIn(fakes::refusals()));
 
 TEST_F(FormOfAnIncident, LeftByEscapeWithNothingTypedJustCloses)
 {

@@ -2,13 +2,14 @@
 
 #include <tuple>
 
+#include "fakes/Refusal.h"
 #include "incidents/DetailOfAnIncident.h"
-#include "incidents/Refusal.h"
 
 namespace larkspan::incidents {
 
 namespace {
 
+using fakes::Refusal;
 using Action = IncidentDetailView::DetailAction;
 
 TEST_F(DetailOfAnIncident, AcknowledgesThenFetchesTheRecordAndHandsItOver)
@@ -114,7 +115,7 @@ TEST_P(RefusedAction, IsAnAlertThatChangesNothingAndLeavesTheScreenOpen)
 
 INSTANTIATE_TEST_SUITE_P(EachActionAndAnswer, RefusedAction,
     testing::Combine(testing::Values(Action::acknowledge, Action::resolve, Action::escalate, Action::delete_),
-        testing::ValuesIn(refusals())));
+        testing::ValuesIn(fakes::refusals())));
 
 TEST_F(DetailOfAnIncident, WhoseRecordCannotBeFetchedAfterAnActionReportsThatAlthoughTheActionTookPlace)
 {

@@ -2,13 +2,14 @@
 
 #include <vector>
 
+#include "fakes/Refusal.h"
 #include "incidents/DetailOfAnIncident.h"
-#include "incidents/Refusal.h"
 
 namespace larkspan::incidents {
 
 namespace {
 
+using fakes::Refusal;
 using platform::HttpResponse;
 using presentation::ActionButton;
 
@@ -65,7 +66,7 @@ TEST_P(RefusedUpdate, KeepsTheEditorOpenWithTheTextAndSaysWhy)
     EXPECT_FALSE(*view->isEditing) << "it can be sent again";
 }
 
-INSTANTIATE_TEST_SUITE_P(EachAnswer, RefusedUpdate, testing::ValuesIn(refusals()));
+INSTANTIATE_TEST_SUITE_P(EachAnswer, RefusedUpdate, testing::ValuesIn(fakes::refusals()));
 
 TEST_F(DetailOfAnIncident, SavedTwiceSendsOnce)
 {

@@ -3,7 +3,7 @@
 #include <string_view>
 #include <vector>
 
-namespace larkspan::incidents {
+namespace larkspan::support {
 
 /// The space, the tab and Unicode's other space separators, but no line end.
 bool isBlank(char32_t character);
@@ -18,4 +18,4 @@ std::string_view withoutBlanksAround(std::string_view text);
 /// views are into `text`.
 std::vector<std::string_view> linesOf(std::string_view text);
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::support

@@ -1,8 +1,8 @@
-#include "incidents/markdown/Blanks.h"
+#include "support/Blanks.h"
 
 #include "support/Utf8.h"
 
-namespace larkspan::incidents {
+namespace larkspan::support {
 
 namespace {
 
@@ -38,12 +38,12 @@ bool isLineEnd(char32_t character)
 std::string_view withoutBlanksAround(std::string_view text)
 {
     while (!text.empty()) {
-        const auto first = support::firstCharacter(text);
+        const auto first = firstCharacter(text);
         if (!isBlank(first.code)) break;
         text.remove_prefix(first.length);
     }
     while (!text.empty()) {
-        const auto last = support::lastCharacter(text);
+        const auto last = lastCharacter(text);
         if (!isBlank(last.code)) break;
         text.remove_suffix(last.length);
     }
@@ -59,7 +59,7 @@ std::vector<std::string_view> linesOf(std::string_view text)
             ++at;
             continue;
         }
-        const auto character = support::firstCharacter(text.substr(at));
+        const auto character = firstCharacter(text.substr(at));
         if (!isLineEnd(character.code)) {
             at += character.length;
             continue;
@@ -72,4 +72,4 @@ std::vector<std::string_view> linesOf(std::string_view text)
     return lines;
 }
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::support

@@ -1,9 +1,9 @@
-#include "incidents/markdown/Blanks.h"
+#include "support/Blanks.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-namespace larkspan::incidents {
+namespace larkspan::support {
 
 namespace {
 
@@ -81,4 +81,4 @@ TEST(Lines, KeepTheirBadBytes)
 
 }  // namespace
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::support
