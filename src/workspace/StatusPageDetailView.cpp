@@ -21,12 +21,20 @@ void StatusPageDetailView::select(Tab tab)
 {
     if (tab == *selectedTab) return;
     incidents_.reset();
+    maintenances_.reset();
     if (tab == Tab::incidents) {
         incidents_ = std::make_shared<incidents::StatusPageIncidentsView>(
             incidents::StatusPageIncidentsView::Ports{ports_.main, ports_.api, ports_.api, ports_.api,
                 ports_.credentials, ports_.clock, ports_.locale, ports_.links},
             page->id);
         incidents_->appear();
+    }
+    if (tab == Tab::maintenances) {
+        maintenances_ = std::make_shared<maintenances::StatusPageMaintenancesView>(
+            maintenances::StatusPageMaintenancesView::Ports{ports_.main, ports_.api, ports_.api, ports_.api,
+                ports_.credentials, ports_.clock, ports_.locale, ports_.links},
+            page->id);
+        maintenances_->appear();
     }
     selectedTab = tab;
 }

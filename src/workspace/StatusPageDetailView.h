@@ -8,6 +8,7 @@
 #include "api/KestruneAPI.h"
 #include "core/AppStateManager.h"
 #include "incidents/StatusPageIncidentsView.h"
+#include "maintenances/StatusPageMaintenancesView.h"
 #include "model/StatusPage.h"
 #include "platform/Clock.h"
 #include "platform/CredentialStore.h"
@@ -56,6 +57,8 @@ public:
     StatusPageOverviewView overview() const;
     /// The screen of the tab "Incidents"; null while another is selected.
     const std::shared_ptr<incidents::StatusPageIncidentsView>& incidents() const { return incidents_; }
+    /// The same for "Maintenances".
+    const std::shared_ptr<maintenances::StatusPageMaintenancesView>& maintenances() const { return maintenances_; }
 
     /// Opens the page as the public sees it; what is no web address is not opened.
     void openPublicURL() const;
@@ -63,6 +66,7 @@ public:
 private:
     Ports ports_;
     std::shared_ptr<incidents::StatusPageIncidentsView> incidents_;
+    std::shared_ptr<maintenances::StatusPageMaintenancesView> maintenances_;
 };
 
 /// The label of a tab's segment.
