@@ -15,12 +15,14 @@ public:
 
     std::string dateOnly(support::Time moment) const override;
     std::string timeOnly(support::Time moment) const override;
+    std::string dayAndTime(support::Time moment) const override;
     std::chrono::local_days day(support::Time moment) const override;
     std::weak_ordering compareIgnoringCase(std::string_view left, std::string_view right) const override;
 
 private:
     const QLocale locale_;
     const QString dateFormat_;
+    const QString dayAndTimeFormat_;
     QCollator collator_;
 };
 

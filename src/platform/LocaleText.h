@@ -20,6 +20,9 @@ public:
     /// The time of day without the date, in the user's time zone.
     virtual std::string timeOnly(support::Time moment) const = 0;
 
+    /// Both in few letters and without the year, for a moment of these days: "Nov 20, 9:30 AM".
+    virtual std::string dayAndTime(support::Time moment) const = 0;
+
     /// The calendar day that the user's time zone has at `moment`.
     virtual std::chrono::local_days day(support::Time moment) const = 0;
 

@@ -9,7 +9,8 @@
 
 namespace larkspan::fakes {
 
-/// The locale of the unit tests, the same on every machine: "2026-11-20" and "09:30", plain Latin letters in order, and
+/// The locale of the unit tests, the same on every machine: "2026-11-20", "09:30" and
+/// "11-20 09:30", plain Latin letters in order, and
 /// a time zone that is `offset` ahead of UTC.
 class FakeLocaleText final : public platform::LocaleText {
 public:
@@ -21,6 +22,11 @@ public:
     std::string timeOnly(support::Time moment) const override
     {
         return model::writeISO8601(moment + offset).substr(11, 5);
+    }
+
+    std::string dayAndTime(support::Time moment) const override
+    {
+        return dateOnly(moment).substr(5) + ' ' + timeOnly(moment);
     }
 
     std::chrono::local_days day(support::Time moment) const override
