@@ -114,6 +114,16 @@ void PrintTo(const T& row, std::ostream* out)
 
 }  // namespace larkspan::incidents
 
+namespace larkspan::monitors {
+
+template <fakes::Row T>
+void PrintTo(const T& row, std::ostream* out)
+{
+    fakes::printFields(row, out);
+}
+
+}  // namespace larkspan::monitors
+
 namespace larkspan::workspace {
 
 template <fakes::Row T>
