@@ -8,6 +8,7 @@
 
 #include "bridge/ChildScreen.h"
 #include "bridge/IncidentListBridge.h"
+#include "bridge/MonitorListBridge.h"
 #include "bridge/RowListModel.h"
 #include "bridge/ScreenBridge.h"
 #include "bridge/values/ActivityRowValue.h"
@@ -35,6 +36,8 @@ class StatusPageDetailBridge : public ScreenBridge {
     Q_PROPERTY(QList<larkspan::bridge::FactValue> uptime MEMBER uptime_ NOTIFY changed)
     /// The screen of the tab "Incidents"; null while another is selected.
     Q_PROPERTY(larkspan::bridge::IncidentListBridge* incidents READ incidents NOTIFY changed)
+    /// The screen of the tab "Monitors"; null while another is selected.
+    Q_PROPERTY(larkspan::bridge::MonitorListBridge* monitors READ monitors NOTIFY changed)
 
 public:
     StatusPageDetailBridge(
@@ -46,6 +49,7 @@ public:
     int selectedTab() const { return static_cast<int>(*view_->selectedTab); }
     ListModel* activity() { return &activity_; }
     IncidentListBridge* incidents() const { return incidents_.get(); }
+    MonitorListBridge* monitors() const { return monitors_.get(); }
 
     Q_INVOKABLE void select(int tab);
     Q_INVOKABLE void selectNext() { view_->selectNext(); }
@@ -64,6 +68,7 @@ private:
     QString about_;
     QList<FactValue> uptime_;
     ChildScreen<IncidentListBridge, incidents::StatusPageIncidentsView> incidents_;
+    ChildScreen<MonitorListBridge, monitors::StatusPageMonitorsView> monitors_;
 };
 
 }  // namespace larkspan::bridge

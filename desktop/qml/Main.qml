@@ -70,6 +70,19 @@ Window {
                 onWentBack: incidentPage.incident.isEditing ? incidentPage.incident.close() : incidentPage.goBack()
             }
         }
+        PushedPage {
+            id: monitorPage
+            readonly property MonitorListBridge monitors: window.dashboard.openedPage ? window.dashboard.openedPage.monitors : null
+            readonly property MonitorDetailBridge monitor: monitors ? monitors.detail : null
+
+            isShown: monitor !== null
+            beneath: statusPage
+            onDismissed: monitors.closeDetail()
+            sourceComponent: MonitorDetailView {
+                monitor: monitorPage.monitor
+                onWentBack: monitorPage.goBack()
+            }
+        }
     }
 
     PopupLoader {

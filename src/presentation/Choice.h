@@ -1,6 +1,8 @@
 #pragma once
 
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace larkspan::presentation {
 
@@ -11,5 +13,15 @@ struct Choice {
 
     bool operator==(const Choice&) const = default;
 };
+
+/// One entry for each of `records`, under one that stands for no selection.
+template <typename Record>
+std::vector<Choice> choicesOf(std::string nameOfNone, const std::vector<Record>& records)
+{
+    std::vector<Choice> entries{{.id = "", .name = std::move(nameOfNone)}};
+    entries.reserve(records.size() + 1);
+    for (const auto& record : records) entries.push_back({.id = record.id, .name = record.name});
+    return entries;
+}
 
 }  // namespace larkspan::presentation

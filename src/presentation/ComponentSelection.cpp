@@ -3,6 +3,7 @@
 #include <exception>
 #include <utility>
 
+#include "presentation/ComponentGroupsOrNone.h"
 #include "support/Child.h"
 #include "support/LocalizedError.h"
 
@@ -11,19 +12,6 @@ namespace larkspan::presentation {
 using model::ComponentMonitor;
 using support::Child;
 using support::Task;
-
-namespace {
-
-template <typename Record>
-std::vector<Choice> choices(std::string nameOfNone, const std::vector<Record>& records)
-{
-    std::vector<Choice> entries{{.id = "", .name = std::move(nameOfNone)}};
-    entries.reserve(records.size() + 1);
-    for (const auto& record : records) entries.push_back({.id = record.id, .name = record.name});
-    return entries;
-}
-
-}  // namespace
 
 ComponentSelection::ComponentSelection(
     Ports ports, std::string pageId, ComponentFailure failure, std::function<void(std::string)> alert)
@@ -44,9 +32,8 @@ Task<void> ComponentSelection::fetchChoices(std::shared_ptr<ComponentSelection> 
 {
     auto& api = self->ports_.components;
     Child<Components> fetchingComponents(self->ports_.main, api.fetchComponents(self->pageId_));
-    Child<ComponentGroups> fetchingGroups(self->ports_.main, api.fetchComponentGroups(self->pageId_));
+    Child<ComponentGroups> fetchingGroups(self->ports_.main, componentGroupsOrNone(api, self->pageId_));
     Components components;
-    ComponentGroups groups;
     std::exception_ptr failure;
     try {
         auto awaitingComponents = fetchingComponents.result();
@@ -60,12 +47,8 @@ Task<void> ComponentSelection::fetchChoices(std::shared_ptr<ComponentSelection> 
         self->isLoadingComponents = false;
         co_return;
     }
-    try {
-        auto awaitingGroups = fetchingGroups.result();
-        groups = co_await std::move(awaitingGroups);
-    } catch (...) {
-        // A form without groups still does for the whole page.
-    }
+    auto awaitingGroups = fetchingGroups.result();
+    ComponentGroups groups = co_await std::move(awaitingGroups);
     self->offer(std::move(components), std::move(groups));
     self->isLoadingComponents = false;
 }
@@ -131,17 +114,17 @@ void ComponentSelection::tell(std::string words, const std::exception_ptr& failu
 
 std::vector<Choice> ComponentSelection::groupChoices() const
 {
-    return choices("Entire status page", offeredGroups_);
+    return choicesOf("Entire status page", offeredGroups_);
 }
 
 std::vector<Choice> ComponentSelection::componentChoices() const
 {
-    return choices("Select a component", offeredComponents_);
+    return choicesOf("Select a component", offeredComponents_);
 }
 
 std::vector<Choice> ComponentSelection::monitorChoices(std::string nameOfNone) const
 {
-    return choices(std::move(nameOfNone), *componentMonitors);
+    return choicesOf(std::move(nameOfNone), *componentMonitors);
 }
 
 }  // namespace larkspan::presentation

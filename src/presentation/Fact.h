@@ -15,6 +15,8 @@ struct Fact {
     std::string destination{};
     /// What stands behind the text in small letters; empty for none.
     std::string caption{};
+    /// Before the label; empty for none.
+    std::string symbol{};
 
     bool operator==(const Fact&) const = default;
 };

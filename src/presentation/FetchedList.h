@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <exception>
 #include <functional>
 #include <memory>
@@ -41,6 +42,16 @@ public:
         isLoading = true;
         error = nullptr;
         support::start(main_, fetchRecords(this->shared_from_this()));
+    }
+
+    /// Puts `changed` in the place of the first record with its id; nothing if there is none.
+    void patch(Record changed)
+    {
+        auto patched = *records;
+        const auto known = std::ranges::find(patched, changed.id, &Record::id);
+        if (known == patched.end()) return;
+        *known = std::move(changed);
+        records = std::move(patched);
     }
 
 protected:

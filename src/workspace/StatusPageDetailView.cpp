@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "workspace/WebAddress.h"
+#include "presentation/WebAddress.h"
 
 namespace larkspan::workspace {
 
@@ -20,15 +20,41 @@ std::array<support::Subscription, 2> StatusPageDetailView::observe(const std::fu
 void StatusPageDetailView::select(Tab tab)
 {
     if (tab == *selectedTab) return;
+    leave();
+    enter(tab);
+    selectedTab = tab;
+}
+
+void StatusPageDetailView::leave()
+{
     incidents_.reset();
-    if (tab == Tab::incidents) {
+    monitors_.reset();
+    components_.reset();
+}
+
+void StatusPageDetailView::enter(Tab tab)
+{
+    switch (tab) {
+    case Tab::overview:
+    case Tab::maintenances: break;
+    case Tab::incidents:
         incidents_ = std::make_shared<incidents::StatusPageIncidentsView>(
             incidents::StatusPageIncidentsView::Ports{ports_.main, ports_.api, ports_.api, ports_.api,
                 ports_.credentials, ports_.clock, ports_.locale, ports_.links},
             page->id);
-        incidents_->appear();
+        return incidents_->appear();
+    case Tab::monitors:
+        monitors_ = std::make_shared<monitors::StatusPageMonitorsView>(
+            monitors::StatusPageMonitorsView::Ports{
+                ports_.main, ports_.api, ports_.credentials, ports_.locale, ports_.links},
+            *page);
+        return monitors_->appear();
+    case Tab::components:
+        components_ = std::make_shared<components::StatusPageComponentsView>(
+            components::StatusPageComponentsView::Ports{ports_.main, ports_.api, ports_.credentials, ports_.links},
+            page->id);
+        return components_->appear();
     }
-    selectedTab = tab;
 }
 
 void StatusPageDetailView::selectNext()
@@ -48,7 +74,7 @@ StatusPageOverviewView StatusPageDetailView::overview() const
 
 void StatusPageDetailView::openPublicURL() const
 {
-    if (page->url && isWebAddress(page->url->text())) ports_.links.open(page->url->text());
+    if (page->url && presentation::isWebAddress(page->url->text())) ports_.links.open(page->url->text());
 }
 
 std::string_view rawValue(StatusPageDetailView::Tab tab)

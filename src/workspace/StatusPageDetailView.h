@@ -6,9 +6,11 @@
 #include <string_view>
 
 #include "api/KestruneAPI.h"
+#include "components/StatusPageComponentsView.h"
 #include "core/AppStateManager.h"
 #include "incidents/StatusPageIncidentsView.h"
 #include "model/StatusPage.h"
+#include "monitors/StatusPageMonitorsView.h"
 #include "platform/Clock.h"
 #include "platform/CredentialStore.h"
 #include "platform/Executor.h"
@@ -56,13 +58,22 @@ public:
     StatusPageOverviewView overview() const;
     /// The screen of the tab "Incidents"; null while another is selected.
     const std::shared_ptr<incidents::StatusPageIncidentsView>& incidents() const { return incidents_; }
+    /// The screen of the tab "Monitors"; null while another is selected.
+    const std::shared_ptr<monitors::StatusPageMonitorsView>& monitors() const { return monitors_; }
+    /// The screen of the tab "Components"; null while another is selected.
+    const std::shared_ptr<components::StatusPageComponentsView>& components() const { return components_; }
 
     /// Opens the page as the public sees it; what is no web address is not opened.
     void openPublicURL() const;
 
 private:
+    void leave();
+    void enter(Tab tab);
+
     Ports ports_;
     std::shared_ptr<incidents::StatusPageIncidentsView> incidents_;
+    std::shared_ptr<monitors::StatusPageMonitorsView> monitors_;
+    std::shared_ptr<components::StatusPageComponentsView> components_;
 };
 
 /// The label of a tab's segment.

@@ -2,14 +2,14 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 #include <iterator>
 #include <utility>
 
 #include "core/OverallStatus.h"
+#include "presentation/NumberText.h"
 #include "presentation/RelativeDate.h"
 #include "presentation/StatusPagePresentation.h"
-#include "workspace/WebAddress.h"
+#include "presentation/WebAddress.h"
 
 namespace larkspan::workspace {
 
@@ -36,7 +36,7 @@ std::vector<Fact> informationOf(const model::StatusPage& page, const platform::L
         const auto host = page.url->host();
         facts.push_back({.label = "Public URL",
             .text = host.empty() ? page.url->text() : std::string(host),
-            .destination = isWebAddress(page.url->text()) ? page.url->text() : ""});
+            .destination = presentation::isWebAddress(page.url->text()) ? page.url->text() : ""});
     }
     if (page.updatedAt) {
         facts.push_back({.label = "Last Updated", .text = presentation::relativeDate(locale, *page.updatedAt, now)});
@@ -45,18 +45,11 @@ std::vector<Fact> informationOf(const model::StatusPage& page, const platform::L
     return facts;
 }
 
-std::string percentage(double value)
-{
-    std::array<char, 400> text{};
-    const int length = std::snprintf(text.data(), text.size(), "%.2f%%", value);
-    return {text.data(), static_cast<std::size_t>(length)};
-}
-
 Fact uptimeOf(const model::StatusPageMetric& metric)
 {
     Fact fact{.label = std::string(periodLabel(metric.period)), .text = "Unavailable"};
     if (metric.uptime) {
-        fact.text = percentage(*metric.uptime);
+        fact.text = presentation::fixedText(*metric.uptime, 2) + "%";
         fact.tone = *metric.uptime > 99.0 ? Tone::green : Tone::orange;
     }
     if (metric.incidents) {

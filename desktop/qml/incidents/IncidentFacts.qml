@@ -33,7 +33,7 @@ Column {
                     pill: modelData
                     pointSize: Theme.subheadline
                     sidePadding: Theme.wideGap
-                    topPadding: 5
+                    topPadding: Theme.headerPillPadding
                 }
             }
         }

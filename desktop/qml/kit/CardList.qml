@@ -90,8 +90,9 @@ ListView {
         onPressedChanged: if (pressed) InputHand.isKeyboard = false
     }
 
+    // Only a row that has the keyboard: the second press of a button in it that the first has disabled is not for the row.
     function press(row: CardRow) {
-        if (row) row.clicked()
+        if (row && row.activeFocus) row.clicked()
     }
     Keys.onReturnPressed: press(currentItem as CardRow)
     Keys.onEnterPressed: press(currentItem as CardRow)
@@ -100,7 +101,7 @@ ListView {
         event.accepted = typeAhead.take(event) || goTo(event.key)
     }
     function goTo(key: int): bool {
-        const page = Math.max(1, Math.floor(height / Theme.rowHeight) - 1)
+        const page = Math.max(1, Math.floor(height / (currentItem ? currentItem.height : Theme.rowHeight)) - 1)
         const target = {
             [Qt.Key_Home]: 0,
             [Qt.Key_End]: count - 1,

@@ -14,7 +14,9 @@ T.ItemDelegate {
     property bool hasDivider: true
 
     width: ListView.view ? ListView.view.width - ListView.view.leftMargin - ListView.view.rightMargin : implicitWidth
-    implicitHeight: Math.max(Theme.rowHeight, implicitContentHeight + 2 * Theme.unit)
+    implicitHeight: Math.max(Theme.rowHeight, implicitContentHeight + topPadding + bottomPadding)
+    topPadding: Theme.unit
+    bottomPadding: topPadding
     leftPadding: 2 * Theme.unit - Theme.halfUnit
     rightPadding: leftPadding
     // A row that waits to be used again is not drawn, but a screen reader would still meet it.

@@ -8,12 +8,16 @@ T.Button {
     id: button
     property bool isProminent: false
     property bool isDestructive: false
+    // For rows, where several stand in each.
+    property bool isSmall: false
     property string symbol
     property int tone: Tone.Primary
-    readonly property color ink: isProminent ? Theme.accentText : isDestructive ? Theme.red : Theme.toneColor(tone)
+    readonly property bool isTinted: tone !== Tone.Primary
+    readonly property color ink: isProminent ? isTinted ? Theme.toneText : Theme.accentText
+        : isDestructive ? Theme.red : Theme.toneColor(tone)
 
     implicitWidth: Math.max(implicitContentWidth + leftPadding + rightPadding, Theme.controlHeight * 2)
-    implicitHeight: Math.max(Theme.controlHeight, implicitContentHeight + topPadding + bottomPadding)
+    implicitHeight: Math.max(isSmall ? Theme.smallControlHeight : Theme.controlHeight, implicitContentHeight + topPadding + bottomPadding)
     leftPadding: 2 * Theme.unit - Theme.halfUnit
     rightPadding: leftPadding
     topPadding: Theme.halfUnit
@@ -44,6 +48,7 @@ T.Button {
             width: parent.width - x
             height: parent.height
             text: button.text
+            font.pointSize: button.isSmall ? Theme.subheadline : Theme.body
             color: button.ink
             horizontalAlignment: button.symbol === "" ? Text.AlignHCenter : Text.AlignLeft
             Accessible.ignored: true
@@ -52,9 +57,9 @@ T.Button {
 
     background: Rectangle {
         radius: Theme.controlRadius
-        color: button.isProminent ? Theme.accent : Theme.card
+        color: !button.isProminent ? Theme.card : button.isTinted ? Theme.toneColor(button.tone) : Theme.accent
         border.width: button.isProminent ? 0 : Theme.hairline
-        border.color: button.tone === Tone.Primary ? Theme.line : button.ink
+        border.color: button.isTinted ? button.ink : Theme.line
 
         Rectangle {
             anchors.fill: parent

@@ -17,6 +17,8 @@ QtObject {
     readonly property color secondary: hasHighContrast ? text : isDark ? "#b0b7c1" : "#5a6068"
     readonly property color accent: isDark ? "#2f6fd0" : "#1a5bbd"
     readonly property color accentText: "#ffffff"
+    // On a status colour that fills a button.
+    readonly property color toneText: card
     readonly property color green: isDark ? "#5bd68f" : "#17703b"
     readonly property color orange: isDark ? "#f3ad5e" : "#964a00"
     readonly property color yellow: isDark ? "#e8ca5c" : "#705700"
@@ -35,6 +37,7 @@ QtObject {
     readonly property real graphOpacity: 0.06
     readonly property real areaOpacity: 0.10
     readonly property real ruleOpacity: 0.55
+    readonly property real metricOpacity: 0.12
     readonly property color track: Qt.alpha(text, 0.25)
 
     readonly property real base: Application.font.pointSize > 0 ? Application.font.pointSize : 10
@@ -60,6 +63,7 @@ QtObject {
     readonly property int smallIconSize: Math.round(13 * scale)
     readonly property int largeIconSize: Math.round(44 * scale)
     readonly property int controlHeight: Math.round(32 * scale)
+    readonly property int smallControlHeight: Math.round(28 * scale)
     readonly property int headerHeight: Math.round(48 * scale)
     readonly property int rowHeight: Math.round(44 * scale)
     readonly property int placeholderWidth: 420
@@ -79,10 +83,14 @@ QtObject {
     readonly property int quoteBarWidth: 3
     readonly property int quoteGap: 10
     readonly property int itemGap: 7
+    readonly property int tightGap: 3
     readonly property int narrowGap: 6
     readonly property int wideGap: 10
+    readonly property int rowGap: 12
+    readonly property int headerPillPadding: 5
     readonly property int titleHeight: 22
     readonly property int detailTitleHeight: 38
+    readonly property int monitorTitleHeight: 34
     readonly property int toggleWidth: Math.round(36 * scale)
     readonly property int toggleHeight: Math.round(20 * scale)
     readonly property int itemIndent: Math.round(8 * scale)

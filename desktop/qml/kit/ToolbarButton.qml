@@ -10,10 +10,15 @@ T.Button {
     required property string help
     // A menu of its own is open, so that its help would lie over it.
     property bool isMenuOpen: false
+    property color ink: Theme.text
+    property int iconSize: Theme.iconSize
+    // Spins in place of its symbol, and cannot be pressed.
+    property bool isBusy: false
 
     implicitWidth: Theme.controlHeight
     implicitHeight: Theme.controlHeight
     hoverEnabled: true
+    enabled: !isBusy
     opacity: enabled ? 1 : 0.4
     Accessible.name: help
     // Qt 6.4 tells assistive technologies of the action, but does nothing when they take it.
@@ -23,11 +28,17 @@ T.Button {
 
     contentItem: Item {
         Symbol {
+            visible: !button.isBusy
             anchors.centerIn: parent
-            width: Theme.iconSize
-            height: Theme.iconSize
+            width: button.iconSize
+            height: width
             name: button.symbol
-            color: Theme.text
+            color: button.ink
+        }
+        BusyIndicator {
+            visible: button.isBusy
+            anchors.centerIn: parent
+            name: button.help
         }
     }
 

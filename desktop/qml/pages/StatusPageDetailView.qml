@@ -34,13 +34,20 @@ ScreenFrame {
         anchors.fill: parent
         anchors.topMargin: picker.y + picker.height
         focus: true
-        sourceComponent: view.page.incidents ? incidents : view.page.selectedTab === 0 ? overview : null
+        sourceComponent: view.page.incidents ? incidents : view.page.monitors ? monitors
+            : view.page.selectedTab === 0 ? overview : null
         onLoaded: item.focus = true
     }
     Component {
         id: incidents
         StatusPageIncidentsView {
             incidents: view.page.incidents
+        }
+    }
+    Component {
+        id: monitors
+        StatusPageMonitorsView {
+            monitors: view.page.monitors
         }
     }
     Component {
@@ -61,7 +68,8 @@ ScreenFrame {
     Shortcut {
         sequences: ["F5", "Ctrl+R"]
         enabled: view.visible
-        onActivated: view.page.incidents ? view.page.incidents.refresh() : view.accountWanted()
+        onActivated: view.page.incidents ? view.page.incidents.refresh()
+            : view.page.monitors ? view.page.monitors.refresh() : view.accountWanted()
     }
     Shortcut {
         sequences: ["Ctrl+PgDown"]

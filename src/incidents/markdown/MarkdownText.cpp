@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "incidents/markdown/Blanks.h"
 #include "incidents/markdown/StyledText.h"
 #include "incidents/markdown/TextPieces.h"
+#include "support/Trimming.h"
 #include "support/Utf8.h"
 
 namespace larkspan::incidents {
@@ -15,7 +15,7 @@ std::size_t lengthWithoutLineEnd(std::string_view text)
 {
     if (text.empty()) return 0;
     const auto last = support::lastCharacter(text);
-    return text.size() - (isLineEnd(last.code) ? last.length : 0);
+    return text.size() - (support::isLineEnd(last.code) ? last.length : 0);
 }
 
 /// Walks over a text's runs and styles what it passes.
@@ -74,12 +74,13 @@ std::vector<MarkdownText> MarkdownText::piecesOf(InlineText text)
     std::vector<MarkdownText> pieces;
     PieceReader reader(text);
     std::size_t begin = 0;
-    for (const auto end : pieceEnds(text.text)) {
+    do {
+        const auto end = begin + firstPieceEnd(std::string_view(text.text).substr(begin));
         auto piece = end - begin == size ? std::move(text.text) : text.text.substr(begin, end - begin);
         const auto shown = end == size ? piece.size() : lengthWithoutLineEnd(piece);
         pieces.push_back(reader.read(std::move(piece), shown));
         begin = end;
-    }
+    } while (begin < size);
     return pieces;
 }
 

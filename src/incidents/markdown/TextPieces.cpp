@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "incidents/markdown/Blanks.h"
 #include "incidents/markdown/CharacterTables.h"
+#include "support/Trimming.h"
 #include "support/Utf8.h"
 
 namespace larkspan::incidents {
@@ -25,9 +25,18 @@ bool isHalfOfAFlag(char32_t character)
     return character >= U'\U0001F1E6' && character <= U'\U0001F1FF';
 }
 
-/// The end of the first piece of `text`.
+}  // namespace
+
+bool areDrawnApart(char32_t before, char32_t after)
+{
+    return before != zeroWidthJoiner && !isJoining(after) && !(isHalfOfAFlag(before) && isHalfOfAFlag(after));
+}
+
 std::size_t firstPieceEnd(std::string_view text)
 {
+    // No character is shorter than its bytes, so most texts need no look.
+    if (text.size() <= longestPiece) return text.size();
+
     std::size_t behindLineEnd = 0;
     std::size_t behindBlank = 0;
     std::size_t betweenCharacters = 0;
@@ -37,8 +46,8 @@ std::size_t firstPieceEnd(std::string_view text)
         const auto character = support::firstCharacter(text.substr(at));
         if (at > 0 && areDrawnApart(before, character.code)) {
             betweenCharacters = at;
-            if (isLineEnd(before)) behindLineEnd = at;
-            if (isBlank(before)) behindBlank = at;
+            if (support::isLineEnd(before)) behindLineEnd = at;
+            if (support::isBlank(before)) behindBlank = at;
         }
         if (count == longestPiece) break;
         at += character.length;
@@ -49,25 +58,6 @@ std::size_t firstPieceEnd(std::string_view text)
         if (end > 0) return end;
     }
     return at;
-}
-
-}  // namespace
-
-bool areDrawnApart(char32_t before, char32_t after)
-{
-    return before != zeroWidthJoiner && !isJoining(after) && !(isHalfOfAFlag(before) && isHalfOfAFlag(after));
-}
-
-std::vector<std::size_t> pieceEnds(std::string_view text)
-{
-    // No character is shorter than its bytes, so most texts need no look.
-    if (text.size() <= longestPiece) return {text.size()};
-    std::vector<std::size_t> ends;
-    for (std::size_t end = 0; end < text.size();) {
-        end += firstPieceEnd(text.substr(end));
-        ends.push_back(end);
-    }
-    return ends;
 }
 
 }  // namespace larkspan::incidents

@@ -8,7 +8,7 @@
 
 #include "api/KestruneAPI.h"
 #include "fakes/PageComponents.h"
-#include "incidents/Refusal.h"
+#include "fakes/Refusal.h"
 #include "presentation/Confirmation.h"
 
 namespace larkspan::incidents {
@@ -198,7 +198,7 @@ TEST_F(FormOfAnIncident, WhileItIsSentCanNeitherBeSavedAgainNorLeft)
     EXPECT_FALSE(*form->showDiscardConfirmation);
 }
 
-class RefusedIncident : public FormOfAnIncident, public testing::WithParamInterface<Refusal> {};
+class RefusedIncident : public FormOfAnIncident, public testing::WithParamInterface<fakes::Refusal> {};
 
 TEST_P(RefusedIncident, IsAnAlertOverAFormThatKeepsAllThatWasTypedAndChosen)
 {
@@ -219,7 +219,7 @@ TEST_P(RefusedIncident, IsAnAlertOverAFormThatKeepsAllThatWasTypedAndChosen)
     EXPECT_EQ(*form->action->alert, "");
 }
 
-INSTANTIATE_TEST_SUITE_P(EachAnswer, RefusedIncident, testing::ValuesIn(refusals()));
+INSTANTIATE_TEST_SUITE_P(EachAnswer, RefusedIncident, testing::ValuesIn(fakes::refusals()));
 
 TEST_F(FormOfAnIncident, LeftByEscapeWithNothingTypedJustCloses)
 {

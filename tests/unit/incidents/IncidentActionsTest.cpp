@@ -2,8 +2,8 @@
 
 #include <tuple>
 
+#include "fakes/Refusal.h"
 #include "incidents/DetailOfAnIncident.h"
-#include "incidents/Refusal.h"
 
 namespace larkspan::incidents {
 
@@ -93,7 +93,8 @@ TEST_F(DetailOfAnIncident, PressedTwiceSendsOnce)
     EXPECT_EQ(sent(), Words{"DELETE /user/api/v1/incidents/7"});
 }
 
-class RefusedAction : public DetailOfAnIncident, public testing::WithParamInterface<std::tuple<Action, Refusal>> {};
+class RefusedAction : public DetailOfAnIncident,
+                      public testing::WithParamInterface<std::tuple<Action, fakes::Refusal>> {};
 
 TEST_P(RefusedAction, IsAnAlertThatChangesNothingAndLeavesTheScreenOpen)
 {
@@ -114,7 +115,7 @@ TEST_P(RefusedAction, IsAnAlertThatChangesNothingAndLeavesTheScreenOpen)
 
 INSTANTIATE_TEST_SUITE_P(EachActionAndAnswer, RefusedAction,
     testing::Combine(testing::Values(Action::acknowledge, Action::resolve, Action::escalate, Action::delete_),
-        testing::ValuesIn(refusals())));
+        testing::ValuesIn(fakes::refusals())));
 
 TEST_F(DetailOfAnIncident, WhoseRecordCannotBeFetchedAfterAnActionReportsThatAlthoughTheActionTookPlace)
 {

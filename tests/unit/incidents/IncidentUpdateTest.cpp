@@ -2,8 +2,8 @@
 
 #include <vector>
 
+#include "fakes/Refusal.h"
 #include "incidents/DetailOfAnIncident.h"
-#include "incidents/Refusal.h"
 
 namespace larkspan::incidents {
 
@@ -48,7 +48,7 @@ TEST_F(DetailOfAnIncident, SavesTheTextWithoutTheSpaceAroundItThenHandsOverTheRe
     EXPECT_EQ(view->description(), "hello");
 }
 
-class RefusedUpdate : public DetailOfAnIncident, public testing::WithParamInterface<Refusal> {};
+class RefusedUpdate : public DetailOfAnIncident, public testing::WithParamInterface<fakes::Refusal> {};
 
 TEST_P(RefusedUpdate, KeepsTheEditorOpenWithTheTextAndSaysWhy)
 {
@@ -65,7 +65,7 @@ TEST_P(RefusedUpdate, KeepsTheEditorOpenWithTheTextAndSaysWhy)
     EXPECT_FALSE(*view->isEditing) << "it can be sent again";
 }
 
-INSTANTIATE_TEST_SUITE_P(EachAnswer, RefusedUpdate, testing::ValuesIn(refusals()));
+INSTANTIATE_TEST_SUITE_P(EachAnswer, RefusedUpdate, testing::ValuesIn(fakes::refusals()));
 
 TEST_F(DetailOfAnIncident, SavedTwiceSendsOnce)
 {

@@ -65,6 +65,34 @@ TEST_F(OpenedPage, ChoosingTheSelectedTabChangesNothing)
     EXPECT_EQ(changes, 1);
 }
 
+TEST_F(OpenedPage, MakesTheScreenOfItsMonitorsOnEntryAndDropsItOnLeaving)
+{
+    EXPECT_EQ(view.monitors(), nullptr);
+    view.select(Tab::monitors);
+    ASSERT_TRUE(view.monitors());
+    EXPECT_TRUE(*view.monitors()->viewModel->isLoading);
+    EXPECT_EQ(view.monitors()->viewModel->pageId, "a");
+    const std::weak_ptr<monitors::StatusPageMonitorsView> first = view.monitors();
+    view.select(Tab::overview);
+    EXPECT_EQ(view.monitors(), nullptr);
+    EXPECT_TRUE(first.expired());
+}
+
+TEST_F(OpenedPage, HasTheScreenOfItsComponentsMadeOnEntryAndDroppedOnLeaving)
+{
+    EXPECT_EQ(view.components(), nullptr);
+    view.select(Tab::components);
+    const std::weak_ptr<components::StatusPageComponentsView> first = view.components();
+    ASSERT_NE(view.components(), nullptr);
+    EXPECT_EQ(view.components()->viewModel->pageId, "a");
+    EXPECT_EQ(view.components()->content(), presentation::Content::loading);
+    view.select(Tab::components);
+    EXPECT_EQ(view.components(), first.lock());
+    view.select(Tab::incidents);
+    EXPECT_EQ(view.components(), nullptr);
+    EXPECT_TRUE(first.expired());
+}
+
 TEST_F(OpenedPage, RedrawsItsActivityWhenTheAccountPublishesNewLists)
 {
     int changes = 0;

@@ -1,8 +1,8 @@
-#include "workspace/WebAddress.h"
+#include "presentation/WebAddress.h"
 
 #include "support/IgnoringCase.h"
 
-namespace larkspan::workspace {
+namespace larkspan::presentation {
 
 bool isWebAddress(std::string_view address)
 {
@@ -11,4 +11,4 @@ bool isWebAddress(std::string_view address)
         && (support::equalsIgnoringCase(scheme, "http") || support::equalsIgnoringCase(scheme, "https"));
 }
 
-}  // namespace larkspan::workspace
+}  // namespace larkspan::presentation

@@ -5,7 +5,7 @@
 
 #include "platform/HttpTransport.h"
 
-namespace larkspan::incidents {
+namespace larkspan::fakes {
 
 /// A way in which the service fails a request, and the words that the user sees.
 struct Refusal {
@@ -22,4 +22,4 @@ inline std::vector<Refusal> refusals()
         {platform::URLError::Code::timedOut, "The request timed out."}};
 }
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::fakes

@@ -1,0 +1,54 @@
+#include "bridge/MonitorListBridge.h"
+
+#include <QQmlEngine>
+
+#include <utility>
+
+namespace larkspan::bridge {
+
+MonitorListBridge::MonitorListBridge(
+    std::shared_ptr<monitors::StatusPageMonitorsView> view, const ScreenUpdates& updates, QObject* parent)
+    : ScreenBridge(updates, parent)
+    , view_(std::move(view))
+    , updates_(updates)
+{
+    for (const auto& subscription : view_->observe(observer())) keep(subscription);
+    MonitorListBridge::readState();
+}
+
+void MonitorListBridge::press(const QString& id, const QString& button)
+{
+    view_->press(id.toStdString(), button.toStdString());
+}
+
+MonitorMetricsBridge* MonitorListBridge::metricsOf(const QString& id) const
+{
+    const auto row = openedRows_.find(id.toStdString());
+    return row == openedRows_.end() ? nullptr : row->second.metrics.get();
+}
+
+void MonitorListBridge::readState()
+{
+    placeholder_ = PlaceholderValue::of(view_->placeholder());
+    followOpenedRows();
+    rows_.update(view_->rows());
+    detail_.follow(view_->detail(), updates_);
+}
+
+void MonitorListBridge::followOpenedRows()
+{
+    const auto& rowViews = view_->rowViews();
+    for (auto& [id, row] : openedRows_) {
+        if (!rowViews.contains(id)) row.metrics.follow(nullptr, updates_);
+    }
+    std::erase_if(openedRows_, [&rowViews](const auto& row) { return !rowViews.contains(row.first); });
+    for (const auto& [id, rowView] : rowViews) {
+        auto& row = openedRows_[id];
+        row.metrics.follow(rowView, updates_);
+        // What a method hands to QML would else be QML's to delete.
+        QQmlEngine::setObjectOwnership(row.metrics.get(), QQmlEngine::CppOwnership);
+        row.changes = rowView->objectWillChange(observer());
+    }
+}
+
+}  // namespace larkspan::bridge

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QList>
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+
+#include "bridge/ScreenBridge.h"
+#include "bridge/values/MarkerValue.h"
+#include "bridge/values/MetricRowValue.h"
+#include "bridge/values/RegionRowValue.h"
+#include "monitors/MonitorRowView.h"
+
+namespace larkspan::bridge {
+
+/// What is open in a monitor's row for QML; worded and decided by `monitors::MonitorRowView`.
+class MonitorMetricsBridge : public ScreenBridge {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the application")
+    Q_PROPERTY(bool showsPanel READ showsPanel NOTIFY changed)
+    /// Stands in place of the panel; all empty while that is there.
+    Q_PROPERTY(larkspan::bridge::MarkerValue instead MEMBER instead_ NOTIFY changed)
+    Q_PROPERTY(bool offersRetry READ offersRetry NOTIFY changed)
+    Q_PROPERTY(QList<larkspan::bridge::MetricRowValue> figures MEMBER figures_ NOTIFY changed)
+    Q_PROPERTY(QList<larkspan::bridge::RegionRowValue> regions MEMBER regions_ NOTIFY changed)
+
+public:
+    MonitorMetricsBridge(
+        std::shared_ptr<monitors::MonitorRowView> view, const ScreenUpdates& updates, QObject* parent = nullptr);
+
+    bool showsPanel() const { return view_->showsPanel(); }
+    bool offersRetry() const { return view_->offersRetry(); }
+
+    Q_INVOKABLE void retry() { view_->retry(); }
+
+private:
+    void readState() override;
+
+    std::shared_ptr<monitors::MonitorRowView> view_;
+    MarkerValue instead_;
+    QList<MetricRowValue> figures_;
+    QList<RegionRowValue> regions_;
+};
+
+}  // namespace larkspan::bridge

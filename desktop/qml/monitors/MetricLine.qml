@@ -1,0 +1,27 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// A figure of the panel: what it is at the left, how much at the right.
+Item {
+    id: line
+    required property metricRow row
+
+    implicitHeight: label.implicitHeight
+
+    Label {
+        id: label
+        width: Math.min(implicitWidth, line.width / 2)
+        text: line.row.label
+        font.pointSize: Theme.subheadline
+        color: Theme.secondary
+    }
+    Label {
+        anchors.right: parent.right
+        width: Math.min(implicitWidth, line.width - label.width - Theme.unit)
+        text: line.row.value
+        font.pointSize: Theme.subheadline
+        font.weight: Font.Bold
+        color: Theme.toneColor(line.row.tone)
+    }
+}

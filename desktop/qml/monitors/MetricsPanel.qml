@@ -1,0 +1,47 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// A monitor's metrics of a day: the graph, the figures and the regions.
+Column {
+    id: panel
+    required property MonitorMetricsBridge metrics
+    // The row has the keyboard, so that what stands in it can be reached.
+    required property bool isCurrent
+
+    spacing: Theme.unit
+
+    Rectangle {
+        width: parent.width
+        height: Theme.hairline
+        color: Theme.line
+    }
+    Repeater {
+        model: panel.metrics.figures
+        MetricLine {
+            required property metricRow modelData
+            width: panel.width
+            row: modelData
+        }
+    }
+    Rectangle {
+        visible: panel.metrics.regions.length > 0
+        width: parent.width
+        height: Theme.hairline
+        color: Theme.line
+    }
+    Label {
+        visible: panel.metrics.regions.length > 0
+        text: qsTr("Region States")
+        font.pointSize: Theme.caption
+        color: Theme.secondary
+    }
+    Repeater {
+        model: panel.metrics.regions
+        RegionLine {
+            required property regionRow modelData
+            width: panel.width
+            row: modelData
+        }
+    }
+}

@@ -1,0 +1,38 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// What is open in a monitor's row: its metrics, or what stands in their place.
+Column {
+    id: expanded
+    required property MonitorMetricsBridge metrics
+    required property bool isCurrent
+
+    spacing: Theme.unit
+
+    Loader {
+        visible: active
+        width: parent.width
+        active: expanded.metrics.showsPanel
+        sourceComponent: MetricsPanel {
+            metrics: expanded.metrics
+            isCurrent: expanded.isCurrent
+        }
+    }
+    IconLabel {
+        visible: text !== ""
+        width: parent.width
+        symbol: expanded.metrics.instead.symbol
+        text: expanded.metrics.instead.text
+        tone: expanded.metrics.instead.tone
+        showsProgress: expanded.metrics.instead.showsProgress
+        pointSize: Theme.caption
+    }
+    CommandButton {
+        visible: expanded.metrics.offersRetry
+        activeFocusOnTab: expanded.isCurrent || activeFocus
+        isSmall: true
+        text: qsTr("Retry")
+        onClicked: expanded.metrics.retry()
+    }
+}

@@ -1,0 +1,132 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// One monitor in the list, with what is open in it. Return opens the monitor itself; what stands in the row is reached
+// from its current row by Tab.
+CardRow {
+    id: delegate
+    required property monitorRow row
+    // What is open in it; null for a row that was never opened.
+    property MonitorMetricsBridge metrics
+    signal toggled
+    signal commanded(button: string)
+
+    name: row.title
+    description: row.status
+    isPressable: false
+    topPadding: Theme.rowGap
+
+    // The pointer has the row's buttons; a press beside them does nothing.
+    MouseArea {
+        anchors.fill: parent
+    }
+
+    contentItem: Column {
+        z: 1
+        spacing: Theme.unit + Theme.halfUnit
+
+        Item {
+            width: parent.width
+            implicitHeight: words.implicitHeight
+
+            Symbol {
+                id: mark
+                anchors.verticalCenter: parent.verticalCenter
+                width: Theme.iconSize
+                height: width
+                name: delegate.row.statusIcon
+                color: Theme.toneColor(delegate.row.tone)
+            }
+            Column {
+                id: words
+                anchors.left: mark.right
+                anchors.leftMargin: Theme.rowGap
+                anchors.right: trailing.left
+                anchors.rightMargin: Theme.rowGap
+
+                MarqueeText {
+                    width: parent.width
+                    layoutHeight: Theme.titleHeight
+                    text: delegate.row.title
+                    font.weight: Font.DemiBold
+                }
+                Label {
+                    width: parent.width
+                    text: delegate.row.status
+                    font.pointSize: Theme.caption
+                    color: Theme.toneColor(delegate.row.tone)
+                }
+            }
+            Row {
+                id: trailing
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                spacing: Theme.halfUnit
+
+                Pill {
+                    anchors.verticalCenter: parent.verticalCenter
+                    pill: delegate.row.type
+                    pointSize: Theme.caption2
+                    isBold: true
+                    sidePadding: Theme.narrowGap
+                    topPadding: Theme.tightGap
+                }
+                ToolbarButton {
+                    activeFocusOnTab: delegate.ListView.isCurrentItem || activeFocus
+                    symbol: delegate.row.isOpen ? "chevron.up" : "chevron.down"
+                    help: delegate.row.disclosure
+                    ink: Theme.secondary
+                    iconSize: Theme.smallIconSize
+                    isBusy: delegate.row.isLoading
+                    onClicked: delegate.toggled()
+                }
+                ToolbarButton {
+                    activeFocusOnTab: delegate.ListView.isCurrentItem || activeFocus
+                    symbol: "info.circle"
+                    help: qsTr("Monitor Details")
+                    onClicked: delegate.clicked()
+                }
+            }
+        }
+
+        Flow {
+            visible: delegate.row.badges.length > 0
+            width: parent.width
+            spacing: Theme.unit
+
+            Repeater {
+                model: delegate.row.badges
+                MetricBadge {
+                    required property metricBadge modelData
+                    badge: modelData
+                }
+            }
+        }
+
+        Loader {
+            visible: active
+            width: parent.width
+            active: delegate.row.isOpen && delegate.metrics !== null
+            sourceComponent: MonitorMetrics {
+                metrics: delegate.metrics
+                isCurrent: delegate.ListView.isCurrentItem
+            }
+        }
+
+        Row {
+            spacing: Theme.unit
+
+            Repeater {
+                model: delegate.row.buttons.length
+                ActionCommand {
+                    required property int index
+                    button: delegate.row.buttons[index]
+                    activeFocusOnTab: delegate.ListView.isCurrentItem || activeFocus
+                    isSmall: true
+                    onClicked: delegate.commanded(button.id)
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,175 @@
+#include "components/ComponentDetailView.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "model/URL.h"
+#include "presentation/ComponentGroupsOrNone.h"
+#include "presentation/WebAddress.h"
+#include "support/Trimming.h"
+#include "support/UnlessEmpty.h"
+
+namespace larkspan::components {
+
+using model::Component;
+using model::ComponentGroup;
+using model::UpdateComponentRequest;
+using presentation::Fact;
+using support::Task;
+using support::unlessEmpty;
+
+ComponentDetailView::ComponentDetailView(Ports ports, std::string page, Component shown, Owner owner)
+    : pageId(std::move(page))
+    , component(*this, std::move(shown))
+    , action(std::make_shared<presentation::RunningAction>(ports.main))
+    , ports_(ports)
+    , owner_(std::move(owner))
+{
+}
+
+std::array<support::Subscription, 2> ComponentDetailView::observe(const std::function<void()>& observer)
+{
+    return {objectWillChange(observer), action->objectWillChange(observer)};
+}
+
+void ComponentDetailView::appear()
+{
+    support::start(ports_.main, loadGroups(shared_from_this()));
+}
+
+Task<void> ComponentDetailView::loadGroups(std::shared_ptr<ComponentDetailView> self)
+{
+    auto fetching = presentation::componentGroupsOrNone(self->ports_.api, self->pageId);
+    std::vector<ComponentGroup> fetched = co_await std::move(fetching);
+    self->groups = std::move(fetched);
+}
+
+const ComponentGroup* ComponentDetailView::group() const
+{
+    if (!component->groupId) return nullptr;
+    const auto found = std::ranges::find(*groups, *component->groupId, &ComponentGroup::id);
+    return found == groups->end() ? nullptr : &*found;
+}
+
+bool ComponentDetailView::showsDetails() const
+{
+    return group() || component->url;
+}
+
+std::vector<Fact> ComponentDetailView::details() const
+{
+    std::vector<Fact> facts;
+    if (const auto* known = group()) facts.push_back({.label = "Group", .text = known->name, .symbol = "folder"});
+    if (component->url && model::URL::parse(*component->url)) {
+        facts.push_back({.label = "URL",
+            .text = *component->url,
+            .destination = presentation::isWebAddress(*component->url) ? *component->url : ""});
+    }
+    return facts;
+}
+
+void ComponentDetailView::openURL() const
+{
+    for (const auto& fact : details()) {
+        if (!fact.destination.empty()) ports_.links.open(fact.destination);
+    }
+}
+
+void ComponentDetailView::close()
+{
+    // Its owner may let go of it here.
+    const auto self = shared_from_this();
+    if (!isIdle()) return;
+    if (*isEditing)
+        isEditing = false;
+    else
+        owner_.dismiss();
+}
+
+void ComponentDetailView::beginEditing()
+{
+    editedName = component->name;
+    editedStatus = component->status;
+    editedDescription = description();
+    editedGroupId = component->groupId;
+    isEditing = true;
+}
+
+std::optional<std::size_t> ComponentDetailView::selectedStatus() const
+{
+    const auto found = std::ranges::find(statusChoices, *editedStatus, &StatusChoice::value);
+    if (found == statusChoices.end()) return std::nullopt;
+    return static_cast<std::size_t>(found - statusChoices.begin());
+}
+
+void ComponentDetailView::chooseGroup(const std::string& id)
+{
+    editedGroupId = unlessEmpty(id);
+}
+
+bool ComponentDetailView::isSaveEnabled() const
+{
+    return isIdle() && !support::trimmed(*editedName).empty();
+}
+
+void ComponentDetailView::saveChanges()
+{
+    if (!isSaveEnabled()) return;
+    action->run(save(shared_from_this(),
+        {.name = std::string(support::trimmed(*editedName)),
+            .description = unlessEmpty(*editedDescription),
+            .status = *editedStatus,
+            .groupId = *editedGroupId}));
+}
+
+Task<void> ComponentDetailView::save(std::shared_ptr<ComponentDetailView> self, UpdateComponentRequest changes)
+{
+    auto updating = self->ports_.api.updateComponent(self->component->id, std::move(changes));
+    const Component updated = co_await std::move(updating);
+    self->component = updated;
+    self->owner_.onUpdate(updated);
+    self->showDiscardConfirmation = false;
+    self->isEditing = false;
+}
+
+void ComponentDetailView::confirmDelete()
+{
+    if (isIdle()) showingDeleteConfirmation = true;
+}
+
+void ComponentDetailView::deleteComponent()
+{
+    showingDeleteConfirmation = false;
+    action->run(remove(shared_from_this()));
+}
+
+Task<void> ComponentDetailView::remove(std::shared_ptr<ComponentDetailView> self)
+{
+    auto deleting = self->ports_.api.deleteComponent(self->component->id);
+    co_await std::move(deleting);
+    self->owner_.onDelete(*self->component);
+    self->owner_.dismiss();
+}
+
+bool ComponentDetailView::hasUnsavedChanges() const
+{
+    return *isEditing
+        && (*editedName != component->name || *editedStatus != component->status || *editedDescription != description()
+            || *editedGroupId != component->groupId);
+}
+
+void ComponentDetailView::requestClose()
+{
+    if (isIdle() && hasUnsavedChanges())
+        showDiscardConfirmation = true;
+    else
+        close();
+}
+
+void ComponentDetailView::discardChanges()
+{
+    showDiscardConfirmation = false;
+    isEditing = false;
+}
+
+}  // namespace larkspan::components

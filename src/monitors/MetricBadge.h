@@ -1,0 +1,36 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/MonitorMetricsWindow.h"
+#include "presentation/Tone.h"
+
+namespace larkspan::monitors {
+
+/// One figure of a closed row, on a tint of its own colour.
+struct MetricBadge {
+    std::string icon{};
+    std::string value{};
+    std::string label{};
+    presentation::Tone color = presentation::Tone::blue;
+    /// It is a `TrendBadge`, whose icon stands closer.
+    bool isTrend = false;
+
+    bool operator==(const MetricBadge&) const = default;
+};
+
+/// A direction instead of a figure.
+struct TrendBadge {
+    std::string trend{};
+    std::string label{};
+
+    MetricBadge drawn() const;
+};
+
+/// In the order of the row; what the window does not have is left out.
+std::vector<MetricBadge> metricBadges(const model::MonitorMetricsWindow& metrics);
+
+}  // namespace larkspan::monitors

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "model/MonitorMetricsWindow.h"
+#include "presentation/Tone.h"
+
+namespace larkspan::monitors {
+
+/// One figure of an open row.
+struct MetricRow {
+    std::string label{};
+    std::string value{};
+    presentation::Tone valueColor = presentation::Tone::blue;
+
+    bool operator==(const MetricRow&) const = default;
+};
+
+/// In the order of the panel; what the window does not have is left out.
+std::vector<MetricRow> metricRows(const model::MonitorMetricsWindow& metrics);
+
+}  // namespace larkspan::monitors

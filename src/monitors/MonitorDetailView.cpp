@@ -1,0 +1,106 @@
+#include "monitors/MonitorDetailView.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "model/URL.h"
+#include "presentation/WebAddress.h"
+
+namespace larkspan::monitors {
+
+using model::Monitor;
+using presentation::ActionButton;
+using presentation::Fact;
+using presentation::Tone;
+using support::Task;
+
+MonitorDetailView::MonitorDetailView(Ports ports, Monitor monitor, Owner owner)
+    : currentMonitor(*this, std::move(monitor))
+    , action(std::make_shared<presentation::RunningAction>(ports.main))
+    , ports_(ports)
+    , owner_(std::move(owner))
+{
+}
+
+std::array<support::Subscription, 2> MonitorDetailView::observe(const std::function<void()>& observer)
+{
+    return {objectWillChange(observer), action->objectWillChange(observer)};
+}
+
+std::vector<Fact> MonitorDetailView::details() const
+{
+    const Monitor& monitor = *currentMonitor;
+    std::vector<Fact> facts;
+    if (monitor.url && model::URL::parse(*monitor.url)) {
+        facts.push_back({.label = "URL",
+            .text = *monitor.url,
+            .destination = presentation::isWebAddress(*monitor.url) ? *monitor.url : ""});
+    }
+    if (monitor.intervalSeconds) {
+        facts.push_back({.label = "Interval", .text = std::to_string(*monitor.intervalSeconds) + "s"});
+    }
+    if (monitor.configUpdatedAt) {
+        facts.push_back({.label = "Config Updated", .text = ports_.locale.dateOnly(*monitor.configUpdatedAt)});
+    }
+    return facts;
+}
+
+Fact MonitorDetailView::lastCheck() const
+{
+    if (!currentMonitor->lastCheckTime) return {};
+    return {.text = ports_.locale.dateOnly(*currentMonitor->lastCheckTime),
+        .caption = ports_.locale.timeOnly(*currentMonitor->lastCheckTime)};
+}
+
+std::vector<ActionButton> MonitorDetailView::buttons() const
+{
+    const bool isPaused = currentMonitor->isPaused;
+    const bool isIdle = !*action->isInProgress;
+    return {{.id = "pauseResume",
+                .label = isPaused ? "Resume Monitor" : "Pause Monitor",
+                .symbol = isPaused ? "play.fill" : "pause.fill",
+                .tone = isPaused ? Tone::green : Tone::orange,
+                .isProminent = true,
+                .isEnabled = isIdle},
+        {.id = "checkNow",
+            .label = "Run Check",
+            .symbol = "arrow.clockwise",
+            .tone = Tone::blue,
+            .isProminent = true,
+            .isEnabled = isIdle}};
+}
+
+void MonitorDetailView::press(std::string_view id)
+{
+    if (id == "pauseResume") perform(DetailAction::pauseResume);
+    if (id == "checkNow") perform(DetailAction::checkNow);
+}
+
+void MonitorDetailView::perform(DetailAction wanted)
+{
+    action->run(carryOut(shared_from_this(), wanted));
+}
+
+Task<void> MonitorDetailView::carryOut(std::shared_ptr<MonitorDetailView> self, DetailAction wanted)
+{
+    auto& api = self->ports_.api;
+    const std::string id = self->currentMonitor->id;
+    auto acting = wanted == DetailAction::checkNow ? api.runMonitor(id)
+        : self->currentMonitor->isPaused           ? api.resumeMonitor(id)
+                                                   : api.pauseMonitor(id);
+    co_await std::move(acting);
+    auto fetching = api.fetchMonitors();
+    const std::vector<Monitor> fetched = co_await std::move(fetching);
+    const auto refreshed = std::ranges::find(fetched, id, &Monitor::id);
+    if (refreshed == fetched.end()) co_return;
+    self->currentMonitor = *refreshed;
+    self->owner_.onUpdate(*refreshed);
+}
+
+void MonitorDetailView::openURL() const
+{
+    const auto& url = currentMonitor->url;
+    if (url && presentation::isWebAddress(*url)) ports_.links.open(*url);
+}
+
+}  // namespace larkspan::monitors

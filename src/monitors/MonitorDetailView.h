@@ -1,0 +1,78 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "api/MonitorEndpoints.h"
+#include "model/Monitor.h"
+#include "monitors/MonitorPills.h"
+#include "platform/Executor.h"
+#include "platform/LinkOpener.h"
+#include "platform/LocaleText.h"
+#include "presentation/ActionButton.h"
+#include "presentation/Fact.h"
+#include "presentation/RunningAction.h"
+#include "support/Observable.h"
+#include "support/Task.h"
+
+namespace larkspan::monitors {
+
+/// One monitor, and what can be done to it. It works on a copy of the record, which it fetches anew after each action,
+/// and hands that on to its owner. Main thread only; closing it stops no request.
+class MonitorDetailView final : public support::Observable, public std::enable_shared_from_this<MonitorDetailView> {
+public:
+    struct Ports {
+        platform::Executor& main;
+        api::MonitorEndpoints& api;
+        const platform::LocaleText& locale;
+        platform::LinkOpener& links;
+    };
+
+    struct Owner {
+        std::function<void(const model::Monitor&)> onUpdate;
+        /// Closes the screen.
+        std::function<void()> dismiss;
+    };
+
+    enum class DetailAction { pauseResume, checkNow };
+
+    static constexpr std::string_view title = "Monitor Details";
+
+    MonitorDetailView(Ports ports, model::Monitor monitor, Owner owner);
+
+    /// The record as the screen shows it.
+    support::Published<model::Monitor> currentMonitor;
+    /// The request that runs, and the alert of the one that failed.
+    const std::shared_ptr<presentation::RunningAction> action;
+
+    /// Calls `observer` before anything changes that the screen shows.
+    [[nodiscard]] std::array<support::Subscription, 2> observe(const std::function<void()>& observer);
+
+    std::vector<presentation::Pill> pills() const { return headerPills(*currentMonitor); }
+    /// The group "Details"; what the record does not have is left out.
+    std::vector<presentation::Fact> details() const;
+    /// The group "Last Check": the day, and the time of day as its caption. All empty without.
+    presentation::Fact lastCheck() const;
+
+    /// In the order of the screen.
+    std::vector<presentation::ActionButton> buttons() const;
+    /// Does what the button of that id says; nothing while an action runs.
+    void press(std::string_view id);
+    void perform(DetailAction wanted);
+
+    /// Opens the monitor's URL; what is no web address is not opened.
+    void openURL() const;
+    void close() { owner_.dismiss(); }
+
+private:
+    static support::Task<void> carryOut(std::shared_ptr<MonitorDetailView> self, DetailAction wanted);
+
+    const Ports ports_;
+    const Owner owner_;
+};
+
+}  // namespace larkspan::monitors

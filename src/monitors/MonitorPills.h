@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "model/Monitor.h"
+#include "presentation/Pill.h"
+
+namespace larkspan::monitors {
+
+/// The word for a monitor's status, such as "Operational".
+std::string statusWord(const model::Monitor& monitor);
+
+/// The type in capitals, such as "HTTP".
+presentation::Pill typePill(const model::Monitor& monitor);
+
+/// How a monitor stands and what it is, as its own screen begins.
+std::vector<presentation::Pill> headerPills(const model::Monitor& monitor);
+
+}  // namespace larkspan::monitors

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "api/MonitorEndpoints.h"
+#include "model/MonitorMetricsWindow.h"
+#include "monitors/MetricRow.h"
+#include "monitors/RegionRow.h"
+#include "platform/Executor.h"
+#include "presentation/Marker.h"
+#include "support/Observable.h"
+#include "support/Task.h"
+
+namespace larkspan::monitors {
+
+/// What is open in one row of the list: the monitor's metrics of a day, fetched when they are first asked for and kept
+/// from then on. Main thread only; a running fetch outlives the row.
+class MonitorRowView final : public support::Observable, public std::enable_shared_from_this<MonitorRowView> {
+public:
+    static constexpr const char* range = "24h";
+
+    MonitorRowView(platform::Executor& main, api::MonitorEndpoints& api, std::string monitorID);
+
+    support::Published<std::optional<model::MonitorMetricsWindow>> metrics{*this};
+    support::Published<bool> showingMetrics{*this, false};
+    support::Published<bool> isLoadingMetrics{*this, false};
+    support::Published<std::optional<std::string>> metricsLoadError{*this};
+
+    /// Opens the metrics, or closes them; not while they are loaded.
+    void toggleMetrics();
+    /// Fetches the metrics again after a failure.
+    void retry();
+
+    bool showsPanel() const { return *showingMetrics && !*isLoadingMetrics && metrics->has_value(); }
+    /// What stands in place of the panel while there is none: that it is loaded, or why it could not be.
+    presentation::Marker instead() const;
+    bool offersRetry() const { return *showingMetrics && !*isLoadingMetrics && !metrics->has_value(); }
+
+    /// The panel's figures and regions; empty without metrics.
+    std::vector<MetricRow> figures() const;
+    std::vector<RegionRow> regions() const;
+
+private:
+    void load();
+    static support::Task<void> loadMetrics(std::shared_ptr<MonitorRowView> self);
+
+    platform::Executor& main_;
+    api::MonitorEndpoints& api_;
+    const std::string monitorID_;
+};
+
+}  // namespace larkspan::monitors

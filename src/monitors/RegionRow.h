@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "model/MonitorMetricsWindow.h"
+#include "presentation/Tone.h"
+
+namespace larkspan::monitors {
+
+/// How a monitor stands seen from one region.
+struct RegionRow {
+    std::string name{};
+    /// In milliseconds.
+    std::string average{};
+    /// Of the dot.
+    presentation::Tone tone = presentation::Tone::gray;
+
+    bool operator==(const RegionRow&) const = default;
+};
+
+/// In the order of the window.
+std::vector<RegionRow> regionRows(const model::MonitorMetricsWindow& metrics);
+
+}  // namespace larkspan::monitors

@@ -1,0 +1,93 @@
+#include "monitors/StatusPageMonitorsViewModel.h"
+
+#include <algorithm>
+#include <exception>
+#include <utility>
+
+#include "support/LocalizedError.h"
+
+namespace larkspan::monitors {
+
+using model::Monitor;
+using support::Task;
+
+namespace {
+
+// The service lists the account's monitors whatever page is asked about.
+Task<std::vector<Monitor>> monitorsOfPage(api::MonitorEndpoints* api, std::string pageId)
+{
+    auto fetching = api->fetchMonitors();
+    auto monitors = co_await std::move(fetching);
+    std::erase_if(monitors, [&pageId](const Monitor& monitor) { return monitor.statusPageId != pageId; });
+    co_return monitors;
+}
+
+}  // namespace
+
+StatusPageMonitorsViewModel::StatusPageMonitorsViewModel(
+    platform::Executor& main, api::MonitorEndpoints& api, std::string page)
+    : FetchedList(main, [&api, page] { return monitorsOfPage(&api, page); })
+    , pageId(std::move(page))
+    , api_(api)
+{
+}
+
+std::shared_ptr<StatusPageMonitorsViewModel> StatusPageMonitorsViewModel::self()
+{
+    return std::static_pointer_cast<StatusPageMonitorsViewModel>(shared_from_this());
+}
+
+Task<void> StatusPageMonitorsViewModel::togglePause(Monitor monitor)
+{
+    setPerforming(monitor.id, true);
+    auto action = monitor.isPaused ? api_.resumeMonitor(monitor.id) : api_.pauseMonitor(monitor.id);
+    return perform(self(), std::move(monitor.id), std::move(action));
+}
+
+Task<void> StatusPageMonitorsViewModel::checkMonitor(Monitor monitor)
+{
+    setPerforming(monitor.id, true);
+    auto action = api_.runMonitor(monitor.id);
+    return perform(self(), std::move(monitor.id), std::move(action));
+}
+
+Task<void> StatusPageMonitorsViewModel::perform(
+    std::shared_ptr<StatusPageMonitorsViewModel> self, std::string id, Task<void> action)
+{
+    try {
+        co_await std::move(action);
+        auto refreshing = refreshMonitor(self, id);
+        co_await std::move(refreshing);
+    } catch (...) {
+        self->errorMessage = support::localizedDescription(std::current_exception());
+        self->showErrorAlert = true;
+    }
+    self->setPerforming(id, false);
+}
+
+Task<void> StatusPageMonitorsViewModel::refreshMonitor(
+    std::shared_ptr<StatusPageMonitorsViewModel> self, std::string id)
+{
+    std::vector<Monitor> fetched;
+    try {
+        auto fetching = monitorsOfPage(&self->api_, self->pageId);
+        fetched = co_await std::move(fetching);
+    } catch (...) {
+        // The action itself succeeded; the row shows what is known until the next load.
+        co_return;
+    }
+    const auto refreshed = std::ranges::find(fetched, id, &Monitor::id);
+    if (refreshed != fetched.end()) self->patch(std::move(*refreshed));
+}
+
+void StatusPageMonitorsViewModel::setPerforming(const std::string& id, bool isPerforming)
+{
+    auto performing = *performingActions;
+    if (isPerforming)
+        performing.insert(id);
+    else
+        performing.erase(id);
+    performingActions = std::move(performing);
+}
+
+}  // namespace larkspan::monitors

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "api/KestruneAPI.h"
+#include "fakes/FakeLinkOpener.h"
+#include "fakes/Service.h"
+
+namespace larkspan::components {
+
+using Words = std::vector<std::string>;
+
+inline std::string componentRecord(const std::string& id, const std::string& rest = "")
+{
+    return R"({"id": ")" + id + R"(", "name": "Component )" + id + "\"" + rest + "}";
+}
+
+inline std::string inGroup(const std::string& id)
+{
+    return R"(, "component_group_id": ")" + id + "\"";
+}
+
+inline std::string groupRecord(const std::string& id)
+{
+    return R"({"id": ")" + id + R"(", "name": "Group )" + id + R"("})";
+}
+
+/// A service whose page "p" has the components and the groups that the test says.
+class ComponentsOfAPage : public fakes::Service {
+public:
+    static constexpr auto listURL = "https://service.example/user/api/components?status_page_id=p";
+    static constexpr auto groupsURL = "https://service.example/user/api/component-groups?status_page_id=p";
+    static constexpr auto recordURL = "https://service.example/user/api/components/";
+
+    void serveComponents(const Words& records) { transport.script(listURL, 200, list(records)); }
+    void serveGroups(const Words& records) { transport.script(groupsURL, 200, list(records)); }
+
+    static std::string list(const Words& records)
+    {
+        std::string joined;
+        for (const auto& each : records) joined += (joined.empty() ? "" : ",") + each;
+        return "[" + joined + "]";
+    }
+
+    /// "METHOD path" of what was sent.
+    Words sent() const
+    {
+        Words lines;
+        for (const auto& request : transport.requests) {
+            lines.push_back(request.method + " " + request.url.substr(std::string("https://service.example").size()));
+        }
+        return lines;
+    }
+
+    fakes::FakeLinkOpener links;
+};
+
+}  // namespace larkspan::components

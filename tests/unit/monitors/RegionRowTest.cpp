@@ -1,0 +1,37 @@
+#include "monitors/RegionRow.h"
+
+#include <gtest/gtest.h>
+
+namespace larkspan::monitors {
+
+namespace {
+
+using model::RegionState;
+using presentation::Tone;
+using Rows = std::vector<RegionRow>;
+
+TEST(RegionRows, StandInTheOrderOfTheWindow)
+{
+    const std::vector<RegionState> states{
+        {.regionId = "us", .regionName = "Virginia", .status = "DOWN", .avgMs = 999.5},
+        {.regionId = "eu", .regionName = "Frankfurt", .status = "up", .avgMs = 42.4},
+        {.regionId = "ap", .regionName = "Tokyo", .status = "degraded", .avgMs = 0}};
+    EXPECT_EQ(regionRows({.regionStates = states}),
+        (Rows{{"Virginia", "1000ms", Tone::red}, {"Frankfurt", "42ms", Tone::green}, {"Tokyo", "0ms", Tone::orange}}));
+}
+
+TEST(RegionRows, ARegionWithoutANameShowsItsId)
+{
+    const std::vector<RegionState> states{{.regionId = "eu-central-1", .status = "odd", .avgMs = 1}};
+    EXPECT_EQ(regionRows({.regionStates = states}), (Rows{{"eu-central-1", "1ms", Tone::gray}}));
+}
+
+TEST(RegionRows, AreNoneWhereTheWindowHasNone)
+{
+    EXPECT_EQ(regionRows({}), Rows{});
+    EXPECT_EQ(regionRows({.regionStates = std::vector<RegionState>{}}), Rows{});
+}
+
+}  // namespace
+
+}  // namespace larkspan::monitors

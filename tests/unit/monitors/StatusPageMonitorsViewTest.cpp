@@ -1,0 +1,253 @@
+#include "monitors/StatusPageMonitorsView.h"
+
+#include <gtest/gtest.h>
+
+#include "monitors/MonitorsOfAPage.h"
+
+namespace larkspan::monitors {
+
+namespace {
+
+using platform::HttpResponse;
+using presentation::Content;
+using presentation::Placeholder;
+using presentation::Tone;
+
+TEST_F(MonitorsOfAPage, DuringTheFirstLoadAreProgress)
+{
+    view->appear();
+    EXPECT_EQ(view->content(), Content::loading);
+    EXPECT_EQ(view->placeholder(), (Placeholder{.text = "Loading Monitors...", .showsProgress = true}));
+}
+
+TEST_F(MonitorsOfAPage, AFailedFirstLoadShowsTheFailureTextAndRetryReturnsToTheSpinnerBecauseTheListIsEmpty)
+{
+    transport.script(listURL, 500, "");
+    appear();
+    EXPECT_EQ(view->placeholder(),
+        (Placeholder{.symbol = "exclamationmark.triangle",
+            .tone = Tone::yellow,
+            .text = "Server returned HTTP status code 500.",
+            .offersRetry = true}));
+    serve({record("1")});
+    view->refresh();
+    EXPECT_EQ(view->content(), Content::loading);
+    run();
+    EXPECT_EQ(view->content(), Content::records);
+    EXPECT_EQ(view->placeholder(), Placeholder{});
+}
+
+TEST_F(MonitorsOfAPage, AnAccountWithMonitorsOnOtherPagesOnlyShowsNoMonitors)
+{
+    serve({record("1", R"("status_page_id": "other")")});
+    appear();
+    EXPECT_EQ(view->content(), Content::empty);
+    EXPECT_EQ(view->placeholder(),
+        (Placeholder{.symbol = "antenna.radiowaves.left.and.right",
+            .title = "No Monitors",
+            .text = "No monitors configured for this status page."}));
+}
+
+TEST_F(MonitorsOfAPage, MonitorsOfOtherPagesAndMonitorsWithoutAPageNeverAppearThoughTheServiceReturnedThem)
+{
+    serve({record("c"), record("b", R"("status_page_id": "other")"), record("x", R"("status_page_id": null)"),
+        record("a")});
+    appear();
+    EXPECT_EQ(ids(), (Words{"c", "a"}));
+}
+
+TEST_F(MonitorsOfAPage, KeepTheirRowsWhileAReloadRunsAndWhenItFails)
+{
+    serve({record("1")});
+    appear();
+    transport.script(listURL, 500, "");
+    view->refresh();
+    EXPECT_EQ(view->content(), Content::records);
+    run();
+    EXPECT_EQ(ids(), Words{"1"});
+    EXPECT_TRUE(*view->viewModel->error);
+    EXPECT_EQ(view->alert(), "");
+}
+
+TEST_F(MonitorsOfAPage, OfTwoLoadsTheLastToFinishWins)
+{
+    view->appear();
+    view->refresh();
+    run();
+    ASSERT_EQ(transport.pending.size(), 2u);
+    transport.answer(HttpResponse{200, "[" + record("1") + "]"});
+    run();
+    EXPECT_EQ(ids(), Words{"1"});
+    transport.answer(HttpResponse{200, "[" + record("2") + "]"});
+    run();
+    EXPECT_EQ(ids(), Words{"2"});
+}
+
+TEST_F(MonitorsOfAPage, AreWorthAPromptOfTheStoreOnlyWhenTheUserAsks)
+{
+    appear();
+    EXPECT_EQ(credentials.promptsAllowed, 0);
+    view->refresh();
+    EXPECT_EQ(credentials.promptsAllowed, 1);
+}
+
+TEST_F(MonitorsOfAPage, ARowKeepsItsMetricsForAsLongAsItsMonitorIsInTheList)
+{
+    serve({record("1"), record("2")});
+    transport.script(metricsURL("1"), 200, R"({"metrics": {"1": {"avg_ms": 5}}})");
+    appear();
+    view->toggleMetrics("1");
+    run();
+    EXPECT_TRUE(view->rows().front().isOpen);
+    EXPECT_FALSE(view->rows().back().isOpen);
+
+    serve({record("2"), record("1")});
+    view->refresh();
+    run();
+    EXPECT_TRUE(view->rows().back().isOpen);
+    EXPECT_EQ(view->rowViews().size(), 1u);
+
+    serve({record("2")});
+    view->refresh();
+    run();
+    EXPECT_TRUE(view->rowViews().empty());
+}
+
+TEST_F(MonitorsOfAPage, ARowThatIsMadeAnewHasLostItsMetricsAndStartsClosed)
+{
+    serve({record("1")});
+    transport.script(metricsURL("1"), 200, R"({"metrics": {"1": {"avg_ms": 5}}})");
+    appear();
+    view->toggleMetrics("1");
+    run();
+    serve({});
+    view->refresh();
+    run();
+    EXPECT_TRUE(view->rowViews().empty());
+    serve({record("1")});
+    view->refresh();
+    run();
+    EXPECT_FALSE(view->rows().front().isOpen);
+    EXPECT_TRUE(view->rows().front().badges.empty());
+}
+
+TEST_F(MonitorsOfAPage, ALaterRefreshOfTheListDoesNotRenewTheMetrics)
+{
+    serve({record("1")});
+    transport.script(metricsURL("1"), 200, R"({"metrics": {"1": {"avg_ms": 5}}})");
+    appear();
+    view->toggleMetrics("1");
+    run();
+    transport.requests.clear();
+    view->refresh();
+    run();
+    EXPECT_EQ(sent(), Words{"GET /user/api/v1/monitors"});
+}
+
+TEST_F(MonitorsOfAPage, AMetricsFailureTouchesNoOtherRowAndRaisesNoAlert)
+{
+    serve({record("1"), record("2")});
+    transport.script(metricsURL("1"), 500, "");
+    appear();
+    const auto other = view->rows().back();
+    view->toggleMetrics("1");
+    run();
+    EXPECT_EQ(view->rows().back(), other);
+    EXPECT_EQ(view->alert(), "");
+}
+
+TEST_F(MonitorsOfAPage, OpenNothingForARowThatHasGone)
+{
+    serve({record("1")});
+    appear();
+    view->openMonitor("9");
+    view->toggleMetrics("9");
+    view->press("9", "checkNow");
+    EXPECT_FALSE(view->presentedMonitor->has_value());
+    EXPECT_TRUE(view->rowViews().empty());
+    EXPECT_TRUE(view->viewModel->performingActions->empty());
+}
+
+TEST_F(MonitorsOfAPage, OpenTheMonitorOfARowAndGoingBackClearsItWithoutALoad)
+{
+    serve({record("1"), record("2")});
+    appear();
+    transport.requests.clear();
+    view->openMonitor("2");
+    ASSERT_TRUE(view->presentedMonitor->has_value());
+    EXPECT_EQ((*view->presentedMonitor)->id, "2");
+    ASSERT_TRUE(view->detail());
+    view->detail()->close();
+    run();
+    EXPECT_FALSE(view->presentedMonitor->has_value());
+    EXPECT_FALSE(view->detail());
+    EXPECT_EQ(sent(), Words{});
+}
+
+TEST_F(MonitorsOfAPage, PatchTheRowOfTheMonitorThatItsDetailRefreshed)
+{
+    serve({record("1"), record("2")});
+    transport.script(actionURL("2", "pause"), 200, "");
+    appear();
+    view->openMonitor("2");
+    serve({record("2", R"("status_page_id": "p", "enabled": false)"), record("1"), record("3")});
+    view->detail()->press("pauseResume");
+    run();
+    EXPECT_EQ(ids(), (Words{"1", "2"}));
+    EXPECT_EQ(view->rows().back().status, "Paused");
+    EXPECT_FALSE((*view->presentedMonitor)->isPaused) << "it is the record as it was when it was opened";
+}
+
+TEST_F(MonitorsOfAPage, PatchNothingWhereTheMonitorHasLeftTheListMeanwhile)
+{
+    serve({record("1"), record("2")});
+    transport.script(actionURL("2", "pause"), 200, "");
+    appear();
+    view->openMonitor("2");
+    serve({record("1")});
+    view->refresh();
+    run();
+    serve({record("2"), record("1")});
+    view->detail()->press("pauseResume");
+    run();
+    EXPECT_EQ(ids(), Words{"1"});
+}
+
+TEST_F(MonitorsOfAPage, ThatAreLeftDuringALoadAndAnActionAreFreedAfterThem)
+{
+    serve({record("1")});
+    appear();
+    view->press("1", "checkNow");
+    view->toggleMetrics("1");
+    run();
+    const std::weak_ptr<StatusPageMonitorsViewModel> held = view->viewModel;
+    view.reset();
+    while (!transport.pending.empty()) {
+        transport.answer(HttpResponse{200, "{}"});
+        run();
+    }
+    EXPECT_TRUE(held.expired());
+}
+
+TEST_F(MonitorsOfAPage, TellTheirObserversOfLoadsActionsAndRowsThatOpen)
+{
+    serve({record("1")});
+    int changes = 0;
+    const auto subscriptions = view->observe([&changes] { ++changes; });
+    appear();
+    EXPECT_GT(std::exchange(changes, 0), 0);
+    view->toggleMetrics("1");
+    EXPECT_GT(std::exchange(changes, 0), 0);
+    view->press("1", "checkNow");
+    EXPECT_GT(std::exchange(changes, 0), 0);
+    view->openMonitor("1");
+    EXPECT_GT(std::exchange(changes, 0), 0);
+    view->closeMonitor();
+    EXPECT_GT(std::exchange(changes, 0), 0);
+    view->closeMonitor();
+    EXPECT_EQ(changes, 0);
+}
+
+}  // namespace
+
+}  // namespace larkspan::monitors
