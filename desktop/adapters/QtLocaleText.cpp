@@ -15,6 +15,32 @@ QString withoutWeekday(QString format)
     return format.remove(weekday).remove(separatorAtTheEnd).trimmed();
 }
 
+// From the first to the last of day and month, with what is written right behind them, the month cut short.
+QString dayAndMonth(const QString& dateFormat)
+{
+    static const QRegularExpression piece(QStringLiteral("'[^']*'|d{1,2}|M+|."));
+    static const QRegularExpression apart(QStringLiteral("^[\\s,،፣⹁'(y]"));
+    QString format;
+    qsizetype end = 0;
+    bool isRightBehind = false;
+    for (auto pieces = piece.globalMatch(dateFormat); pieces.hasNext();) {
+        const auto text = pieces.next().captured();
+        const bool isField = text.startsWith(u'd') || text.startsWith(u'M');
+        if (format.isEmpty() && !isField) continue;
+        isRightBehind = isField || (isRightBehind && !apart.match(text).hasMatch());
+        format += text;
+        if (isRightBehind) end = format.size();
+    }
+    return format.left(end).replace(QStringLiteral("MMMM"), QStringLiteral("MMM"));
+}
+
+// A date goes before a time of day as it goes behind a day of the week.
+QString separatorOf(const QString& longFormat)
+{
+    static const QRegularExpression behindWeekday(QStringLiteral("^d{3,4}([,،፣⹁]?)\\s"));
+    return behindWeekday.match(longFormat).captured(1) + u' ';
+}
+
 QDateTime inTheZone(support::Time moment)
 {
     return QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count(), Qt::LocalTime);
@@ -37,6 +63,8 @@ QString text(std::string_view utf8)
 QtLocaleText::QtLocaleText(const QLocale& locale)
     : locale_(locale)
     , dateFormat_(withoutWeekday(locale.dateFormat(QLocale::LongFormat)))
+    , dayAndTimeFormat_(dayAndMonth(dateFormat_) + separatorOf(locale.dateFormat(QLocale::LongFormat))
+          + locale.timeFormat(QLocale::ShortFormat))
     , collator_(locale.collation())
 {
     collator_.setCaseSensitivity(Qt::CaseInsensitive);
@@ -50,6 +78,11 @@ std::string QtLocaleText::dateOnly(support::Time moment) const
 std::string QtLocaleText::timeOnly(support::Time moment) const
 {
     return locale_.toString(inTheZone(moment).time(), QLocale::ShortFormat).toStdString();
+}
+
+std::string QtLocaleText::dayAndTime(support::Time moment) const
+{
+    return locale_.toString(inTheZone(moment), dayAndTimeFormat_).toStdString();
 }
 
 std::chrono::seconds QtLocaleText::utcOffset(support::Time moment) const

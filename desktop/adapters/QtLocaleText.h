@@ -15,6 +15,7 @@ public:
 
     std::string dateOnly(support::Time moment) const override;
     std::string timeOnly(support::Time moment) const override;
+    std::string dayAndTime(support::Time moment) const override;
     std::chrono::seconds utcOffset(support::Time moment) const override;
     std::string zoneName(support::Time moment) const override;
     std::chrono::weekday firstDayOfWeek() const override;
@@ -26,6 +27,7 @@ public:
 private:
     const QLocale locale_;
     const QString dateFormat_;
+    const QString dayAndTimeFormat_;
     QCollator collator_;
 };
 

@@ -16,6 +16,8 @@ enum class MetricsForm {
     gaps,
     /// Some figures are of another type.
     malformed,
+    /// There are points, and no latency beside them.
+    noLatency,
     /// There is a window, and nothing in it.
     empty,
     /// There is no window.
@@ -40,6 +42,8 @@ struct Monitor {
     std::optional<std::string> statusPageId;
     std::optional<std::string> componentId;
     MetricsForm metricsForm = MetricsForm::words;
+    /// In each window of its metrics.
+    int samplesPerWindow = 96;
 };
 
 }  // namespace larkspan::simulator

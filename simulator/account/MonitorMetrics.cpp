@@ -1,5 +1,6 @@
 #include "account/MonitorMetrics.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
@@ -13,7 +14,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int samplesPerSpan = 96;
+/// Of so much time at most one sample is an outlier, however many there are.
+constexpr auto timeOfAnOutlier = 15min;
 
 struct Place {
     const char* id;
@@ -62,20 +64,38 @@ double partOfDay(support::Time time)
     return std::chrono::duration<double, std::ratio<86'400>>(sinceMidnight).count();
 }
 
+/// What is slow at one time is slow at the next: chance of each hour, and between two hours a bit of both.
+double driftAt(support::Time time, const Dice& dice)
+{
+    const auto hour = std::chrono::floor<std::chrono::hours>(time);
+    const auto number = hour.time_since_epoch().count();
+    const double part = std::chrono::duration<double, std::ratio<3'600>>(time - hour).count();
+    const auto chanceOf = [&dice](std::int64_t ofHour) { return dice.throwOf(-1'000 - ofHour); };
+    return 0.88 + 0.24 * std::lerp(chanceOf(number), chanceOf(number + 1), part);
+}
+
+double outlierAt(std::int64_t number, support::Time::duration step, const Dice& dice)
+{
+    const auto samples = std::max<std::int64_t>(1, support::Time::duration(timeOfAnOutlier) / step);
+    const auto group = -1'000'000 - number / samples;
+    const bool isIt = number % samples == static_cast<std::int64_t>(dice.throwOf(group) * 1'000) % samples;
+    const double chance = dice.throwOf(group - 1'000'000'000);
+    return isIt && chance > 0.96 ? 1.8 + 30 * (chance - 0.96) : 1;
+}
+
 std::vector<MonitorMetrics::Sample> samplesOf(
     const Monitor& monitor, const Dice& dice, support::Time::duration step, support::Time end)
 {
     const double ordinary = 40 + 360 * dice.throwOf(-1);
     const auto last = end.time_since_epoch() / step;
     std::vector<MonitorMetrics::Sample> samples;
-    for (auto number = last - samplesPerSpan + 1; number <= last; ++number) {
+    for (auto number = last - monitor.samplesPerWindow + 1; number <= last; ++number) {
         const support::Time time(number * step);
         const double wave = 1 + 0.25 * std::sin(2 * std::numbers::pi * (partOfDay(time) - 0.25));
-        const double chance = dice.throwOf(number);
-        const double outlier = chance > 0.97 ? 2.5 : 1;
+        const double jitter = 0.94 + 0.12 * dice.throwOf(number);
         const double trouble = end - time < 2h ? troubleOf(monitor) : 1;
-        const double milliseconds = ordinary * wave * (0.9 + 0.2 * chance) * outlier * trouble;
-        samples.push_back({static_cast<int>(milliseconds), time});
+        const double slowness = driftAt(time, dice) * jitter * outlierAt(number, step, dice);
+        samples.push_back({static_cast<int>(ordinary * wave * slowness * trouble), time});
     }
     return samples;
 }
@@ -130,10 +150,10 @@ MonitorMetrics metricsOf(const Monitor& monitor, std::chrono::minutes span, supp
     const auto end = monitor.isPaused() ? monitor.updatedAt.value_or(now) : now;
 
     MonitorMetrics metrics;
-    metrics.samples = samplesOf(monitor, dice, support::Time::duration(span) / samplesPerSpan, end);
+    metrics.samples = samplesOf(monitor, dice, support::Time::duration(span) / monitor.samplesPerWindow, end);
     const Samples all(metrics.samples);
-    const auto before = all.first(samplesPerSpan / 2);
-    const auto after = all.last(samplesPerSpan / 2);
+    const auto before = all.first(all.size() / 2);
+    const auto after = all.last(all.size() / 2);
     metrics.averageMs = rounded(averageOf(all), 10);
     metrics.responseTimeChange = rounded(100 * (averageOf(after) / averageOf(before) - 1), 10);
     metrics.apdex = rounded(apdexOf(all), 100);

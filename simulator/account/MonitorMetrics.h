@@ -38,8 +38,8 @@ struct MonitorMetrics {
 };
 
 /// The figures of the `span` up to `now`, or for a paused monitor up to its pause: response times that rise and fall
-/// with the day, with outliers, and with trouble in the last hours if the monitor is in any. As time passes the samples
-/// move on and stay what they are.
+/// with the day and from hour to hour, with outliers, and with trouble in the last hours if the monitor is in any. As
+/// time passes the samples move on and stay what they are.
 MonitorMetrics metricsOf(const Monitor& monitor, std::chrono::minutes span, support::Time now);
 
 }  // namespace larkspan::simulator

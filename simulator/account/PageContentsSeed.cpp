@@ -21,7 +21,10 @@ constexpr std::array intervals{60, 30, 300, 120};
 
 constexpr std::array forms{MetricsForm::words, MetricsForm::numbers, MetricsForm::words, MetricsForm::gaps,
     MetricsForm::numbers, MetricsForm::malformed, MetricsForm::words, MetricsForm::empty, MetricsForm::numbers,
-    MetricsForm::words, MetricsForm::missing};
+    MetricsForm::words, MetricsForm::missing, MetricsForm::noLatency};
+
+/// One for each quarter of an hour of a day, for each five minutes or for each minute.
+constexpr std::array sampleCounts{96, 288, 96, 1'440, 96};
 
 struct Check {
     const char* type;
@@ -116,13 +119,17 @@ private:
             monitor.enabled = false;
         else if (number % 4 != 3)
             monitor.enabled = true;
-        if (number % 13 != 11) monitor.state = number % 6 == 4 ? "operational" : "up";
+        if (number % 14 == 2)
+            monitor.state = "degraded";
+        else if (number % 13 != 11)
+            monitor.state = number % 6 == 4 ? "operational" : "up";
         monitor.createdAt = now_ - std::chrono::days(40 + index % 300);
         monitor.updatedAt = now_ - std::chrono::hours(3 + number % 500);
         if (number % 7 != 6) monitor.intervalSeconds = intervals[number % intervals.size()];
         monitor.statusPageId = component.statusPageId;
         monitor.componentId = component.id;
         monitor.metricsForm = forms[number % forms.size()];
+        monitor.samplesPerWindow = sampleCounts[number % sampleCounts.size()];
     }
 
     /// `component` has one monitor, the latest.
@@ -132,6 +139,7 @@ private:
         const auto words = healthWords(health);
         component.state = words.component;
         account_.monitors.back().state = words.monitor;
+        account_.monitors.back().enabled = true;
     }
 
     Account& account_;

@@ -31,7 +31,7 @@ Json wireRegion(const MonitorMetrics::Region& region)
 
 Json wireTrend(double change, double notable, MetricsForm form)
 {
-    if (form != MetricsForm::words) return change;
+    if (form == MetricsForm::numbers) return change;
     if (change > notable) return "up";
     return change < -notable ? "down" : "stable";
 }
@@ -92,6 +92,7 @@ void addLists(Json& window, const MonitorMetrics& metrics, MetricsForm form)
         add(window, "region_states", wireList(metrics.regions, wireRegion));
     }
     if (form != MetricsForm::gaps) add(window, "latency_points", wireList(metrics.samples, wireSample));
+    if (form == MetricsForm::noLatency) latency.clear();
     add(window, "latency", std::move(latency));
 }
 
@@ -108,7 +109,8 @@ std::optional<Json> wireFigures(const MonitorMetrics& metrics, MetricsForm form)
 {
     switch (form) {
     case MetricsForm::words:
-    case MetricsForm::numbers: return figures(metrics, form);
+    case MetricsForm::numbers:
+    case MetricsForm::noLatency: return figures(metrics, form);
     case MetricsForm::gaps: return figuresWithGaps(metrics);
     case MetricsForm::malformed: return malformedFigures(metrics);
     case MetricsForm::empty: return Json(Json::Object());

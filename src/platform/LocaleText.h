@@ -28,6 +28,9 @@ public:
     /// The time of day without the date, in the user's time zone.
     virtual std::string timeOnly(support::Time moment) const = 0;
 
+    /// Both in few letters and without the year, for a moment of these days: "Nov 20, 9:30 AM".
+    virtual std::string dayAndTime(support::Time moment) const = 0;
+
     /// How far the user's time zone is ahead of UTC at `moment`.
     virtual std::chrono::seconds utcOffset(support::Time moment) const = 0;
 

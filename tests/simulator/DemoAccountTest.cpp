@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <future>
+#include <set>
 
 #include "demo/LivelyAccount.h"
 #include "fakes/ManualClock.h"
@@ -52,6 +53,26 @@ TEST(LivelyAccount, HasComponentsAndMonitorsOnEachOfItsPages)
         EXPECT_TRUE(std::ranges::any_of(account.monitors, isOfPage)) << page.id;
     }
     EXPECT_FALSE(account.staff.teams.empty());
+}
+
+TEST(LivelyAccount, HasMonitorsOfEachTypeStateFormAndNumberOfSamples)
+{
+    const auto account = livelyAccount("key", fakes::ManualClock().time);
+    std::set<std::string> types;
+    std::set<std::string> states;
+    std::set<MetricsForm> forms;
+    std::set<int> counts;
+    for (const auto& monitor : account.monitors) {
+        types.insert(monitor.type.value_or("none"));
+        states.insert(monitor.isPaused() ? "paused" : monitor.state.value_or("none"));
+        forms.insert(monitor.metricsForm);
+        counts.insert(monitor.samplesPerWindow);
+    }
+
+    EXPECT_EQ(types.size(), 8u);
+    EXPECT_THAT(states, testing::IsSupersetOf({"up", "operational", "degraded", "down", "paused", "none"}));
+    EXPECT_EQ(forms.size(), 7u);
+    EXPECT_EQ(counts, (std::set{96, 288, 1'440}));
 }
 
 TEST(MemoryCredentialStore, HoldsEachItemByBothAttributes)

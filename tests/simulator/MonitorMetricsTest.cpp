@@ -36,6 +36,47 @@ TEST(MonitorMetrics, OfADayAreASampleForEachQuarterOfAnHourUpToNow)
     }
 }
 
+TEST(MonitorMetrics, HaveASampleForEachMinuteOfADayWhereThereAreSoMany)
+{
+    auto monitor = monitorNamed("7");
+    monitor.samplesPerWindow = 1'440;
+    const auto samples = metricsOf(monitor, 24h, noon).samples;
+
+    ASSERT_EQ(samples.size(), 1'440u);
+    EXPECT_EQ(samples[1].time - samples[0].time, 1min);
+}
+
+TEST(MonitorMetrics, AreSlowerByDayThanByNight)
+{
+    auto monitor = monitorNamed("7");
+    monitor.samplesPerWindow = 1'440;
+    const auto samples = metricsOf(monitor, 24h, noon + 12h).samples;
+    const auto sumOf = [&samples](std::chrono::hours from) {
+        int sum = 0;
+        for (const auto& sample : samples) {
+            const auto time = sample.time - (noon - 12h);
+            if (time >= from && time < from + 4h) sum += sample.milliseconds;
+        }
+        return sum;
+    };
+
+    EXPECT_GT(sumOf(10h), 1.25 * sumOf(0h));
+}
+
+TEST(MonitorMetrics, HaveAFewOutliersADayHoweverManySamplesThereAre)
+{
+    auto monitor = monitorNamed("7");
+    for (const int count : {96, 288, 1'440}) {
+        monitor.samplesPerWindow = count;
+        const auto samples = metricsOf(monitor, 24h, noon).samples;
+        int outliers = 0;
+        for (std::size_t index = 1; index < samples.size(); ++index)
+            outliers += samples[index].milliseconds > 1.5 * samples[index - 1].milliseconds;
+        EXPECT_GE(outliers, 1) << count;
+        EXPECT_LE(outliers, 10) << count;
+    }
+}
+
 TEST(MonitorMetrics, MoveOnWithTheClockWhileTheirSamplesStayWhatTheyAre)
 {
     const auto before = metricsOf(monitorNamed("7"), 24h, noon).samples;
@@ -130,6 +171,15 @@ TEST_F(MetricsForms, GapsLeaveAGraphWithoutTimes)
     EXPECT_FALSE(window.latencyPoints);
     EXPECT_FALSE(window.regionStates);
     EXPECT_FALSE(window.uptimePercentage);
+}
+
+TEST_F(MetricsForms, NoLatencyIsAnEmptyOneBesideItsPoints)
+{
+    const auto window = windowsIn(MetricsForm::noLatency).at("1");
+
+    EXPECT_THAT(window.latency, testing::Optional(testing::IsEmpty()));
+    EXPECT_EQ(window.latencyPoints->size(), 96u);
+    EXPECT_TRUE(window.avgMs);
 }
 
 TEST_F(MetricsForms, MalformedFiguresAreAbsentAndTheOthersStand)

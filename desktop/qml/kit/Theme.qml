@@ -34,6 +34,9 @@ QtObject {
     readonly property color veil: "#33000000"
     readonly property real pillOpacity: 0.15
     readonly property real badgeOpacity: 0.20
+    readonly property real graphOpacity: 0.06
+    readonly property real areaOpacity: 0.10
+    readonly property real ruleOpacity: 0.55
     readonly property real metricOpacity: 0.12
     readonly property color track: Qt.alpha(text, 0.25)
 
@@ -74,6 +77,8 @@ QtObject {
     readonly property int menuWidth: 320
     readonly property int menuRowHeight: Math.round(28 * scale)
     readonly property int dotSize: 8
+    readonly property int graphHeight: 72
+    readonly property int curveWidth: 2
     readonly property int recordDotSize: 10
     readonly property int quoteBarWidth: 3
     readonly property int quoteGap: 10

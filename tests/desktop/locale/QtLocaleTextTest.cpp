@@ -75,6 +75,36 @@ TEST(TimeOfALocale, IsWrittenOnItsOwnClock)
     EXPECT_EQ(QtLocaleText(QLocale("de_DE")).timeOnly(moment), "21:05");
 }
 
+TEST(DayAndTimeOfALocale, AreShortAndInItsOrderWordsAndClock)
+{
+    const InTheZone zone("UTC");
+    const auto moment = momentOf(autumn, 21h + 5min);
+    EXPECT_EQ(QtLocaleText(QLocale("en_US")).dayAndTime(moment), "Nov 20, 9:05 PM");
+    EXPECT_EQ(QtLocaleText(QLocale("en_GB")).dayAndTime(moment), "20 Nov, 21:05");
+    EXPECT_EQ(QtLocaleText(QLocale("de_DE")).dayAndTime(moment), "20. Nov., 21:05");
+    EXPECT_EQ(QtLocaleText(QLocale("fr_FR")).dayAndTime(moment), "20 nov. 21:05");
+    EXPECT_EQ(QtLocaleText(QLocale("pt_BR")).dayAndTime(moment), "20 de nov., 21:05");
+    EXPECT_EQ(QtLocaleText(QLocale("hu_HU")).dayAndTime(moment), "nov. 20. 21:05");
+    EXPECT_EQ(QtLocaleText(QLocale("ja_JP")).dayAndTime(moment), "11月20日 21:05");
+    EXPECT_EQ(QtLocaleText(QLocale("ar_EG")).dayAndTime(moment), "٢٠ نوفمبر، ٩:٠٥ م");
+}
+
+TEST(DayAndTimeOfALocale, AreWholeAndNameNeitherYearNorDayOfTheWeekAnywhere)
+{
+    const InTheZone zone("UTC");
+    const auto moment = momentOf(autumn, 9h + 25min);
+    for (const auto& locale : QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry)) {
+        const QtLocaleText text(locale);
+        const auto whole = QString::fromStdString(text.dayAndTime(moment));
+        const auto time = QString::fromStdString(text.timeOnly(moment));
+        EXPECT_TRUE(whole.endsWith(u' ' + time)) << whole.toStdString() << ' ' << locale.name().toStdString();
+        const auto day = whole.chopped(time.size());
+        EXPECT_TRUE(day.contains(locale.toString(20))) << day.toStdString() << ' ' << locale.name().toStdString();
+        EXPECT_FALSE(day.contains(locale.toString(26))) << day.toStdString() << ' ' << locale.name().toStdString();
+        EXPECT_FALSE(day.contains(locale.toString(QDate(2026, 11, 20), u"dddd"))) << locale.name().toStdString();
+    }
+}
+
 TEST(MomentInAZone, IsShownAsThatZonesClocksStandAlsoAcrossTheEndOfSummerTime)
 {
     const InTheZone zone("Europe/Berlin");

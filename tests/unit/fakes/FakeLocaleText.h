@@ -11,8 +11,8 @@
 
 namespace larkspan::fakes {
 
-/// The locale of the unit tests, the same on every machine: "2026-11-20" and "09:30", weeks from Monday on, plain Latin
-/// letters in order, and a time zone that is `offset` ahead of UTC, from `change` on `offsetAfterChange`.
+/// The locale of the unit tests, the same on every machine: "2026-11-20", "09:30" and "11-20 09:30", weeks from Monday
+/// on, plain Latin letters in order, and a time zone that is `offset` ahead of UTC, from `change` on `offsetAfterChange`.
 class FakeLocaleText final : public platform::LocaleText {
 public:
     std::string dateOnly(support::Time moment) const override { return written(moment).substr(0, 10); }
@@ -26,6 +26,11 @@ public:
     std::string zoneName(support::Time moment) const override
     {
         return change && moment >= *change ? zoneAfterChange : zone;
+    }
+
+    std::string dayAndTime(support::Time moment) const override
+    {
+        return dateOnly(moment).substr(5) + ' ' + timeOnly(moment);
     }
 
     std::chrono::weekday firstDayOfWeek() const override { return weekBegin; }

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QColor>
+#include <QQuickPaintedItem>
+#include <QtQml/qqmlregistration.h>
+
+#include "bridge/values/LatencyGraphValue.h"
+
+namespace larkspan::bridge {
+
+/// Line and area of a latency graph, painted anew only where they change, and the places of its samples: a selection is
+/// told by what stands over it.
+class LatencyPlotItem : public QQuickPaintedItem {
+    Q_OBJECT
+    QML_NAMED_ELEMENT(LatencyPlot)
+    Q_PROPERTY(larkspan::bridge::LatencyGraphValue graph READ graph WRITE setGraph NOTIFY graphChanged)
+    Q_PROPERTY(QColor lineColor MEMBER lineColor_ NOTIFY lookChanged)
+    Q_PROPERTY(QColor areaColor MEMBER areaColor_ NOTIFY lookChanged)
+    Q_PROPERTY(double lineWidth MEMBER lineWidth_ NOTIFY lookChanged)
+    Q_PROPERTY(double inset MEMBER inset_ NOTIFY lookChanged)
+    Q_PROPERTY(double cornerRadius MEMBER cornerRadius_ NOTIFY lookChanged)
+    /// Where the selected sample stands.
+    Q_PROPERTY(double selectedX READ selectedX NOTIFY selectedXChanged)
+
+public:
+    explicit LatencyPlotItem(QQuickItem* parent = nullptr);
+
+    const LatencyGraphValue& graph() const { return graph_; }
+    void setGraph(const LatencyGraphValue& graph);
+    double selectedX() const;
+
+    /// Selects the sample that is nearest to a pointer at `x`.
+    Q_INVOKABLE void point(double x);
+    /// Moves the selection as the key does; false where the key means nothing here.
+    Q_INVOKABLE bool move(int key);
+    /// Where a callout of the selected sample has its left edge.
+    Q_INVOKABLE double calloutLeft(double selectedX, double calloutWidth) const;
+
+    void paint(QPainter* painter) override;
+
+signals:
+    void graphChanged();
+    void lookChanged();
+    void selectedXChanged();
+    /// A place on the axis of indexes was chosen.
+    void selected(double position);
+
+private:
+    int count() const { return graph_.curve ? graph_.curve->count() : 0; }
+    double plotWidth() const { return width() - 2 * inset_; }
+
+    LatencyGraphValue graph_;
+    QColor lineColor_;
+    QColor areaColor_;
+    double lineWidth_ = 2;
+    double inset_ = 0;
+    double cornerRadius_ = 0;
+};
+
+}  // namespace larkspan::bridge

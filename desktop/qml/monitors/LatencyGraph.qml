@@ -1,0 +1,76 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// A day of latency. A press, a drag or the keyboard selects a sample, which a callout tells; the callout floats over what
+// stands above the graph.
+Item {
+    id: view
+    required property latencyGraph graph
+    signal selected(position: real)
+
+    readonly property bool hasSelection: graph.selectedIndex >= 0
+    // What a screen reader says of a slider.
+    readonly property real value: graph.selectedValue
+    readonly property real minimumValue: graph.lowestValue
+    readonly property real maximumValue: graph.highestValue
+
+    implicitHeight: Theme.graphHeight
+    activeFocusOnTab: true
+    Accessible.role: Accessible.Slider
+    Accessible.name: qsTr("Latency graph")
+    Accessible.description: qsTr("Select a point to show its latency value")
+    Accessible.focusable: true
+    Accessible.onIncreaseAction: plot.move(Qt.Key_Right)
+    Accessible.onDecreaseAction: plot.move(Qt.Key_Left)
+    Keys.onPressed: event => {
+        // With a modifier a key belongs to the window: Alt+Left is the way back.
+        event.accepted = !(event.modifiers & ~Qt.KeypadModifier) && plot.move(event.key)
+        if (event.accepted) InputHand.isKeyboard = true
+    }
+
+    Rectangle {
+        id: ground
+        anchors.fill: parent
+        radius: Theme.controlRadius
+        color: Qt.alpha(Theme.blue, Theme.graphOpacity)
+    }
+    LatencyPlot {
+        id: plot
+        anchors.fill: parent
+        graph: view.graph
+        lineColor: Theme.blue
+        areaColor: Qt.alpha(Theme.blue, Theme.areaOpacity)
+        lineWidth: Theme.curveWidth
+        inset: Theme.halfUnit
+        cornerRadius: ground.radius
+        onSelected: position => view.selected(position)
+    }
+    Rectangle {
+        visible: view.hasSelection
+        x: Math.round(plot.selectedX - width / 2)
+        width: Theme.hairline
+        height: parent.height
+        color: Qt.alpha(Theme.secondary, Theme.ruleOpacity)
+    }
+    FocusRing { isShown: view.activeFocus && InputHand.isKeyboard }
+
+    MouseArea {
+        anchors.fill: parent
+        // The list below may not take a drag for its own.
+        preventStealing: true
+        onPressed: mouse => {
+            InputHand.isKeyboard = false
+            view.forceActiveFocus(Qt.MouseFocusReason)
+            plot.point(mouse.x)
+        }
+        onPositionChanged: mouse => plot.point(mouse.x)
+    }
+
+    LatencyCallout {
+        visible: view.hasSelection
+        x: Math.round(plot.calloutLeft(plot.selectedX, width))
+        y: -height - Theme.halfUnit
+        graph: view.graph
+    }
+}
