@@ -12,7 +12,8 @@
 namespace larkspan::fakes {
 
 /// The locale of the unit tests, the same on every machine: "2026-11-20", "09:30" and "11-20 09:30", weeks from Monday
-/// on, plain Latin letters in order, and a time zone that is `offset` ahead of UTC, from `change` on `offsetAfterChange`.
+/// on, plain Latin letters in order, and a time zone that is `offset` ahead of UTC, from `change` on
+/// `offsetAfterChange`.
 class FakeLocaleText final : public platform::LocaleText {
 public:
     std::string dateOnly(support::Time moment) const override { return written(moment).substr(0, 10); }
