@@ -65,10 +65,13 @@ auto fieldsOf(const T& row)
     } else if constexpr (count == 9) {
         const auto& [a, b, c, d, e, f, g, h, i] = row;
         return std::tie(a, b, c, d, e, f, g, h, i);
-    } else {
-        static_assert(count == 10, "give rows of more fields their case here");
+    } else if constexpr (count == 10) {
         const auto& [a, b, c, d, e, f, g, h, i, j] = row;
         return std::tie(a, b, c, d, e, f, g, h, i, j);
+    } else {
+        static_assert(count == 11, "give rows of more fields their case here");
+        const auto& [a, b, c, d, e, f, g, h, i, j, k] = row;
+        return std::tie(a, b, c, d, e, f, g, h, i, j, k);
     }
 }
 
