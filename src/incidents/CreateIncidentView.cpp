@@ -3,7 +3,6 @@
 #include <optional>
 #include <utility>
 
-#include "incidents/markdown/Blanks.h"
 #include "support/Trimming.h"
 
 namespace larkspan::incidents {
@@ -55,7 +54,7 @@ bool CreateIncidentView::isSelectionComplete() const
 // The service takes a title of line ends, so only blanks count as none.
 bool CreateIncidentView::hasTitle() const
 {
-    return !withoutBlanksAround(*title).empty();
+    return !support::withoutBlanksAround(*title).empty();
 }
 
 bool CreateIncidentView::isSaveEnabled() const

@@ -1,43 +1,63 @@
 #include "support/Trimming.h"
 
-#include <algorithm>
-#include <array>
+#include "support/Utf8.h"
 
 namespace larkspan::support {
 
 namespace {
 
-using namespace std::string_view_literals;
+/// Pages like to leave zero width spaces in what is copied from them.
+bool isWhiteSpace(char32_t character)
+{
+    return isBlank(character) || isLineEnd(character) || character == U'\u200B';
+}
 
-constexpr std::array whiteSpace{
-    " "sv, "\t"sv, "\n"sv, "\v"sv, "\f"sv, "\r"sv,
-    "\xC2\x85"sv,  // next line
-    "\xC2\xA0"sv,  // no-break space
-    "\xE1\x9A\x80"sv,  // Ogham space mark
-    "\xE2\x80\x80"sv, "\xE2\x80\x81"sv, "\xE2\x80\x82"sv, "\xE2\x80\x83"sv, "\xE2\x80\x84"sv, "\xE2\x80\x85"sv,
-    "\xE2\x80\x86"sv, "\xE2\x80\x87"sv, "\xE2\x80\x88"sv, "\xE2\x80\x89"sv, "\xE2\x80\x8A"sv,  // en quad to hair space
-    "\xE2\x80\x8B"sv,  // zero width space, which pages like to leave in what is copied from them
-    "\xE2\x80\xA8"sv, "\xE2\x80\xA9"sv,  // line and paragraph separator
-    "\xE2\x80\xAF"sv,  // narrow no-break space
-    "\xE2\x81\x9F"sv,  // mathematical space
-    "\xE3\x80\x80"sv,  // ideographic space
-};
+template <typename IsUnwanted>
+std::string_view withoutAround(std::string_view text, IsUnwanted isUnwanted)
+{
+    while (!text.empty()) {
+        const auto first = firstCharacter(text);
+        if (!isUnwanted(first.code)) break;
+        text.remove_prefix(first.length);
+    }
+    while (!text.empty()) {
+        const auto last = lastCharacter(text);
+        if (!isUnwanted(last.code)) break;
+        text.remove_suffix(last.length);
+    }
+    return text;
+}
 
 }  // namespace
 
+bool isBlank(char32_t character)
+{
+    switch (character) {
+    case U' ':
+    case U'\t':
+    case U'\u00A0':
+    case U'\u1680':
+    case U'\u202F':
+    case U'\u205F':
+    case U'\u3000': return true;
+    default: return character >= U'\u2000' && character <= U'\u200A';
+    }
+}
+
+bool isLineEnd(char32_t character)
+{
+    return (character >= U'\n' && character <= U'\r') || character == 0x85 || character == U'\u2028'
+        || character == U'\u2029';
+}
+
+std::string_view withoutBlanksAround(std::string_view text)
+{
+    return withoutAround(text, isBlank);
+}
+
 std::string_view trimmed(std::string_view text)
 {
-    const auto lengthOfSpace = [](auto matches) {
-        const auto found = std::ranges::find_if(whiteSpace, matches);
-        return found == whiteSpace.end() ? 0 : found->size();
-    };
-    while (const auto length = lengthOfSpace([text](auto space) { return text.starts_with(space); })) {
-        text.remove_prefix(length);
-    }
-    while (const auto length = lengthOfSpace([text](auto space) { return text.ends_with(space); })) {
-        text.remove_suffix(length);
-    }
-    return text;
+    return withoutAround(text, isWhiteSpace);
 }
 
 }  // namespace larkspan::support

@@ -1,8 +1,9 @@
 #include "incidents/markdown/MarkdownBlock.h"
 
-#include "incidents/markdown/Blanks.h"
 #include "incidents/markdown/MarkdownLines.h"
 #include "incidents/markdown/MarkdownTableLines.h"
+#include "incidents/markdown/SourceLines.h"
+#include "support/Trimming.h"
 
 namespace larkspan::incidents {
 
@@ -25,7 +26,7 @@ public:
 private:
     void readBlock()
     {
-        const auto trimmed = withoutBlanksAround(lines_[at_]);
+        const auto trimmed = support::withoutBlanksAround(lines_[at_]);
         if (trimmed.empty()) {
             ++at_;
         } else if (auto found = parseTableBlock(lines_, at_)) {
@@ -35,7 +36,7 @@ private:
             blocks_.emplace_back(MarkdownHeading{heading->level, std::string(heading->text)});
             ++at_;
         } else if (trimmed.starts_with('>')) {
-            blocks_.emplace_back(MarkdownQuote{std::string(withoutBlanksAround(trimmed.substr(1)))});
+            blocks_.emplace_back(MarkdownQuote{std::string(support::withoutBlanksAround(trimmed.substr(1)))});
             ++at_;
         } else if (parseUnorderedItem(trimmed)) {
             blocks_.emplace_back(MarkdownUnorderedList{readItems(parseUnorderedItem)});
@@ -51,7 +52,7 @@ private:
     {
         std::vector<std::string> items;
         for (; at_ < lines_.size(); ++at_) {
-            const auto item = parse(withoutBlanksAround(lines_[at_]));
+            const auto item = parse(support::withoutBlanksAround(lines_[at_]));
             if (!item) break;
             items.emplace_back(*item);
         }
@@ -70,7 +71,7 @@ private:
 
     bool isParagraphsEnd() const
     {
-        const auto trimmed = withoutBlanksAround(lines_[at_]);
+        const auto trimmed = support::withoutBlanksAround(lines_[at_]);
         return trimmed.empty() || parseHeadingLine(trimmed) || trimmed.starts_with('>') || parseUnorderedItem(trimmed)
             || parseOrderedItem(trimmed) || beginsTable(lines_, at_);
     }

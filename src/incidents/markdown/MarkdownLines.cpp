@@ -4,7 +4,7 @@
 #include <charconv>
 #include <cstdint>
 
-#include "incidents/markdown/Blanks.h"
+#include "support/Trimming.h"
 
 namespace larkspan::incidents {
 
@@ -30,7 +30,7 @@ std::optional<HeadingLine> parseHeadingLine(std::string_view trimmedLine)
     if (level < 1 || level > 6) return std::nullopt;
     const auto rest = trimmedLine.substr(level);
     if (!rest.starts_with(' ')) return std::nullopt;
-    return HeadingLine{static_cast<int>(level), withoutBlanksAround(rest.substr(1))};
+    return HeadingLine{static_cast<int>(level), support::withoutBlanksAround(rest.substr(1))};
 }
 
 std::optional<std::string_view> parseUnorderedItem(std::string_view trimmedLine)

@@ -1,6 +1,6 @@
 #include "incidents/markdown/MarkdownTableLines.h"
 
-#include "incidents/markdown/Blanks.h"
+#include "support/Trimming.h"
 #include "support/Utf8.h"
 
 namespace larkspan::incidents {
@@ -16,7 +16,7 @@ bool holdsPipe(std::string_view line)
 class CellReader {
 public:
     explicit CellReader(std::string_view line)
-        : rest_(withoutBlanksAround(line))
+        : rest_(support::withoutBlanksAround(line))
     {
         const auto first = rest_.find_first_not_of('|');
         rest_ = first == std::string_view::npos ? "" : rest_.substr(first, rest_.find_last_not_of('|') - first + 1);
@@ -30,7 +30,7 @@ public:
         isAtEnd_ = pipe == std::string_view::npos;
         const auto cell = rest_.substr(0, pipe);
         if (!isAtEnd_) rest_.remove_prefix(pipe + 1);
-        return withoutBlanksAround(cell);
+        return support::withoutBlanksAround(cell);
     }
 
 private:
@@ -63,7 +63,7 @@ bool isTableSeparatorCell(std::string_view cell)
     while (!cell.empty()) {
         const auto character = support::firstCharacter(cell);
         cell.remove_prefix(character.length);
-        if (isBlank(character.code)) continue;
+        if (support::isBlank(character.code)) continue;
         if (character.code != U'-' && character.code != U':') return false;
         ++length;
     }

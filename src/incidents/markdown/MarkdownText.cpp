@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "incidents/markdown/Blanks.h"
 #include "incidents/markdown/StyledText.h"
 #include "incidents/markdown/TextPieces.h"
+#include "support/Trimming.h"
 #include "support/Utf8.h"
 
 namespace larkspan::incidents {
@@ -15,7 +15,7 @@ std::size_t lengthWithoutLineEnd(std::string_view text)
 {
     if (text.empty()) return 0;
     const auto last = support::lastCharacter(text);
-    return text.size() - (isLineEnd(last.code) ? last.length : 0);
+    return text.size() - (support::isLineEnd(last.code) ? last.length : 0);
 }
 
 /// Walks over a text's runs and styles what it passes.

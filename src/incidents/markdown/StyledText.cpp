@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "incidents/markdown/Blanks.h"
 #include "incidents/markdown/TextPieces.h"
+#include "support/Trimming.h"
 #include "support/Utf8.h"
 
 namespace larkspan::incidents {
@@ -122,10 +122,10 @@ std::size_t StyledTextWriter::addPlainBytes(std::string_view text)
 
 void StyledTextWriter::addCharacter(char32_t character, std::string_view bytes)
 {
-    if (isLineEnd(character)) return addLineEnd();
+    if (support::isLineEnd(character)) return addLineEnd();
     if (link_ && changesDirection(character)) return;
     const bool isFixedBlank = character == U'\u00A0' || character == U'\u202F';
-    if (isBlank(character) && !isFixedBlank) {
+    if (support::isBlank(character) && !isFixedBlank) {
         for (auto count = character == U'\t' ? tabWidth : 1; count > 0; --count) addBlank();
         return;
     }

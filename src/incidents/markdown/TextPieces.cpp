@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "incidents/markdown/Blanks.h"
 #include "incidents/markdown/CharacterTables.h"
+#include "support/Trimming.h"
 #include "support/Utf8.h"
 
 namespace larkspan::incidents {
@@ -37,8 +37,8 @@ std::size_t firstPieceEnd(std::string_view text)
         const auto character = support::firstCharacter(text.substr(at));
         if (at > 0 && areDrawnApart(before, character.code)) {
             betweenCharacters = at;
-            if (isLineEnd(before)) behindLineEnd = at;
-            if (isBlank(before)) behindBlank = at;
+            if (support::isLineEnd(before)) behindLineEnd = at;
+            if (support::isBlank(before)) behindBlank = at;
         }
         if (count == longestPiece) break;
         at += character.length;

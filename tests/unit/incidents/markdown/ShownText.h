@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "incidents/markdown/Blanks.h"
 #include "incidents/markdown/MarkdownText.h"
+#include "support/Trimming.h"
 #include "support/Utf8.h"
 
 namespace larkspan::incidents {
@@ -32,9 +32,9 @@ public:
         std::string seen;
         while (!plain.empty()) {
             const auto [code, length] = support::firstCharacter(plain);
-            if (isLineEnd(code))
+            if (support::isLineEnd(code))
                 seen += '\n';
-            else if (isBlank(code))
+            else if (support::isBlank(code))
                 seen.append(code == U'\t' ? 4 : 1, ' ');
             else if (code < U' ' || (code >= 0x7F && code < 0xA0) || code == U'\uFFFC' || code == U'\uFFFD')
                 seen += "\uFFFD";

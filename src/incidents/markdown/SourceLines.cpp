@@ -1,5 +1,6 @@
-#include "incidents/markdown/Blanks.h"
+#include "incidents/markdown/SourceLines.h"
 
+#include "support/Trimming.h"
 #include "support/Utf8.h"
 
 namespace larkspan::incidents {
@@ -15,41 +16,6 @@ bool beginsNoLineEnd(char byte)
 
 }  // namespace
 
-bool isBlank(char32_t character)
-{
-    switch (character) {
-    case U' ':
-    case U'\t':
-    case U'\u00A0':
-    case U'\u1680':
-    case U'\u202F':
-    case U'\u205F':
-    case U'\u3000': return true;
-    default: return character >= U'\u2000' && character <= U'\u200A';
-    }
-}
-
-bool isLineEnd(char32_t character)
-{
-    return (character >= U'\n' && character <= U'\r') || character == 0x85 || character == U'\u2028'
-        || character == U'\u2029';
-}
-
-std::string_view withoutBlanksAround(std::string_view text)
-{
-    while (!text.empty()) {
-        const auto first = support::firstCharacter(text);
-        if (!isBlank(first.code)) break;
-        text.remove_prefix(first.length);
-    }
-    while (!text.empty()) {
-        const auto last = support::lastCharacter(text);
-        if (!isBlank(last.code)) break;
-        text.remove_suffix(last.length);
-    }
-    return text;
-}
-
 std::vector<std::string_view> linesOf(std::string_view text)
 {
     std::vector<std::string_view> lines;
@@ -60,7 +26,7 @@ std::vector<std::string_view> linesOf(std::string_view text)
             continue;
         }
         const auto character = support::firstCharacter(text.substr(at));
-        if (!isLineEnd(character.code)) {
+        if (!support::isLineEnd(character.code)) {
             at += character.length;
             continue;
         }
