@@ -72,9 +72,12 @@ auto fieldsOf(const T& row)
     }
 }
 
-/// A row as a failed test shows it: each field as itself, which else would be so many bytes.
 template <typename T>
-void printFields(const T& row, std::ostream* out)
+concept Row = std::is_aggregate_v<T> && std::is_class_v<T>;
+
+/// A row as a failed test shows it: each field as itself, which else would be so many bytes.
+template <Row T>
+void PrintTo(const T& row, std::ostream* out)
 {
     *out << '{';
     const char* separator = "";
@@ -89,47 +92,22 @@ void printFields(const T& row, std::ostream* out)
     *out << '}';
 }
 
-template <typename T>
-concept Row = std::is_aggregate_v<T> && std::is_class_v<T>;
-
 }  // namespace larkspan::fakes
 
+// A printer is found where the row itself is declared.
+
 namespace larkspan::presentation {
-
-template <fakes::Row T>
-void PrintTo(const T& row, std::ostream* out)
-{
-    fakes::printFields(row, out);
-}
-
+using fakes::PrintTo;
 }  // namespace larkspan::presentation
 
 namespace larkspan::incidents {
-
-template <fakes::Row T>
-void PrintTo(const T& row, std::ostream* out)
-{
-    fakes::printFields(row, out);
-}
-
+using fakes::PrintTo;
 }  // namespace larkspan::incidents
 
 namespace larkspan::workspace {
-
-template <fakes::Row T>
-void PrintTo(const T& row, std::ostream* out)
-{
-    fakes::printFields(row, out);
-}
-
+using fakes::PrintTo;
 }  // namespace larkspan::workspace
 
 namespace larkspan::bridge {
-
-template <fakes::Row T>
-void PrintTo(const T& row, std::ostream* out)
-{
-    fakes::printFields(row, out);
-}
-
+using fakes::PrintTo;
 }  // namespace larkspan::bridge
