@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <cstdlib>
+#include <string>
 #include <string_view>
 
 #include "model/DecodingError.h"
@@ -36,7 +37,7 @@ void expectResultOrSentence(Decode decode)
 }
 
 template <typename... Results, typename... Envelopes, typename... BareResults>
-void decodeAll(const model::JSONDecoder& decoder, std::string_view body, model::TypeList<Results...>,
+void decodeAll(const model::JSONDecoder& decoder, const std::string& body, model::TypeList<Results...>,
     model::TypeList<Envelopes...>, model::TypeList<BareResults...>)
 {
     (expectResultOrSentence([&] { decoder.decodeResult<Results>(body); }), ...);
@@ -50,7 +51,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     const StandingClock clock;
     const model::JSONDecoder decoder(clock);
-    const std::string_view body(reinterpret_cast<const char*>(data), size);
+    const std::string body(reinterpret_cast<const char*>(data), size);
     decodeAll(decoder, body, model::Results{}, model::ListEnvelopes{}, model::BareResults{});
     return 0;
 }

@@ -10,20 +10,6 @@ constexpr std::size_t longestKey = 64;
 
 }  // namespace
 
-CodingPath::CodingPath(const CodingPath* parent, std::string_view wireKey)
-    : parent_(parent)
-    , wireKey_(wireKey)
-    , step_(Step::key)
-{
-}
-
-CodingPath::CodingPath(const CodingPath* parent, std::size_t index)
-    : parent_(parent)
-    , index_(index)
-    , step_(Step::index)
-{
-}
-
 std::string CodingPath::text() const
 {
     if (step_ == Step::root) return {};

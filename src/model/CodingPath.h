@@ -11,8 +11,20 @@ namespace larkspan::model {
 class CodingPath {
 public:
     CodingPath() = default;
-    CodingPath(const CodingPath* parent, std::string_view wireKey);
-    CodingPath(const CodingPath* parent, std::size_t index);
+
+    CodingPath(const CodingPath* parent, std::string_view wireKey)
+        : parent_(parent)
+        , wireKey_(wireKey)
+        , step_(Step::key)
+    {
+    }
+
+    CodingPath(const CodingPath* parent, std::size_t index)
+        : parent_(parent)
+        , index_(index)
+        , step_(Step::index)
+    {
+    }
 
     /// As in `data[3].created_at`; empty for the root.
     std::string text() const;

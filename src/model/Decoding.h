@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <concepts>
 #include <cstdint>
@@ -15,6 +16,7 @@
 #include "model/ISO8601.h"
 #include "model/JSONValue.h"
 #include "model/KeyConversion.h"
+#include "model/KnownKeys.h"
 #include "model/RawTexts.h"
 #include "model/URL.h"
 #include "model/WireTable.h"
@@ -48,11 +50,14 @@ public:
         return decode<T>(JSONValue(object_, *member_));
     }
 
+    /// Neither missing nor null.
+    bool isPresent() const { return member_ && !member_->element.is_null(); }
+
     template <typename T>
     std::optional<T> optional() const
     {
-        if (!member_ || member_->element.is_null()) return std::nullopt;
-        return decode<T>(JSONValue(object_, *member_));
+        if (!isPresent()) return std::nullopt;
+        return required<T>();
     }
 
     /// As `optional`, and absent too where the value does not read.
@@ -84,7 +89,7 @@ void read(const RequiredRow<Record, Field>& row, Record& record, const KeyedValu
 template <typename Record, typename Field>
 void read(const OptionalRow<Record, Field>& row, Record& record, const KeyedValue& value)
 {
-    record.*row.field = value.optional<Field>();
+    if (value.isPresent()) (record.*row.field).emplace(value.required<Field>());
 }
 
 template <typename Record, typename Field, typename Value>
@@ -111,20 +116,16 @@ void read(const DerivedRow<Record>& row, Record& record, const KeyedValue& value
     row.derive(record, value);
 }
 
+/// Fills a `record` that is new; `keys` are those of other values of its kind.
 template <typename Record>
-Record decodeRecord(const JSONValue& value)
+void decodeRecord(const JSONValue& value, KnownKeys& keys, Record& record)
 {
-    return std::apply(
-        [&value](const auto&... rows) {
-            constexpr std::size_t count = sizeof...(rows);
-            const std::array<std::string_view, count> keyNames{rows.key...};
-            std::array<std::optional<JSONValue::Member>, count> members;
-            value.find(keyNames, members);
-
-            Record record{};
+    std::array<std::optional<JSONValue::Member>, keyNames<Record>.size()> members;
+    value.find(keys, members);
+    std::apply(
+        [&](const auto&... rows) {
             std::size_t at = 0;
             (read(rows, record, KeyedValue(value, rows.key, members[at++])), ...);
-            return record;
         },
         wireRows<Record>);
 }
@@ -132,8 +133,20 @@ Record decodeRecord(const JSONValue& value)
 template <typename Element>
 std::vector<Element> decodeList(const JSONValue& value)
 {
+    // A list that is longer than any real one is not worth its room before it is known to be good.
+    constexpr std::size_t mostReserved = 16'384;
+
+    const auto elements = value.list();
     std::vector<Element> list;
-    for (const auto element : value.list()) list.push_back(decode<Element>(JSONValue(value, list.size(), element)));
+    list.reserve(std::min(elements.size(), mostReserved));
+    KnownKeys keys(keyNames<Element>);
+    for (const auto element : elements) {
+        const JSONValue each(value, list.size(), element);
+        if constexpr (HasWireFields<Element>)
+            decodeRecord(each, keys, list.emplace_back());
+        else
+            list.push_back(decode<Element>(each));
+    }
     return list;
 }
 
@@ -222,8 +235,12 @@ T decode(const JSONValue& value)
         return decodeList<typename T::value_type>(value);
     else if constexpr (IsMap<T>::value)
         return decodeMap<T>(value);
-    else
-        return decodeRecord<T>(value);
+    else {
+        KnownKeys keys(keyNames<T>);
+        T record{};
+        decodeRecord(value, keys, record);
+        return record;
+    }
 }
 
 }  // namespace larkspan::model

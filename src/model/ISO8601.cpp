@@ -29,25 +29,28 @@ public:
     /// Exactly `count` digits, as a number of at most `largest`.
     std::optional<int> number(std::size_t count, int largest)
     {
+        if (rest_.size() < count) return std::nullopt;
         int value = 0;
-        for (; count > 0; --count) {
-            const auto next = digit();
-            if (!next) return std::nullopt;
-            value = value * 10 + *next;
+        for (const char letter : rest_.substr(0, count)) {
+            if (!isDigit(letter)) return std::nullopt;
+            value = value * 10 + (letter - '0');
         }
+        rest_.remove_prefix(count);
         if (value > largest) return std::nullopt;
         return value;
     }
 
     std::optional<int> digit()
     {
-        if (rest_.empty() || rest_.front() < '0' || rest_.front() > '9') return std::nullopt;
+        if (rest_.empty() || !isDigit(rest_.front())) return std::nullopt;
         const int value = rest_.front() - '0';
         rest_.remove_prefix(1);
         return value;
     }
 
 private:
+    static bool isDigit(char letter) { return letter >= '0' && letter <= '9'; }
+
     std::string_view rest_;
 };
 

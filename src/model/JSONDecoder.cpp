@@ -27,10 +27,13 @@ std::string_view problem(simdjson::error_code error)
 /// A body as it was parsed; everything that is read from it lives as long as this.
 class Document {
 public:
-    explicit Document(std::string_view body)
+    explicit Document(const std::string& body)
     {
-        if (body.starts_with("\xEF\xBB\xBF")) body.remove_prefix(3);
-        if (const auto error = parser_.parse(body.data(), body.size()).get(root_)) {
+        // The parser reads ahead, and copies what has no room behind it for that.
+        const bool hasRoom = body.capacity() - body.size() >= simdjson::SIMDJSON_PADDING;
+        std::string_view text = body;
+        if (text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);
+        if (const auto error = parser_.parse(text.data(), text.size(), !hasRoom).get(root_)) {
             throw DecodingError(DecodingError::Kind::dataCorrupted, "", problem(error));
         }
     }
@@ -92,21 +95,21 @@ JSONDecoder::JSONDecoder(const platform::Clock& clock)
 }
 
 template <typename Result>
-Result detail::decodeResult(std::string_view body, support::Time now)
+Result detail::decodeResult(const std::string& body, support::Time now)
 {
     const Document document(body);
     return decodeShapes<Result>(JSONValue(document.root(), now));
 }
 
 template <typename Envelope>
-typename Envelope::List detail::decodeList(std::string_view body, support::Time now)
+typename Envelope::List detail::decodeList(const std::string& body, support::Time now)
 {
     const Document document(body);
     return decodeListShapes<Envelope>(JSONValue(document.root(), now));
 }
 
 template <typename Result>
-Result detail::decodeBare(std::string_view body, support::Time now)
+Result detail::decodeBare(const std::string& body, support::Time now)
 {
     const Document document(body);
     return decode<Result>(JSONValue(document.root(), now));

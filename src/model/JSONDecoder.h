@@ -1,6 +1,6 @@
 #pragma once
 
-#include <string_view>
+#include <string>
 
 #include "model/Results.h"
 #include "platform/Clock.h"
@@ -11,15 +11,15 @@ namespace detail {
 
 /// Compiled for each of `Results`.
 template <typename Result>
-Result decodeResult(std::string_view body, support::Time now);
+Result decodeResult(const std::string& body, support::Time now);
 
 /// Compiled for each of `ListEnvelopes`.
 template <typename Envelope>
-typename Envelope::List decodeList(std::string_view body, support::Time now);
+typename Envelope::List decodeList(const std::string& body, support::Time now);
 
 /// Compiled for each of `BareResults`.
 template <typename Result>
-Result decodeBare(std::string_view body, support::Time now);
+Result decodeBare(const std::string& body, support::Time now);
 
 }  // namespace detail
 
@@ -35,7 +35,7 @@ public:
     /// The result in `body`: under the key `data` of an object, else the body as a whole, else, where a list is wanted
     /// and `data` is null, an empty list. Throws the `DecodingError` of the first of these attempts.
     template <typename Result>
-    Result decodeResult(std::string_view body) const
+    Result decodeResult(const std::string& body) const
     {
         static_assert(
             Results::holds<Result>, "a result is named in model/Results.h, from where decoder and fuzzer know it");
@@ -45,7 +45,7 @@ public:
     /// The list in `body`: under the key `data` of an object, else under the one key of `Envelope`, else the body as a
     /// whole. Null is no list. Throws the `DecodingError` of the last of these attempts.
     template <typename Envelope>
-    typename Envelope::List decodeList(std::string_view body) const
+    typename Envelope::List decodeList(const std::string& body) const
     {
         static_assert(ListEnvelopes::holds<Envelope>, "such a list is named in model/Results.h by its envelope");
         return detail::decodeList<Envelope>(body, clock_.now());
@@ -53,7 +53,7 @@ public:
 
     /// The body as a whole and in no other shape. Throws `DecodingError`.
     template <typename Result>
-    Result decodeBare(std::string_view body) const
+    Result decodeBare(const std::string& body) const
     {
         static_assert(BareResults::holds<Result>, "such a result is named in model/Results.h");
         return detail::decodeBare<Result>(body, clock_.now());

@@ -38,38 +38,6 @@ std::string written(double number)
 
 }  // namespace
 
-JSONValue::JSONValue(simdjson::dom::element root, support::Time now)
-    : element_(root)
-    , now_(now)
-{
-}
-
-JSONValue::JSONValue(const JSONValue& parent, const Member& member)
-    : element_(member.element)
-    , path_(&parent.path_, member.wireKey)
-    , now_(parent.now_)
-{
-}
-
-JSONValue::JSONValue(const JSONValue& parent, std::size_t index, simdjson::dom::element element)
-    : element_(element)
-    , path_(&parent.path_, index)
-    , now_(parent.now_)
-{
-}
-
-bool JSONValue::isNull() const
-{
-    return element_.is_null();
-}
-
-std::string_view JSONValue::text() const
-{
-    std::string_view text;
-    if (element_.get(text) != simdjson::SUCCESS) failMismatch("a string");
-    return text;
-}
-
 bool JSONValue::boolean() const
 {
     bool truth = false;
@@ -117,16 +85,11 @@ simdjson::dom::object JSONValue::object() const
     return object;
 }
 
-void JSONValue::find(std::span<const std::string_view> keyNames, std::span<std::optional<Member>> found) const
+void JSONValue::find(KnownKeys& keys, std::span<std::optional<Member>> found) const
 {
-    std::string buffer;
     for (const auto [wireKey, element] : object()) {
-        const auto key = fromSnakeCase(wireKey, buffer);
-        for (std::size_t at = 0; at < keyNames.size(); ++at) {
-            if (keyNames[at] != key) continue;
-            if (!found[at]) found[at] = Member{wireKey, element};
-            break;
-        }
+        const auto place = keys.placeOf(wireKey);
+        if (place < found.size() && !found[place]) found[place] = Member{wireKey, element};
     }
 }
 

@@ -9,6 +9,7 @@
 
 #include "model/CodingPath.h"
 #include "model/DecodingError.h"
+#include "model/KnownKeys.h"
 #include "support/Time.h"
 
 namespace larkspan::model {
@@ -24,17 +25,38 @@ public:
     };
 
     /// The root of a body that is decoded at `now`.
-    JSONValue(simdjson::dom::element root, support::Time now);
+    JSONValue(simdjson::dom::element root, support::Time now)
+        : element_(root)
+        , now_(now)
+    {
+    }
 
     /// A value inside of `parent`, at a key or an index.
-    JSONValue(const JSONValue& parent, const Member& member);
-    JSONValue(const JSONValue& parent, std::size_t index, simdjson::dom::element element);
+    JSONValue(const JSONValue& parent, const Member& member)
+        : element_(member.element)
+        , path_(&parent.path_, member.wireKey)
+        , now_(parent.now_)
+    {
+    }
+
+    JSONValue(const JSONValue& parent, std::size_t index, simdjson::dom::element element)
+        : element_(element)
+        , path_(&parent.path_, index)
+        , now_(parent.now_)
+    {
+    }
 
     JSONValue(const JSONValue&) = delete;
     JSONValue& operator=(const JSONValue&) = delete;
 
-    bool isNull() const;
-    std::string_view text() const;
+    bool isNull() const { return element_.is_null(); }
+
+    std::string_view text() const
+    {
+        std::string_view text;
+        if (element_.get(text) != simdjson::SUCCESS) failMismatch("a string");
+        return text;
+    }
     bool boolean() const;
     double number() const;
 
@@ -48,9 +70,9 @@ public:
     simdjson::dom::array list() const;
     simdjson::dom::object object() const;
 
-    /// Puts each key that converts to one of `keyNames` at that name's place in `found`, which has as many. Where
-    /// several keys convert to one name the first counts, whatever the others hold.
-    void find(std::span<const std::string_view> keyNames, std::span<std::optional<Member>> found) const;
+    /// Puts each key that converts to one of the names of `keys` at that name's place in `found`, which has as many.
+    /// Where several keys convert to one name the first counts, whatever the others hold.
+    void find(KnownKeys& keys, std::span<std::optional<Member>> found) const;
 
     /// The value of the object's key spelled exactly `wireKey`; nothing if this is no object or has none.
     std::optional<simdjson::dom::element> exactly(std::string_view wireKey) const;

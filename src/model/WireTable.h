@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <string_view>
 #include <tuple>
 #include <utility>
 
@@ -53,5 +54,13 @@ constexpr auto rowsOf()
 /// then one for each of its `derivations`.
 template <typename Record>
 inline constexpr auto wireRows = rowsOf<Record>();
+
+/// The key names of `wireRows`.
+template <typename Record>
+inline constexpr auto keyNames = std::apply(
+    [](const auto&... rows) { return std::array<std::string_view, sizeof...(rows)>{rows.key...}; }, wireRows<Record>);
+
+template <typename Type>
+concept HasWireFields = !fieldLines<Type>.empty();
 
 }  // namespace larkspan::model

@@ -17,21 +17,21 @@ T decoded(std::string_view body, support::Time now = fakes::ManualClock().time)
 {
     fakes::ManualClock clock;
     clock.time = now;
-    return JSONDecoder(clock).decodeResult<T>(body);
+    return JSONDecoder(clock).decodeResult<T>(std::string(body));
 }
 
 /// The list in `body` in one of the three shapes of a list with an envelope of its own.
 template <typename Envelope>
 typename Envelope::List decodedList(std::string_view body)
 {
-    return JSONDecoder(fakes::ManualClock()).decodeList<Envelope>(body);
+    return JSONDecoder(fakes::ManualClock()).decodeList<Envelope>(std::string(body));
 }
 
 /// The result that `body` is as a whole.
 template <typename T>
 T decodedBare(std::string_view body)
 {
-    return JSONDecoder(fakes::ManualClock()).decodeBare<T>(body);
+    return JSONDecoder(fakes::ManualClock()).decodeBare<T>(std::string(body));
 }
 
 /// What a failed decoding says.
