@@ -29,7 +29,7 @@ void require(bool holds)
 
 void checkRuns(std::string_view source)
 {
-    const auto text = inlineMarkdownText(source);
+    const auto text = inlineMarkdownText(std::string(source));
     std::size_t length = 0;
     for (const auto& run : text.runs) {
         require(run.length > 0 && (!run.link || *run.link < text.destinations.size()));

@@ -51,7 +51,7 @@ int main()
     const std::string input(std::istreambuf_iterator<char>(std::cin), {});
     for (std::size_t begin = 0; begin < input.size();) {
         const auto end = input.find('\0', begin);
-        std::cout << htmlOf(inlineMarkdownText(std::string_view(input).substr(begin, end - begin))) << '\0';
+        std::cout << htmlOf(inlineMarkdownText(input.substr(begin, end - begin))) << '\0';
         begin = end == std::string::npos ? input.size() : end + 1;
     }
     return 0;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include <md4c.h>
 
@@ -174,10 +175,10 @@ private:
     std::optional<std::size_t> link_;
 };
 
-InlineText verbatim(std::string_view text)
+InlineText verbatim(std::string text)
 {
-    InlineText found{std::string(text), {}, {}};
-    if (!text.empty()) found.runs.push_back({text.size()});
+    InlineText found{std::move(text), {}, {}};
+    if (!found.text.empty()) found.runs.push_back({found.text.size()});
     return found;
 }
 
@@ -196,11 +197,11 @@ bool mayHoldMarkup(std::string_view text)
 
 }  // namespace
 
-InlineText inlineMarkdownText(std::string_view text)
+InlineText inlineMarkdownText(std::string text)
 {
-    if (text.size() > longestText || !mayHoldMarkup(text)) return verbatim(text);
+    if (text.size() > longestText || !mayHoldMarkup(text)) return verbatim(std::move(text));
     RunCollector runs(text);
-    return runs.read() ? std::move(runs).take() : verbatim(text);
+    return runs.read() ? std::move(runs).take() : verbatim(std::move(text));
 }
 
 }  // namespace larkspan::incidents

@@ -40,6 +40,6 @@ struct InlineText {
 /// Reads the inline markup of CommonMark, and "~" and "~~" for what is struck through. There are no blocks in `text`,
 /// no link references and no HTML, which is text like any other; an image is its description. Line feeds and blanks
 /// stay as they are. A text that cannot be read is shown with its markup.
-InlineText inlineMarkdownText(std::string_view text);
+InlineText inlineMarkdownText(std::string text);
 
 }  // namespace larkspan::incidents

@@ -74,12 +74,13 @@ std::vector<MarkdownText> MarkdownText::piecesOf(InlineText text)
     std::vector<MarkdownText> pieces;
     PieceReader reader(text);
     std::size_t begin = 0;
-    for (const auto end : pieceEnds(text.text)) {
+    do {
+        const auto end = begin + firstPieceEnd(std::string_view(text.text).substr(begin));
         auto piece = end - begin == size ? std::move(text.text) : text.text.substr(begin, end - begin);
         const auto shown = end == size ? piece.size() : lengthWithoutLineEnd(piece);
         pieces.push_back(reader.read(std::move(piece), shown));
         begin = end;
-    }
+    } while (begin < size);
     return pieces;
 }
 

@@ -1,5 +1,7 @@
 #include "incidents/markdown/StatusMarkdownContent.h"
 
+#include <utility>
+
 #include "incidents/markdown/MarkdownBlock.h"
 #include "incidents/markdown/TableRows.h"
 
@@ -19,32 +21,32 @@ public:
 
     MarkdownRows take() && { return std::move(content_); }
 
-    void operator()(const MarkdownHeading& heading)
+    void operator()(MarkdownHeading heading)
     {
-        add(heading.level == 1 ? Kind::title : Kind::headline, {}, heading.text, blockGap());
+        add(heading.level == 1 ? Kind::title : Kind::headline, {}, std::move(heading.text), blockGap());
     }
 
-    void operator()(const MarkdownParagraph& paragraph) { add(Kind::paragraph, {}, paragraph.text, blockGap()); }
+    void operator()(MarkdownParagraph paragraph) { add(Kind::paragraph, {}, std::move(paragraph.text), blockGap()); }
 
-    void operator()(const MarkdownUnorderedList& list)
+    void operator()(MarkdownUnorderedList list)
     {
         auto gap = blockGap();
-        for (const auto& item : list.items) {
-            add(Kind::bulletItem, "•", item, gap);
+        for (auto& item : list.items) {
+            add(Kind::bulletItem, "•", std::move(item), gap);
             gap = gapOfItems;
         }
     }
 
-    void operator()(const MarkdownOrderedList& list)
+    void operator()(MarkdownOrderedList list)
     {
         auto gap = blockGap();
         for (std::size_t index = 0; index < list.items.size(); ++index) {
-            add(Kind::numberedItem, std::to_string(index + 1) + '.', list.items[index], gap);
+            add(Kind::numberedItem, std::to_string(index + 1) + '.', std::move(list.items[index]), gap);
             gap = gapOfItems;
         }
     }
 
-    void operator()(const MarkdownQuote& quote) { add(Kind::quote, {}, quote.text, blockGap()); }
+    void operator()(MarkdownQuote quote) { add(Kind::quote, {}, std::move(quote.text), blockGap()); }
 
     void operator()(const MarkdownTable& table) { appendTable(content_, table, blockGap()); }
 
@@ -57,10 +59,10 @@ private:
         return gapOfBlocks + (above == Kind::tableRow || above == Kind::tableDivider ? tablePadding : 0);
     }
 
-    void add(Kind kind, const std::string& label, const std::string& text, int gap)
+    void add(Kind kind, const std::string& label, std::string text, int gap)
     {
         bool isFirst = true;
-        for (auto& piece : MarkdownText::piecesOf(inlineMarkdownText(text))) {
+        for (auto& piece : MarkdownText::piecesOf(inlineMarkdownText(std::move(text)))) {
             MarkdownRow row{.kind = kind, .text = std::move(piece), .continuesPrevious = !isFirst};
             if (isFirst) {
                 row.label = label;
@@ -83,9 +85,9 @@ StatusMarkdownContent::StatusMarkdownContent(std::string source)
 
 MarkdownRows StatusMarkdownContent::rows() const
 {
-    const auto blocks = parseMarkdownBlocks(source_);
+    auto blocks = parseMarkdownBlocks(source_);
     RowWriter writer(blocks.size());
-    for (const auto& block : blocks) std::visit(writer, block);
+    for (auto& block : blocks) std::visit(writer, std::move(block));
     return std::move(writer).take();
 }
 

@@ -28,6 +28,7 @@ public:
     void add(Kind kind, Cells texts, int gap)
     {
         std::vector<std::vector<MarkdownText>> columns;
+        columns.reserve(texts.size());
         std::size_t height = 1;
         for (const auto& text : texts) {
             columns.push_back(MarkdownText::piecesOf(inlineMarkdownText(text)));
@@ -42,6 +43,7 @@ private:
     void addLine(Kind kind, std::vector<std::vector<MarkdownText>>& columns, std::size_t line, int gap)
     {
         MarkdownRow row{.kind = kind, .table = table_, .continuesPrevious = line > 0, .gap = gap};
+        row.cells.reserve(columns.size());
         for (std::size_t column = 0; column < columns.size(); ++column) {
             if (line >= columns[column].size()) continue;
             row.cells.resize(column + 1);

@@ -25,9 +25,18 @@ bool isHalfOfAFlag(char32_t character)
     return character >= U'\U0001F1E6' && character <= U'\U0001F1FF';
 }
 
-/// The end of the first piece of `text`.
+}  // namespace
+
+bool areDrawnApart(char32_t before, char32_t after)
+{
+    return before != zeroWidthJoiner && !isJoining(after) && !(isHalfOfAFlag(before) && isHalfOfAFlag(after));
+}
+
 std::size_t firstPieceEnd(std::string_view text)
 {
+    // No character is shorter than its bytes, so most texts need no look.
+    if (text.size() <= longestPiece) return text.size();
+
     std::size_t behindLineEnd = 0;
     std::size_t behindBlank = 0;
     std::size_t betweenCharacters = 0;
@@ -49,25 +58,6 @@ std::size_t firstPieceEnd(std::string_view text)
         if (end > 0) return end;
     }
     return at;
-}
-
-}  // namespace
-
-bool areDrawnApart(char32_t before, char32_t after)
-{
-    return before != zeroWidthJoiner && !isJoining(after) && !(isHalfOfAFlag(before) && isHalfOfAFlag(after));
-}
-
-std::vector<std::size_t> pieceEnds(std::string_view text)
-{
-    // No character is shorter than its bytes, so most texts need no look.
-    if (text.size() <= longestPiece) return {text.size()};
-    std::vector<std::size_t> ends;
-    for (std::size_t end = 0; end < text.size();) {
-        end += firstPieceEnd(text.substr(end));
-        ends.push_back(end);
-    }
-    return ends;
 }
 
 }  // namespace larkspan::incidents

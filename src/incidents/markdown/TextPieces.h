@@ -2,16 +2,15 @@
 
 #include <cstddef>
 #include <string_view>
-#include <vector>
 
 namespace larkspan::incidents {
 
 /// A text on screen costs more than its length, so no single one gets more characters than this.
 inline constexpr std::size_t longestPiece = 2'000;
 
-/// Where the pieces of `text` end, the last one at its end: behind a line end where there is one, else behind a blank,
-/// else between two characters that are drawn apart. A text without characters is one piece.
-std::vector<std::size_t> pieceEnds(std::string_view text);
+/// Where the first piece of `text` ends: at its own end if it is short enough, else behind a line end where there is
+/// one, else behind a blank, else between two characters that are drawn apart.
+std::size_t firstPieceEnd(std::string_view text);
 
 /// Whether the two characters are drawn apart: `after` is no mark on `before`, and the two are not joined to one emoji,
 /// flag or syllable.

@@ -36,7 +36,7 @@ constexpr InlineStyles struckThrough{.isStruckThrough = true};
 
 Runs runsOf(std::string_view source)
 {
-    const auto found = inlineMarkdownText(source);
+    const auto found = inlineMarkdownText(std::string(source));
     Runs runs;
     std::size_t begin = 0;
     for (const auto& run : found.runs) {
@@ -49,7 +49,7 @@ Runs runsOf(std::string_view source)
 
 Destinations destinationsOf(std::string_view source)
 {
-    return inlineMarkdownText(source).destinations;
+    return inlineMarkdownText(std::string(source)).destinations;
 }
 
 TEST(InlineText, OfNothingHasNoRuns)

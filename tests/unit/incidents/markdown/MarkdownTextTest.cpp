@@ -10,7 +10,7 @@ using Texts = std::vector<MarkdownText>;
 
 Texts piecesOf(std::string_view text)
 {
-    return MarkdownText::piecesOf(inlineMarkdownText(text));
+    return MarkdownText::piecesOf(inlineMarkdownText(std::string(text)));
 }
 
 TEST(MarkdownText, OfNothingIsOneEmptyText)

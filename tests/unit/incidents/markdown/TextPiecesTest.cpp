@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace larkspan::incidents {
 
@@ -16,6 +18,13 @@ std::string repeated(std::string_view text, std::size_t times)
     std::string answer;
     for (; times > 0; --times) answer += text;
     return answer;
+}
+
+std::vector<std::size_t> pieceEnds(std::string_view text)
+{
+    std::vector ends{firstPieceEnd(text)};
+    while (ends.back() < text.size()) ends.push_back(ends.back() + firstPieceEnd(text.substr(ends.back())));
+    return ends;
 }
 
 TEST(TextPieces, OfAShortTextAreOne)
