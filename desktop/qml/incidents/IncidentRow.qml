@@ -46,7 +46,6 @@ CardRow {
                     isBold: true
                     tint: Theme.badgeOpacity
                     sidePadding: Theme.halfUnit
-                    topPadding: Theme.halfUnit / 2
                 }
                 Label {
                     anchors.verticalCenter: parent.verticalCenter
