@@ -48,7 +48,6 @@ CardRow {
                     isBold: true
                     tint: Theme.badgeOpacity
                     sidePadding: Theme.halfUnit
-                    topPadding: Theme.halfUnit / 2
                 }
                 Label {
                     height: severity.visible ? Math.max(implicitHeight, severity.height) : implicitHeight

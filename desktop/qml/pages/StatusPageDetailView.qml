@@ -32,7 +32,7 @@ ScreenFrame {
     Loader {
         id: screen
         anchors.fill: parent
-        anchors.topMargin: picker.y + picker.height
+        anchors.topMargin: picker.height + 2 * picker.y
         focus: true
         sourceComponent: view.page.incidents ? incidents : view.page.monitors ? monitors
             : view.page.selectedTab === 0 ? overview : null
