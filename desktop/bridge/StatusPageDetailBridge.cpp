@@ -40,6 +40,7 @@ void StatusPageDetailBridge::readState()
     about_ = words(overview.about);
     uptime_ = valuesOf<FactValue>(overview.uptime);
     incidents_.follow(view_->incidents(), updates_);
+    components_.follow(view_->components(), updates_);
 }
 
 }  // namespace larkspan::bridge

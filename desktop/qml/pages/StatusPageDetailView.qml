@@ -34,13 +34,21 @@ ScreenFrame {
         anchors.fill: parent
         anchors.topMargin: picker.y + picker.height
         focus: true
-        sourceComponent: view.page.incidents ? incidents : view.page.selectedTab === 0 ? overview : null
+        sourceComponent: view.page.incidents ? incidents
+            : view.page.components ? components
+            : view.page.selectedTab === 0 ? overview : null
         onLoaded: item.focus = true
     }
     Component {
         id: incidents
         StatusPageIncidentsView {
             incidents: view.page.incidents
+        }
+    }
+    Component {
+        id: components
+        StatusPageComponentsView {
+            components: view.page.components
         }
     }
     Component {
@@ -61,14 +69,18 @@ ScreenFrame {
     Shortcut {
         sequences: ["F5", "Ctrl+R"]
         enabled: view.visible
-        onActivated: view.page.incidents ? view.page.incidents.refresh() : view.accountWanted()
+        onActivated: view.page.incidents ? view.page.incidents.refresh()
+            : view.page.components ? view.page.components.refresh()
+            : view.accountWanted()
     }
     Shortcut {
         sequences: ["Ctrl+PgDown"]
+        enabled: view.enabled
         onActivated: view.page.selectNext()
     }
     Shortcut {
         sequences: ["Ctrl+PgUp"]
+        enabled: view.enabled
         onActivated: view.page.selectPrevious()
     }
     Instantiator {
@@ -76,6 +88,7 @@ ScreenFrame {
         delegate: Shortcut {
             required property int index
             sequence: "Ctrl+" + (index + 1)
+            enabled: view.enabled
             onActivated: view.page.select(index)
         }
     }
