@@ -40,6 +40,7 @@ void StatusPageDetailBridge::readState()
     about_ = words(overview.about);
     uptime_ = valuesOf<FactValue>(overview.uptime);
     incidents_.follow(view_->incidents(), updates_);
+    maintenances_.follow(view_->maintenances(), updates_);
 }
 
 }  // namespace larkspan::bridge

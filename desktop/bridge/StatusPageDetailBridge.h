@@ -8,6 +8,7 @@
 
 #include "bridge/ChildScreen.h"
 #include "bridge/IncidentListBridge.h"
+#include "bridge/MaintenanceListBridge.h"
 #include "bridge/RowListModel.h"
 #include "bridge/ScreenBridge.h"
 #include "bridge/values/ActivityRowValue.h"
@@ -35,6 +36,8 @@ class StatusPageDetailBridge : public ScreenBridge {
     Q_PROPERTY(QList<larkspan::bridge::FactValue> uptime MEMBER uptime_ NOTIFY changed)
     /// The screen of the tab "Incidents"; null while another is selected.
     Q_PROPERTY(larkspan::bridge::IncidentListBridge* incidents READ incidents NOTIFY changed)
+    /// The same for "Maintenances".
+    Q_PROPERTY(larkspan::bridge::MaintenanceListBridge* maintenances READ maintenances NOTIFY changed)
 
 public:
     StatusPageDetailBridge(
@@ -46,6 +49,7 @@ public:
     int selectedTab() const { return static_cast<int>(*view_->selectedTab); }
     ListModel* activity() { return &activity_; }
     IncidentListBridge* incidents() const { return incidents_.get(); }
+    MaintenanceListBridge* maintenances() const { return maintenances_.get(); }
 
     Q_INVOKABLE void select(int tab);
     Q_INVOKABLE void selectNext() { view_->selectNext(); }
@@ -64,6 +68,7 @@ private:
     QString about_;
     QList<FactValue> uptime_;
     ChildScreen<IncidentListBridge, incidents::StatusPageIncidentsView> incidents_;
+    ChildScreen<MaintenanceListBridge, maintenances::StatusPageMaintenancesView> maintenances_;
 };
 
 }  // namespace larkspan::bridge

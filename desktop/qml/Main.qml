@@ -70,6 +70,21 @@ Window {
                 onWentBack: incidentPage.incident.isEditing ? incidentPage.incident.close() : incidentPage.goBack()
             }
         }
+        PushedPage {
+            id: maintenancePage
+            readonly property MaintenanceListBridge maintenances: window.dashboard.openedPage ? window.dashboard.openedPage.maintenances : null
+            readonly property MaintenanceDetailBridge maintenance: maintenances ? maintenances.detail : null
+
+            isShown: maintenance !== null
+            beneath: statusPage
+            isGuarded: maintenance !== null && maintenance.isEditing
+            onBackWanted: maintenance.requestClose()
+            onDismissed: maintenances.closeDetail()
+            sourceComponent: MaintenanceDetailView {
+                maintenance: maintenancePage.maintenance
+                onWentBack: maintenancePage.maintenance.isEditing ? maintenancePage.maintenance.close() : maintenancePage.goBack()
+            }
+        }
     }
 
     PopupLoader {

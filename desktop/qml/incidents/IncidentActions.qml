@@ -12,16 +12,6 @@ Item {
 
     implicitHeight: card.y + card.height
 
-    component ActionCommand: CommandButton {
-        required property actionButton modelData
-        text: modelData.label
-        symbol: modelData.symbol
-        tone: modelData.tone
-        isProminent: modelData.isProminent
-        enabled: modelData.isEnabled
-        onClicked: actions.incident.press(modelData.id)
-    }
-
     Rectangle {
         id: card
         y: Theme.margin
@@ -44,6 +34,7 @@ Item {
             Repeater {
                 model: actions.buttons
                 ActionCommand {
+                    onPressedById: id => actions.incident.press(id)
                     transform: Translate { x: modelData.isProminent ? Math.max(0, row.gap) : 0 }
                 }
             }
@@ -59,6 +50,7 @@ Item {
             Repeater {
                 model: actions.buttons
                 ActionCommand {
+                    onPressedById: id => actions.incident.press(id)
                     visible: modelData.isProminent
                     anchors.horizontalCenter: parent.horizontalCenter
                 }
@@ -77,6 +69,7 @@ Item {
                 Repeater {
                     model: actions.buttons
                     ActionCommand {
+                        onPressedById: id => actions.incident.press(id)
                         visible: !modelData.isProminent
                     }
                 }

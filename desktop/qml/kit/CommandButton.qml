@@ -10,7 +10,8 @@ T.Button {
     property bool isDestructive: false
     property string symbol
     property int tone: Tone.Primary
-    readonly property color ink: isProminent ? Theme.accentText : isDestructive ? Theme.red : Theme.toneColor(tone)
+    readonly property bool isTinted: tone !== Tone.Primary
+    readonly property color ink: isProminent ? (isTinted ? Theme.toneText : Theme.accentText) : isDestructive ? Theme.red : Theme.toneColor(tone)
 
     implicitWidth: Math.max(implicitContentWidth + leftPadding + rightPadding, Theme.controlHeight * 2)
     implicitHeight: Math.max(Theme.controlHeight, implicitContentHeight + topPadding + bottomPadding)
@@ -52,9 +53,9 @@ T.Button {
 
     background: Rectangle {
         radius: Theme.controlRadius
-        color: button.isProminent ? Theme.accent : Theme.card
+        color: !button.isProminent ? Theme.card : button.isTinted ? Theme.toneColor(button.tone) : Theme.accent
         border.width: button.isProminent ? 0 : Theme.hairline
-        border.color: button.tone === Tone.Primary ? Theme.line : button.ink
+        border.color: button.isTinted ? button.ink : Theme.line
 
         Rectangle {
             anchors.fill: parent

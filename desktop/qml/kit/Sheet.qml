@@ -7,7 +7,7 @@ import Larkspan
 ModalDialog {
     id: sheet
     property int preferredWidth: Theme.sheetWidth
-    default property alias content: column.data
+    default property alias content: scroller.content
     property alias barItems: bar.trailing
     property alias barLeading: bar.leading
     // A sheet whose text could be lost decides itself what Escape does.
@@ -21,7 +21,7 @@ ModalDialog {
     closePolicy: closesByItself ? T.Popup.CloseOnEscape : T.Popup.NoAutoClose
 
     width: parent ? Math.min(preferredWidth * Theme.scale, parent.width - 2 * Theme.margin) : 0
-    height: parent ? Math.min(Theme.headerHeight + column.implicitHeight + 2 * Theme.margin, parent.height - 2 * Theme.margin) : 0
+    height: parent ? Math.min(Theme.headerHeight + scroller.contentHeight, parent.height - 2 * Theme.margin) : 0
 
     contentItem: FocusScope {
         focus: true
@@ -33,10 +33,6 @@ ModalDialog {
         Accessible.role: Accessible.Dialog
         Accessible.name: sheet.title
 
-        // Whatever the keyboard reaches is to be seen.
-        readonly property Item focusedItem: Window.activeFocusItem
-        onFocusedItemChanged: scroller.reveal(focusedItem)
-
         HeaderBar {
             id: bar
             width: parent.width
@@ -44,33 +40,10 @@ ModalDialog {
             title: sheet.title
         }
 
-        Flickable {
+        FormScroller {
             id: scroller
             anchors.fill: parent
             anchors.topMargin: bar.height
-            contentHeight: column.implicitHeight + 2 * Theme.margin
-            boundsBehavior: Flickable.StopAtBounds
-            clip: true
-
-            function reveal(item: Item) {
-                let ancestor = item
-                while (ancestor && ancestor !== column) ancestor = ancestor.parent
-                if (!ancestor) return
-                const top = item.mapToItem(contentItem, 0, 0).y - Theme.margin
-                const bottom = top + item.height + 2 * Theme.margin
-                if (top < contentY) contentY = Math.max(0, top)
-                else if (bottom > contentY + height) contentY = Math.min(contentHeight, bottom) - height
-            }
-
-            Column {
-                id: column
-                x: Theme.margin
-                y: Theme.margin
-                width: scroller.width - 2 * Theme.margin
-                spacing: 2 * Theme.unit
-            }
-
-            T.ScrollBar.vertical: SlimScrollBar {}
         }
 
         BusyOverlay {

@@ -28,6 +28,8 @@ QtObject {
     readonly property color pressed: Qt.alpha(text, 0.12)
     readonly property color shadow: isDark ? "#80000000" : "#30000000"
     readonly property color accentOnCard: isDark ? blue : accent
+    // Of what stands on the full colour of a tone.
+    readonly property color toneText: isDark ? window : accentText
     readonly property color dimming: "#66000000"
     readonly property color veil: "#33000000"
     readonly property real pillOpacity: 0.15
@@ -78,6 +80,10 @@ QtObject {
     readonly property int wideGap: 10
     readonly property int titleHeight: 22
     readonly property int detailTitleHeight: 38
+    readonly property int smallDetailTitleHeight: 34
+    readonly property int calendarCellWidth: Math.round(36 * scale)
+    readonly property int calendarCellHeight: Math.round(30 * scale)
+    readonly property int timeFieldWidth: Math.round(44 * scale)
     readonly property int toggleWidth: Math.round(36 * scale)
     readonly property int toggleHeight: Math.round(20 * scale)
     readonly property int itemIndent: Math.round(8 * scale)

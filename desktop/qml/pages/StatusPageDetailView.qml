@@ -11,12 +11,20 @@ ScreenFrame {
 
     title: page.title
     canGoBack: true
-    trailing: ToolbarButton {
-        visible: view.page.incidents !== null
-        symbol: "plus"
-        help: qsTr("New Incident")
-        onClicked: view.page.incidents.openForm()
-    }
+    trailing: [
+        ToolbarButton {
+            visible: view.page.incidents !== null
+            symbol: "plus"
+            help: qsTr("New Incident")
+            onClicked: view.page.incidents.openForm()
+        },
+        ToolbarButton {
+            visible: view.page.maintenances !== null
+            symbol: "plus"
+            help: qsTr("New Maintenance")
+            onClicked: view.page.maintenances.openForm()
+        }
+    ]
 
     SegmentedPicker {
         id: picker
@@ -34,13 +42,21 @@ ScreenFrame {
         anchors.fill: parent
         anchors.topMargin: picker.y + picker.height
         focus: true
-        sourceComponent: view.page.incidents ? incidents : view.page.selectedTab === 0 ? overview : null
+        sourceComponent: view.page.incidents ? incidents
+            : view.page.maintenances ? maintenances
+            : view.page.selectedTab === 0 ? overview : null
         onLoaded: item.focus = true
     }
     Component {
         id: incidents
         StatusPageIncidentsView {
             incidents: view.page.incidents
+        }
+    }
+    Component {
+        id: maintenances
+        StatusPageMaintenancesView {
+            maintenances: view.page.maintenances
         }
     }
     Component {
@@ -54,14 +70,23 @@ ScreenFrame {
         isShown: view.page.incidents !== null && view.page.incidents.form !== null
         onDismissed: view.page.incidents.form.cancel()
         sourceComponent: CreateIncidentView {
-            form: view.page.incidents.form
+            incident: view.page.incidents.form
+        }
+    }
+    PopupLoader {
+        isShown: view.page.maintenances !== null && view.page.maintenances.form !== null
+        onDismissed: view.page.maintenances.form.cancel()
+        sourceComponent: CreateMaintenanceView {
+            maintenance: view.page.maintenances.form
         }
     }
 
     Shortcut {
         sequences: ["F5", "Ctrl+R"]
         enabled: view.visible
-        onActivated: view.page.incidents ? view.page.incidents.refresh() : view.accountWanted()
+        onActivated: view.page.incidents ? view.page.incidents.refresh()
+            : view.page.maintenances ? view.page.maintenances.refresh()
+            : view.accountWanted()
     }
     Shortcut {
         sequences: ["Ctrl+PgDown"]
