@@ -44,29 +44,23 @@ ScreenFrame {
     TableOffsets {
         id: tableOffsets
     }
-    PopupLoader {
+    ConfirmLoader {
         isShown: view.incident.showsDeleteConfirmation
+        confirmation: view.incident.deleteConfirmation
         onDismissed: view.incident.cancelDelete()
-        sourceComponent: ConfirmDialog {
-            confirmation: view.incident.deleteConfirmation
-            onConfirmed: view.incident.deleteIncident()
-        }
+        onConfirmed: view.incident.deleteIncident()
     }
-    PopupLoader {
+    ConfirmLoader {
         isShown: view.incident.showsDiscardConfirmation
+        confirmation: view.incident.discardConfirmation
         onDismissed: view.incident.keepEditing()
-        sourceComponent: ConfirmDialog {
-            confirmation: view.incident.discardConfirmation
-            onConfirmed: view.incident.discardChanges()
-        }
+        onConfirmed: view.incident.discardChanges()
     }
-    PopupLoader {
+    ConfirmLoader {
         isShown: view.incident.message.asksAboutLink
+        confirmation: view.incident.message.linkConfirmation
+        isDestructive: false
         onDismissed: view.incident.message.cancelLink()
-        sourceComponent: ConfirmDialog {
-            confirmation: view.incident.message.linkConfirmation
-            isDestructive: false
-            onConfirmed: view.incident.message.openLink()
-        }
+        onConfirmed: view.incident.message.openLink()
     }
 }
