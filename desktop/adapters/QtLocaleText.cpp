@@ -41,9 +41,16 @@ QString separatorOf(const QString& longFormat)
     return behindWeekday.match(longFormat).captured(1) + u' ';
 }
 
-QDateTime localTime(support::Time moment)
+QDateTime inTheZone(support::Time moment)
 {
     return QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count(), Qt::LocalTime);
+}
+
+// Some scripts write a word behind the number, which their format of a date has too.
+QString yearText(const QString& dateFormat, int year)
+{
+    static const QRegularExpression yearAndWord(QStringLiteral("y+([^\\s\\w',/-]|[년年])?"));
+    return QString::number(year) + yearAndWord.match(dateFormat).captured(1);
 }
 
 QString text(std::string_view utf8)
@@ -65,23 +72,51 @@ QtLocaleText::QtLocaleText(const QLocale& locale)
 
 std::string QtLocaleText::dateOnly(support::Time moment) const
 {
-    return locale_.toString(localTime(moment).date(), dateFormat_).toStdString();
+    return locale_.toString(inTheZone(moment).date(), dateFormat_).toStdString();
 }
 
 std::string QtLocaleText::timeOnly(support::Time moment) const
 {
-    return locale_.toString(localTime(moment).time(), QLocale::ShortFormat).toStdString();
+    return locale_.toString(inTheZone(moment).time(), QLocale::ShortFormat).toStdString();
 }
 
 std::string QtLocaleText::dayAndTime(support::Time moment) const
 {
-    return locale_.toString(localTime(moment), dayAndTimeFormat_).toStdString();
+    return locale_.toString(inTheZone(moment), dayAndTimeFormat_).toStdString();
 }
 
-std::chrono::local_days QtLocaleText::day(support::Time moment) const
+std::chrono::seconds QtLocaleText::utcOffset(support::Time moment) const
 {
-    static const auto julianDayOfTheEpoch = QDate(1970, 1, 1).toJulianDay();
-    return std::chrono::local_days(std::chrono::days(localTime(moment).date().toJulianDay() - julianDayOfTheEpoch));
+    return std::chrono::seconds(inTheZone(moment).offsetFromUtc());
+}
+
+std::string QtLocaleText::zoneName(support::Time moment) const
+{
+    return inTheZone(moment).timeZoneAbbreviation().toStdString();
+}
+
+std::chrono::weekday QtLocaleText::firstDayOfWeek() const
+{
+    return std::chrono::weekday(static_cast<unsigned>(locale_.firstDayOfWeek()));
+}
+
+std::string QtLocaleText::weekdayName(std::chrono::weekday day) const
+{
+    return locale_.standaloneDayName(static_cast<int>(day.iso_encoding()), QLocale::ShortFormat).toStdString();
+}
+
+std::string QtLocaleText::monthAndYear(std::chrono::year_month month) const
+{
+    const auto name = locale_.standaloneMonthName(static_cast<int>(static_cast<unsigned>(month.month())));
+    const auto year = yearText(dateFormat_, static_cast<int>(month.year()));
+    const bool isYearFirst = dateFormat_.indexOf(u'y') < dateFormat_.indexOf(u'M');
+    return (isYearFirst ? year + u' ' + name : name + u' ' + year).toStdString();
+}
+
+std::optional<platform::LocaleText::DayHalves> QtLocaleText::dayHalves() const
+{
+    if (!locale_.timeFormat(QLocale::ShortFormat).contains(u'a', Qt::CaseInsensitive)) return std::nullopt;
+    return DayHalves{locale_.amText().toStdString(), locale_.pmText().toStdString()};
 }
 
 std::weak_ordering QtLocaleText::compareIgnoringCase(std::string_view left, std::string_view right) const

@@ -16,7 +16,12 @@ public:
     std::string dateOnly(support::Time moment) const override;
     std::string timeOnly(support::Time moment) const override;
     std::string dayAndTime(support::Time moment) const override;
-    std::chrono::local_days day(support::Time moment) const override;
+    std::chrono::seconds utcOffset(support::Time moment) const override;
+    std::string zoneName(support::Time moment) const override;
+    std::chrono::weekday firstDayOfWeek() const override;
+    std::string weekdayName(std::chrono::weekday day) const override;
+    std::string monthAndYear(std::chrono::year_month month) const override;
+    std::optional<DayHalves> dayHalves() const override;
     std::weak_ordering compareIgnoringCase(std::string_view left, std::string_view right) const override;
 
 private:

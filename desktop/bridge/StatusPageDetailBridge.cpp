@@ -41,6 +41,7 @@ void StatusPageDetailBridge::readState()
     uptime_ = valuesOf<FactValue>(overview.uptime);
     incidents_.follow(view_->incidents(), updates_);
     monitors_.follow(view_->monitors(), updates_);
+    components_.follow(view_->components(), updates_);
 }
 
 }  // namespace larkspan::bridge

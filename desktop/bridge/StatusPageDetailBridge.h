@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "bridge/ChildScreen.h"
+#include "bridge/ComponentListBridge.h"
 #include "bridge/IncidentListBridge.h"
 #include "bridge/MonitorListBridge.h"
 #include "bridge/RowListModel.h"
@@ -38,6 +39,8 @@ class StatusPageDetailBridge : public ScreenBridge {
     Q_PROPERTY(larkspan::bridge::IncidentListBridge* incidents READ incidents NOTIFY changed)
     /// The screen of the tab "Monitors"; null while another is selected.
     Q_PROPERTY(larkspan::bridge::MonitorListBridge* monitors READ monitors NOTIFY changed)
+    /// The screen of the tab "Components"; null while another is selected.
+    Q_PROPERTY(larkspan::bridge::ComponentListBridge* components READ components NOTIFY changed)
 
 public:
     StatusPageDetailBridge(
@@ -50,6 +53,7 @@ public:
     ListModel* activity() { return &activity_; }
     IncidentListBridge* incidents() const { return incidents_.get(); }
     MonitorListBridge* monitors() const { return monitors_.get(); }
+    ComponentListBridge* components() const { return components_.get(); }
 
     Q_INVOKABLE void select(int tab);
     Q_INVOKABLE void selectNext() { view_->selectNext(); }
@@ -69,6 +73,7 @@ private:
     QList<FactValue> uptime_;
     ChildScreen<IncidentListBridge, incidents::StatusPageIncidentsView> incidents_;
     ChildScreen<MonitorListBridge, monitors::StatusPageMonitorsView> monitors_;
+    ChildScreen<ComponentListBridge, components::StatusPageComponentsView> components_;
 };
 
 }  // namespace larkspan::bridge

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,11 @@ struct Scene {
     /// The help of the toolbar's button that is pressed before the picture is taken; empty for none.
     std::string pressed = {};
 };
+
+inline void PrintTo(const Scene& scene, std::ostream* out)
+{
+    *out << scene.name;
+}
 
 /// Every state of every screen.
 std::vector<Scene> scenes();

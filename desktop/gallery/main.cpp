@@ -4,49 +4,18 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QProcess>
-#include <QQuickItem>
 #include <QQuickWindow>
-#include <QTimer>
 
 #include <cstdio>
 
 #include "adapters/MainExecutor.h"
 #include "gallery/Scene.h"
-#include "gallery/Stage.h"
-#include "qml/MainWindow.h"
+#include "gallery/ShownScene.h"
 #include "qml/Renderer.h"
 
 namespace larkspan::gallery {
 
 namespace {
-
-void settle()
-{
-    // Long enough for a few frames; there is no motion to wait for.
-    QEventLoop loop;
-    QTimer::singleShot(80, &loop, &QEventLoop::quit);
-    loop.exec();
-}
-
-/// Puts the text that a scene's sheet knows of into its field, as a hand would have.
-void typeWhatIsKnown(QQuickWindow& window, Stage& stage)
-{
-    const auto& settings = stage.dashboard().settings();
-    if (!settings || settings->apiKey->empty()) return;
-    for (auto* const item : window.findChildren<QQuickItem*>()) {
-        if (item->property("echoMode").isValid()) item->setProperty("text", QString::fromStdString(*settings->apiKey));
-    }
-    settle();
-}
-
-/// Presses the toolbar's button with this help.
-void press(QQuickWindow& window, const QString& help)
-{
-    for (auto* const item : window.findChildren<QQuickItem*>()) {
-        if (item->property("help").toString() == help) QMetaObject::invokeMethod(item, "clicked");
-    }
-    settle();
-}
 
 class Photographer {
 public:
@@ -58,27 +27,15 @@ public:
 
     void take(const Scene& scene, bool isDark)
     {
-        QFont font = QGuiApplication::font();
-        font.setPointSizeF(scene.fontPointSize);
-        QGuiApplication::setFont(font);
-
-        Stage stage(main_);
-        MainWindow mainWindow(stage.content(), main_);
-        mainWindow.appearance().setProperty("isDark", isDark);
-        mainWindow.appearance().setProperty("reducesMotion", true);
-        scene.arrange(stage);
-        mainWindow.window().resize(scene.width, scene.height);
-        mainWindow.window().show();
-        settle();
-        typeWhatIsKnown(mainWindow.window(), stage);
-        if (!scene.pressed.empty()) press(mainWindow.window(), QString::fromStdString(scene.pressed));
-
+        auto look = ShownScene::Look::of(scene);
+        look.isDark = isDark;
+        const ShownScene shown(scene, look, main_);
         const auto scale = qGuiApp->devicePixelRatio();
         const auto name = QStringLiteral("%1/%2-%3@%4x.png")
                               .arg(folder_, QString::fromStdString(scene.name),
                                   isDark ? QStringLiteral("dark") : QStringLiteral("light"))
                               .arg(scale);
-        if (!mainWindow.window().grabWindow().save(name)) qFatal("cannot write %s", qPrintable(name));
+        if (!shown.window().grabWindow().save(name)) qFatal("cannot write %s", qPrintable(name));
     }
 
 private:

@@ -83,6 +83,21 @@ Window {
                 onWentBack: monitorPage.goBack()
             }
         }
+        PushedPage {
+            id: componentPage
+            readonly property ComponentListBridge components: window.dashboard.openedPage ? window.dashboard.openedPage.components : null
+            readonly property ComponentDetailBridge detail: components ? components.detail : null
+
+            isShown: detail !== null
+            beneath: statusPage
+            isGuarded: detail !== null && (detail.isEditing || detail.isBusy)
+            onBackWanted: detail.requestClose()
+            onDismissed: components.closeDetail()
+            sourceComponent: ComponentDetailView {
+                detail: componentPage.detail
+                onWentBack: componentPage.detail.isEditing ? componentPage.detail.close() : componentPage.goBack()
+            }
+        }
     }
 
     PopupLoader {

@@ -18,9 +18,6 @@ public:
 
     /// The list, in the order in which the service gave it.
     support::Published<std::vector<model::Incident>>& incidents = records;
-
-    /// Puts an incident that was just made at the head, where it stands until the next load.
-    void insertFirst(model::Incident incident);
 };
 
 }  // namespace larkspan::incidents

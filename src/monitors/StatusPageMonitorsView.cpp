@@ -104,7 +104,7 @@ void StatusPageMonitorsView::openMonitor(const std::string& id)
     const auto view = weak_from_this();
     MonitorDetailView::Owner owner{.onUpdate =
                                        [view](const Monitor& refreshed) {
-                                           if (const auto self = view.lock()) self->viewModel->patch(refreshed);
+                                           if (const auto self = view.lock()) self->viewModel->replace(refreshed);
                                        },
         .dismiss =
             [view] {

@@ -77,7 +77,7 @@ Task<void> StatusPageMonitorsViewModel::refreshMonitor(
         co_return;
     }
     const auto refreshed = std::ranges::find(fetched, id, &Monitor::id);
-    if (refreshed != fetched.end()) self->patch(std::move(*refreshed));
+    if (refreshed != fetched.end()) self->replace(std::move(*refreshed));
 }
 
 void StatusPageMonitorsViewModel::setPerforming(const std::string& id, bool isPerforming)

@@ -4,6 +4,7 @@
 #include <exception>
 #include <functional>
 #include <memory>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -44,13 +45,30 @@ public:
         support::start(main_, fetchRecords(this->shared_from_this()));
     }
 
-    /// Puts `changed` in the place of the first record with its id; nothing if there is none.
-    void patch(Record changed)
+    /// Puts a record that was just made at the head, where it stands until the next load.
+    void insertFirst(Record created)
+    {
+        auto patched = *records;
+        // A load that ran beside its creation may have brought it already.
+        std::erase_if(patched, [&created](const Record& known) { return known.id == created.id; });
+        patched.insert(patched.begin(), std::move(created));
+        records = std::move(patched);
+    }
+
+    /// Puts `changed` in the place of the first record of its id; nothing if there is none.
+    void replace(Record changed)
     {
         auto patched = *records;
         const auto known = std::ranges::find(patched, changed.id, &Record::id);
         if (known == patched.end()) return;
         *known = std::move(changed);
+        records = std::move(patched);
+    }
+
+    void remove(const std::string& id)
+    {
+        auto patched = *records;
+        std::erase_if(patched, [&id](const Record& known) { return known.id == id; });
         records = std::move(patched);
     }
 

@@ -30,13 +30,13 @@ void StatusPageDetailView::leave()
     incidents_.reset();
     monitors_.reset();
     components_.reset();
+    maintenances_.reset();
 }
 
 void StatusPageDetailView::enter(Tab tab)
 {
     switch (tab) {
-    case Tab::overview:
-    case Tab::maintenances: break;
+    case Tab::overview: break;
     case Tab::incidents:
         incidents_ = std::make_shared<incidents::StatusPageIncidentsView>(
             incidents::StatusPageIncidentsView::Ports{ports_.main, ports_.api, ports_.api, ports_.api,
@@ -54,6 +54,12 @@ void StatusPageDetailView::enter(Tab tab)
             components::StatusPageComponentsView::Ports{ports_.main, ports_.api, ports_.credentials, ports_.links},
             page->id);
         return components_->appear();
+    case Tab::maintenances:
+        maintenances_ = std::make_shared<maintenances::StatusPageMaintenancesView>(
+            maintenances::StatusPageMaintenancesView::Ports{ports_.main, ports_.api, ports_.api, ports_.api,
+                ports_.credentials, ports_.clock, ports_.locale, ports_.links},
+            page->id);
+        return maintenances_->appear();
     }
 }
 

@@ -9,6 +9,7 @@
 #include "components/StatusPageComponentsView.h"
 #include "core/AppStateManager.h"
 #include "incidents/StatusPageIncidentsView.h"
+#include "maintenances/StatusPageMaintenancesView.h"
 #include "model/StatusPage.h"
 #include "monitors/StatusPageMonitorsView.h"
 #include "platform/Clock.h"
@@ -62,6 +63,8 @@ public:
     const std::shared_ptr<monitors::StatusPageMonitorsView>& monitors() const { return monitors_; }
     /// The screen of the tab "Components"; null while another is selected.
     const std::shared_ptr<components::StatusPageComponentsView>& components() const { return components_; }
+    /// The same for "Maintenances".
+    const std::shared_ptr<maintenances::StatusPageMaintenancesView>& maintenances() const { return maintenances_; }
 
     /// Opens the page as the public sees it; what is no web address is not opened.
     void openPublicURL() const;
@@ -74,6 +77,7 @@ private:
     std::shared_ptr<incidents::StatusPageIncidentsView> incidents_;
     std::shared_ptr<monitors::StatusPageMonitorsView> monitors_;
     std::shared_ptr<components::StatusPageComponentsView> components_;
+    std::shared_ptr<maintenances::StatusPageMaintenancesView> maintenances_;
 };
 
 /// The label of a tab's segment.

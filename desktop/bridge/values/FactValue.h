@@ -19,6 +19,7 @@ struct FactValue {
     Q_PROPERTY(int tone MEMBER tone)
     Q_PROPERTY(bool isLink MEMBER isLink)
     Q_PROPERTY(QString caption MEMBER caption)
+    Q_PROPERTY(QString symbol MEMBER symbol)
 
 public:
     QString label{};
@@ -26,10 +27,12 @@ public:
     int tone = Tone::Secondary;
     bool isLink = false;
     QString caption{};
+    QString symbol{};
 
     static FactValue of(const presentation::Fact& fact)
     {
-        return {words(fact.label), words(fact.text), toneOf(fact.tone), !fact.destination.empty(), words(fact.caption)};
+        return {words(fact.label), words(fact.text), toneOf(fact.tone), !fact.destination.empty(), words(fact.caption),
+            words(fact.symbol)};
     }
 
     bool operator==(const FactValue&) const = default;

@@ -6,6 +6,8 @@ import Larkspan.Bridge
 Rectangle {
     id: notice
     required property DashboardBridge dashboard
+    // It lies over the end of the list, which scrolls free of it.
+    readonly property bool floats: true
 
     implicitWidth: content.implicitWidth + 3 * Theme.unit
     implicitHeight: content.implicitHeight + 2 * Theme.unit

@@ -2,8 +2,8 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// What can be done to an incident: in one row where there is room for it, else one below the other. In the editor, sending
-// what was typed.
+// What can be done to an incident: in one row where there is room for it, else one below the other, with what takes it on
+// side by side. In the editor, sending what was typed.
 Item {
     id: actions
     required property IncidentDetailBridge incident
@@ -14,6 +14,8 @@ Item {
 
     component ActionCommand: CommandButton {
         required property actionButton modelData
+        required property int index
+        readonly property bool isPaired: index < 2
         text: modelData.label
         symbol: modelData.symbol
         tone: modelData.tone
@@ -68,17 +70,35 @@ Item {
                 height: Theme.hairline
                 color: Theme.line
             }
-            Flow {
-                id: flow
+            Grid {
+                id: pair
+                readonly property real wordsWidth: {
+                    let sum = Theme.wideGap
+                    for (let at = 0; at < paired.count; ++at) {
+                        const button = paired.itemAt(at) as ActionCommand
+                        if (button && button.isPaired) sum += button.implicitWidth
+                    }
+                    return sum
+                }
+
                 anchors.horizontalCenter: parent.horizontalCenter
-                width: Math.min(parent.width, flow.implicitWidth)
+                columns: pair.wordsWidth > column.width ? 1 : 2
+                horizontalItemAlignment: Grid.AlignHCenter
                 spacing: Theme.wideGap
 
                 Repeater {
+                    id: paired
                     model: actions.buttons
                     ActionCommand {
-                        visible: !modelData.isProminent
+                        visible: isPaired
                     }
+                }
+            }
+            Repeater {
+                model: actions.buttons
+                ActionCommand {
+                    visible: !isPaired && !modelData.isProminent
+                    anchors.horizontalCenter: parent.horizontalCenter
                 }
             }
         }

@@ -42,7 +42,7 @@ Column {
         width: parent.width
         title: qsTr("Timeline")
         symbol: "clock.arrow.circlepath"
-        spacing: Theme.unit
+        contentSpacing: Theme.unit
 
         Repeater {
             model: facts.incident.timeline

@@ -35,21 +35,22 @@ CardRow {
                 text: delegate.row.title
                 font.weight: Font.DemiBold
             }
-            Row {
+            // The date goes below the severity where a large font leaves no room beside it.
+            Flow {
+                width: parent.width
                 spacing: Theme.narrowGap
 
                 Pill {
+                    id: severity
                     visible: delegate.row.severity.text !== ""
-                    anchors.verticalCenter: parent.verticalCenter
                     pill: delegate.row.severity
                     pointSize: Theme.caption2
                     isBold: true
                     tint: Theme.badgeOpacity
                     sidePadding: Theme.halfUnit
-                    topPadding: Theme.halfUnit / 2
                 }
                 Label {
-                    anchors.verticalCenter: parent.verticalCenter
+                    height: severity.visible ? Math.max(implicitHeight, severity.height) : implicitHeight
                     text: delegate.row.date
                     font.pointSize: Theme.caption
                     color: Theme.secondary

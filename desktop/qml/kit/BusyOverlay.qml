@@ -6,6 +6,7 @@ Rectangle {
     id: overlay
     // What is under way; without, nobody is told but that something is.
     property string text
+    readonly property bool floats: true
 
     anchors.fill: parent
     z: 2

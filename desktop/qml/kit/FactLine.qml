@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A labelled value in one line; one that is a link leads out of the program.
+// A labelled value in one line, with a symbol before it where there is one; one that is a link leads out of the program.
 Item {
     id: line
     required property fact fact
@@ -10,9 +10,19 @@ Item {
 
     implicitHeight: Math.max(label.implicitHeight, value.implicitHeight)
 
+    Symbol {
+        id: mark
+        anchors.verticalCenter: parent.verticalCenter
+        visible: line.fact.symbol !== ""
+        width: Theme.smallIconSize
+        height: width
+        name: line.fact.symbol
+        color: Theme.secondary
+    }
     Label {
         id: label
-        width: Math.min(implicitWidth, line.width / 2 - Theme.unit)
+        x: mark.visible ? Theme.iconSize + Theme.unit : 0
+        width: Math.min(implicitWidth, line.width / 2 - Theme.unit - x)
         height: parent.height
         text: line.fact.label
         color: Theme.secondary
@@ -24,13 +34,13 @@ Item {
 
         LinkLabel {
             visible: line.fact.isLink
-            width: Math.min(implicitWidth, line.width - label.width - 2 * Theme.unit)
+            width: Math.min(implicitWidth, line.width - label.x - label.width - 2 * Theme.unit)
             text: line.fact.text
             onClicked: line.followed()
         }
         Label {
             visible: !line.fact.isLink
-            width: Math.min(implicitWidth, line.width - label.width - caption.width - 3 * Theme.unit)
+            width: Math.min(implicitWidth, line.width - label.x - label.width - caption.width - 3 * Theme.unit)
             text: line.fact.text
             font.weight: line.fact.tone === Tone.Secondary ? Font.Normal : Font.Medium
             color: Theme.toneColor(line.fact.tone)

@@ -9,6 +9,7 @@ Column {
     property string symbol
     // Without, the title stands over what follows below.
     property bool hasCard: true
+    property alias contentSpacing: column.spacing
     default property alias content: column.data
 
     spacing: Theme.unit

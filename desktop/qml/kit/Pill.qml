@@ -11,9 +11,12 @@ Rectangle {
     property real sidePadding: Theme.unit
     property real topPadding: Theme.halfUnit
     property bool isBold: false
+    property int weight: isBold ? Font.Bold : Font.Normal
+    readonly property real symbolWidth: pill.symbol === "" ? 0 : Theme.smallIconSize + content.spacing
 
-    implicitWidth: content.implicitWidth + 2 * sidePadding
+    implicitWidth: symbolWidth + label.implicitWidth + 2 * sidePadding
     implicitHeight: label.implicitHeight + 2 * topPadding
+    baselineOffset: content.y + label.y + label.baselineOffset
     radius: Theme.pillRadius
     color: Qt.alpha(Theme.toneColor(pill.tone), tint)
 
@@ -32,10 +35,12 @@ Rectangle {
         }
         Label {
             id: label
+            width: Math.min(implicitWidth, shape.width - shape.symbolWidth - 2 * shape.sidePadding)
             text: shape.pill.text
+            maximumLineCount: 1
             color: Theme.toneColor(shape.pill.tone)
             font.pointSize: shape.pointSize
-            font.weight: shape.isBold ? Font.Bold : Font.Normal
+            font.weight: shape.weight
         }
     }
 }

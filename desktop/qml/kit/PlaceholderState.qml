@@ -32,7 +32,7 @@ Column {
         text: state.placeholder.title
         horizontalAlignment: Text.AlignHCenter
         font.pointSize: Theme.title3
-        font.weight: Font.DemiBold
+        font.weight: Font.Bold
         wrapMode: Text.Wrap
         Accessible.role: Accessible.Heading
     }

@@ -10,6 +10,7 @@ FocusScope {
     property alias showsContent: area.showsContent
     property alias placeholder: area.placeholder
     property bool isBusy: false
+    property alias busyText: overlay.text
     property string alert
     property alias status: header.status
     property alias canGoBack: header.canGoBack
@@ -37,6 +38,7 @@ FocusScope {
         onSettingsRequested: frame.settingsRequested()
     }
     BusyOverlay {
+        id: overlay
         visible: frame.isBusy
     }
     PopupLoader {

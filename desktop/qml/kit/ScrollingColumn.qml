@@ -2,21 +2,28 @@ import QtQuick
 import QtQuick.Templates as T
 import Larkspan
 
-// Things one below the other that scroll where the window is small. Whatever the keyboard reaches is brought into sight.
+// Things one below the other, which scroll where there is no room for all. Whatever the keyboard reaches is to be seen;
+// with the focus on the column itself, the arrows, the page keys, Home and End scroll.
 Flickable {
     id: scroller
-    default property alias content: column.data
-    property alias spacing: column.spacing
+    // What a screen reader says of the column, where it can have the focus.
+    property string name
     // No wider than this; the rest is margin on both sides.
     property real widest: Infinity
-    readonly property real wantedHeight: column.implicitHeight + 2 * Theme.margin
+    default property alias content: column.data
+    property alias spacing: column.spacing
+    readonly property bool isScrollable: contentHeight > height
+    readonly property Item focusedItem: Window.activeFocusItem
 
-    contentHeight: wantedHeight
+    contentHeight: column.implicitHeight + 2 * Theme.margin
     boundsBehavior: Flickable.StopAtBounds
     clip: true
-
-    readonly property Item focusedItem: Window.activeFocusItem
+    Accessible.role: Accessible.Pane
+    Accessible.name: name
+    Accessible.ignored: name === ""
+    Accessible.focusable: activeFocusOnTab
     onFocusedItemChanged: reveal(focusedItem)
+
     function reveal(item: Item) {
         let ancestor = item
         while (ancestor && ancestor !== column) ancestor = ancestor.parent
@@ -28,24 +35,32 @@ Flickable {
     }
 
     Keys.onPressed: event => {
-        const page = height - Theme.rowHeight
-        const step = {
-            [Qt.Key_Up]: -Theme.rowHeight,
-            [Qt.Key_Down]: Theme.rowHeight,
-            [Qt.Key_PageUp]: -page,
-            [Qt.Key_PageDown]: page
+        const target = {
+            [Qt.Key_Up]: contentY - Theme.rowHeight,
+            [Qt.Key_Down]: contentY + Theme.rowHeight,
+            [Qt.Key_PageUp]: contentY - height + Theme.rowHeight,
+            [Qt.Key_PageDown]: contentY + height - Theme.rowHeight,
+            [Qt.Key_Home]: 0,
+            [Qt.Key_End]: contentHeight
         }[event.key]
-        event.accepted = step !== undefined
-        if (event.accepted) contentY = Math.max(0, Math.min(contentHeight - height, contentY + step))
+        event.accepted = activeFocus && isScrollable && target !== undefined && event.modifiers === Qt.NoModifier
+        if (event.accepted) contentY = Math.max(0, Math.min(target, contentHeight - height))
     }
 
     Column {
         id: column
-        readonly property real margin: Math.max(Theme.margin, Math.round((scroller.width - scroller.widest) / 2))
-        x: margin
+        width: Math.min(scroller.width - 2 * Theme.margin, scroller.widest)
+        x: Math.round((scroller.width - width) / 2)
         y: Theme.margin
-        width: scroller.width - 2 * margin
         spacing: 2 * Theme.unit
+    }
+    Rectangle {
+        parent: scroller
+        anchors.fill: parent
+        visible: scroller.activeFocus && scroller.isScrollable && InputHand.isKeyboard
+        color: "transparent"
+        border.width: Theme.focusWidth
+        border.color: Theme.focus
     }
 
     T.ScrollBar.vertical: SlimScrollBar {}

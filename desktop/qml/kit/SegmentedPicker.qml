@@ -6,7 +6,10 @@ Rectangle {
     id: picker
     required property string name
     required property list<string> segments
+    // -1 lights none.
     required property int selected
+    // What is chosen is a screen, and not a value.
+    property bool choosesTab: true
     signal chosen(int segment)
 
     readonly property real room: width - 2 * Theme.halfUnit
@@ -20,7 +23,7 @@ Rectangle {
     radius: Theme.controlRadius + Theme.halfUnit
     color: Theme.hover
     activeFocusOnTab: true
-    Accessible.role: Accessible.PageTabList
+    Accessible.role: choosesTab ? Accessible.PageTabList : Accessible.Grouping
     Accessible.name: name
     Accessible.focusable: true
     Keys.onLeftPressed: event => choose(selected - 1, event)
@@ -54,9 +57,11 @@ Rectangle {
                 activeFocusOnTab: false
                 text: modelData
                 onClicked: picker.chosen(index)
-                Accessible.role: Accessible.PageTab
-                Accessible.selectable: true
-                Accessible.selected: isSelected
+                Accessible.role: picker.choosesTab ? Accessible.PageTab : Accessible.RadioButton
+                Accessible.selectable: picker.choosesTab
+                Accessible.selected: picker.choosesTab && isSelected
+                Accessible.checkable: !picker.choosesTab
+                Accessible.checked: !picker.choosesTab && isSelected
 
                 Rectangle {
                     anchors.fill: parent

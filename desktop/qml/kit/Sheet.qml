@@ -7,7 +7,7 @@ import Larkspan
 ModalDialog {
     id: sheet
     property int preferredWidth: Theme.sheetWidth
-    default property alias content: column.content
+    default property alias content: scroller.content
     property alias barItems: bar.trailing
     property alias barLeading: bar.leading
     // A sheet whose text could be lost decides itself what Escape does.
@@ -21,7 +21,7 @@ ModalDialog {
     closePolicy: closesByItself ? T.Popup.CloseOnEscape : T.Popup.NoAutoClose
 
     width: parent ? Math.min(preferredWidth * Theme.scale, parent.width - 2 * Theme.margin) : 0
-    height: parent ? Math.min(Theme.headerHeight + column.wantedHeight, parent.height - 2 * Theme.margin) : 0
+    height: parent ? Math.min(Theme.headerHeight + scroller.contentHeight, parent.height - 2 * Theme.margin) : 0
 
     contentItem: FocusScope {
         focus: true
@@ -41,7 +41,7 @@ ModalDialog {
         }
 
         ScrollingColumn {
-            id: column
+            id: scroller
             anchors.fill: parent
             anchors.topMargin: bar.height
         }

@@ -61,7 +61,7 @@ QtObject {
     readonly property int focusWidth: 2
     readonly property int iconSize: Math.round(16 * scale)
     readonly property int smallIconSize: Math.round(13 * scale)
-    readonly property int largeIconSize: Math.round(44 * scale)
+    readonly property int largeIconSize: Math.round(40 * scale)
     readonly property int controlHeight: Math.round(32 * scale)
     readonly property int smallControlHeight: Math.round(28 * scale)
     readonly property int headerHeight: Math.round(48 * scale)

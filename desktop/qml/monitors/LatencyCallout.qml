@@ -6,6 +6,7 @@ import Larkspan.Bridge
 Rectangle {
     id: callout
     required property latencyGraph graph
+    readonly property bool floats: true
 
     implicitWidth: lines.implicitWidth + 2 * Theme.itemGap
     implicitHeight: lines.implicitHeight + 2 * Theme.halfUnit

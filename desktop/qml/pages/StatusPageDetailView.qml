@@ -32,9 +32,11 @@ ScreenFrame {
     Loader {
         id: screen
         anchors.fill: parent
-        anchors.topMargin: picker.y + picker.height
+        anchors.topMargin: picker.height + 2 * picker.y
         focus: true
-        sourceComponent: view.page.incidents ? incidents : view.page.monitors ? monitors
+        sourceComponent: view.page.incidents ? incidents
+            : view.page.monitors ? monitors
+            : view.page.components ? components
             : view.page.selectedTab === 0 ? overview : null
         onLoaded: item.focus = true
     }
@@ -48,6 +50,12 @@ ScreenFrame {
         id: monitors
         StatusPageMonitorsView {
             monitors: view.page.monitors
+        }
+    }
+    Component {
+        id: components
+        StatusPageComponentsView {
+            components: view.page.components
         }
     }
     Component {
@@ -69,14 +77,18 @@ ScreenFrame {
         sequences: ["F5", "Ctrl+R"]
         enabled: view.visible
         onActivated: view.page.incidents ? view.page.incidents.refresh()
-            : view.page.monitors ? view.page.monitors.refresh() : view.accountWanted()
+            : view.page.monitors ? view.page.monitors.refresh()
+            : view.page.components ? view.page.components.refresh()
+            : view.accountWanted()
     }
     Shortcut {
         sequences: ["Ctrl+PgDown"]
+        enabled: view.enabled
         onActivated: view.page.selectNext()
     }
     Shortcut {
         sequences: ["Ctrl+PgUp"]
+        enabled: view.enabled
         onActivated: view.page.selectPrevious()
     }
     Instantiator {
@@ -84,6 +96,7 @@ ScreenFrame {
         delegate: Shortcut {
             required property int index
             sequence: "Ctrl+" + (index + 1)
+            enabled: view.enabled
             onActivated: view.page.select(index)
         }
     }

@@ -147,6 +147,57 @@ TEST(DayOfAZone, OfTheEpochIsTheFirstOfJanuary1970)
     EXPECT_EQ(QtLocaleText(QLocale("en_US")).day(support::Time{-1ms}), std::chrono::local_days{std::chrono::days(-1)});
 }
 
+TEST(OffsetOfAZone, FollowsSummerTimeAndSoDoesItsName)
+{
+    const InTheZone zone("Europe/Berlin");
+    const QtLocaleText german(QLocale("de_DE"));
+    const auto change = momentOf(endOfSummerTime, 1h);
+    EXPECT_EQ(german.utcOffset(change - 1ms), 2h);
+    EXPECT_EQ(german.zoneName(change - 1ms), "CEST");
+    EXPECT_EQ(german.utcOffset(change), 1h);
+    EXPECT_EQ(german.zoneName(change), "CET");
+}
+
+TEST(OffsetOfAZone, MayBePartsOfAnHourAndBehindUTC)
+{
+    const InTheZone zone("America/St_Johns");
+    EXPECT_EQ(QtLocaleText(QLocale("en_CA")).utcOffset(momentOf(autumn, 0h)), -(3h + 30min));
+}
+
+TEST(WeekOfALocale, BeginsOnItsOwnDay)
+{
+    EXPECT_EQ(QtLocaleText(QLocale("de_DE")).firstDayOfWeek(), std::chrono::Monday);
+    EXPECT_EQ(QtLocaleText(QLocale("en_US")).firstDayOfWeek(), std::chrono::Sunday);
+    EXPECT_EQ(QtLocaleText(QLocale("ar_EG")).firstDayOfWeek(), std::chrono::Saturday);
+}
+
+TEST(WeekOfALocale, HasShortNames)
+{
+    EXPECT_EQ(QtLocaleText(QLocale("en_US")).weekdayName(std::chrono::Sunday), "Sun");
+    EXPECT_EQ(QtLocaleText(QLocale("en_US")).weekdayName(std::chrono::Monday), "Mon");
+    EXPECT_EQ(QtLocaleText(QLocale("fr_FR")).weekdayName(std::chrono::Wednesday), "mer.");
+}
+
+TEST(MonthOfALocale, StandsAloneWithItsYearInTheLocalesOrder)
+{
+    const auto month = std::chrono::year{2026} / std::chrono::November;
+    EXPECT_EQ(QtLocaleText(QLocale("en_US")).monthAndYear(month), "November 2026");
+    EXPECT_EQ(QtLocaleText(QLocale("de_DE")).monthAndYear(month), "November 2026");
+    EXPECT_EQ(QtLocaleText(QLocale("ru_RU")).monthAndYear(month), "ноябрь 2026") << "not as in a date";
+    EXPECT_EQ(QtLocaleText(QLocale("hu_HU")).monthAndYear(month), "2026. november");
+    EXPECT_EQ(QtLocaleText(QLocale("ko_KR")).monthAndYear(month), "2026년 11월");
+    EXPECT_EQ(QtLocaleText(QLocale("ja_JP")).monthAndYear(month), "2026年 11月");
+}
+
+TEST(ClockOfALocale, NamesTheHalvesOfTheDayOnlyWhereItHasThem)
+{
+    const auto american = QtLocaleText(QLocale("en_US")).dayHalves();
+    ASSERT_TRUE(american.has_value());
+    EXPECT_EQ(american->beforeNoon + " " + american->afterNoon, "AM PM");
+    EXPECT_FALSE(QtLocaleText(QLocale("de_DE")).dayHalves().has_value());
+    EXPECT_FALSE(QtLocaleText(QLocale("fr_CA")).dayHalves().has_value());
+}
+
 TEST(OrderOfNames, IgnoresCaseAndIsTheLocales)
 {
     const QtLocaleText german(QLocale("de_DE"));

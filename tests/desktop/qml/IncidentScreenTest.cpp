@@ -1,86 +1,14 @@
 #include <QQuickItem>
-#include <QTest>
 
 #include <gtest/gtest.h>
 
-#include "Screen.h"
+#include "IncidentsOnScreen.h"
 
 namespace larkspan {
 
 namespace {
 
 using platform::HttpResponse;
-using Role = QAccessible::Role;
-
-constexpr auto pageIncidentsURL = "https://service.example/user/api/v1/incidents?status_page_id=a";
-constexpr auto incidentURL = "https://service.example/user/api/v1/incidents/1";
-constexpr auto acknowledgeURL = "https://service.example/user/api/incidents/1/acknowledge";
-constexpr auto createURL = "https://service.example/user/api/v1/incidents";
-constexpr auto componentsURL = "https://service.example/user/api/components?status_page_id=a";
-constexpr auto groupsURL = "https://service.example/user/api/component-groups?status_page_id=a";
-
-/// The incidents of page "a", reached and worked with the keyboard alone.
-class IncidentsOnScreen : public testing::Test, public Screen {
-protected:
-    IncidentsOnScreen()
-    {
-        servePages({"a"}, {});
-        serve({incident("1", "Login errors", R"(, "severity_name": "CRITICAL", "message": "We see **errors**.")"),
-            incident("2", "Slow checkout", R"(, "acknowledged_at": "x")")});
-        refresh();
-        settle();
-        item(Role::List, QStringLiteral("Status Pages")).forceActiveFocus(Qt::TabFocusReason);
-        press(Qt::Key_Return);
-        press(Qt::Key_2, Qt::ControlModifier);
-        transport.requests.clear();
-    }
-
-    void serve(const std::vector<std::string>& incidents)
-    {
-        std::string joined;
-        for (const auto& each : incidents) joined += (joined.empty() ? "" : ",") + each;
-        transport.script(pageIncidentsURL, 200, "[" + joined + "]");
-    }
-
-    void openFirst()
-    {
-        item(Role::List, QStringLiteral("Incidents")).forceActiveFocus(Qt::TabFocusReason);
-        press(Qt::Key_Return);
-    }
-
-    void openForm()
-    {
-        transport.script(componentsURL, 200, "[]");
-        transport.script(groupsURL, 200, "[]");
-        choose("New Incident");
-    }
-
-    /// Presses a button as the keyboard does.
-    void choose(const char* name)
-    {
-        item(Role::Button, QString::fromUtf8(name)).forceActiveFocus(Qt::TabFocusReason);
-        press(Qt::Key_Space);
-    }
-
-    void type(const char* field, const char* text)
-    {
-        auto& entry = item(Role::EditableText, QString::fromUtf8(field));
-        entry.forceActiveFocus(Qt::TabFocusReason);
-        for (const char* letter = text; *letter != '\0'; ++letter) QTest::keyClick(&window(), *letter);
-        settle();
-    }
-
-    bool isEnabled(const char* button) const { return item(Role::Button, QString::fromUtf8(button)).isEnabled(); }
-    bool asks(const char* title) const { return names(Role::Dialog).contains(QString::fromUtf8(title)); }
-
-    /// "METHOD url" of what was sent.
-    std::vector<std::string> sent() const
-    {
-        std::vector<std::string> lines;
-        for (const auto& request : transport.requests) lines.push_back(request.method + " " + request.url);
-        return lines;
-    }
-};
 
 TEST_F(IncidentsOnScreen, AreRowsWithTheirTitleSeverityDateAndStatus)
 {
@@ -265,6 +193,28 @@ TEST_F(IncidentsOnScreen, EscapeInTheFormAsksBeforeTypedTextIsLostAndElseClosesI
     press(Qt::Key_Escape);
     choose("Discard");
     EXPECT_FALSE(asks("New Incident"));
+}
+
+TEST_F(IncidentsOnScreen, OneHasItsButtonsInARowOrWithoutRoomForItBelowEachOtherWithAddUpdateOnTop)
+{
+    openFirst();
+    const auto place = [this](const char* button) {
+        const auto& shown = item(Role::Button, QString::fromUtf8(button));
+        return shown.mapToScene({0, 0});
+    };
+    window().resize(760, 900);
+    settle();
+    EXPECT_LT(place("Acknowledge").x(), place("Resolve").x());
+    EXPECT_LT(place("Resolve").x(), place("Escalate").x());
+    EXPECT_LT(place("Escalate").x(), place("Add Update").x());
+    EXPECT_EQ(place("Acknowledge").y(), place("Add Update").y());
+
+    window().resize(400, 900);
+    settle();
+    EXPECT_LT(place("Add Update").y(), place("Acknowledge").y());
+    EXPECT_EQ(place("Acknowledge").y(), place("Resolve").y());
+    EXPECT_LT(place("Acknowledge").x(), place("Resolve").x());
+    EXPECT_LT(place("Resolve").y(), place("Escalate").y());
 }
 
 TEST_F(IncidentsOnScreen, APageThatIsGoneTakesItsIncidentWithIt)

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -9,19 +11,22 @@
 
 namespace larkspan::fakes {
 
-/// The locale of the unit tests, the same on every machine: "2026-11-20", "09:30" and
-/// "11-20 09:30", plain Latin letters in order, and
-/// a time zone that is `offset` ahead of UTC.
+/// The locale of the unit tests, the same on every machine: "2026-11-20", "09:30" and "11-20 09:30", weeks from Monday
+/// on, plain Latin letters in order, and a time zone that is `offset` ahead of UTC, from `change` on
+/// `offsetAfterChange`.
 class FakeLocaleText final : public platform::LocaleText {
 public:
-    std::string dateOnly(support::Time moment) const override
+    std::string dateOnly(support::Time moment) const override { return written(moment).substr(0, 10); }
+    std::string timeOnly(support::Time moment) const override { return written(moment).substr(11, 5); }
+
+    std::chrono::seconds utcOffset(support::Time moment) const override
     {
-        return model::writeISO8601(moment + offset).substr(0, 10);
+        return change && moment >= *change ? offsetAfterChange : offset;
     }
 
-    std::string timeOnly(support::Time moment) const override
+    std::string zoneName(support::Time moment) const override
     {
-        return model::writeISO8601(moment + offset).substr(11, 5);
+        return change && moment >= *change ? zoneAfterChange : zone;
     }
 
     std::string dayAndTime(support::Time moment) const override
@@ -29,10 +34,20 @@ public:
         return dateOnly(moment).substr(5) + ' ' + timeOnly(moment);
     }
 
-    std::chrono::local_days day(support::Time moment) const override
+    std::chrono::weekday firstDayOfWeek() const override { return weekBegin; }
+
+    std::string weekdayName(std::chrono::weekday day) const override
     {
-        return std::chrono::local_days(std::chrono::floor<std::chrono::days>(moment + offset).time_since_epoch());
+        return std::array{"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"}.at(day.c_encoding());
     }
+
+    std::string monthAndYear(std::chrono::year_month month) const override
+    {
+        return std::to_string(static_cast<unsigned>(month.month())) + "/"
+            + std::to_string(static_cast<int>(month.year()));
+    }
+
+    std::optional<DayHalves> dayHalves() const override { return halves; }
 
     std::weak_ordering compareIgnoringCase(std::string_view left, std::string_view right) const override
     {
@@ -45,6 +60,15 @@ public:
     }
 
     std::chrono::minutes offset{0};
+    std::string zone = "UTC";
+    std::optional<support::Time> change{};
+    std::chrono::minutes offsetAfterChange{0};
+    std::string zoneAfterChange{};
+    std::chrono::weekday weekBegin = std::chrono::Monday;
+    std::optional<DayHalves> halves{};
+
+private:
+    std::string written(support::Time moment) const { return model::writeISO8601(moment + utcOffset(moment)); }
 };
 
 }  // namespace larkspan::fakes

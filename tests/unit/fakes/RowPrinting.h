@@ -115,6 +115,10 @@ namespace larkspan::components {
 using fakes::PrintTo;
 }  // namespace larkspan::components
 
+namespace larkspan::maintenances {
+using fakes::PrintTo;
+}  // namespace larkspan::maintenances
+
 namespace larkspan::workspace {
 using fakes::PrintTo;
 }  // namespace larkspan::workspace

@@ -15,6 +15,7 @@ namespace larkspan::incidents {
 
 namespace {
 
+using fakes::Refusal;
 using platform::HttpResponse;
 using Words = std::vector<std::string>;
 

@@ -9,6 +9,7 @@ namespace larkspan::incidents {
 
 namespace {
 
+using fakes::Refusal;
 using Action = IncidentDetailView::DetailAction;
 
 TEST_F(DetailOfAnIncident, AcknowledgesThenFetchesTheRecordAndHandsItOver)

@@ -9,6 +9,7 @@ namespace larkspan::incidents {
 
 namespace {
 
+using fakes::Refusal;
 using platform::HttpResponse;
 using presentation::ActionButton;
 

@@ -17,15 +17,15 @@ struct StatusRow {
     Tone color;
 };
 
-class LookOfAStatus : public testing::TestWithParam<StatusRow> {};
+class LookOfAMonitor : public testing::TestWithParam<StatusRow> {};
 
-TEST_P(LookOfAStatus, HasAnIconAndAColor)
+TEST_P(LookOfAMonitor, HasAnIconAndAColor)
 {
     EXPECT_EQ(monitorStatusIcon(GetParam().status), GetParam().icon);
     EXPECT_EQ(monitorStatusColor(GetParam().status), GetParam().color);
 }
 
-INSTANTIATE_TEST_SUITE_P(EachStatus, LookOfAStatus,
+INSTANTIATE_TEST_SUITE_P(EachStatus, LookOfAMonitor,
     testing::Values(StatusRow{MonitorStatus::operational, "checkmark.circle.fill", Tone::green},
         StatusRow{MonitorStatus::degraded, "exclamationmark.triangle.fill", Tone::orange},
         StatusRow{MonitorStatus::down, "xmark.circle.fill", Tone::red},

@@ -93,6 +93,22 @@ TEST_F(OpenedPage, HasTheScreenOfItsComponentsMadeOnEntryAndDroppedOnLeaving)
     EXPECT_TRUE(first.expired());
 }
 
+TEST_F(OpenedPage, HasTheScreenOfItsMaintenancesWhileTheirTabIsSelected)
+{
+    EXPECT_EQ(view.maintenances(), nullptr);
+    view.select(Tab::maintenances);
+    ASSERT_NE(view.maintenances(), nullptr);
+    EXPECT_EQ(view.maintenances()->viewModel->pageId, "a");
+    EXPECT_TRUE(*view.maintenances()->viewModel->isLoading);
+    const auto screen = view.maintenances();
+    view.select(Tab::maintenances);
+    EXPECT_EQ(view.maintenances(), screen);
+    view.select(Tab::incidents);
+    EXPECT_EQ(view.maintenances(), nullptr);
+    view.select(Tab::maintenances);
+    EXPECT_NE(view.maintenances(), screen) << "made anew";
+}
+
 TEST_F(OpenedPage, RedrawsItsActivityWhenTheAccountPublishesNewLists)
 {
     int changes = 0;

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QQuickWindow>
+#include <QSize>
+
+#include "adapters/MainExecutor.h"
+#include "gallery/Scene.h"
+#include "gallery/Stage.h"
+#include "qml/MainWindow.h"
+
+namespace larkspan::gallery {
+
+/// A scene in a window that stands still, for a picture or a look at what is in it.
+class ShownScene {
+public:
+    struct Look {
+        bool isDark = false;
+        QSize size{};
+        double fontPointSize = 10;
+
+        /// As the scene wants it, in light colours.
+        static Look of(const Scene& scene) { return {false, {scene.width, scene.height}, scene.fontPointSize}; }
+    };
+
+    ShownScene(const Scene& scene, const Look& look, adapters::MainExecutor& main);
+
+    QQuickWindow& window() const { return mainWindow_.window(); }
+
+private:
+    void typeWhatIsKnown();
+    void press(const QString& help);
+
+    Stage stage_;
+    MainWindow mainWindow_;
+};
+
+}  // namespace larkspan::gallery

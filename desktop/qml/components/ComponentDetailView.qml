@@ -1,0 +1,89 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// One component, and its editor.
+ScreenFrame {
+    id: view
+    required property ComponentDetailBridge detail
+    readonly property bool isEditing: detail.isEditing
+
+    title: detail.title
+    isBusy: detail.isBusy
+    busyText: detail.busyText
+    alert: detail.alert
+    onAlertDismissed: detail.dismissAlert()
+    onIsEditingChanged: if (!isEditing) column.forceActiveFocus(Qt.OtherFocusReason)
+
+    leading: CommandButton {
+        text: view.detail.closeLabel
+        enabled: !view.detail.isBusy
+        onClicked: view.wentBack()
+    }
+    trailing: [
+        CommandButton {
+            visible: !view.isEditing
+            text: qsTr("Edit")
+            enabled: !view.detail.isBusy
+            onClicked: view.detail.beginEditing()
+        },
+        ToolbarButton {
+            visible: !view.isEditing
+            symbol: "trash"
+            help: qsTr("Delete Component")
+            enabled: !view.detail.isBusy
+            onClicked: view.detail.confirmDelete()
+        },
+        CommandButton {
+            visible: view.isEditing
+            text: qsTr("Save")
+            isProminent: true
+            enabled: view.detail.isSaveEnabled
+            onClicked: view.detail.saveChanges()
+        }
+    ]
+
+    ScrollingColumn {
+        id: column
+        anchors.fill: parent
+        name: view.detail.title
+        widest: Theme.columnWidth * Theme.scale
+        focus: true
+        activeFocusOnTab: isScrollable && !view.isEditing
+
+        Loader {
+            width: parent.width
+            active: !view.isEditing
+            visible: active
+            sourceComponent: ComponentFacts {
+                detail: view.detail
+            }
+        }
+        Loader {
+            width: parent.width
+            active: view.isEditing
+            visible: active
+            enabled: !view.detail.isBusy
+            sourceComponent: ComponentEditor {
+                detail: view.detail
+            }
+        }
+    }
+
+    PopupLoader {
+        isShown: view.detail.showsDeleteConfirmation
+        onDismissed: view.detail.cancelDelete()
+        sourceComponent: ConfirmDialog {
+            confirmation: view.detail.deleteConfirmation
+            onConfirmed: view.detail.deleteComponent()
+        }
+    }
+    PopupLoader {
+        isShown: view.detail.showsDiscardConfirmation
+        onDismissed: view.detail.keepEditing()
+        sourceComponent: ConfirmDialog {
+            confirmation: view.detail.discardConfirmation
+            onConfirmed: view.detail.discardChanges()
+        }
+    }
+}

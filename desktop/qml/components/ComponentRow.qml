@@ -1,0 +1,99 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// A component, or the heading of a section, which parts the cards of the sections.
+CardRow {
+    id: delegate
+    required property componentRow row
+    readonly property real gap: index > 0 ? 2 * Theme.unit : 0
+
+    name: row.title
+    description: row.status.text
+    isPressable: !row.isHeading
+    hasDivider: row.followsComponent && !row.isHeading
+    topPadding: row.isHeading ? gap : Theme.unit
+    implicitHeight: row.isHeading ? heading.implicitHeight + gap + Theme.unit
+        : Math.max(Theme.rowHeight, words.implicitHeight + 2 * Theme.unit)
+    // Qt 6.4 lets no row be anything but a list item, so that the words of a heading stand for it.
+    Accessible.ignored: row.isHeading
+
+    Rectangle {
+        z: -2
+        anchors.fill: parent
+        visible: delegate.row.isHeading
+        color: Theme.window
+    }
+    CardEnd {
+        z: -2
+        width: parent.width
+        visible: !delegate.row.isHeading && !delegate.row.followsComponent
+        isFirst: true
+    }
+    CardEnd {
+        z: -2
+        width: parent.width
+        anchors.bottom: parent.bottom
+        visible: !delegate.row.isHeading && !delegate.row.precedesComponent
+        isFirst: false
+    }
+
+    contentItem: Item {
+        Label {
+            id: heading
+            visible: delegate.row.isHeading
+            x: Theme.halfUnit - delegate.leftPadding
+            width: parent.width - 2 * x
+            text: delegate.row.isHeading ? delegate.row.title : ""
+            font.pointSize: Theme.subheadline
+            font.weight: Font.DemiBold
+            color: Theme.secondary
+            maximumLineCount: 1
+            Accessible.role: Accessible.Heading
+            Accessible.focusable: true
+            Accessible.focused: delegate.Accessible.focused
+        }
+        Symbol {
+            id: mark
+            anchors.verticalCenter: parent.verticalCenter
+            visible: !delegate.row.isHeading
+            width: Theme.iconSize
+            height: Theme.iconSize
+            name: delegate.row.symbol
+            color: Theme.toneColor(delegate.row.tone)
+        }
+        Column {
+            id: words
+            anchors.left: mark.right
+            anchors.leftMargin: Theme.unit + Theme.halfUnit
+            anchors.right: pill.left
+            anchors.rightMargin: Theme.unit + Theme.halfUnit
+            anchors.verticalCenter: parent.verticalCenter
+            visible: !delegate.row.isHeading
+
+            MarqueeText {
+                width: parent.width
+                layoutHeight: Theme.titleHeight
+                text: delegate.row.isHeading ? "" : delegate.row.title
+                font.weight: Font.DemiBold
+            }
+            Label {
+                width: parent.width
+                visible: text !== ""
+                text: delegate.row.description
+                font.pointSize: Theme.caption
+                color: Theme.secondary
+                maximumLineCount: 1
+            }
+        }
+        Pill {
+            id: pill
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            visible: delegate.row.status.text !== ""
+            width: Math.min(implicitWidth, parent.width * 0.4)
+            pill: delegate.row.status
+            weight: Font.Medium
+        }
+    }
+}

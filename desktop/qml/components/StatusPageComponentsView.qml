@@ -1,0 +1,30 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+ContentArea {
+    id: view
+    required property ComponentListBridge components
+
+    showsContent: components.showsList
+    placeholder: components.placeholder
+    onRetried: components.refresh()
+
+    CardList {
+        anchors.fill: parent
+        name: qsTr("Components")
+        rows: view.components.rows
+        onPulled: view.components.refresh()
+        delegate: ComponentRow {
+            onClicked: if (isPressable) view.components.open(row.id)
+        }
+    }
+
+    PopupLoader {
+        isShown: view.components.showsAlert
+        onDismissed: view.components.dismissAlert()
+        sourceComponent: ErrorAlert {
+            text: view.components.alertMessage
+        }
+    }
+}

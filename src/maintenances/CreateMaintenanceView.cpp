@@ -1,0 +1,89 @@
+#include "maintenances/CreateMaintenanceView.h"
+
+#include <chrono>
+#include <utility>
+
+#include "support/UnlessEmpty.h"
+
+namespace larkspan::maintenances {
+
+using api::NewMaintenance;
+using model::Maintenance;
+using presentation::ComponentSelection;
+using presentation::DateTimePicker;
+using support::Task;
+
+namespace {
+
+constexpr presentation::EventForm::SelectionWords selectionWords{.noMonitor = "All monitors on this component",
+    .hintForPage = "Leave this as Entire status page for page-wide maintenance.",
+    .hintForComponent = "Choose the affected component and, optionally, one monitor.",
+    .failure = ComponentSelection::ComponentFailure::told};
+
+api::Ids idsOf(const std::string& id)
+{
+    if (id.empty()) return std::nullopt;
+    return std::vector{id};
+}
+
+}  // namespace
+
+CreateMaintenanceView::CreateMaintenanceView(Ports ports, std::string page, Owner owner)
+    : EventForm(ports.selection, std::move(page), selectionWords, std::move(owner.dismiss))
+    , scheduledFor(std::make_shared<DateTimePicker>(
+          DateTimePicker::Ports{ports.clock, ports.selection.locale}, ports.clock.now()))
+    , scheduledUntil(std::make_shared<DateTimePicker>(
+          DateTimePicker::Ports{ports.clock, ports.selection.locale}, *scheduledFor->moment + std::chrono::hours(1)))
+    , api_(ports.api)
+    , onCreated_(std::move(owner.onCreated))
+{
+}
+
+std::vector<support::Subscription> CreateMaintenanceView::observe(const std::function<void()>& observer)
+{
+    auto subscriptions = EventForm::observe(observer);
+    subscriptions.push_back(scheduledFor->objectWillChange(observer));
+    subscriptions.push_back(scheduledUntil->objectWillChange(observer));
+    return subscriptions;
+}
+
+bool CreateMaintenanceView::isSelectionComplete() const
+{
+    return selection->selectedComponentGroupID->empty() || !selection->selectedComponentID->empty();
+}
+
+bool CreateMaintenanceView::canBeSent() const
+{
+    return EventForm::canBeSent() && *scheduledUntil->moment > *scheduledFor->moment;
+}
+
+bool CreateMaintenanceView::hasUnsavedText() const
+{
+    return EventForm::hasUnsavedText() || scheduledFor->isChanged() || scheduledUntil->isChanged();
+}
+
+NewMaintenance CreateMaintenanceView::arguments() const
+{
+    return {.title = *title,
+        .message = support::unlessEmpty(*message),
+        .statusPageId = pageId,
+        .startAt = *scheduledFor->moment,
+        .endAt = *scheduledUntil->moment,
+        .componentIds = idsOf(*selection->selectedComponentID),
+        .monitorIds = idsOf(*selection->selectedMonitorID)};
+}
+
+Task<void> CreateMaintenanceView::create()
+{
+    return send(std::static_pointer_cast<CreateMaintenanceView>(shared_from_this()), arguments());
+}
+
+Task<void> CreateMaintenanceView::send(std::shared_ptr<CreateMaintenanceView> self, NewMaintenance arguments)
+{
+    auto creating = self->api_.createMaintenance(std::move(arguments));
+    const Maintenance created = co_await std::move(creating);
+    self->onCreated_(created);
+    self->dismiss();
+}
+
+}  // namespace larkspan::maintenances

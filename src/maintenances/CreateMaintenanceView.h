@@ -1,0 +1,58 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "api/MaintenanceEndpoints.h"
+#include "model/Maintenance.h"
+#include "platform/Clock.h"
+#include "presentation/DateTimePicker.h"
+#include "presentation/EventForm.h"
+#include "support/Observable.h"
+#include "support/Task.h"
+
+namespace larkspan::maintenances {
+
+/// The form that schedules a maintenance on one page. Main thread only.
+class CreateMaintenanceView final : public presentation::EventForm {
+public:
+    struct Ports {
+        api::MaintenanceEndpoints& api;
+        const platform::Clock& clock;
+        presentation::ComponentSelection::Ports selection;
+    };
+
+    struct Owner {
+        std::function<void(const model::Maintenance&)> onCreated;
+        /// Closes the sheet.
+        std::function<void()> dismiss;
+    };
+
+    CreateMaintenanceView(Ports ports, std::string pageId, Owner owner);
+
+    /// An hour from now on, unless something else is chosen.
+    const std::shared_ptr<presentation::DateTimePicker> scheduledFor;
+    const std::shared_ptr<presentation::DateTimePicker> scheduledUntil;
+
+    [[nodiscard]] std::vector<support::Subscription> observe(const std::function<void()>& observer) override;
+
+    /// A component is enough; a monitor of it may be left open.
+    bool isSelectionComplete() const override;
+    bool hasUnsavedText() const override;
+
+protected:
+    bool canBeSent() const override;
+
+private:
+    support::Task<void> create() override;
+    static support::Task<void> send(std::shared_ptr<CreateMaintenanceView> self, api::NewMaintenance arguments);
+
+    api::NewMaintenance arguments() const;
+
+    api::MaintenanceEndpoints& api_;
+    const std::function<void(const model::Maintenance&)> onCreated_;
+};
+
+}  // namespace larkspan::maintenances

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+#include "model/Maintenance.h"
+#include "platform/LocaleText.h"
+#include "presentation/Pill.h"
+
+namespace larkspan::maintenances {
+
+/// One maintenance in the list of its page.
+struct MaintenanceRow {
+    std::string id{};
+    std::string title{};
+    /// Its tone is the dot's, too.
+    presentation::Pill status{};
+    /// The day of the planned start; empty if there is none.
+    std::string date{};
+
+    static MaintenanceRow of(const model::Maintenance& maintenance, const platform::LocaleText& locale);
+
+    bool operator==(const MaintenanceRow&) const = default;
+};
+
+}  // namespace larkspan::maintenances

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "presentation/Pill.h"
+#include "presentation/Tone.h"
+
+namespace larkspan::maintenances {
+
+// What a record without dates calls itself is shown, but nothing can be done with it.
+inline constexpr std::string_view scheduled = "scheduled";
+inline constexpr std::string_view inProgress = "in_progress";
+inline constexpr std::string_view completed = "completed";
+
+std::string maintenanceStatusLabel(std::string_view status);
+
+presentation::Tone maintenanceStatusColor(std::string_view status);
+
+/// The status as a word on its colour.
+presentation::Pill statusPill(std::string_view status);
+
+}  // namespace larkspan::maintenances

@@ -1,0 +1,56 @@
+#include "maintenances/MaintenanceTimeline.h"
+
+#include <optional>
+
+#include "maintenances/MaintenanceStatus.h"
+
+namespace larkspan::maintenances {
+
+using model::Maintenance;
+using presentation::TimelineRow;
+
+namespace {
+
+/// Rows of the moments that are there.
+class Timeline {
+public:
+    explicit Timeline(const platform::LocaleText& locale)
+        : locale_(locale)
+    {
+    }
+
+    Timeline& add(const char* symbol, const char* label, const std::optional<support::Time>& moment)
+    {
+        if (moment) rows.push_back(presentation::timelineRow(symbol, label, *moment, locale_));
+        return *this;
+    }
+
+    std::vector<TimelineRow> rows;
+
+private:
+    const platform::LocaleText& locale_;
+};
+
+}  // namespace
+
+// The end is the planned one until the maintenance is over, and the real one afterwards; before, it goes by both names.
+std::vector<TimelineRow> maintenanceTimeline(const Maintenance& maintenance, const platform::LocaleText& locale)
+{
+    const auto plannedEnd = maintenance.status == completed ? std::nullopt : maintenance.completedAt;
+    return Timeline(locale)
+        .add("calendar.badge.clock", "Scheduled Start", maintenance.scheduledFor)
+        .add("calendar.badge.minus", "Scheduled End", plannedEnd)
+        .add("play.circle", "Started", maintenance.startedAt)
+        .add("checkmark.circle", "Completed", maintenance.completedAt)
+        .rows;
+}
+
+std::vector<TimelineRow> recordTimeline(const Maintenance& maintenance, const platform::LocaleText& locale)
+{
+    return Timeline(locale)
+        .add("plus.circle", "Created", maintenance.createdAt)
+        .add("arrow.triangle.2.circlepath", "Updated", maintenance.updatedAt)
+        .rows;
+}
+
+}  // namespace larkspan::maintenances

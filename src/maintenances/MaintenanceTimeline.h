@@ -1,0 +1,19 @@
+#pragma once
+
+#include <vector>
+
+#include "model/Maintenance.h"
+#include "platform/LocaleText.h"
+#include "presentation/TimelineRow.h"
+
+namespace larkspan::maintenances {
+
+/// What was planned and what came of it.
+std::vector<presentation::TimelineRow> maintenanceTimeline(
+    const model::Maintenance& maintenance, const platform::LocaleText& locale);
+
+/// When the record was made and changed, which stands apart.
+std::vector<presentation::TimelineRow> recordTimeline(
+    const model::Maintenance& maintenance, const platform::LocaleText& locale);
+
+}  // namespace larkspan::maintenances
