@@ -20,9 +20,7 @@ struct LatencyLook {
 };
 
 /// The curve as a line over an area between it and zero, which reaches to the ground if nothing is below zero; a sample
-/// that is alone is a dot. The line is what a disc of its width covers on its way along the samples, worked out for
-/// narrow columns: that takes the same time whatever the samples are, while a painter's stroke takes longer the more
-/// often the curve turns.
+/// that is alone is a dot.
 QImage latencyPicture(const monitors::LatencyCurve& curve, QSize size, const LatencyLook& look);
 
 }  // namespace larkspan::bridge

@@ -39,8 +39,9 @@ LatencyPlotItem::LatencyPlotItem(QQuickItem* parent)
 
 void LatencyPlotItem::setGraph(const LatencyGraphValue& graph)
 {
-    if (graph_ == graph) return;
-    if (graph_.curve != graph.curve) update();
+    const bool isSameCurve
+        = graph_.curve == graph.curve || (graph_.curve && graph.curve && *graph_.curve == *graph.curve);
+    if (!isSameCurve) update();
     graph_ = graph;
     emit graphChanged();
 }

@@ -12,12 +12,14 @@ MonitorMetricsBridge::MonitorMetricsBridge(
     , view_(std::move(view))
 {
     followChangesOf(*view_);
+    followChangesOf(view_->selection);
     MonitorMetricsBridge::readState();
 }
 
 void MonitorMetricsBridge::readState()
 {
     instead_ = MarkerValue::of(view_->instead());
+    graph_ = LatencyGraphValue::of(view_->latencyGraph());
     figures_ = valuesOf<MetricRowValue>(view_->figures());
     regions_ = valuesOf<RegionRowValue>(view_->regions());
 }

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "bridge/ScreenBridge.h"
+#include "bridge/values/LatencyGraphValue.h"
 #include "bridge/values/MarkerValue.h"
 #include "bridge/values/MetricRowValue.h"
 #include "bridge/values/RegionRowValue.h"
@@ -22,6 +23,7 @@ class MonitorMetricsBridge : public ScreenBridge {
     /// Stands in place of the panel; all empty while that is there.
     Q_PROPERTY(larkspan::bridge::MarkerValue instead MEMBER instead_ NOTIFY changed)
     Q_PROPERTY(bool offersRetry READ offersRetry NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::LatencyGraphValue graph MEMBER graph_ NOTIFY changed)
     Q_PROPERTY(QList<larkspan::bridge::MetricRowValue> figures MEMBER figures_ NOTIFY changed)
     Q_PROPERTY(QList<larkspan::bridge::RegionRowValue> regions MEMBER regions_ NOTIFY changed)
 
@@ -33,12 +35,14 @@ public:
     bool offersRetry() const { return view_->offersRetry(); }
 
     Q_INVOKABLE void retry() { view_->retry(); }
+    Q_INVOKABLE void selectLatency(double position) { view_->selectLatency(position); }
 
 private:
     void readState() override;
 
     std::shared_ptr<monitors::MonitorRowView> view_;
     MarkerValue instead_;
+    LatencyGraphValue graph_;
     QList<MetricRowValue> figures_;
     QList<RegionRowValue> regions_;
 };

@@ -122,6 +122,33 @@ void open(Monitors& view)
     closed.toggleMetrics();
 }
 
+void selected(Monitors& view)
+{
+    open(view);
+    view.rowViews().at("1")->selectLatency(61);
+}
+
+void graph(Monitors& view, const std::string& id, std::vector<std::int64_t> latency, int selectedIndex)
+{
+    auto& row = opened(view, id);
+    arrive(row, {.latency = std::move(latency)});
+    row.selectLatency(selectedIndex);
+}
+
+void graphs(Monitors& view)
+{
+    list(view);
+    std::vector<std::int64_t> minutes;
+    for (int minute = 0; minute < 1'440; ++minute)
+        minutes.push_back(
+            minute % 251 == 250 ? 400 : 180 + std::lround(40 * std::sin(minute / 200.0)) + minute * 7'919 % 23);
+    graph(view, "1", std::move(minutes), 0);
+    graph(view, "2", {312}, 0);
+    graph(view, "3", {-50, 30, 80, -90, 10, 120}, 5);
+    graph(view, "4", {0, 0, 0, 0}, 1);
+    graph(view, "5", {250, 250}, 1);
+}
+
 void loadingMetrics(Monitors& view)
 {
     list(view);
@@ -234,6 +261,9 @@ std::vector<Scene> monitorScenes()
         {"monitors-open-narrow", tab(open), 480, 440},
         {"monitors-open-wide", tab(open), 1600, 900},
         {"monitors-open-narrow-large-font", tab(open), 480, 900, 20},
+        {"monitors-selected", tab(selected)},
+        {"monitors-selected-narrow-large-font", tab(selected), 480, 440, 20},
+        {"monitors-graphs", tab(graphs), 760, 1300},
         {"monitors-loading-metrics", tab(loadingMetrics)},
         {"monitors-without-metrics", tab(withoutMetrics)},
         {"monitors-empty-window", tab(emptyWindow), 760, 760},

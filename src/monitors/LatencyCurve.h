@@ -22,7 +22,7 @@ struct LatencyDomain {
 /// graphs of similar monitors look alike. Where all is zero it reaches to 1, and the line lies at the bottom.
 LatencyDomain latencyDomain(const std::vector<LatencyDataPoint>& points);
 
-/// What a latency graph draws; made once for the metrics that it shows, so that it is the same as long as they are.
+/// What a latency graph draws.
 struct LatencyCurve {
     std::vector<LatencyDataPoint> points{};
     LatencyDomain domain{};
@@ -30,6 +30,8 @@ struct LatencyCurve {
     static std::shared_ptr<const LatencyCurve> of(std::vector<LatencyDataPoint> points);
 
     int count() const { return static_cast<int>(points.size()); }
+
+    bool operator==(const LatencyCurve&) const = default;
 };
 
 }  // namespace larkspan::monitors

@@ -8,8 +8,9 @@
 
 namespace larkspan::monitors {
 
-/// A latency graph as a row shows it. Two of the same curve differ by their selection only.
+/// A latency graph as a row shows it.
 struct LatencyGraph {
+    /// Null where there is no graph.
     std::shared_ptr<const LatencyCurve> curve{};
     /// Of a point that the curve has.
     std::optional<int> selectedIndex{};

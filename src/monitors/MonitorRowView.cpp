@@ -3,6 +3,7 @@
 #include <exception>
 #include <utility>
 
+#include "monitors/LatencySelection.h"
 #include "support/LocalizedError.h"
 
 namespace larkspan::monitors {
@@ -10,9 +11,8 @@ namespace larkspan::monitors {
 using presentation::Marker;
 using support::Task;
 
-MonitorRowView::MonitorRowView(platform::Executor& main, api::MonitorEndpoints& api, std::string monitorID)
-    : main_(main)
-    , api_(api)
+MonitorRowView::MonitorRowView(Ports ports, std::string monitorID)
+    : ports_(ports)
     , monitorID_(std::move(monitorID))
 {
 }
@@ -33,14 +33,14 @@ void MonitorRowView::load()
 {
     isLoadingMetrics = true;
     metricsLoadError = std::nullopt;
-    support::start(main_, loadMetrics(shared_from_this()));
+    support::start(ports_.main, loadMetrics(shared_from_this()));
 }
 
 Task<void> MonitorRowView::loadMetrics(std::shared_ptr<MonitorRowView> self)
 {
     try {
         std::vector ids{self->monitorID_};
-        auto fetching = self->api_.fetchMonitorMetrics(std::move(ids), range);
+        auto fetching = self->ports_.monitors.fetchMonitorMetrics(std::move(ids), range);
         auto windows = co_await std::move(fetching);
         const auto own = windows.find(self->monitorID_);
         if (own == windows.end())
@@ -60,6 +60,23 @@ Marker MonitorRowView::instead() const
     if (metrics->has_value()) return {};
     return {.symbol = "chart.xyaxis.line",
         .text = metricsLoadError->value_or("No metrics are available for this monitor.")};
+}
+
+LatencyGraph MonitorRowView::latencyGraph() const
+{
+    if (!metrics->has_value() || !(*metrics)->latency || (*metrics)->latency->empty()) return {};
+    return LatencyGraph::of(LatencyCurve::of(latencyPoints()), *selection.selectedLatencyIndex, ports_.locale);
+}
+
+void MonitorRowView::selectLatency(double position)
+{
+    selection.selectedLatencyIndex = nearestIndex(latencyPoints(), position);
+}
+
+std::vector<LatencyDataPoint> MonitorRowView::latencyPoints() const
+{
+    if (!metrics->has_value()) return {};
+    return latencyDataPoints((*metrics)->latency.value_or(std::vector<std::int64_t>()), *metrics);
 }
 
 std::vector<MetricRow> MonitorRowView::figures() const

@@ -7,9 +7,11 @@
 
 #include "api/MonitorEndpoints.h"
 #include "model/MonitorMetricsWindow.h"
+#include "monitors/LatencyGraph.h"
 #include "monitors/MetricRow.h"
 #include "monitors/RegionRow.h"
 #include "platform/Executor.h"
+#include "platform/LocaleText.h"
 #include "presentation/Marker.h"
 #include "support/Observable.h"
 #include "support/Task.h"
@@ -22,12 +24,24 @@ class MonitorRowView final : public support::Observable, public std::enable_shar
 public:
     static constexpr const char* range = "24h";
 
-    MonitorRowView(platform::Executor& main, api::MonitorEndpoints& api, std::string monitorID);
+    struct Ports {
+        platform::Executor& main;
+        api::MonitorEndpoints& monitors;
+        const platform::LocaleText& locale;
+    };
+
+    MonitorRowView(Ports ports, std::string monitorID);
 
     support::Published<std::optional<model::MonitorMetricsWindow>> metrics{*this};
     support::Published<bool> showingMetrics{*this, false};
     support::Published<bool> isLoadingMetrics{*this, false};
     support::Published<std::optional<std::string>> metricsLoadError{*this};
+
+    /// Tells its changes itself, since they are many and the list shows nothing of them.
+    struct Selection final : support::Observable {
+        support::Published<std::optional<int>> selectedLatencyIndex{*this};
+    };
+    Selection selection;
 
     /// Opens the metrics, or closes them; not while they are loaded.
     void toggleMetrics();
@@ -39,6 +53,11 @@ public:
     presentation::Marker instead() const;
     bool offersRetry() const { return *showingMetrics && !*isLoadingMetrics && !metrics->has_value(); }
 
+    /// The panel's graph; without a curve where there is none to show.
+    LatencyGraph latencyGraph() const;
+    /// Selects the sample that is nearest to a place on the graph's axis of indexes.
+    void selectLatency(double position);
+
     /// The panel's figures and regions; empty without metrics.
     std::vector<MetricRow> figures() const;
     std::vector<RegionRow> regions() const;
@@ -47,8 +66,9 @@ private:
     void load();
     static support::Task<void> loadMetrics(std::shared_ptr<MonitorRowView> self);
 
-    platform::Executor& main_;
-    api::MonitorEndpoints& api_;
+    std::vector<LatencyDataPoint> latencyPoints() const;
+
+    const Ports ports_;
     const std::string monitorID_;
 };
 

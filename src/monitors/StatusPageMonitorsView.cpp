@@ -76,7 +76,8 @@ void StatusPageMonitorsView::toggleMetrics(const std::string& id)
     if (!monitorOf(id)) return;
     if (!rowViews_->contains(id)) {
         auto views = *rowViews_;
-        views.emplace(id, std::make_shared<MonitorRowView>(ports_.main, ports_.monitors, id));
+        const MonitorRowView::Ports ports{ports_.main, ports_.monitors, ports_.locale};
+        views.emplace(id, std::make_shared<MonitorRowView>(ports, id));
         rowViews_ = std::move(views);
     }
     rowViews_->find(id)->second->toggleMetrics();

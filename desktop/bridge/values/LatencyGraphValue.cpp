@@ -5,6 +5,7 @@ namespace larkspan::bridge {
 LatencyGraphValue LatencyGraphValue::of(const monitors::LatencyGraph& graph)
 {
     LatencyGraphValue value;
+    if (!graph.curve) return value;
     value.curve = graph.curve;
     value.lowestValue = graph.curve->domain.lower;
     value.highestValue = graph.curve->domain.upper;

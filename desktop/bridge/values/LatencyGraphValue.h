@@ -15,6 +15,7 @@ namespace larkspan::bridge {
 struct LatencyGraphValue {
     Q_GADGET
     QML_VALUE_TYPE(latencyGraph)
+    Q_PROPERTY(bool isShown READ isShown)
     /// -1 for none.
     Q_PROPERTY(int selectedIndex MEMBER selectedIndex)
     /// Of the selected sample, in milliseconds; 0 for none.
@@ -34,6 +35,8 @@ public:
     QString value{};
     QString time{};
     QString words{};
+
+    bool isShown() const { return curve != nullptr; }
 
     static LatencyGraphValue of(const monitors::LatencyGraph& graph);
 

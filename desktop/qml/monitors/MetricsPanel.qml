@@ -11,6 +11,13 @@ Column {
 
     spacing: Theme.unit
 
+    LatencyGraph {
+        visible: graph.isShown
+        width: parent.width
+        activeFocusOnTab: panel.isCurrent || activeFocus
+        graph: panel.metrics.graph
+        onSelected: position => panel.metrics.selectLatency(position)
+    }
     Rectangle {
         width: parent.width
         height: Theme.hairline

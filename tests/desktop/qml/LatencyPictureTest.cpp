@@ -145,6 +145,8 @@ TEST(LatencyPicture, HasNoRoomForMoreThanItHas)
     const auto curve = monitors::LatencyCurve::of(monitors::latencyDataPoints({1, 2, 3}, std::nullopt));
     EXPECT_TRUE(latencyPicture(*curve, QSize(0, 10), {blue, tint, 2, 4, 8}).isNull());
     EXPECT_EQ(latencyPicture(*curve, QSize(3, 3), {blue, tint, 2, 4, 8}).size(), QSize(3, 3));
+    const auto alone = monitors::LatencyCurve::of(monitors::latencyDataPoints({1}, std::nullopt));
+    EXPECT_EQ(latencyPicture(*alone, QSize(1, 1), {blue, tint, 6, 12, 24}).size(), QSize(1, 1));
 }
 
 }  // namespace

@@ -196,6 +196,34 @@ TEST_F(MonitorsOnScreen, MetricsOpenBelowTheRowAndCloseToTheCompactLine)
     EXPECT_EQ(sent(), Lines{"GET " + metricsURL});
 }
 
+TEST_F(MonitorsOnScreen, SamplesOfTheGraphAreReachedByTabAndArrowsAndStaySelectedWhileItIsClosed)
+{
+    transport.script(metricsURL, 200, day);
+    choose("Show latency graph");
+    press(Qt::Key_Tab);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focused(), QStringLiteral("Latency graph"));
+    press(Qt::Key_Right);
+    EXPECT_TRUE(shows(QStringLiteral("180 ms")));
+    press(Qt::Key_Right);
+    EXPECT_TRUE(shows(QStringLiteral("240 ms")));
+
+    choose("Hide latency graph");
+    EXPECT_FALSE(shows(QStringLiteral("240 ms")));
+    choose("Show latency graph");
+    EXPECT_TRUE(shows(QStringLiteral("240 ms")));
+}
+
+TEST_F(MonitorsOnScreen, APressOnTheGraphSelectsTheSampleUnderIt)
+{
+    transport.script(metricsURL, 200, day);
+    choose("Show latency graph");
+    const auto& graph = item(Role::Slider, QStringLiteral("Latency graph"));
+    QTest::mouseClick(&window(), Qt::LeftButton, {}, graph.mapToScene({graph.width() - 9, 30}).toPoint());
+    settle();
+    EXPECT_TRUE(shows(QStringLiteral("210 ms")));
+}
+
 TEST_F(MonitorsOnScreen, MetricsThatAreLoadedSayTwiceThatTheyAre)
 {
     choose("Show latency graph");

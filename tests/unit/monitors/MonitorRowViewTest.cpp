@@ -6,6 +6,7 @@
 #include <string>
 
 #include "api/KestruneAPI.h"
+#include "fakes/FakeLocaleText.h"
 #include "fakes/Service.h"
 #include "monitors/MonitorRow.h"
 
@@ -38,7 +39,9 @@ protected:
         return MonitorRow::of(monitor, row.get(), false);
     }
 
-    const std::shared_ptr<MonitorRowView> row = std::make_shared<MonitorRowView>(main, api, "7");
+    fakes::FakeLocaleText locale;
+    const std::shared_ptr<MonitorRowView> row
+        = std::make_shared<MonitorRowView>(MonitorRowView::Ports{main, api, locale}, "7");
 };
 
 TEST_F(RowOfAMonitor, IsClosedAndAsksForNothingUntilItIsOpened)
@@ -167,7 +170,7 @@ TEST_F(RowOfAMonitor, WithNeitherMetricsNorAFailureSaysThatThereAreNone)
 
 TEST_F(RowOfAMonitor, ThatHasGoneDuringAFetchIsFreedAfterIt)
 {
-    auto gone = std::make_shared<MonitorRowView>(main, api, "9");
+    auto gone = std::make_shared<MonitorRowView>(MonitorRowView::Ports{main, api, locale}, "9");
     const std::weak_ptr<MonitorRowView> held = gone;
     gone->toggleMetrics();
     gone.reset();
