@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "api/APIError.h"
+#include "gallery/ComponentScenes.h"
 #include "gallery/IncidentScenes.h"
 #include "gallery/MonitorScenes.h"
 #include "gallery/PageScenes.h"
@@ -293,6 +294,7 @@ std::vector<Scene> scenes()
     std::ranges::move(pageScenes(), std::back_inserter(scenes));
     std::ranges::move(incidentScenes(), std::back_inserter(scenes));
     std::ranges::move(monitorScenes(), std::back_inserter(scenes));
+    std::ranges::move(componentScenes(), std::back_inserter(scenes));
     std::ranges::move(menuScenes(), std::back_inserter(scenes));
     std::ranges::move(settingsScenes(), std::back_inserter(scenes));
     std::ranges::move(otherScenes(), std::back_inserter(scenes));

@@ -24,26 +24,17 @@ ScreenFrame {
         onClicked: view.incident.confirmDelete()
     }
 
-    CardList {
+    MessageList {
         anchors.fill: parent
-        name: qsTr("Description")
-        rows: view.incident.message.rows
-        widest: Theme.columnWidth * Theme.scale
+        message: view.incident.message
         above: IncidentFacts {
             incident: view.incident
-        }
-        delegate: MessageRow {
-            offsets: tableOffsets
-            onFollowed: (cell, href) => view.incident.message.follow(index, cell, href)
         }
         below: IncidentActions {
             incident: view.incident
         }
     }
 
-    TableOffsets {
-        id: tableOffsets
-    }
     ConfirmLoader {
         isShown: view.incident.showsDeleteConfirmation
         confirmation: view.incident.deleteConfirmation
@@ -55,12 +46,5 @@ ScreenFrame {
         confirmation: view.incident.discardConfirmation
         onDismissed: view.incident.keepEditing()
         onConfirmed: view.incident.discardChanges()
-    }
-    ConfirmLoader {
-        isShown: view.incident.message.asksAboutLink
-        confirmation: view.incident.message.linkConfirmation
-        isDestructive: false
-        onDismissed: view.incident.message.cancelLink()
-        onConfirmed: view.incident.message.openLink()
     }
 }

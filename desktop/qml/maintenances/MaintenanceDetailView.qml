@@ -31,18 +31,13 @@ ScreenFrame {
         }
     ]
 
-    CardList {
+    MessageList {
         id: list
         anchors.fill: parent
         visible: !view.maintenance.isEditing
-        name: qsTr("Description")
-        rows: view.maintenance.message.rows
-        widest: Theme.columnWidth * Theme.scale
+        message: view.maintenance.message
         above: MaintenanceFacts {
             maintenance: view.maintenance
-        }
-        delegate: MessageRow {
-            onFollowed: (cell, href) => view.maintenance.message.follow(index, cell, href)
         }
         below: MaintenanceActions {
             maintenance: view.maintenance
@@ -68,12 +63,5 @@ ScreenFrame {
         confirmation: view.maintenance.discardConfirmation
         onDismissed: view.maintenance.keepEditing()
         onConfirmed: view.maintenance.discardChanges()
-    }
-    ConfirmLoader {
-        isShown: view.maintenance.message.asksAboutLink
-        confirmation: view.maintenance.message.linkConfirmation
-        isDestructive: false
-        onDismissed: view.maintenance.message.cancelLink()
-        onConfirmed: view.maintenance.message.openLink()
     }
 }
