@@ -21,6 +21,7 @@ MarkdownRowValue MarkdownRowValue::of(const MessageEntry& entry)
     value.text = MarkdownTextValue::of(row.text);
     value.cells = valuesOf<MarkdownTextValue>(row.cells);
     value.gap = row.gap;
+    value.table = static_cast<int>(row.table);
     if (entry.columns) {
         for (const auto& longest : entry.columns->longestTexts) value.columns << words(longest);
     }

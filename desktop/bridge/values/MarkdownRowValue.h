@@ -25,6 +25,8 @@ struct MarkdownRowValue {
     Q_PROPERTY(QString label MEMBER label)
     Q_PROPERTY(larkspan::bridge::MarkdownTextValue text MEMBER text)
     Q_PROPERTY(QList<larkspan::bridge::MarkdownTextValue> cells MEMBER cells)
+    /// Of a table's rows: which of the message's tables it is of.
+    Q_PROPERTY(int table MEMBER table)
     /// For each column of the table, its longest text.
     Q_PROPERTY(QStringList columns MEMBER columns)
     Q_PROPERTY(int gap MEMBER gap)
@@ -42,6 +44,7 @@ public:
     QString label{};
     MarkdownTextValue text{};
     QList<MarkdownTextValue> cells{};
+    int table = 0;
     QStringList columns{};
     int gap = 0;
 

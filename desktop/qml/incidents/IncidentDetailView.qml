@@ -33,6 +33,7 @@ ScreenFrame {
             incident: view.incident
         }
         delegate: MessageRow {
+            offsets: tableOffsets
             onFollowed: (cell, href) => view.incident.message.follow(index, cell, href)
         }
         below: IncidentActions {
@@ -40,6 +41,9 @@ ScreenFrame {
         }
     }
 
+    TableOffsets {
+        id: tableOffsets
+    }
     PopupLoader {
         isShown: view.incident.showsDeleteConfirmation
         onDismissed: view.incident.cancelDelete()

@@ -3,10 +3,11 @@ import Larkspan
 import Larkspan.Bridge
 
 // A row of a message. Its markup is the program's own, made of the message's text; Return asks about its links, one after
-// the other.
+// the other, and the arrows scroll a table sideways.
 CardRow {
     id: delegate
     required property markdownRow row
+    required property TableOffsets offsets
     property int nextLink: 0
     signal followed(cell: int, href: string)
 
@@ -20,6 +21,13 @@ CardRow {
         if (row.text.linkCount === 0) return
         followed(-1, nextLink % row.text.linkCount)
         nextLink += 1
+    }
+
+    Keys.onLeftPressed: event => scroll(-1, event)
+    Keys.onRightPressed: event => scroll(1, event)
+    function scroll(direction: int, event: KeyEvent) {
+        // With Alt it is the way back.
+        event.accepted = !(event.modifiers & Qt.AltModifier) && table.step(direction)
     }
 
     contentItem: Item {
@@ -59,6 +67,7 @@ CardRow {
             visible: delegate.row.isTable
             width: parent.width
             row: delegate.row
+            offsets: delegate.offsets
             onFollowed: (cell, href) => delegate.followed(cell, href)
         }
     }

@@ -1,0 +1,157 @@
+#include <QCoreApplication>
+#include <QQuickItem>
+#include <QWheelEvent>
+
+#include <gtest/gtest.h>
+
+#include <ctime>
+#include <functional>
+
+#include "IncidentsOnScreen.h"
+
+namespace larkspan {
+
+namespace {
+
+std::string repeated(std::string_view text, std::size_t times)
+{
+    std::string answer;
+    for (; times > 0; --times) answer += text;
+    return answer;
+}
+
+/// An opened incident with a message of the test's own.
+class MessageOnScreen : public IncidentsOnScreen {
+protected:
+    /// `message` is what stands between the quotes of JSON.
+    void open(const std::string& message)
+    {
+        serve({incident("1", "Login errors", R"(, "message": ")" + message + '"')});
+        press(Qt::Key_F5);
+        openFirst();
+    }
+
+    QQuickItem& rows() const { return item(Role::List, QStringLiteral("Description")); }
+
+    /// The scrolled lines of the message's tables that are in sight, from the top.
+    std::vector<QQuickItem*> tableLines() const
+    {
+        std::vector<QQuickItem*> lines;
+        visit([&lines](QQuickItem& each) {
+            if (each.isVisible() && each.property("offsets").isValid() && each.property("contentX").isValid())
+                lines.push_back(&each);
+        });
+        return lines;
+    }
+};
+
+struct LongMessage {
+    const char* name;
+    std::function<std::string()> text;
+};
+
+void PrintTo(const LongMessage& message, std::ostream* out)
+{
+    *out << message.name;
+}
+
+class LongMessageOnScreen : public MessageOnScreen, public testing::WithParamInterface<LongMessage> {};
+
+/// A text item lays out a megabyte without a place to break in half a minute, so no message is one item.
+TEST_P(LongMessageOnScreen, IsShownAndScrolledToItsEndInBoundedTimeAndItems)
+{
+    const auto message = GetParam().text();
+    const auto begin = std::clock();
+    open(message);
+    rows().forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_End);
+    EXPECT_LT(std::clock() - begin, 4 * CLOCKS_PER_SEC);
+    const auto shown = names(Role::ListItem).size();
+    EXPECT_GT(shown, 0);
+    EXPECT_LT(shown, 100);
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, LongMessageOnScreen,
+    testing::Values(LongMessage{"AMegabyteOfParagraphs",
+                        [] { return repeated(R"(We see **errors** on sign-in and look into them.\n\n)", 20'000); }},
+        LongMessage{"AMegabyteInOneParagraph", [] { return repeated("Most sign-ins succeed again. ", 36'000); }},
+        LongMessage{"AMegabyteWithoutAPlaceToBreak", [] { return std::string(1'000'000, 'x'); }},
+        LongMessage{"Asterisks", [] { return std::string(100'000, '*'); }},
+        LongMessage{"Brackets", [] { return std::string(100'000, '['); }},
+        LongMessage{"Pipes", [] { return std::string(100'000, '|'); }},
+        LongMessage{
+            "PipesOfATable", [] { return "a" + std::string(100'000, '|') + R"(b\n---\n)" + std::string(1'000, '|'); }}),
+    [](const auto& message) { return message.param.name; });
+
+class TablesOnScreen : public MessageOnScreen {
+protected:
+    TablesOnScreen()
+    {
+        const auto wide = repeated("a column with quite some words | ", 12);
+        const auto table = wide + R"(\n---\n)" + wide + R"(\n)" + wide;
+        window().resize(760, 1'000);
+        open(table + R"(\n\nbetween\n\n)" + table);
+    }
+
+    /// How far each line of the two tables is scrolled, from the top.
+    std::vector<qreal> places() const
+    {
+        std::vector<qreal> found;
+        for (const auto* line : tableLines()) found.push_back(line->property("contentX").toReal());
+        return found;
+    }
+
+    void wheelSideways(const QQuickItem& line)
+    {
+        const auto at = line.mapToScene({20, 5});
+        wheel(at, Qt::ScrollBegin, 0);
+        for (int update = 0; update < 3; ++update) wheel(at, Qt::ScrollUpdate, 30);
+        wheel(at, Qt::ScrollEnd, 0);
+        settle();
+    }
+
+private:
+    void wheel(const QPointF& at, Qt::ScrollPhase phase, int distance)
+    {
+        QWheelEvent event(at, window().mapToGlobal(at), {-distance, 0}, {-distance, 0}, Qt::NoButton, Qt::NoModifier,
+            phase, false, Qt::MouseEventSynthesizedBySystem);
+        event.setTimestamp(time_ += 20);
+        QCoreApplication::sendEvent(&window(), &event);
+    }
+
+    quint64 time_ = 1'000;
+};
+
+TEST_F(TablesOnScreen, ScrollAllRowsOfATableSidewaysAndNotTheOtherTable)
+{
+    ASSERT_EQ(places(), std::vector<qreal>(6, 0));
+    wheelSideways(*tableLines()[4]);
+    const auto second = places()[4];
+    EXPECT_GT(second, 0);
+    EXPECT_EQ(places(), (std::vector<qreal>{0, 0, 0, second, second, second}));
+    rows().forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Right);
+    const auto first = places()[0];
+    EXPECT_GT(first, second);
+    EXPECT_EQ(places(), (std::vector<qreal>{first, first, first, second, second, second}));
+}
+
+TEST_F(TablesOnScreen, AreScrolledSidewaysByTheArrowsUpToTheirEnds)
+{
+    rows().forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Right);
+    const auto place = places()[0];
+    EXPECT_GT(place, 0);
+    EXPECT_EQ(places(), (std::vector<qreal>{place, place, place, 0, 0, 0}));
+    for (int step = 0; step < 30; ++step) press(Qt::Key_Right);
+    const auto& line = *tableLines()[0];
+    EXPECT_EQ(places()[0], line.property("contentWidth").toReal() - line.width());
+    for (int step = 0; step < 30; ++step) press(Qt::Key_Left);
+    EXPECT_EQ(places(), std::vector<qreal>(6, 0));
+    press(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(names(Role::ListItem).size(), 1) << "it is the way back";
+}
+
+}  // namespace
+
+}  // namespace larkspan
