@@ -1,0 +1,133 @@
+#include <gtest/gtest.h>
+
+#include "IncidentsOnScreen.h"
+
+namespace larkspan {
+
+namespace {
+
+using platform::HttpResponse;
+
+/// Screens that are left, or lose their page, while the service has not answered yet.
+class IncidentsClosedInMidRequest : public IncidentsOnScreen {
+protected:
+    /// The page goes from the account while it is open.
+    void losePage()
+    {
+        servePages({"b"}, {});
+        refresh();
+        settle();
+    }
+
+    void answer(int status, const std::string& body)
+    {
+        transport.answer(HttpResponse{.status = status, .body = body});
+        settle();
+    }
+
+    void expectDashboard(const QStringList& pages)
+    {
+        EXPECT_EQ(names(Role::ListItem), pages);
+        EXPECT_TRUE(names(Role::Dialog).isEmpty());
+        EXPECT_TRUE(names(Role::ProgressBar).isEmpty());
+    }
+};
+
+TEST_F(IncidentsClosedInMidRequest, APageThatIsLeftWhileItsIncidentsLoadStaysClosed)
+{
+    transport.forget(pageIncidentsURL);
+    press(Qt::Key_F5);
+    press(Qt::Key_Escape);
+    answer(200, "[" + incident("9", "Too late") + "]");
+    expectDashboard({"a"});
+}
+
+TEST_F(IncidentsClosedInMidRequest, ATabThatIsLeftWhileItLoadsFetchesAnewWhenItIsBack)
+{
+    transport.forget(pageIncidentsURL);
+    press(Qt::Key_F5);
+    press(Qt::Key_1, Qt::ControlModifier);
+    press(Qt::Key_2, Qt::ControlModifier);
+    EXPECT_TRUE(names(Role::ProgressBar).contains(QStringLiteral("Loading Incidents...")));
+    answer(200, "[" + incident("9", "For nobody") + "]");
+    EXPECT_TRUE(names(Role::ListItem).isEmpty());
+    answer(200, "[" + incident("1", "Login errors") + "]");
+    EXPECT_EQ(names(Role::ListItem), QStringList{"Login errors"});
+}
+
+TEST_F(IncidentsClosedInMidRequest, AnIncidentThatIsLeftWhileItIsWorkedOnStaysClosedAndItsListIsFetchedAgain)
+{
+    openFirst();
+    transport.script(incidentURL, 200, incident("1", "Login errors", R"(, "acknowledged_at": "x")"));
+    choose("Acknowledge");
+    press(Qt::Key_Escape);
+    EXPECT_EQ(names(Role::ListItem), (QStringList{"Login errors", "Slow checkout"}));
+    serve({incident("2", "Slow checkout")});
+    answer(200, "{}");
+    EXPECT_EQ(names(Role::ListItem), QStringList{"Slow checkout"});
+}
+
+TEST_F(IncidentsClosedInMidRequest, AnIncidentThatIsLeftWhileItIsRefusedTellsNobody)
+{
+    openFirst();
+    choose("Escalate");
+    press(Qt::Key_Escape);
+    answer(409, "");
+    EXPECT_EQ(names(Role::ListItem), (QStringList{"Login errors", "Slow checkout"}));
+    EXPECT_TRUE(names(Role::Dialog).isEmpty());
+}
+
+TEST_F(IncidentsClosedInMidRequest, AnIncidentWhosePageGoesWhileItIsWorkedOnGoesWithIt)
+{
+    openFirst();
+    choose("Escalate");
+    losePage();
+    expectDashboard({"b"});
+    answer(500, "");
+    expectDashboard({"b"});
+}
+
+TEST_F(IncidentsClosedInMidRequest, AFormStaysUntilItsIncidentIsCreated)
+{
+    openForm();
+    type("Title", "Mail");
+    transport.forget(createURL);
+    choose("Save");
+    EXPECT_TRUE(names(Role::ProgressBar).contains(QStringLiteral("Creating...")));
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(asks("New Incident"));
+    EXPECT_FALSE(asks("Discard Changes?"));
+    EXPECT_FALSE(isEnabled("Cancel"));
+    answer(201, incident("3", "Mail"));
+    EXPECT_FALSE(asks("New Incident"));
+    EXPECT_EQ(names(Role::ListItem).value(0), QStringLiteral("Mail"));
+}
+
+TEST_F(IncidentsClosedInMidRequest, AFormWhosePageGoesWhileItIsSentGoesWithIt)
+{
+    openForm();
+    type("Title", "Mail");
+    transport.forget(createURL);
+    choose("Save");
+    serveIncidents({});
+    losePage();
+    expectDashboard({"b"});
+    answer(201, incident("3", "Mail"));
+    expectDashboard({"b"});
+}
+
+TEST_F(IncidentsClosedInMidRequest, AFormThatIsLeftWhileItsChoicesLoadStaysClosed)
+{
+    choose("New Incident");
+    EXPECT_TRUE(names(Role::ProgressBar).contains(QStringLiteral("Loading components…")));
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(asks("New Incident"));
+    answer(500, "");
+    answer(500, "");
+    EXPECT_TRUE(names(Role::Dialog).isEmpty());
+    EXPECT_EQ(names(Role::ListItem), (QStringList{"Login errors", "Slow checkout"}));
+}
+
+}  // namespace
+
+}  // namespace larkspan
