@@ -10,6 +10,7 @@
 
 #include "api/APIError.h"
 #include "gallery/IncidentScenes.h"
+#include "gallery/MaintenanceScenes.h"
 #include "gallery/PageScenes.h"
 #include "model/DecodingError.h"
 #include "platform/URLError.h"
@@ -291,6 +292,7 @@ std::vector<Scene> scenes()
     auto scenes = dashboardScenes();
     std::ranges::move(pageScenes(), std::back_inserter(scenes));
     std::ranges::move(incidentScenes(), std::back_inserter(scenes));
+    std::ranges::move(maintenanceScenes(), std::back_inserter(scenes));
     std::ranges::move(menuScenes(), std::back_inserter(scenes));
     std::ranges::move(settingsScenes(), std::back_inserter(scenes));
     std::ranges::move(otherScenes(), std::back_inserter(scenes));
