@@ -28,6 +28,8 @@ Column {
             anchors.rightMargin: Theme.controlHeight
             text: calendar.picker.month
             font.weight: Font.DemiBold
+            fontSizeMode: Text.HorizontalFit
+            minimumPointSize: Theme.caption2
             horizontalAlignment: Text.AlignHCenter
         }
         ToolbarButton {

@@ -12,15 +12,19 @@ Column {
     spacing: Theme.unit + Theme.halfUnit
 
     Item {
+        readonly property bool isNarrow: caption.implicitWidth + 2 * Theme.unit + moment.implicitWidth > width
+
         width: parent.width
-        height: caption.height
+        height: moment.y + moment.height
 
         Label {
             id: caption
             text: box.name
         }
         Row {
-            anchors.right: parent.right
+            id: moment
+            x: parent.isNarrow ? 0 : parent.width - width
+            y: parent.isNarrow ? caption.height : 0
             spacing: Theme.unit
 
             Label {
@@ -33,18 +37,15 @@ Column {
         }
     }
     Flow {
-        id: flow
         width: parent.width
         spacing: 2 * Theme.unit
 
         Calendar {
-            id: calendar
             width: Math.min(parent.width, 7 * Theme.calendarCellWidth)
             name: box.name
             picker: box.picker
         }
         Column {
-            id: clock
             topPadding: Theme.unit
             spacing: Theme.unit
 

@@ -28,27 +28,27 @@ Sheet {
         onClicked: sheet.form.save()
     }
 
-    GroupBox {
+    TitledField {
         width: parent.width
         title: qsTr("Title")
-        hasCard: false
+
+        TextEntry {
+            width: parent.width
+            focus: true
+            name: qsTr("Title")
+            placeholderText: sheet.titlePlaceholder
+            onTextEdited: sheet.form.editTitle(text)
+        }
     }
-    TextEntry {
-        width: parent.width
-        focus: true
-        name: qsTr("Title")
-        placeholderText: sheet.titlePlaceholder
-        onTextEdited: sheet.form.editTitle(text)
-    }
-    GroupBox {
+    TitledField {
         width: parent.width
         title: qsTr("Message (Optional)")
-        hasCard: false
-    }
-    TextBox {
-        width: parent.width
-        name: qsTr("Message (Optional)")
-        onEdited: text => sheet.form.editMessage(text)
+
+        TextBox {
+            width: parent.width
+            name: qsTr("Message (Optional)")
+            onEdited: text => sheet.form.editMessage(text)
+        }
     }
     AffectedComponents {
         width: parent.width

@@ -91,7 +91,7 @@ QtObject {
     readonly property int titleHeight: 22
     readonly property int detailTitleHeight: 38
     readonly property int smallDetailTitleHeight: 34
-    readonly property int calendarCellWidth: Math.round(36 * scale)
+    readonly property int calendarCellWidth: Math.round(34 * scale)
     readonly property int calendarCellHeight: Math.round(30 * scale)
     readonly property int timeFieldWidth: Math.round(44 * scale)
     readonly property int toggleWidth: Math.round(36 * scale)

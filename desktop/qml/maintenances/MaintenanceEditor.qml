@@ -14,31 +14,31 @@ ScrollingColumn {
         entry.forceActiveFocus(Qt.OtherFocusReason)
     }
 
-    GroupBox {
+    TitledField {
         width: parent.width
         title: qsTr("Title")
         symbol: "pencil"
-        hasCard: false
+
+        TextEntry {
+            id: entry
+            width: parent.width
+            focus: true
+            name: qsTr("Title")
+            placeholderText: qsTr("Maintenance Title")
+            onTextEdited: editor.maintenance.editTitle(text)
+        }
     }
-    TextEntry {
-        id: entry
-        width: parent.width
-        focus: true
-        name: qsTr("Title")
-        placeholderText: qsTr("Maintenance Title")
-        onTextEdited: editor.maintenance.editTitle(text)
-    }
-    GroupBox {
+    TitledField {
         width: parent.width
         title: qsTr("Message")
         symbol: "doc.text"
-        hasCard: false
-    }
-    TextBox {
-        id: box
-        width: parent.width
-        name: qsTr("Message")
-        onEdited: text => editor.maintenance.editMessage(text)
+
+        TextBox {
+            id: box
+            width: parent.width
+            name: qsTr("Message")
+            onEdited: text => editor.maintenance.editMessage(text)
+        }
     }
     GroupBox {
         width: parent.width
