@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "api/APIError.h"
+#include "gallery/OpenedTab.h"
 
 namespace larkspan::gallery {
 
@@ -59,17 +60,7 @@ constexpr const char* message = R"(We move the **primary database** to new hardw
 std::function<void(Stage&)> tab(std::function<void(Maintenances&)> arrange)
 {
     return [arrange = std::move(arrange)](Stage& stage) {
-        model::StatusPage page;
-        page.id = "a";
-        page.name = "Acme Cloud";
-        // With a key the load begins, and as nothing answers it goes on for as long as the scene lets it.
-        stage.storeKey();
-        stage.state().statusPages = std::vector{page};
-        stage.state().lastRefresh = now() - 12s;
-        stage.dashboard().openPage("a");
-        auto& opened = **stage.dashboard().openedPage;
-        opened.select(workspace::StatusPageDetailView::Tab::maintenances);
-        arrange(*opened.maintenances());
+        arrange(*openTab(stage, workspace::StatusPageDetailView::Tab::maintenances).maintenances());
     };
 }
 
