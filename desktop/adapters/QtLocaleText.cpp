@@ -64,7 +64,7 @@ QtLocaleText::QtLocaleText(const QLocale& locale)
     : locale_(locale)
     , dateFormat_(withoutWeekday(locale.dateFormat(QLocale::LongFormat)))
     , dayAndTimeFormat_(dayAndMonth(dateFormat_) + separatorOf(locale.dateFormat(QLocale::LongFormat))
-          + locale.timeFormat(QLocale::ShortFormat))
+          + locale.timeFormat(QLocale::ShortFormat).remove(QStringLiteral(":ss")))
     , collator_(locale.collation())
 {
     collator_.setCaseSensitivity(Qt::CaseInsensitive);

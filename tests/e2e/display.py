@@ -46,6 +46,14 @@ class Display:
     def type_text(self, text: str) -> None:
         self._ask("xdotool", "type", "--delay", "5", text)
 
+    def drag(self, places: list[tuple[int, int]]) -> None:
+        """Holds the button pressed from the first place to the last; at one place alone that is a click."""
+        (x, y), *further = places
+        self._ask("xdotool", "mousemove", str(x), str(y), "mousedown", "1")
+        for x, y in further:
+            self._ask("xdotool", "mousemove", str(x), str(y))
+        self._ask("xdotool", "mouseup", "1")
+
     def press_key(self, key: str) -> None:
         self._ask("xdotool", "key", key)
 

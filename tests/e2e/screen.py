@@ -80,6 +80,10 @@ class Screen:
     def button(self, name: str) -> Thing:
         return self._find(lambda thing: thing.role == "push button" and thing.name == name, f"button \"{name}\"")
 
+    def place(self, name: str) -> tuple[int, int, int, int]:
+        """Where it is on the display: left, top, width and height."""
+        return self._extents(self._find(lambda thing: thing.name == name, f"\"{name}\""))
+
     def press(self, name: str) -> None:
         self._act(self.button(name))
 
@@ -102,8 +106,12 @@ class Screen:
         names = [str(action[0]) for action in self._call(thing.owner, thing.path, ACTION, "GetActions", "", ())]
         self._call(thing.owner, thing.path, ACTION, "DoAction", "i", (names.index("Press"),))
 
+    def _extents(self, thing: Thing) -> tuple[int, int, int, int]:
+        found = self._call(thing.owner, thing.path, "org.a11y.atspi.Component", "GetExtents", "u", (0,))
+        return tuple(int(value) for value in found)
+
     def _top(self, thing: Thing) -> int:
-        return int(self._call(thing.owner, thing.path, "org.a11y.atspi.Component", "GetExtents", "u", (0,))[1])
+        return self._extents(thing)[1]
 
     def _find(self, fits: Callable[[Thing], bool], what: str) -> Thing:
         return eventually(lambda: next(filter(fits, self.things()), None),

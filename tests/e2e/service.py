@@ -59,6 +59,11 @@ class Service:
     def give(self, pages: list[dict]) -> None:
         self._order("PUT", "pages", {"pages": pages})
 
+    def seed(self, name: str) -> None:
+        """An account with all that one can have, believable and the same each time."""
+        self._order("PUT", "pages", {"seed": name})
+        self.forget()
+
     def change(self, page: str, **values: str) -> None:
         self._order("PATCH", f"pages/{page}", values)
 

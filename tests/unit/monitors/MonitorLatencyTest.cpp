@@ -25,7 +25,8 @@ protected:
     Values drawn() const
     {
         Values values;
-        for (const auto& point : row->latencyGraph().curve->points) values.push_back(point.value);
+        const auto graph = row->latencyGraph();
+        for (const auto& point : graph.curve->points) values.push_back(point.value);
         return values;
     }
 
