@@ -2,19 +2,34 @@
 
 #include <QFont>
 #include <QGuiApplication>
+#include <QImage>
 #include <QQuickItem>
 #include <QTimer>
+
+#include <chrono>
+#include <utility>
 
 namespace larkspan::gallery {
 
 namespace {
 
-void settle()
+using namespace std::chrono_literals;
+
+constexpr auto timeBetweenLooks = 30ms;
+constexpr int mostLooks = 50;
+
+/// Until the window looks the same twice; there is no motion to wait for.
+void settle(QQuickWindow& window)
 {
-    // Long enough for a few frames; there is no motion to wait for.
-    QEventLoop loop;
-    QTimer::singleShot(80, &loop, &QEventLoop::quit);
-    loop.exec();
+    QImage before;
+    for (int looks = 0; looks < mostLooks; ++looks) {
+        QEventLoop loop;
+        QTimer::singleShot(timeBetweenLooks, &loop, &QEventLoop::quit);
+        loop.exec();
+        auto now = window.grabWindow();
+        if (now == before) return;
+        before = std::move(now);
+    }
 }
 
 void setFontSize(double points)
@@ -35,7 +50,7 @@ ShownScene::ShownScene(const Scene& scene, const Look& look, adapters::MainExecu
     scene.arrange(stage_);
     window().resize(look.size);
     window().show();
-    settle();
+    settle(window());
     typeWhatIsKnown();
     if (!scene.pressed.empty()) press(QString::fromStdString(scene.pressed));
 }
@@ -48,7 +63,7 @@ void ShownScene::typeWhatIsKnown()
     for (auto* const item : window().findChildren<QQuickItem*>()) {
         if (item->property("echoMode").isValid()) item->setProperty("text", QString::fromStdString(*settings->apiKey));
     }
-    settle();
+    settle(window());
 }
 
 /// Presses the toolbar's button with this help.
@@ -57,7 +72,7 @@ void ShownScene::press(const QString& help)
     for (auto* const item : window().findChildren<QQuickItem*>()) {
         if (item->property("help").toString() == help) QMetaObject::invokeMethod(item, "clicked");
     }
-    settle();
+    settle(window());
 }
 
 }  // namespace larkspan::gallery
