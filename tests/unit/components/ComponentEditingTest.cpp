@@ -7,7 +7,6 @@ namespace larkspan::components {
 
 namespace {
 
-using platform::HttpResponse;
 using presentation::Choice;
 
 TEST_F(DetailOfAComponent, OpensItsEditorWithTheValuesOfTheRecord)
