@@ -91,7 +91,7 @@ def scrolled():
     found = {}
     with desktop(lambda: display.server("2400x1600")) as (_, surroundings, _):
         for scale in ("1", "2"):
-            times = {"pages": [], "incidents": [], "bare": []}
+            times = {"pages": [], "incidents": [], "components": [], "bare": []}
             for _ in range(SCROLL_ROUNDS):
                 for kind, taken in times.items():
                     command = [BINARIES / "larkspan-bench-scroll", kind, str(SCROLLED_ROWS)]

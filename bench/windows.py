@@ -37,7 +37,7 @@ def measure_scroll(build):
     measurements = []
     for scale, times in found.items():
         bare_middle, bare_slow = times["bare"]
-        for kind in ("pages", "incidents"):
+        for kind in ("pages", "incidents", "components"):
             name = f"scroll_10000_{kind}_{scale}x"
             middle, slow = times[kind]
             measurements += [measurement(name, middle, "ms", bare_middle, SCROLL_GOAL),

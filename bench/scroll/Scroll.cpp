@@ -1,9 +1,11 @@
 // Measures what a frame costs while a list of many rows scrolls, as a hand on a touchpad scrolls it: the window's list
-// of status pages, a page's list of incidents, or a bare list that draws the same things.
+// of status pages, a page's list of incidents or of components, or a bare list that draws the same things.
 //
-// usage: larkspan-bench-scroll pages|incidents|bare ROWS     prints the median and the 95th percentile in milliseconds
-//        larkspan-bench-scroll opening ROWS                  prints how long it takes from the choice of a page's
-//                                                            incidents to their first rows on screen, answer included
+// usage: larkspan-bench-scroll pages|incidents|components|bare ROWS
+//                                          prints the median and the 95th percentile in milliseconds
+//        larkspan-bench-scroll opening ROWS
+//                                          prints how long it takes from the choice of a page's incidents to their
+//                                          first rows on screen, answer included
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -61,6 +63,31 @@ simulator::Account accountWithIncidents(std::size_t incidents)
     return account;
 }
 
+/// All of its components are of its first page, in groups of sixteen; with their headings they are that many rows.
+simulator::Account accountWithComponents(std::size_t rows)
+{
+    auto account = accountWithPages(10);
+    account.components.clear();
+    account.componentGroups.clear();
+    for (std::size_t row = 0; row < rows; ++row) {
+        const auto id = std::to_string(row);
+        if (row % 17 == 0) {
+            account.componentGroups.push_back(
+                {.id = id, .name = "Region " + id, .statusPageId = account.statusPages.front().id});
+            continue;
+        }
+        simulator::Component component;
+        component.id = id;
+        component.name = "Sign-in of region " + id;
+        component.description = "For all of its customers";
+        component.state = row % 5 == 0 ? "degraded" : "up";
+        component.groupId = account.componentGroups.back().id;
+        component.statusPageId = account.statusPages.front().id;
+        account.components.push_back(std::move(component));
+    }
+    return account;
+}
+
 /// The program's window over an account.
 class ProgramsWindow : support::Observable {
 public:
@@ -77,16 +104,31 @@ public:
     /// Opens the first page and waits for its incidents to stand in the window.
     void openIncidents(std::size_t count)
     {
-        using Tab = workspace::StatusPageDetailView::Tab;
-        dashboard_->openPage(client_.state().statusPages->front().id);
-        auto& page = **dashboard_->openedPage;
-        page.select(Tab::overview);
-        page.select(Tab::incidents);
+        auto& page = openedAt(Tab::incidents);
         while (page.incidents()->viewModel->incidents->size() != count) QCoreApplication::processEvents();
         QCoreApplication::processEvents();
     }
 
+    /// The same with its components, and the headings of their groups.
+    void openComponents(std::size_t rows)
+    {
+        auto& page = openedAt(Tab::components);
+        while (page.components()->rows().size() != rows) QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+    }
+
 private:
+    using Tab = workspace::StatusPageDetailView::Tab;
+
+    workspace::StatusPageDetailView& openedAt(Tab tab)
+    {
+        dashboard_->openPage(client_.state().statusPages->front().id);
+        auto& page = **dashboard_->openedPage;
+        page.select(Tab::overview);
+        page.select(tab);
+        return page;
+    }
+
     adapters::MainExecutor main_;
     bench::Client client_;
     api::APIKeyStore keys_{main_, client_.store()};
@@ -181,6 +223,10 @@ void measureKind(std::string_view kind, std::size_t rows)
         if (kind == "opening") return measureOpening(programs, rows);
         programs.openIncidents(rows);
         measure(programs.window(), static_cast<int>(rows));
+    } else if (kind == "components") {
+        ProgramsWindow programs(accountWithComponents(rows));
+        programs.openComponents(rows);
+        measure(programs.window(), static_cast<int>(rows));
     } else {
         throw std::runtime_error("there is nothing of that kind to measure");
     }
@@ -191,7 +237,7 @@ void measureKind(std::string_view kind, std::size_t rows)
 int main(int argc, char** argv)
 {
     if (argc != 3) {
-        std::fputs("usage: larkspan-bench-scroll pages|incidents|bare|opening ROWS\n", stderr);
+        std::fputs("usage: larkspan-bench-scroll pages|incidents|components|bare|opening ROWS\n", stderr);
         return 2;
     }
     chooseRenderer();

@@ -42,6 +42,7 @@ void StatusPageDetailBridge::readState()
     incidents_.follow(view_->incidents(), updates_);
     monitors_.follow(view_->monitors(), updates_);
     components_.follow(view_->components(), updates_);
+    maintenances_.follow(view_->maintenances(), updates_);
 }
 
 }  // namespace larkspan::bridge

@@ -9,6 +9,7 @@
 #include "bridge/ChildScreen.h"
 #include "bridge/ComponentListBridge.h"
 #include "bridge/IncidentListBridge.h"
+#include "bridge/MaintenanceListBridge.h"
 #include "bridge/MonitorListBridge.h"
 #include "bridge/RowListModel.h"
 #include "bridge/ScreenBridge.h"
@@ -41,6 +42,8 @@ class StatusPageDetailBridge : public ScreenBridge {
     Q_PROPERTY(larkspan::bridge::MonitorListBridge* monitors READ monitors NOTIFY changed)
     /// The screen of the tab "Components"; null while another is selected.
     Q_PROPERTY(larkspan::bridge::ComponentListBridge* components READ components NOTIFY changed)
+    /// The screen of the tab "Maintenances"; null while another is selected.
+    Q_PROPERTY(larkspan::bridge::MaintenanceListBridge* maintenances READ maintenances NOTIFY changed)
 
 public:
     StatusPageDetailBridge(
@@ -54,6 +57,7 @@ public:
     IncidentListBridge* incidents() const { return incidents_.get(); }
     MonitorListBridge* monitors() const { return monitors_.get(); }
     ComponentListBridge* components() const { return components_.get(); }
+    MaintenanceListBridge* maintenances() const { return maintenances_.get(); }
 
     Q_INVOKABLE void select(int tab);
     Q_INVOKABLE void selectNext() { view_->selectNext(); }
@@ -74,6 +78,7 @@ private:
     ChildScreen<IncidentListBridge, incidents::StatusPageIncidentsView> incidents_;
     ChildScreen<MonitorListBridge, monitors::StatusPageMonitorsView> monitors_;
     ChildScreen<ComponentListBridge, components::StatusPageComponentsView> components_;
+    ChildScreen<MaintenanceListBridge, maintenances::StatusPageMaintenancesView> maintenances_;
 };
 
 }  // namespace larkspan::bridge

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "api/APIError.h"
+#include "gallery/OpenedTab.h"
 
 namespace larkspan::gallery {
 
@@ -72,19 +73,8 @@ A line right behind the table, with <b>HTML</b> that is text.)";
 /// A scene of the tab "Incidents" of an opened page.
 std::function<void(Stage&)> tab(std::function<void(Incidents&)> arrange)
 {
-    return [arrange = std::move(arrange)](Stage& stage) {
-        model::StatusPage page;
-        page.id = "a";
-        page.name = "Acme Cloud";
-        // With a key the load begins, and as nothing answers it goes on for as long as the scene lets it.
-        stage.storeKey();
-        stage.state().statusPages = std::vector{page};
-        stage.state().lastRefresh = now() - 12s;
-        stage.dashboard().openPage("a");
-        auto& opened = **stage.dashboard().openedPage;
-        opened.select(workspace::StatusPageDetailView::Tab::incidents);
-        arrange(*opened.incidents());
-    };
+    return [arrange = std::move(arrange)](
+               Stage& stage) { arrange(*openTab(stage, workspace::StatusPageDetailView::Tab::incidents).incidents()); };
 }
 
 void list(Incidents& view)

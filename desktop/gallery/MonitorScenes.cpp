@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "api/APIError.h"
+#include "gallery/OpenedTab.h"
 
 namespace larkspan::gallery {
 
@@ -80,19 +81,8 @@ MonitorMetricsWindow day()
 /// A scene of the tab "Monitors" of an opened page.
 std::function<void(Stage&)> tab(std::function<void(Monitors&)> arrange)
 {
-    return [arrange = std::move(arrange)](Stage& stage) {
-        model::StatusPage page;
-        page.id = "a";
-        page.name = "Acme Cloud";
-        // With a key the load begins, and as nothing answers it goes on for as long as the scene lets it.
-        stage.storeKey();
-        stage.state().statusPages = std::vector{page};
-        stage.state().lastRefresh = now() - 12s;
-        stage.dashboard().openPage("a");
-        auto& opened = **stage.dashboard().openedPage;
-        opened.select(workspace::StatusPageDetailView::Tab::monitors);
-        arrange(*opened.monitors());
-    };
+    return [arrange = std::move(arrange)](
+               Stage& stage) { arrange(*openTab(stage, workspace::StatusPageDetailView::Tab::monitors).monitors()); };
 }
 
 void list(Monitors& view)

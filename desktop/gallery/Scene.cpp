@@ -9,7 +9,9 @@
 #include <utility>
 
 #include "api/APIError.h"
+#include "gallery/ComponentScenes.h"
 #include "gallery/IncidentScenes.h"
+#include "gallery/MaintenanceScenes.h"
 #include "gallery/MonitorScenes.h"
 #include "gallery/PageScenes.h"
 #include "model/DecodingError.h"
@@ -293,6 +295,8 @@ std::vector<Scene> scenes()
     std::ranges::move(pageScenes(), std::back_inserter(scenes));
     std::ranges::move(incidentScenes(), std::back_inserter(scenes));
     std::ranges::move(monitorScenes(), std::back_inserter(scenes));
+    std::ranges::move(componentScenes(), std::back_inserter(scenes));
+    std::ranges::move(maintenanceScenes(), std::back_inserter(scenes));
     std::ranges::move(menuScenes(), std::back_inserter(scenes));
     std::ranges::move(settingsScenes(), std::back_inserter(scenes));
     std::ranges::move(otherScenes(), std::back_inserter(scenes));

@@ -98,6 +98,21 @@ Window {
                 onWentBack: componentPage.detail.isEditing ? componentPage.detail.close() : componentPage.goBack()
             }
         }
+        PushedPage {
+            id: maintenancePage
+            readonly property MaintenanceListBridge maintenances: window.dashboard.openedPage ? window.dashboard.openedPage.maintenances : null
+            readonly property MaintenanceDetailBridge maintenance: maintenances ? maintenances.detail : null
+
+            isShown: maintenance !== null
+            beneath: statusPage
+            isGuarded: maintenance !== null && maintenance.isEditing
+            onBackWanted: maintenance.requestClose()
+            onDismissed: maintenances.closeDetail()
+            sourceComponent: MaintenanceDetailView {
+                maintenance: maintenancePage.maintenance
+                onWentBack: maintenancePage.maintenance.isEditing ? maintenancePage.maintenance.close() : maintenancePage.goBack()
+            }
+        }
     }
 
     PopupLoader {

@@ -89,24 +89,30 @@ void DateTimePicker::chooseDay(int id)
     choose(local_days(std::chrono::days(id)), timeOfDay());
 }
 
+local_days DateTimePicker::dayInSight() const
+{
+    const auto weeks = weeksOf(*shownMonth, ports_.locale.firstDayOfWeek());
+    return day() >= weeks.front() && day() <= weeks.back() ? day() : local_days(*shownMonth / 1);
+}
+
 void DateTimePicker::moveDays(int count)
 {
-    choose(day() + std::chrono::days(count), timeOfDay());
+    choose(dayInSight() + std::chrono::days(count), timeOfDay());
 }
 
 void DateTimePicker::moveMonths(int count)
 {
-    choose(monthsLater(day(), count), timeOfDay());
+    choose(monthsLater(dayInSight(), count), timeOfDay());
 }
 
 void DateTimePicker::moveToBeginOfWeek()
 {
-    choose(beginOfWeek(day(), ports_.locale.firstDayOfWeek()), timeOfDay());
+    choose(beginOfWeek(dayInSight(), ports_.locale.firstDayOfWeek()), timeOfDay());
 }
 
 void DateTimePicker::moveToEndOfWeek()
 {
-    choose(beginOfWeek(day(), ports_.locale.firstDayOfWeek()) + std::chrono::days(6), timeOfDay());
+    choose(beginOfWeek(dayInSight(), ports_.locale.firstDayOfWeek()) + std::chrono::days(6), timeOfDay());
 }
 
 ClockFace DateTimePicker::face() const

@@ -48,6 +48,7 @@ public:
     /// The day of that id.
     void chooseDay(int id);
 
+    /// From the chosen day or, where that is out of sight, from the first one of the month that is shown.
     void moveDays(int count);
     void moveMonths(int count);
     void moveToBeginOfWeek();
@@ -67,6 +68,7 @@ public:
 private:
     ClockFace face() const;
     std::chrono::local_days day() const { return ports_.locale.day(*moment); }
+    std::chrono::local_days dayInSight() const;
     std::chrono::minutes timeOfDay() const;
     int hourOfDay() const { return static_cast<int>(timeOfDay() / std::chrono::hours(1)); }
     int minuteOfHour() const { return static_cast<int>(timeOfDay().count()) % 60; }

@@ -29,7 +29,7 @@ Column {
             anchors.right: parent.right
             anchors.baseline: name.baseline
             visible: facts.detail.status.text !== ""
-            width: Math.min(implicitWidth, parent.width / 2)
+            width: Math.min(implicitWidth, parent.width * 0.4)
             pill: facts.detail.status
             pointSize: Theme.subheadline
         }
@@ -45,6 +45,7 @@ Column {
                 required property fact modelData
                 width: parent.width
                 fact: modelData
+                isIndented: facts.detail.details[0].symbol !== ""
                 onFollowed: facts.detail.openURL()
             }
         }

@@ -12,7 +12,7 @@ CardRow {
     description: row.status.text
     isPressable: !row.isHeading
     hasDivider: row.followsComponent && !row.isHeading
-    topPadding: row.isHeading ? gap : Theme.unit
+    topPadding: row.isHeading ? gap : 0
     implicitHeight: row.isHeading ? heading.implicitHeight + gap + Theme.unit
         : Math.max(Theme.rowHeight, words.implicitHeight + 2 * Theme.unit)
     // Qt 6.4 lets no row be anything but a list item, so that the words of a heading stand for it.
@@ -91,7 +91,7 @@ CardRow {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             visible: delegate.row.status.text !== ""
-            width: Math.min(implicitWidth, parent.width * 0.4)
+            width: Math.min(implicitWidth, parent.width / 2)
             pill: delegate.row.status
             weight: Font.Medium
         }

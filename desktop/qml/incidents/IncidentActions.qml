@@ -12,16 +12,13 @@ Item {
 
     implicitHeight: card.y + card.height
 
-    component ActionCommand: CommandButton {
-        required property actionButton modelData
+    component Command: ActionCommand {
         required property int index
         readonly property bool isPaired: index < 2
-        text: modelData.label
-        symbol: modelData.symbol
-        tone: modelData.tone
-        isProminent: modelData.isProminent
-        enabled: modelData.isEnabled
-        onClicked: actions.incident.press(modelData.id)
+        // One that goes asks once more.
+        button: index < actions.buttons.length ? actions.buttons[index] : gone
+        property actionButton gone
+        onClicked: actions.incident.press(button.id)
     }
 
     Rectangle {
@@ -44,9 +41,9 @@ Item {
             spacing: Theme.unit
 
             Repeater {
-                model: actions.buttons
-                ActionCommand {
-                    transform: Translate { x: modelData.isProminent ? Math.max(0, row.gap) : 0 }
+                model: actions.buttons.length
+                Command {
+                    transform: Translate { x: isProminent ? Math.max(0, row.gap) : 0 }
                 }
             }
         }
@@ -59,9 +56,9 @@ Item {
             spacing: Theme.unit + Theme.halfUnit
 
             Repeater {
-                model: actions.buttons
-                ActionCommand {
-                    visible: modelData.isProminent
+                model: actions.buttons.length
+                Command {
+                    visible: isProminent
                     anchors.horizontalCenter: parent.horizontalCenter
                 }
             }
@@ -75,7 +72,7 @@ Item {
                 readonly property real wordsWidth: {
                     let sum = Theme.wideGap
                     for (let at = 0; at < paired.count; ++at) {
-                        const button = paired.itemAt(at) as ActionCommand
+                        const button = paired.itemAt(at) as Command
                         if (button && button.isPaired) sum += button.implicitWidth
                     }
                     return sum
@@ -88,16 +85,16 @@ Item {
 
                 Repeater {
                     id: paired
-                    model: actions.buttons
-                    ActionCommand {
+                    model: actions.buttons.length
+                    Command {
                         visible: isPaired
                     }
                 }
             }
             Repeater {
-                model: actions.buttons
-                ActionCommand {
-                    visible: !isPaired && !modelData.isProminent
+                model: actions.buttons.length
+                Command {
+                    visible: !isPaired && !isProminent
                     anchors.horizontalCenter: parent.horizontalCenter
                 }
             }

@@ -24,49 +24,27 @@ ScreenFrame {
         onClicked: view.incident.confirmDelete()
     }
 
-    CardList {
+    MessageList {
         anchors.fill: parent
-        name: qsTr("Description")
-        rows: view.incident.message.rows
-        widest: Theme.columnWidth * Theme.scale
+        message: view.incident.message
         above: IncidentFacts {
             incident: view.incident
-        }
-        delegate: MessageRow {
-            offsets: tableOffsets
-            onFollowed: (cell, href) => view.incident.message.follow(index, cell, href)
         }
         below: IncidentActions {
             incident: view.incident
         }
     }
 
-    TableOffsets {
-        id: tableOffsets
-    }
-    PopupLoader {
+    ConfirmLoader {
         isShown: view.incident.showsDeleteConfirmation
+        confirmation: view.incident.deleteConfirmation
         onDismissed: view.incident.cancelDelete()
-        sourceComponent: ConfirmDialog {
-            confirmation: view.incident.deleteConfirmation
-            onConfirmed: view.incident.deleteIncident()
-        }
+        onConfirmed: view.incident.deleteIncident()
     }
-    PopupLoader {
+    ConfirmLoader {
         isShown: view.incident.showsDiscardConfirmation
+        confirmation: view.incident.discardConfirmation
         onDismissed: view.incident.keepEditing()
-        sourceComponent: ConfirmDialog {
-            confirmation: view.incident.discardConfirmation
-            onConfirmed: view.incident.discardChanges()
-        }
-    }
-    PopupLoader {
-        isShown: view.incident.message.asksAboutLink
-        onDismissed: view.incident.message.cancelLink()
-        sourceComponent: ConfirmDialog {
-            confirmation: view.incident.message.linkConfirmation
-            isDestructive: false
-            onConfirmed: view.incident.message.openLink()
-        }
+        onConfirmed: view.incident.discardChanges()
     }
 }

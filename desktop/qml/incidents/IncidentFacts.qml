@@ -10,53 +10,15 @@ Column {
     spacing: Theme.margin
     bottomPadding: Theme.unit
 
-    Column {
+    RecordHeader {
         width: parent.width
-        spacing: Theme.halfUnit
-
-        MarqueeText {
-            width: parent.width
-            layoutHeight: Theme.detailTitleHeight
-            text: facts.incident.incidentTitle
-            font.pointSize: Theme.title
-            font.weight: Font.Bold
-            Accessible.role: Accessible.Heading
-        }
-        Flow {
-            width: parent.width
-            spacing: Theme.unit
-
-            Repeater {
-                model: facts.incident.pills
-                Pill {
-                    required property pill modelData
-                    pill: modelData
-                    pointSize: Theme.subheadline
-                    sidePadding: Theme.wideGap
-                    topPadding: Theme.headerPillPadding
-                }
-            }
-        }
+        title: facts.incident.incidentTitle
+        pills: facts.incident.pills
     }
-    GroupBox {
+    TimelineGroup {
         width: parent.width
-        title: qsTr("Timeline")
-        symbol: "clock.arrow.circlepath"
-        contentSpacing: Theme.unit
+        rows: facts.incident.timeline
 
-        Repeater {
-            model: facts.incident.timeline
-            TimelineLine {
-                required property timelineRow modelData
-                width: parent.width
-                row: modelData
-            }
-        }
-        Rectangle {
-            width: parent.width
-            height: Theme.hairline
-            color: Theme.line
-        }
         DurationLine {
             width: parent.width
             duration: facts.incident.duration

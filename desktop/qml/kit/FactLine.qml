@@ -6,12 +6,13 @@ import Larkspan.Bridge
 Item {
     id: line
     required property fact fact
+    // Its label stands in line with those that have a symbol.
+    property bool isIndented: fact.symbol !== ""
     signal followed
 
     implicitHeight: Math.max(label.implicitHeight, value.implicitHeight)
 
     Symbol {
-        id: mark
         anchors.verticalCenter: parent.verticalCenter
         visible: line.fact.symbol !== ""
         width: Theme.smallIconSize
@@ -21,7 +22,7 @@ Item {
     }
     Label {
         id: label
-        x: mark.visible ? Theme.iconSize + Theme.unit : 0
+        x: line.isIndented ? Theme.iconSize + Theme.unit : 0
         width: Math.min(implicitWidth, line.width / 2 - Theme.unit - x)
         height: parent.height
         text: line.fact.label

@@ -5,7 +5,8 @@ import Larkspan.Bridge
 // A card under a small title, with a symbol before it where there is one.
 Column {
     id: group
-    required property string title
+    // Empty for none.
+    property string title
     property string symbol
     // Without, the title stands over what follows below.
     property bool hasCard: true
@@ -15,6 +16,7 @@ Column {
     spacing: Theme.unit
 
     Row {
+        visible: group.title !== ""
         x: Theme.halfUnit
         spacing: Theme.unit
 

@@ -1,22 +1,45 @@
 import QtQuick
 import QtQuick.Templates as T
 import Larkspan
+import Larkspan.Bridge
 
 T.MenuItem {
     id: item
+    property string symbol
+    property bool isDestructive: false
+    readonly property color ink: highlighted ? Theme.accentText : isDestructive ? Theme.red : Theme.text
+
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Math.max(Theme.controlHeight, implicitContentHeight + 2 * Theme.halfUnit)
     leftPadding: 2 * Theme.unit - Theme.halfUnit
     rightPadding: leftPadding
     hoverEnabled: true
+    opacity: enabled ? 1 : 0.5
     Accessible.name: text
     // Qt 6.4 tells assistive technologies of the action, but does nothing when they take it.
     Accessible.onPressAction: if (enabled) triggered()
 
-    contentItem: Label {
-        text: item.text
-        color: item.highlighted ? Theme.accentText : Theme.text
-        Accessible.ignored: true
+    contentItem: Item {
+        implicitWidth: caption.x + caption.implicitWidth
+        implicitHeight: caption.implicitHeight
+
+        Symbol {
+            visible: item.symbol !== ""
+            anchors.verticalCenter: parent.verticalCenter
+            width: Theme.smallIconSize
+            height: width
+            name: item.symbol
+            color: item.ink
+        }
+        Label {
+            id: caption
+            x: item.symbol === "" ? 0 : Theme.smallIconSize + Theme.unit
+            width: parent.width - x
+            height: parent.height
+            text: item.text
+            color: item.ink
+            Accessible.ignored: true
+        }
     }
     background: Rectangle {
         radius: Theme.pillRadius

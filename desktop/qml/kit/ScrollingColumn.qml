@@ -23,11 +23,12 @@ Flickable {
     Accessible.ignored: name === ""
     Accessible.focusable: activeFocusOnTab
     onFocusedItemChanged: reveal(focusedItem)
+    onHeightChanged: reveal(focusedItem)
 
     function reveal(item: Item) {
         let ancestor = item
         while (ancestor && ancestor !== column) ancestor = ancestor.parent
-        if (!ancestor) return
+        if (!ancestor || height <= 0) return
         const top = item.mapToItem(contentItem, 0, 0).y - Theme.margin
         const bottom = top + item.height + 2 * Theme.margin
         if (top < contentY) contentY = Math.max(0, top)

@@ -10,7 +10,6 @@ QtObject {
         return table < places.length ? places[table] : 0
     }
     function move(table: int, place: real) {
-        while (places.length <= table) places.push(0)
         places[table] = place
         moved(table)
     }

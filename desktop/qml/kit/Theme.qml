@@ -17,8 +17,6 @@ QtObject {
     readonly property color secondary: hasHighContrast ? text : isDark ? "#b0b7c1" : "#5a6068"
     readonly property color accent: isDark ? "#2f6fd0" : "#1a5bbd"
     readonly property color accentText: "#ffffff"
-    // On a status colour that fills a button.
-    readonly property color toneText: card
     readonly property color green: isDark ? "#5bd68f" : "#17703b"
     readonly property color orange: isDark ? "#f3ad5e" : "#964a00"
     readonly property color yellow: isDark ? "#e8ca5c" : "#705700"
@@ -30,6 +28,8 @@ QtObject {
     readonly property color pressed: Qt.alpha(text, 0.12)
     readonly property color shadow: isDark ? "#80000000" : "#30000000"
     readonly property color accentOnCard: isDark ? blue : accent
+    // Of what stands on the full colour of a tone.
+    readonly property color toneText: isDark ? window : accentText
     readonly property color dimming: "#66000000"
     readonly property color veil: "#33000000"
     readonly property real pillOpacity: 0.15
@@ -90,7 +90,10 @@ QtObject {
     readonly property int headerPillPadding: 5
     readonly property int titleHeight: 22
     readonly property int detailTitleHeight: 38
-    readonly property int monitorTitleHeight: 34
+    readonly property int smallDetailTitleHeight: 34
+    readonly property int calendarCellWidth: Math.round(34 * scale)
+    readonly property int calendarCellHeight: Math.round(30 * scale)
+    readonly property int timeFieldWidth: Math.round(44 * scale)
     readonly property int toggleWidth: Math.round(36 * scale)
     readonly property int toggleHeight: Math.round(20 * scale)
     readonly property int itemIndent: Math.round(8 * scale)

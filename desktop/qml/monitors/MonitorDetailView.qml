@@ -23,32 +23,12 @@ ScreenFrame {
         spacing: Theme.margin
         focus: true
 
-        Column {
+        RecordHeader {
             width: parent.width
             spacing: Theme.unit
-
-            MarqueeText {
-                width: parent.width
-                layoutHeight: Theme.monitorTitleHeight
-                text: view.monitor.name
-                font.pointSize: Theme.title
-                font.weight: Font.Bold
-                Accessible.role: Accessible.Heading
-            }
-            Flow {
-                width: parent.width
-                spacing: Theme.unit
-
-                Repeater {
-                    model: view.monitor.pills
-                    Pill {
-                        required property pill modelData
-                        pill: modelData
-                        sidePadding: Theme.wideGap
-                        topPadding: Theme.headerPillPadding
-                    }
-                }
-            }
+            title: view.monitor.name
+            titleHeight: Theme.smallDetailTitleHeight
+            pills: view.monitor.pills
         }
         GroupBox {
             width: parent.width

@@ -11,12 +11,20 @@ ScreenFrame {
 
     title: page.title
     canGoBack: true
-    trailing: ToolbarButton {
-        visible: view.page.incidents !== null
-        symbol: "plus"
-        help: qsTr("New Incident")
-        onClicked: view.page.incidents.openForm()
-    }
+    trailing: [
+        ToolbarButton {
+            visible: view.page.incidents !== null
+            symbol: "plus"
+            help: qsTr("New Incident")
+            onClicked: view.page.incidents.openForm()
+        },
+        ToolbarButton {
+            visible: view.page.maintenances !== null
+            symbol: "plus"
+            help: qsTr("New Maintenance")
+            onClicked: view.page.maintenances.openForm()
+        }
+    ]
 
     SegmentedPicker {
         id: picker
@@ -37,6 +45,7 @@ ScreenFrame {
         sourceComponent: view.page.incidents ? incidents
             : view.page.monitors ? monitors
             : view.page.components ? components
+            : view.page.maintenances ? maintenances
             : view.page.selectedTab === 0 ? overview : null
         onLoaded: item.focus = true
     }
@@ -59,6 +68,12 @@ ScreenFrame {
         }
     }
     Component {
+        id: maintenances
+        StatusPageMaintenancesView {
+            maintenances: view.page.maintenances
+        }
+    }
+    Component {
         id: overview
         StatusPageOverviewView {
             page: view.page
@@ -69,7 +84,14 @@ ScreenFrame {
         isShown: view.page.incidents !== null && view.page.incidents.form !== null
         onDismissed: view.page.incidents.form.cancel()
         sourceComponent: CreateIncidentView {
-            form: view.page.incidents.form
+            incident: view.page.incidents.form
+        }
+    }
+    PopupLoader {
+        isShown: view.page.maintenances !== null && view.page.maintenances.form !== null
+        onDismissed: view.page.maintenances.form.cancel()
+        sourceComponent: CreateMaintenanceView {
+            maintenance: view.page.maintenances.form
         }
     }
 
@@ -79,6 +101,7 @@ ScreenFrame {
         onActivated: view.page.incidents ? view.page.incidents.refresh()
             : view.page.monitors ? view.page.monitors.refresh()
             : view.page.components ? view.page.components.refresh()
+            : view.page.maintenances ? view.page.maintenances.refresh()
             : view.accountWanted()
     }
     Shortcut {

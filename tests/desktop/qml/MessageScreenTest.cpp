@@ -101,29 +101,39 @@ protected:
         return found;
     }
 
-    void wheelSideways(const QPointF& at, Qt::ScrollPhase phase, int distance)
+    void wheelSideways(const QQuickItem& line)
     {
-        QWheelEvent wheel(at, window().mapToGlobal(at), {-distance, 0}, {-distance, 0}, Qt::NoButton, Qt::NoModifier,
-            phase, false, Qt::MouseEventSynthesizedBySystem);
-        wheel.setTimestamp(time_ += 20);
-        QCoreApplication::sendEvent(&window(), &wheel);
+        const auto at = line.mapToScene({20, 5});
+        wheel(at, Qt::ScrollBegin, 0);
+        for (int update = 0; update < 3; ++update) wheel(at, Qt::ScrollUpdate, 30);
+        wheel(at, Qt::ScrollEnd, 0);
+        settle();
     }
 
 private:
+    void wheel(const QPointF& at, Qt::ScrollPhase phase, int distance)
+    {
+        QWheelEvent event(at, window().mapToGlobal(at), {-distance, 0}, {-distance, 0}, Qt::NoButton, Qt::NoModifier,
+            phase, false, Qt::MouseEventSynthesizedBySystem);
+        event.setTimestamp(time_ += 20);
+        QCoreApplication::sendEvent(&window(), &event);
+    }
+
     quint64 time_ = 1'000;
 };
 
 TEST_F(TablesOnScreen, ScrollAllRowsOfATableSidewaysAndNotTheOtherTable)
 {
     ASSERT_EQ(places(), std::vector<qreal>(6, 0));
-    const auto at = tableLines()[1]->mapToScene({20, 5});
-    wheelSideways(at, Qt::ScrollBegin, 0);
-    for (int update = 0; update < 3; ++update) wheelSideways(at, Qt::ScrollUpdate, 30);
-    wheelSideways(at, Qt::ScrollEnd, 0);
-    settle();
-    const auto place = places()[1];
-    EXPECT_GT(place, 0);
-    EXPECT_EQ(places(), (std::vector<qreal>{place, place, place, 0, 0, 0}));
+    wheelSideways(*tableLines()[4]);
+    const auto second = places()[4];
+    EXPECT_GT(second, 0);
+    EXPECT_EQ(places(), (std::vector<qreal>{0, 0, 0, second, second, second}));
+    rows().forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Right);
+    const auto first = places()[0];
+    EXPECT_GT(first, second);
+    EXPECT_EQ(places(), (std::vector<qreal>{first, first, first, second, second, second}));
 }
 
 TEST_F(TablesOnScreen, AreScrolledSidewaysByTheArrowsUpToTheirEnds)

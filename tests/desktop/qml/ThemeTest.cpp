@@ -68,6 +68,13 @@ TEST_P(Theme, KeepsStatusColoursLegibleOnACardAndOnTheirOwnTints)
     }
 }
 
+TEST_P(Theme, KeepsWordsLegibleOnAButtonOfAFullStatusColour)
+{
+    for (const char* token : {"green", "orange", "yellow", "red", "blue", "gray"}) {
+        EXPECT_GE(contrast(color("toneText"), color(token)), 4.5) << token;
+    }
+}
+
 TEST_P(Theme, KeepsTextLegible)
 {
     for (const char* ground : {"window", "card"}) {

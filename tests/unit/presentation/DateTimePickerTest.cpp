@@ -115,10 +115,23 @@ TEST_F(PickerOfAMoment, MovesByDaysWeeksMonthsAndToTheEndsOfTheWeek)
     EXPECT_EQ(chosen(), "2026-02-06 09:30");
 }
 
-TEST_F(PickerOfAMoment, ComesBackToTheMonthOfTheChosenDayWhenItMoves)
+TEST_F(PickerOfAMoment, MovesFromTheFirstDayOfAMonthInWhichTheChosenOneIsNotInSight)
 {
     picker.browseMonths(5);
     picker.moveDays(1);
+    EXPECT_EQ(chosen(), "2027-04-02 09:30");
+    picker.browseMonths(-1);
+    picker.moveDays(1);
+    EXPECT_EQ(chosen(), "2027-04-03 09:30") << "it is in sight at the end of March";
+    picker.browseMonths(1);
+    picker.moveToEndOfWeek();
+    EXPECT_EQ(chosen(), "2027-05-02 09:30");
+}
+
+TEST_F(PickerOfAMoment, ComesBackToTheMonthOfTheChosenDayWhenItsTimeIsTyped)
+{
+    picker.browseMonths(5);
+    picker.typeMinute("0");
     EXPECT_EQ(picker.month(), "11/2026");
 }
 

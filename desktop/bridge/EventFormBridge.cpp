@@ -1,0 +1,25 @@
+#include "bridge/EventFormBridge.h"
+
+#include <utility>
+
+#include "bridge/ValueList.h"
+
+namespace larkspan::bridge {
+
+EventFormBridge::EventFormBridge(
+    std::shared_ptr<presentation::EventForm> form, const ScreenUpdates& updates, QObject* parent)
+    : ScreenBridge(updates, parent)
+    , form_(std::move(form))
+{
+    for (const auto& subscription : form_->observe(observer())) keep(subscription);
+    EventFormBridge::readState();
+}
+
+void EventFormBridge::readState()
+{
+    groups_ = valuesOf<ChoiceValue>(selection().groupChoices());
+    components_ = valuesOf<ChoiceValue>(selection().componentChoices());
+    monitors_ = valuesOf<ChoiceValue>(form_->monitorChoices());
+}
+
+}  // namespace larkspan::bridge

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QList>
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+
+#include "bridge/ScreenBridge.h"
+#include "bridge/Words.h"
+#include "bridge/values/ChoiceValue.h"
+#include "bridge/values/ConfirmationValue.h"
+#include "presentation/EventForm.h"
+
+namespace larkspan::bridge {
+
+/// What the forms of all events have for QML; worded and decided by `presentation::EventForm`.
+class EventFormBridge : public ScreenBridge {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("what the forms of all events are")
+    Q_PROPERTY(QList<larkspan::bridge::ChoiceValue> groups MEMBER groups_ NOTIFY changed)
+    Q_PROPERTY(QString selectedGroup READ selectedGroup NOTIFY changed)
+    Q_PROPERTY(bool showsComponents READ showsComponents NOTIFY changed)
+    Q_PROPERTY(bool isComponentPickerEnabled READ isComponentPickerEnabled NOTIFY changed)
+    Q_PROPERTY(QList<larkspan::bridge::ChoiceValue> components MEMBER components_ NOTIFY changed)
+    Q_PROPERTY(QString selectedComponent READ selectedComponent NOTIFY changed)
+    Q_PROPERTY(bool isLoadingMonitors READ isLoadingMonitors NOTIFY changed)
+    Q_PROPERTY(bool showsMonitors READ showsMonitors NOTIFY changed)
+    Q_PROPERTY(QList<larkspan::bridge::ChoiceValue> monitors MEMBER monitors_ NOTIFY changed)
+    Q_PROPERTY(QString selectedMonitor READ selectedMonitor NOTIFY changed)
+    Q_PROPERTY(bool isLoadingComponents READ isLoadingComponents NOTIFY changed)
+    Q_PROPERTY(QString selectionHint READ selectionHint NOTIFY changed)
+    Q_PROPERTY(bool isSaveEnabled READ isSaveEnabled NOTIFY changed)
+    Q_PROPERTY(bool isCancelEnabled READ isCancelEnabled NOTIFY changed)
+    Q_PROPERTY(bool isBusy READ isBusy NOTIFY changed)
+    Q_PROPERTY(QString busyText READ busyText CONSTANT)
+    Q_PROPERTY(QString alert READ alert NOTIFY changed)
+    Q_PROPERTY(bool showsDiscardConfirmation READ showsDiscardConfirmation NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::ConfirmationValue discardConfirmation READ discardConfirmation CONSTANT)
+
+public:
+    QString selectedGroup() const { return words(*selection().selectedComponentGroupID); }
+    bool showsComponents() const { return selection().showsComponentPicker(); }
+    bool isComponentPickerEnabled() const { return selection().isComponentPickerEnabled(); }
+    QString selectedComponent() const { return words(*selection().selectedComponentID); }
+    bool isLoadingMonitors() const { return *selection().isLoadingMonitors; }
+    bool showsMonitors() const { return selection().showsMonitorPicker(); }
+    QString selectedMonitor() const { return words(*selection().selectedMonitorID); }
+    bool isLoadingComponents() const { return *selection().isLoadingComponents; }
+    QString selectionHint() const { return words(form_->selectionHint()); }
+    bool isSaveEnabled() const { return form_->isSaveEnabled(); }
+    bool isCancelEnabled() const { return form_->isCancelEnabled(); }
+    bool isBusy() const { return *form_->action->isInProgress; }
+    QString busyText() const { return words(presentation::EventForm::busyText); }
+    QString alert() const { return words(*form_->action->alert); }
+    bool showsDiscardConfirmation() const { return *form_->showDiscardConfirmation; }
+    ConfirmationValue discardConfirmation() const { return ConfirmationValue::of(presentation::discardConfirmation); }
+
+    Q_INVOKABLE void editTitle(const QString& text) { form_->title = text.toStdString(); }
+    Q_INVOKABLE void editMessage(const QString& text) { form_->message = text.toStdString(); }
+    Q_INVOKABLE void chooseGroup(const QString& id) { form_->selection->chooseGroup(id.toStdString()); }
+    Q_INVOKABLE void chooseComponent(const QString& id) { form_->selection->chooseComponent(id.toStdString()); }
+    Q_INVOKABLE void chooseMonitor(const QString& id) { form_->selection->chooseMonitor(id.toStdString()); }
+    Q_INVOKABLE void save() { form_->save(); }
+    Q_INVOKABLE void cancel() { form_->cancel(); }
+    Q_INVOKABLE void requestClose() { form_->requestClose(); }
+    Q_INVOKABLE void keepEditing() { form_->keepEditing(); }
+    Q_INVOKABLE void discardChanges() { form_->discardChanges(); }
+    Q_INVOKABLE void dismissAlert() { form_->action->dismissAlert(); }
+
+protected:
+    EventFormBridge(std::shared_ptr<presentation::EventForm> form, const ScreenUpdates& updates, QObject* parent);
+
+private:
+    const presentation::ComponentSelection& selection() const { return *form_->selection; }
+    void readState() override;
+
+    std::shared_ptr<presentation::EventForm> form_;
+    QList<ChoiceValue> groups_;
+    QList<ChoiceValue> components_;
+    QList<ChoiceValue> monitors_;
+};
+
+}  // namespace larkspan::bridge

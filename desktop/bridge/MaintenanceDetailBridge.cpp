@@ -1,0 +1,37 @@
+#include "bridge/MaintenanceDetailBridge.h"
+
+#include <utility>
+
+#include "bridge/ValueList.h"
+
+namespace larkspan::bridge {
+
+using maintenances::MaintenanceDetailView;
+
+MaintenanceDetailBridge::MaintenanceDetailBridge(
+    std::shared_ptr<MaintenanceDetailView> view, const ScreenUpdates& updates, QObject* parent)
+    : ScreenBridge(updates, parent)
+    , view_(std::move(view))
+    , message_(view_->message, updates)
+    , editedScheduledFor_(view_->editedScheduledFor, updates)
+    , editedScheduledUntil_(view_->editedScheduledUntil, updates)
+{
+    for (const auto& subscription : view_->observe(observer())) keep(subscription);
+    MaintenanceDetailBridge::readState();
+}
+
+ConfirmationValue MaintenanceDetailBridge::deleteConfirmation() const
+{
+    return ConfirmationValue::of(MaintenanceDetailView::deleteConfirmation);
+}
+
+void MaintenanceDetailBridge::readState()
+{
+    pills_ = {PillValue::of(view_->status())};
+    timeline_ = valuesOf<TimelineRowValue>(view_->timeline());
+    recordRows_ = valuesOf<TimelineRowValue>(view_->recordRows());
+    message_.show(view_->showsDescription() ? view_->description() : "");
+    buttons_ = valuesOf<ActionButtonValue>(view_->buttons());
+}
+
+}  // namespace larkspan::bridge

@@ -1,0 +1,230 @@
+#include "gallery/MaintenanceScenes.h"
+
+#include <chrono>
+#include <exception>
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "api/APIError.h"
+
+namespace larkspan::gallery {
+
+using namespace std::chrono_literals;
+using model::Maintenance;
+
+namespace {
+
+using Maintenances = maintenances::StatusPageMaintenancesView;
+using Detail = maintenances::MaintenanceDetailView;
+using Form = maintenances::CreateMaintenanceView;
+
+support::Time now()
+{
+    return std::chrono::time_point_cast<std::chrono::milliseconds>(std::chrono::system_clock::now());
+}
+
+Maintenance maintenance(std::string id, std::string title, std::string status)
+{
+    Maintenance made;
+    made.id = std::move(id);
+    made.title = std::move(title);
+    made.status = std::move(status);
+    made.scheduledFor = now() - 40min;
+    made.completedAt = now() + 80min;
+    return made;
+}
+
+std::vector<Maintenance> everyStatus()
+{
+    auto undated = maintenance("5", "<b>Bold</b> &amp; حالة الخدمة 🐦", "cancelled");
+    undated.scheduledFor = std::nullopt;
+    return {maintenance("1", "Database upgrade in the EU region", "scheduled"),
+        maintenance("2", "New certificates", "in_progress"),
+        maintenance("3",
+            "Old work with a title that goes on and on, far beyond what any window has room for in one line",
+            "completed"),
+        undated};
+}
+
+constexpr const char* message = R"(We move the **primary database** to new hardware, see
+[the plan](https://status.acme.example/plan).
+
+- EU region only
+- Reading goes on, writing is paused for a minute
+)";
+
+/// A scene of the tab "Maintenances" of an opened page.
+std::function<void(Stage&)> tab(std::function<void(Maintenances&)> arrange)
+{
+    return [arrange = std::move(arrange)](Stage& stage) {
+        model::StatusPage page;
+        page.id = "a";
+        page.name = "Acme Cloud";
+        // With a key the load begins, and as nothing answers it goes on for as long as the scene lets it.
+        stage.storeKey();
+        stage.state().statusPages = std::vector{page};
+        stage.state().lastRefresh = now() - 12s;
+        stage.dashboard().openPage("a");
+        auto& opened = **stage.dashboard().openedPage;
+        opened.select(workspace::StatusPageDetailView::Tab::maintenances);
+        arrange(*opened.maintenances());
+    };
+}
+
+void list(Maintenances& view)
+{
+    view.viewModel->maintenances = everyStatus();
+    view.viewModel->isLoading = false;
+}
+
+void loading(Maintenances&) {}
+
+void empty(Maintenances& view)
+{
+    view.viewModel->isLoading = false;
+}
+
+void failed(Maintenances& view)
+{
+    view.viewModel->isLoading = false;
+    view.viewModel->error = std::make_exception_ptr(api::APIError::httpStatus(503));
+}
+
+/// A scene of one maintenance, opened.
+std::function<void(Stage&)> detail(Maintenance shown, std::function<void(Detail&)> arrange)
+{
+    return tab([shown = std::move(shown), arrange = std::move(arrange)](Maintenances& view) {
+        view.viewModel->maintenances = std::vector{shown};
+        view.viewModel->isLoading = false;
+        view.openMaintenance(shown.id);
+        arrange(*view.detail());
+    });
+}
+
+Maintenance whole(const std::string& status)
+{
+    auto made = maintenance("1", "Database upgrade in the EU region", status);
+    made.message = message;
+    made.startedAt = *made.scheduledFor + 2min;
+    made.createdAt = now() - 50h;
+    made.updatedAt = now() - 5min;
+    return made;
+}
+
+Maintenance planned()
+{
+    auto made = maintenance("1", "New certificates", "scheduled");
+    made.createdAt = now() - 50h;
+    return made;
+}
+
+void reading(Detail&) {}
+
+void editing(Detail& view)
+{
+    view.beginEditing();
+}
+
+void endBeforeStart(Detail& view)
+{
+    view.beginEditing();
+    view.editedScheduledUntil->moveMonths(-1);
+}
+
+void working(Detail& view)
+{
+    view.action->isInProgress = true;
+}
+
+void refused(Detail& view)
+{
+    view.action->alert = "Server returned HTTP status code 409.";
+}
+
+void aboutToDelete(Detail& view)
+{
+    view.confirmDelete();
+}
+
+void aboutToDiscard(Detail& view)
+{
+    view.beginEditing();
+    view.editedTitle = "Database upgrade";
+    view.requestClose();
+}
+
+/// A scene of the form of a new maintenance.
+std::function<void(Stage&)> form(std::function<void(Form&)> arrange)
+{
+    return tab([arrange = std::move(arrange)](Maintenances& view) {
+        list(view);
+        view.openCreateMaintenance();
+        auto& form = *view.form();
+        form.selection->isLoadingComponents = false;
+        arrange(form);
+    });
+}
+
+void untouched(Form&) {}
+
+void loadingMonitors(Form& view)
+{
+    view.selection->selectedComponentGroupID = "g";
+    view.selection->isLoadingMonitors = true;
+}
+
+void otherMonth(Form& view)
+{
+    view.scheduledFor->browseMonths(1);
+}
+
+void creating(Form& view)
+{
+    view.action->isInProgress = true;
+}
+
+void withoutComponents(Form& view)
+{
+    view.action->alert = "Could not load components: Server returned HTTP status code 503.";
+}
+
+}  // namespace
+
+std::vector<Scene> maintenanceScenes()
+{
+    return {
+        {"maintenances-list", tab(list)},
+        {"maintenances-list-narrow", tab(list), 480, 440},
+        {"maintenances-list-narrow-large-font", tab(list), 480, 440, 20},
+        {"maintenances-loading", tab(loading)},
+        {"maintenances-empty", tab(empty)},
+        {"maintenances-failed", tab(failed)},
+        {"maintenance-scheduled", detail(planned(), reading)},
+        {"maintenance-in-progress", detail(whole("in_progress"), reading), 760, 700},
+        {"maintenance-completed", detail(whole("completed"), reading), 760, 700},
+        {"maintenance-cancelled", detail(maintenance("1", "Called off", "cancelled"), reading)},
+        {"maintenance-narrow", detail(whole("in_progress"), reading), 480, 700},
+        {"maintenance-narrow-large-font", detail(whole("scheduled"), reading), 480, 900, 20},
+        {"maintenance-menu", detail(planned(), reading), 760, 600, 10, "More Actions"},
+        {"maintenance-editing", detail(whole("scheduled"), editing), 760, 1000},
+        {"maintenance-editing-narrow", detail(whole("scheduled"), editing), 480, 1400},
+        {"maintenance-editing-narrow-large-font", detail(whole("scheduled"), editing), 480, 1400, 20},
+        {"maintenance-end-before-start", detail(whole("scheduled"), endBeforeStart), 760, 1000},
+        {"maintenance-working", detail(planned(), working)},
+        {"maintenance-refused", detail(planned(), refused)},
+        {"maintenance-delete", detail(planned(), aboutToDelete)},
+        {"maintenance-discard", detail(planned(), aboutToDiscard)},
+        {"maintenance-form", form(untouched), 760, 1250},
+        {"maintenance-form-small-window", form(untouched)},
+        {"maintenance-form-narrow", form(untouched), 480, 1250},
+        {"maintenance-form-narrow-large-font", form(untouched), 480, 1400, 20},
+        {"maintenance-form-loading-monitors", form(loadingMonitors), 760, 1250},
+        {"maintenance-form-other-month", form(otherMonth), 760, 1250},
+        {"maintenance-form-creating", form(creating)},
+        {"maintenance-form-without-components", form(withoutComponents)},
+    };
+}
+
+}  // namespace larkspan::gallery

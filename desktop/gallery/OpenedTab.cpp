@@ -1,0 +1,26 @@
+#include "gallery/OpenedTab.h"
+
+#include <chrono>
+#include <vector>
+
+namespace larkspan::gallery {
+
+using namespace std::chrono_literals;
+
+workspace::StatusPageDetailView& openTab(Stage& stage, workspace::StatusPageDetailView::Tab tab)
+{
+    model::StatusPage page;
+    page.id = "a";
+    page.name = "Acme Cloud";
+    // With a key a load begins, and as nothing answers it does not end.
+    stage.storeKey();
+    stage.state().statusPages = std::vector{page};
+    stage.state().lastRefresh
+        = std::chrono::time_point_cast<std::chrono::milliseconds>(std::chrono::system_clock::now()) - 12s;
+    stage.dashboard().openPage(page.id);
+    auto& opened = **stage.dashboard().openedPage;
+    opened.select(tab);
+    return opened;
+}
+
+}  // namespace larkspan::gallery

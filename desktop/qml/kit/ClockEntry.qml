@@ -1,0 +1,37 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// Hours and minutes, typed or stepped through; on a clock of twelve hours the half of the day, too.
+Row {
+    id: clock
+    required property string name
+    required property DateTimePickerBridge picker
+
+    spacing: Theme.halfUnit
+
+    TimeField {
+        name: qsTr("%1 hour").arg(clock.name)
+        value: clock.picker.hour
+        onTyped: digits => { if (clock.picker.typeHour(digits)) minute.forceActiveFocus(Qt.TabFocusReason) }
+        onStepped: (count, isFar) => clock.picker.moveHours(isFar ? 6 * count : count)
+    }
+    Label {
+        anchors.verticalCenter: parent.verticalCenter
+        text: ":"
+        Accessible.ignored: true
+    }
+    TimeField {
+        id: minute
+        name: qsTr("%1 minute").arg(clock.name)
+        value: clock.picker.minute
+        onTyped: digits => clock.picker.typeMinute(digits)
+        onStepped: (count, isFar) => clock.picker.moveMinutes(isFar ? 10 * count : count)
+    }
+    CommandButton {
+        visible: text !== ""
+        text: clock.picker.dayHalf
+        Accessible.description: qsTr("%1 half of the day").arg(clock.name)
+        onClicked: clock.picker.switchDayHalf()
+    }
+}

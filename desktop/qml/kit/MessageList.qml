@@ -1,0 +1,28 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// A message of an event, row by row, with what the screen tells above and below it.
+CardList {
+    id: list
+    required property MessageBridge message
+
+    name: qsTr("Description")
+    rows: message.rows
+    widest: Theme.columnWidth * Theme.scale
+    delegate: MessageRow {
+        offsets: tableOffsets
+        onFollowed: (cell, href) => list.message.follow(index, cell, href)
+    }
+
+    TableOffsets {
+        id: tableOffsets
+    }
+    ConfirmLoader {
+        isShown: list.message.asksAboutLink
+        confirmation: list.message.linkConfirmation
+        isDestructive: false
+        onDismissed: list.message.cancelLink()
+        onConfirmed: list.message.openLink()
+    }
+}

@@ -1,0 +1,69 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// The form of a new event: its title, its message and what it affects; below that, what one kind of event has of its own.
+Sheet {
+    id: sheet
+    required property EventFormBridge form
+    required property string titlePlaceholder
+    default property alias further: rest.data
+
+    closesByItself: false
+    onCloseRequested: form.requestClose()
+    isBusy: form.isBusy
+    busyText: form.busyText
+    alert: form.alert
+    onAlertDismissed: form.dismissAlert()
+
+    barLeading: CommandButton {
+        text: qsTr("Cancel")
+        enabled: sheet.form.isCancelEnabled
+        onClicked: sheet.form.cancel()
+    }
+    barItems: CommandButton {
+        text: qsTr("Save")
+        isProminent: true
+        enabled: sheet.form.isSaveEnabled
+        onClicked: sheet.form.save()
+    }
+
+    TitledField {
+        width: parent.width
+        title: qsTr("Title")
+
+        TextEntry {
+            width: parent.width
+            focus: true
+            name: qsTr("Title")
+            placeholderText: sheet.titlePlaceholder
+            onTextEdited: sheet.form.editTitle(text)
+        }
+    }
+    TitledField {
+        width: parent.width
+        title: qsTr("Message (Optional)")
+
+        TextBox {
+            width: parent.width
+            name: qsTr("Message (Optional)")
+            onEdited: text => sheet.form.editMessage(text)
+        }
+    }
+    AffectedComponents {
+        width: parent.width
+        form: sheet.form
+    }
+    Column {
+        id: rest
+        width: parent.width
+        spacing: 2 * Theme.unit
+    }
+
+    ConfirmLoader {
+        isShown: sheet.form.showsDiscardConfirmation
+        confirmation: sheet.form.discardConfirmation
+        onDismissed: sheet.form.keepEditing()
+        onConfirmed: sheet.form.discardChanges()
+    }
+}

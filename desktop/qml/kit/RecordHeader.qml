@@ -1,0 +1,38 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// A record's title, and below it how it is.
+Column {
+    id: header
+    required property string title
+    required property list<pill> pills
+    property int titleHeight: Theme.detailTitleHeight
+    property real pointSize: Theme.title
+
+    spacing: Theme.halfUnit
+
+    MarqueeText {
+        width: parent.width
+        layoutHeight: header.titleHeight
+        text: header.title
+        font.pointSize: header.pointSize
+        font.weight: Font.Bold
+        Accessible.role: Accessible.Heading
+    }
+    Flow {
+        width: parent.width
+        spacing: Theme.unit
+
+        Repeater {
+            model: header.pills
+            Pill {
+                required property pill modelData
+                pill: modelData
+                pointSize: Theme.subheadline
+                sidePadding: Theme.wideGap
+                topPadding: Theme.headerPillPadding
+            }
+        }
+    }
+}

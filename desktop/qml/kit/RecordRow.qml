@@ -1,0 +1,51 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// A record in a list: its dot, its title over a line of details, and what stands at the end.
+CardRow {
+    id: delegate
+    property int tone: Tone.Gray
+    default property alias details: line.data
+    property alias trailing: end.data
+
+    contentItem: Item {
+        implicitHeight: words.implicitHeight
+
+        Rectangle {
+            id: dot
+            anchors.verticalCenter: parent.verticalCenter
+            width: Theme.recordDotSize
+            height: width
+            radius: width / 2
+            color: Theme.toneColor(delegate.tone)
+        }
+        Column {
+            id: words
+            anchors.left: dot.right
+            anchors.leftMargin: Theme.unit + Theme.halfUnit
+            anchors.right: end.left
+            anchors.rightMargin: Theme.unit + Theme.halfUnit
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: Theme.halfUnit / 2
+
+            MarqueeText {
+                width: parent.width
+                layoutHeight: Theme.titleHeight
+                text: delegate.name
+                font.weight: Font.DemiBold
+            }
+            // Below one another where a large font leaves no room beside.
+            Flow {
+                id: line
+                width: parent.width
+                spacing: Theme.narrowGap
+            }
+        }
+        Row {
+            id: end
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+        }
+    }
+}

@@ -1,0 +1,74 @@
+import QtQuick
+import QtQuick.Templates as T
+import Larkspan
+
+// Two digits of a time of day. They are typed, or stepped through with the arrow and page keys and, while the field has
+// the keyboard, with the wheel; without it the wheel scrolls what the field stands in.
+T.TextField {
+    id: field
+    required property string name
+    // As the clock shows it. What is typed stays as it is until the field is left.
+    required property string value
+    property bool isTyping: false
+    property real turned: 0
+    signal typed(digits: string)
+    signal stepped(count: int, isFar: bool)
+
+    function step(count: int, isFar: bool) {
+        isTyping = false
+        stepped(count, isFar)
+        selectAll()
+    }
+    function show() {
+        text = value
+        if (activeFocus) selectAll()
+    }
+
+    implicitWidth: Theme.timeFieldWidth
+    implicitHeight: Theme.controlHeight
+    horizontalAlignment: TextInput.AlignHCenter
+    verticalAlignment: TextInput.AlignVCenter
+    maximumLength: 2
+    validator: RegularExpressionValidator { regularExpression: /[0-9]*/ }
+    inputMethodHints: Qt.ImhDigitsOnly
+    selectByMouse: true
+    color: Theme.text
+    selectionColor: Theme.accent
+    selectedTextColor: Theme.accentText
+    font.pointSize: Theme.body
+    renderType: Text.NativeRendering
+    Accessible.role: Accessible.EditableText
+    Accessible.name: name
+
+    Component.onCompleted: show()
+    onValueChanged: if (!isTyping) show()
+    onTextEdited: {
+        isTyping = true
+        typed(text)
+    }
+    onActiveFocusChanged: {
+        isTyping = false
+        show()
+    }
+    Keys.onUpPressed: step(1, false)
+    Keys.onDownPressed: step(-1, false)
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_PageUp || event.key === Qt.Key_PageDown
+        if (event.accepted) step(event.key === Qt.Key_PageUp ? 1 : -1, true)
+    }
+
+    WheelHandler {
+        enabled: field.activeFocus
+        onWheel: event => {
+            const notch = 120
+            field.turned += event.angleDelta.y
+            const count = Math.trunc(field.turned / notch)
+            field.turned -= count * notch
+            if (count !== 0) field.step(count, false)
+        }
+    }
+
+    background: EntryBackground {
+        isFocused: field.activeFocus
+    }
+}

@@ -1,0 +1,36 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// When a record was what; below a line what stands apart, where there is any.
+GroupBox {
+    id: group
+    required property list<timelineRow> rows
+    default property alias apart: below.data
+    property bool hasApart: true
+
+    title: qsTr("Timeline")
+    symbol: "clock.arrow.circlepath"
+    contentSpacing: Theme.unit
+
+    Repeater {
+        model: group.rows
+        TimelineLine {
+            required property timelineRow modelData
+            width: parent.width
+            row: modelData
+        }
+    }
+    Rectangle {
+        visible: group.hasApart
+        width: parent.width
+        height: Theme.hairline
+        color: Theme.line
+    }
+    Column {
+        id: below
+        visible: group.hasApart
+        width: parent.width
+        spacing: Theme.unit + Theme.halfUnit
+    }
+}

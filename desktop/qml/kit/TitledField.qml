@@ -1,0 +1,22 @@
+import QtQuick
+import Larkspan
+
+// What is filled in, under its small title.
+Column {
+    id: field
+    required property string title
+    property string symbol
+    default property alias content: column.data
+
+    spacing: Theme.unit
+
+    GroupBox {
+        title: field.title
+        symbol: field.symbol
+        hasCard: false
+    }
+    Column {
+        id: column
+        width: parent.width
+    }
+}

@@ -1,0 +1,41 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// What stands above a maintenance's message: how it is, and when it is or was what.
+Column {
+    id: facts
+    required property MaintenanceDetailBridge maintenance
+
+    spacing: Theme.margin
+    bottomPadding: Theme.unit
+
+    RecordHeader {
+        width: parent.width
+        title: facts.maintenance.maintenanceTitle
+        titleHeight: Theme.smallDetailTitleHeight
+        pointSize: Theme.title2
+        pills: facts.maintenance.pills
+    }
+    TimelineGroup {
+        width: parent.width
+        rows: facts.maintenance.timeline
+        hasApart: facts.maintenance.recordRows.length > 0
+
+        Repeater {
+            model: facts.maintenance.recordRows
+            TimelineLine {
+                required property timelineRow modelData
+                width: parent.width
+                row: modelData
+            }
+        }
+    }
+    GroupBox {
+        visible: facts.maintenance.showsDescription
+        width: parent.width
+        title: qsTr("Description")
+        symbol: "doc.text"
+        hasCard: false
+    }
+}

@@ -1,0 +1,239 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "maintenances/MaintenancesOfAPage.h"
+
+namespace larkspan::maintenances {
+
+namespace {
+
+using platform::HttpResponse;
+using presentation::Content;
+
+class OpenedMaintenance : public MaintenancesOfAPage {
+protected:
+    OpenedMaintenance()
+    {
+        serve({workOfThePage("1"), workOfThePage("2")});
+        appear();
+        open("1");
+    }
+
+    void edit(const std::string& title)
+    {
+        view->detail()->beginEditing();
+        view->detail()->editedTitle = title;
+        view->detail()->saveEdits();
+        run();
+    }
+
+    std::string firstTitle() const { return view->rows().at(0).title; }
+
+    const std::string changed = R"({"id": "1", "title": "Changed", "status_page_id": "p"})";
+};
+
+TEST_F(OpenedMaintenance, StandsInFrontOfTheList)
+{
+    ASSERT_TRUE(view->presentedMaintenance->has_value());
+    EXPECT_EQ((*view->presentedMaintenance)->id, "1");
+    EXPECT_EQ(view->detail()->title(), "Work 1");
+}
+
+TEST_F(OpenedMaintenance, IsNoneIfItsRowHasGone)
+{
+    view->closeMaintenance();
+    view->openMaintenance("9");
+    EXPECT_FALSE(view->presentedMaintenance->has_value());
+    EXPECT_EQ(view->detail(), nullptr);
+}
+
+TEST_F(OpenedMaintenance, ThatIsEditedShowsItInItsRowWithoutAnyFetch)
+{
+    transport.script(urlOf("1"), 200, changed);
+    edit("Changed");
+    EXPECT_EQ(firstTitle(), "Changed");
+    EXPECT_EQ(transport.requests.size(), 1u);
+    EXPECT_EQ(ids(), (Words{"1", "2"})) << "in its place";
+    EXPECT_TRUE(view->presentedMaintenance->has_value());
+}
+
+TEST_F(OpenedMaintenance, WhoseRowHasGoneMeanwhileIsPatchedNowhere)
+{
+    serve({workOfThePage("2")});
+    appear();
+    transport.script(urlOf("1"), 200, changed);
+    edit("Changed");
+    EXPECT_EQ(ids(), Words{"2"});
+    EXPECT_EQ(view->detail()->title(), "Changed");
+}
+
+TEST_F(OpenedMaintenance, KeepsItsRecordWhenTheListIsLoadedAnew)
+{
+    serve({changed});
+    appear();
+    EXPECT_EQ(firstTitle(), "Changed");
+    EXPECT_EQ(view->detail()->title(), "Work 1");
+}
+
+TEST_F(OpenedMaintenance, ThatIsClosedBringsTheListUpToDate)
+{
+    serve({changed});
+    view->detail()->close();
+    EXPECT_FALSE(view->presentedMaintenance->has_value());
+    EXPECT_EQ(view->detail(), nullptr);
+    run();
+    EXPECT_EQ(firstTitle(), "Changed");
+    view->closeMaintenance();
+    run();
+    EXPECT_EQ(transport.requests.size(), 1u) << "closed twice loads once";
+}
+
+TEST_F(OpenedMaintenance, WhoseRowIsEditedKeepsTheEditAlsoWhenTheReloadOnReturnFails)
+{
+    transport.script(urlOf("1"), 200, changed);
+    edit("Changed");
+    transport.script(maintenancesURL, 500, "");
+    view->closeMaintenance();
+    run();
+    EXPECT_EQ(firstTitle(), "Changed");
+    EXPECT_EQ(view->content(), Content::records);
+}
+
+TEST_F(OpenedMaintenance, ThatIsDeletedLosesItsRowAtOnceAndCloses)
+{
+    transport.forget(maintenancesURL);
+    transport.script(urlOf("1"), 204, "");
+    view->detail()->removeMaintenance();
+    run();
+    EXPECT_EQ(ids(), Words{"2"});
+    EXPECT_FALSE(view->presentedMaintenance->has_value());
+    EXPECT_EQ(view->detail(), nullptr);
+    EXPECT_EQ(transport.pending.size(), 1u) << "the list came into sight and is fetched once";
+}
+
+TEST_F(OpenedMaintenance, ThatIsClosedInMidRequestDoesNotComeBackButItsRowIsPatched)
+{
+    view->detail()->startMaintenance();
+    run();
+    view->closeMaintenance();
+    run();
+    transport.answer(HttpResponse{200, changed});
+    run();
+    EXPECT_FALSE(view->presentedMaintenance->has_value());
+    EXPECT_EQ(firstTitle(), "Changed");
+}
+
+TEST_F(OpenedMaintenance, ThatEndsItsDeletionBehindAnotherLosesItsRowAndLeavesThatOneAlone)
+{
+    view->detail()->removeMaintenance();
+    run();
+    view->closeMaintenance();
+    run();
+    open("2");
+    transport.answer(HttpResponse{204, ""});
+    run();
+    EXPECT_EQ(ids(), Words{"2"});
+    ASSERT_TRUE(view->presentedMaintenance->has_value());
+    EXPECT_EQ(view->detail()->title(), "Work 2");
+    EXPECT_EQ(transport.requests.size(), 0u);
+}
+
+TEST_F(OpenedMaintenance, WhoseScreenIsGoneEndsItsRequestsForNobody)
+{
+    view->detail()->removeMaintenance();
+    run();
+    const std::weak_ptr<StatusPageMaintenancesView> held = view;
+    view.reset();
+    EXPECT_TRUE(held.expired());
+    transport.answer(HttpResponse{204, ""});
+    EXPECT_NO_FATAL_FAILURE(run());
+}
+
+class MaintenanceFormOnAPage : public MaintenancesOfAPage {
+protected:
+    MaintenanceFormOnAPage()
+    {
+        serve({workOfThePage("1")});
+        appear();
+        view->openCreateMaintenance();
+        run();
+        transport.requests.clear();
+        transport.forget(maintenancesURL);
+    }
+
+    void save()
+    {
+        view->form()->title = "New";
+        view->form()->save();
+        run();
+    }
+};
+
+TEST_F(MaintenanceFormOnAPage, IsUpWithItsChoicesUntilItIsCancelled)
+{
+    EXPECT_TRUE(*view->showCreateSheet);
+    EXPECT_EQ(view->form()->pageId, "p");
+    EXPECT_EQ(view->form()->selection->groupChoices().size(), 2u);
+    const auto form = view->form();
+    view->openCreateMaintenance();
+    EXPECT_EQ(view->form(), form) << "asked for twice it is one";
+    form->cancel();
+    EXPECT_FALSE(*view->showCreateSheet);
+    EXPECT_EQ(view->form(), nullptr);
+    run();
+    EXPECT_TRUE(transport.requests.empty()) << "the list was in sight all the time";
+}
+
+TEST_F(MaintenanceFormOnAPage, PutsWhatItCreatesAtTheTopWithoutAFetchAndTheNextLoadTakesTheServicesOrder)
+{
+    save();
+    transport.answer(HttpResponse{201, workOfThePage("new")});
+    run();
+    EXPECT_EQ(ids(), (Words{"new", "1"}));
+    EXPECT_FALSE(*view->showCreateSheet);
+    EXPECT_EQ(transport.requests.size(), 1u);
+    serve({workOfThePage("1"), workOfThePage("new")});
+    appear();
+    EXPECT_EQ(ids(), (Words{"1", "new"}));
+}
+
+TEST_F(MaintenanceFormOnAPage, StaysUpWhenTheServiceRefuses)
+{
+    save();
+    transport.answer(HttpResponse{422, ""});
+    run();
+    EXPECT_TRUE(*view->showCreateSheet);
+    EXPECT_EQ(*view->form()->title, "New");
+    EXPECT_EQ(ids(), Words{"1"});
+}
+
+TEST_F(MaintenanceFormOnAPage, WhoseScreenIsGoneEndsItsRequestForNobody)
+{
+    save();
+    const std::weak_ptr<CreateMaintenanceView> held = view->form();
+    view.reset();
+    EXPECT_FALSE(held.expired());
+    transport.answer(HttpResponse{201, workOfThePage("new")});
+    run();
+    EXPECT_TRUE(held.expired());
+}
+
+TEST_F(MaintenanceFormOnAPage, WithATypedTextIsWhatLeavingTheScreenWouldLose)
+{
+    EXPECT_FALSE(view->hasUnsavedText());
+    view->form()->title = "New";
+    EXPECT_TRUE(view->hasUnsavedText());
+    view->form()->cancel();
+    EXPECT_FALSE(view->hasUnsavedText());
+    open("1");
+    view->detail()->beginEditing();
+    EXPECT_FALSE(view->hasUnsavedText());
+    view->detail()->editedMessage = "text";
+    EXPECT_TRUE(view->hasUnsavedText());
+}
+
+}  // namespace
+
+}  // namespace larkspan::maintenances
