@@ -10,7 +10,8 @@
 namespace larkspan::bridge {
 
 /// The form of a new incident for QML; worded and decided by `incidents::CreateIncidentView`.
-class CreateIncidentBridge : public EventFormBridge {
+// With the whole name of its base, by which alone Qt 6.4's tools for QML find it.
+class CreateIncidentBridge : public larkspan::bridge::EventFormBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")

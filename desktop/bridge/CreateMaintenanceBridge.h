@@ -11,7 +11,8 @@
 namespace larkspan::bridge {
 
 /// The form of a new maintenance for QML; worded and decided by `maintenances::CreateMaintenanceView`.
-class CreateMaintenanceBridge : public EventFormBridge {
+// With the whole name of its base, by which alone Qt 6.4's tools for QML find it.
+class CreateMaintenanceBridge : public larkspan::bridge::EventFormBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
