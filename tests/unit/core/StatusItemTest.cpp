@@ -115,11 +115,13 @@ TEST_F(StatusItemOfTheAccount, DoesNotKeepTheAccountAlive)
     EXPECT_TRUE(transport.requests.empty());
 }
 
-TEST_F(StatusItemOfTheAccount, RefreshStartsACycle)
+TEST_F(StatusItemOfTheAccount, RefreshStartsACycleAndIsWorthAPromptOfTheKeyring)
 {
     setUpItem();
+    EXPECT_EQ(credentials.promptsAllowed, 0);
     choose("Refresh");
     EXPECT_EQ(transport.requests.size(), 1u);
+    EXPECT_EQ(credentials.promptsAllowed, 1);
 }
 
 TEST_F(StatusItemOfTheAccount, OpenDashboardBringsTheMinimisedWindowBack)
