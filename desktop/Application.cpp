@@ -37,8 +37,8 @@ Application::Application(adapters::MainExecutor& main, ServiceAccess service)
     , api_({service_.client, service_.transport, service_.credentials, clock_}, service_.host)
     , keys_(service_.client, service_.credentials)
     , updates_(std::make_shared<core::UpdaterController>(updater_))
-    , app_(std::make_unique<core::LarkspanApp>(core::AppStateManager::Ports{
-          main_, timers_, clock_, notifications_, networkMonitor_, statusItems_, updates_, windows_, api_}))
+    , app_(std::make_unique<core::LarkspanApp>(core::AppStateManager::Ports{main_, timers_, clock_, notifications_,
+          networkMonitor_, statusItems_, updates_, windows_, service_.credentials, api_}))
 {
     auto dashboard = std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{
         main_, timers_, clock_, service_.credentials, keys_, app_->appState(), locale_, links_, api_});

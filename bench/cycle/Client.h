@@ -30,7 +30,7 @@ public:
         , transport_(service_, worker)
         , api_({worker, transport_, store_, clock_}, "kestrune.example")
         , state_(core::AppStateManager::make(
-              {main, timers_, clock_, notifications_, networkMonitor_, statusItem_, updates_, windows_, api_}))
+              {main, timers_, clock_, notifications_, networkMonitor_, statusItem_, updates_, windows_, store_, api_}))
     {
         api::KeychainHelper::saveAPIKey(store_, key);
         state_->setupStatusItem({});

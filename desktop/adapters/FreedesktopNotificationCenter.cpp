@@ -18,8 +18,7 @@ constexpr auto serverPath = "/org/freedesktop/Notifications";
 constexpr auto serverInterface = "org.freedesktop.Notifications";
 constexpr auto programId = "com.kestrune.larkspan";
 
-// What a server that answers nothing, or a service that reports without end, can make this program hold.
-constexpr std::size_t mostWaiting = 256;
+// What a service that reports without end can make this program hold.
 constexpr std::size_t mostSending = 16;
 constexpr std::size_t mostShown = 512;
 
@@ -56,14 +55,7 @@ void FreedesktopNotificationCenter::add(const platform::NotificationRequest& req
 {
     if (!bus_.isConnected()) return;
 
-    Notice notice{request.identifier, NotificationText(request)};
-    const auto same = std::ranges::find(waiting_, request.identifier, &Notice::identifier);
-    if (same != waiting_.end()) {
-        *same = std::move(notice);
-    } else {
-        waiting_.push_back(std::move(notice));
-        if (waiting_.size() > mostWaiting) waiting_.pop_front();
-    }
+    waiting_.add({request.identifier, NotificationText(request)});
     sendWaiting();
 }
 
@@ -84,7 +76,7 @@ void FreedesktopNotificationCenter::sendWaiting()
 {
     if (markup_) {
         sendAll(*markup_);
-    } else if (!waiting_.empty() && !isAsking_) {
+    } else if (!waiting_.isEmpty() && !isAsking_) {
         askForMarkup();
     }
 }
@@ -107,15 +99,11 @@ void FreedesktopNotificationCenter::askForMarkup()
 
 void FreedesktopNotificationCenter::sendAll(BodyMarkup markup)
 {
-    // Only once the answer to a notice is there can another one take its place on screen.
-    const auto canBeSent = [this](const Notice& notice) { return !sending_.contains(notice.identifier); };
-
     while (sending_.size() < mostSending) {
-        const auto next = std::ranges::find_if(waiting_, canBeSent);
-        if (next == waiting_.end()) return;
-        const auto notice = std::move(*next);
-        waiting_.erase(next);
-        send(notice, markup);
+        // Only once the answer to a notice is there can another one take its place on screen.
+        const auto notice = waiting_.takeOldest(sending_);
+        if (!notice) return;
+        send(*notice, markup);
     }
 }
 

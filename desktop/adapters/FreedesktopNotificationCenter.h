@@ -12,6 +12,7 @@
 #include <string>
 
 #include "adapters/NotificationText.h"
+#include "adapters/WaitingNotices.h"
 #include "platform/NotificationCenter.h"
 
 class QDBusPendingCall;
@@ -35,10 +36,6 @@ private slots:
     void onNotificationClosed(uint serverId, uint reason);
 
 private:
-    struct Notice {
-        std::string identifier;
-        NotificationText text;
-    };
     struct Shown {
         std::string identifier;
         uint serverId;
@@ -59,7 +56,7 @@ private:
     std::uint64_t serversGone_ = 0;
     std::optional<BodyMarkup> markup_;
     bool isAsking_ = false;
-    std::deque<Notice> waiting_;
+    WaitingNotices waiting_;
     std::set<std::string> sending_;
     /// The oldest first.
     std::deque<Shown> shown_;

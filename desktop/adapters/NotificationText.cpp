@@ -4,31 +4,30 @@
 
 #include <string_view>
 
+#include "support/Utf8.h"
+
 namespace larkspan::adapters {
 
 namespace {
 
+// More than a desktop shows at once, in characters.
 constexpr std::size_t longestLine = 256;
-constexpr std::size_t longestBody = 4096;
+constexpr std::size_t longestBody = 1024;
 
-bool continuesCharacter(char byte)
-{
-    return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
-}
-
-/// At most `longest` bytes from the beginning of `text`, ending between two characters.
+/// At most `longest` characters from the beginning of `text`.
 std::string_view beginningOf(std::string_view text, std::size_t longest)
 {
-    constexpr std::size_t mostContinuations = 3;
-    std::size_t end = longest;
-    while (longest - end < mostContinuations && continuesCharacter(text[end])) --end;
+    std::size_t end = 0;
+    for (std::size_t count = 0; count < longest && end < text.size(); ++count) {
+        end += support::firstCharacter(text.substr(end)).length;
+    }
     return text.substr(0, end);
 }
 
-QString paragraphs(std::string_view text, std::size_t longest)
+QString paragraphs(std::string_view whole, std::size_t longest)
 {
-    const bool isCut = text.size() > longest;
-    if (isCut) text = beginningOf(text, longest);
+    const auto text = beginningOf(whole, longest);
+    const bool isCut = text.size() < whole.size();
 
     QString fit;
     for (const auto character : QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))) {
@@ -38,7 +37,10 @@ QString paragraphs(std::string_view text, std::size_t longest)
             fit += u' ';
         }
     }
-    return isCut ? fit + u'…' : fit;
+    if (isCut) fit += u'…';
+    // Many may have to wait.
+    fit.squeeze();
+    return fit;
 }
 
 QString line(std::string_view text)

@@ -1,5 +1,6 @@
 #include "adapters/QtNetworkPathMonitor.h"
 
+#include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusServiceWatcher>
@@ -40,6 +41,7 @@ void QtNetworkPathMonitor::start(std::function<void(bool isSatisfied)> update)
 
 void QtNetworkPathMonitor::askForNetworkManager()
 {
+    if (std::exchange(isAsking_, true)) return;
     // Qt's backend waits for NetworkManager on the main thread, for up to half a minute: it is loaded only when
     // NetworkManager is known to answer.
     auto ping = QDBusMessage::createMethodCall(
@@ -48,11 +50,12 @@ void QtNetworkPathMonitor::askForNetworkManager()
     auto* const answer = new QDBusPendingCallWatcher(bus_.asyncCall(ping, static_cast<int>(patience.count())), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
         answer->deleteLater();
-        if (answer->isError()) {
-            if (!reported_) report(true);
-        } else {
-            followReachability();
-        }
+        isAsking_ = false;
+        if (!answer->isError()) return followReachability();
+        if (!reported_) report(true);
+        // One that is slow, as many are while a session starts, has to be waited for; one that is not there tells
+        // when it comes.
+        if (answer->error().type() == QDBusError::NoReply) askForNetworkManager();
     });
 }
 

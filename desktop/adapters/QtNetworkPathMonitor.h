@@ -17,7 +17,7 @@ class QtNetworkPathMonitor final : public QObject, public platform::NetworkPathM
 public:
     QtNetworkPathMonitor();
 
-    /// Returns at once. A NetworkManager that comes later is noticed too.
+    /// Returns at once. A NetworkManager that comes later, or takes long to answer, is noticed too.
     void start(std::function<void(bool isSatisfied)> update) override;
 
 private:
@@ -29,6 +29,7 @@ private:
     QDBusConnection bus_;
     std::function<void(bool)> update_;
     std::optional<bool> reported_;
+    bool isAsking_ = false;
 };
 
 }  // namespace larkspan::adapters

@@ -26,7 +26,8 @@ public:
 
 /// The program's only road to the service. Its operations may be awaited from any executor; they work on the
 /// client's own and interleave there while they wait. They throw `APIError`, `platform::URLError` or
-/// `model::DecodingError`, and nothing is ever sent twice. It must outlive every task that it gave.
+/// `model::DecodingError`. What changes something on the service is sent once, whatever becomes of it; a read may go
+/// out a second time where the connection kept for it turns out to be dead. It must outlive every task that it gave.
 ///
 /// Whoever uses the operations of one resource alone asks for that base.
 class KestruneAPI final : public OperationsOf<StatusPageEndpoints, IncidentEndpoints, MaintenanceEndpoints,

@@ -12,8 +12,8 @@
 
 namespace larkspan::api {
 
-/// What is under every operation: a request is built, signed with the stored key, sent once and its answer checked, all
-/// on the client's own executor.
+/// What is under every operation: a request is built, signed with the stored key, sent and its answer checked, all on
+/// the client's own executor.
 class RequestEngine {
 public:
     struct Ports {

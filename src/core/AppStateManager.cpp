@@ -41,6 +41,12 @@ Task<void> AppStateManager::refresh()
 
 void AppStateManager::refreshNow()
 {
+    ports_.credentials.allowPromptAgain();
+    startCycle();
+}
+
+void AppStateManager::startCycle()
+{
     support::start(ports_.main, refresh());
 }
 
@@ -49,7 +55,7 @@ void AppStateManager::startPollTimer()
     pollTimer_.reset();
     const auto period = std::chrono::duration_cast<std::chrono::milliseconds>(refreshInterval_);
     pollTimer_ = ports_.timers.every(period, [weak = weak_from_this()] {
-        if (const auto self = weak.lock()) self->refreshNow();
+        if (const auto self = weak.lock()) self->startCycle();
     });
 }
 

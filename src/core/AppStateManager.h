@@ -19,6 +19,7 @@
 #include "model/Maintenance.h"
 #include "model/StatusPage.h"
 #include "platform/Clock.h"
+#include "platform/CredentialStore.h"
 #include "platform/Executor.h"
 #include "platform/NetworkPathMonitor.h"
 #include "platform/NotificationCenter.h"
@@ -51,6 +52,7 @@ public:
         platform::StatusItem& statusItem;
         std::shared_ptr<UpdaterController> updater;
         platform::WindowSystem& windows;
+        platform::CredentialStore& credentials;
         api::KestruneAPI& api;
     };
 
@@ -78,7 +80,8 @@ public:
     /// One cycle; it never throws. During a running cycle it does nothing at all.
     support::Task<void> refresh();
 
-    /// Starts a cycle and returns at once.
+    /// The user asked for a refresh: starts a cycle and returns at once. That is worth a prompt of the credential
+    /// store, which a poll isn't.
     void refreshNow();
 
     /// Starts or restarts the poll; its first cycle comes one interval from now.
@@ -123,6 +126,7 @@ private:
     void tellOfChanges();
     void endInFailure(std::exception_ptr failure);
     void updateOverallStatus();
+    void startCycle();
     void watchNetwork();
     void startTimestampTimer();
     std::function<void()> rebuildingMenuNextTurn();

@@ -27,7 +27,8 @@ Result decodeBare(const std::string& body, support::Time now);
 ///
 /// A wire key counts for the key name that it converts to (`created_at` for `createdAt`); of several that convert alike
 /// the first counts. Unknown keys are ignored. A byte order mark is skipped. A number beyond a double or, without
-/// fraction, beyond 64 bits makes the body unreadable wherever it stands, as does nesting deeper than 1024.
+/// fraction, beyond 64 bits makes the body unreadable, as does nesting deeper than 1024: the parser reads every value
+/// before anybody asks for one, so that holds in unknown keys too.
 class JSONDecoder {
 public:
     explicit JSONDecoder(const platform::Clock& clock);

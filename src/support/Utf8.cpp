@@ -1,5 +1,7 @@
 #include "support/Utf8.h"
 
+#include <simdjson.h>
+
 #include <algorithm>
 #include <cstdint>
 
@@ -68,12 +70,7 @@ Utf8Character lastCharacter(std::string_view bytes)
 
 bool isValidUtf8(std::string_view bytes)
 {
-    while (!bytes.empty()) {
-        const auto character = firstCharacter(bytes);
-        if (!character.isWellFormed()) return false;
-        bytes.remove_prefix(character.length);
-    }
-    return true;
+    return simdjson::validate_utf8(bytes);
 }
 
 void appendCharacter(std::string& text, char32_t code)

@@ -94,12 +94,6 @@ bool Dashboard::isRefreshEnabled() const
     return !*state().isLoading;
 }
 
-void Dashboard::refresh()
-{
-    ports_.credentials.allowPromptAgain();
-    ports_.appState->refreshNow();
-}
-
 void Dashboard::chooseRefreshInterval(std::chrono::seconds interval)
 {
     ports_.appState->setRefreshInterval(interval);

@@ -79,8 +79,7 @@ public:
     presentation::Marker status() const;
     bool isRefreshEnabled() const;
 
-    /// The user asked for a refresh. That is worth a prompt of the credential store, which a poll isn't.
-    void refresh();
+    void refresh() { ports_.appState->refreshNow(); }
     void chooseRefreshInterval(std::chrono::seconds interval);
 
     /// Selects the page and opens it, if the account has it. One that is open already stays as it is.

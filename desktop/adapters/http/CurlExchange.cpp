@@ -82,7 +82,7 @@ void CurlExchange::ended(CURLcode result)
 CurlExchange::Result CurlExchange::outcome(CURLcode result)
 {
     if (isBodyTooLarge_) return Code::dataLengthExceedsMaximum;
-    if (head_.isTooLarge()) return Code::badServerResponse;
+    if (!head_.isAcceptable()) return Code::badServerResponse;
     if (result != CURLE_OK) return transferFailure(transfer_.get(), result);
     if (!isWhole()) return Code::networkConnectionLost;
 
@@ -134,7 +134,7 @@ std::size_t CurlExchange::receiveHeader(char* bytes, std::size_t, std::size_t si
     auto& self = *static_cast<CurlExchange*>(exchange);
     self.head_.read({bytes, size});
     if (self.head_.isWhole() && !self.head_.tellsLength()) self.session_ = TlsSession(self.transfer_.get());
-    return self.head_.isTooLarge() ? 0 : size;
+    return self.head_.isAcceptable() ? size : 0;
 }
 
 std::size_t CurlExchange::receiveBody(char* bytes, std::size_t, std::size_t size, void* exchange)

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
+#include <string>
 #include <string_view>
 
 namespace larkspan::adapters {
@@ -18,11 +20,16 @@ public:
     /// Whether the answer itself tells where its body ends; else it ends with the connection.
     bool tellsLength() const { return tellsLength_; }
 
-    /// More bytes than any honest answer needs.
-    bool isTooLarge() const;
+    /// Whether it has no more bytes than any honest answer needs, and does not tell two lengths that differ: where its
+    /// body ends could then be read in two ways, of which libcurl takes one.
+    bool isAcceptable() const;
 
 private:
+    void readLength(std::string_view values);
+
     std::size_t size_ = 0;
+    std::optional<std::string> length_;
+    bool hasTwoLengths_ = false;
     bool isWhole_ = false;
     bool tellsLength_ = false;
 };

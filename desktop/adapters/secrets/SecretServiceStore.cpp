@@ -58,7 +58,9 @@ bool SecretServiceStore::add(const platform::CredentialItem& item, const std::st
     bool hasPrompted = false;
     const auto collection = session_->defaultCollection([&] { return hasPrompted = mayPrompt_.exchange(false); });
     if (hasPrompted) mayPrompt_ = collection.has_value();
-    return collection && unlock(*collection) && session_->create(*collection, item, secret);
+    if (!collection || !unlock(*collection)) return false;
+    // In a keyring that stays locked, an item that was not removed would come up in place of this one some day.
+    return session_->search(item).locked.empty() && session_->create(*collection, item, secret);
 }
 
 void SecretServiceStore::remove(const platform::CredentialItem& item)

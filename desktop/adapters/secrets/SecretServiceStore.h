@@ -27,6 +27,7 @@ public:
     /// Of several matching items, the one changed last. An unlocked one goes before any that needs a prompt.
     std::optional<std::string> find(const platform::CredentialItem& item) override;
 
+    /// Fails beside an item that matches and stays locked.
     bool add(const platform::CredentialItem& item, const std::string& secret) override;
 
     /// Removes every matching item; locked ones with the user's consent. That is always the user's own wish, so a

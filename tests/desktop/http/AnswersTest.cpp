@@ -66,6 +66,23 @@ TEST_F(Transport, TakesABodyThatEndsWithItsConnection)
     EXPECT_THAT(send(get(server.url())), answers(200, "all of it"));
 }
 
+TEST_F(Transport, TakesALengthThatIsToldTwiceAlike)
+{
+    FaultServer server(identity(), [](Conversation& peer, const auto&) {
+        peer.write("HTTP/1.1 200 OK\r\nContent-Length: 3\r\ncontent-length:3 , 3\r\n\r\nabc");
+    });
+    EXPECT_THAT(send(get(server.url())), answers(200, "abc"));
+}
+
+TEST_F(Transport, TakesTheLengthOfTheAnswerWhateverAnInterimOneTold)
+{
+    FaultServer server(identity(), [](Conversation& peer, const auto&) {
+        peer.write("HTTP/1.1 103 Early Hints\r\nContent-Length: 5\r\n\r\n");
+        peer.answer("200 OK", "abc");
+    });
+    EXPECT_THAT(send(get(server.url())), answers(200, "abc"));
+}
+
 TEST_F(Transport, UnpacksABody)
 {
     const std::string text(100'000, 'x');

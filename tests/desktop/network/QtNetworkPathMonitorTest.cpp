@@ -157,7 +157,7 @@ TEST(NetworkPath, IsFollowedOnWhenNetworkManagerIsRestarted)
     EXPECT_EQ(program.hear(), "satisfied");
 }
 
-TEST(NetworkPath, ANetworkManagerThatDoesNotAnswerHoldsUpNothing)
+TEST(NetworkPath, ANetworkManagerThatDoesNotAnswerHoldsUpNothingAndIsHeardOnceItDoes)
 {
     const PrivateBus bus;
     NetworkManager manager(bus, State::disconnected);
@@ -167,6 +167,22 @@ TEST(NetworkPath, ANetworkManagerThatDoesNotAnswerHoldsUpNothing)
 
     EXPECT_EQ(program.hear(), "satisfied");
     manager.signal(SIGCONT);
+    EXPECT_EQ(program.hear(), "unsatisfied");
+}
+
+TEST(NetworkPath, ASlowNetworkManagerThatIsReplacedByAnotherIsForgotten)
+{
+    const PrivateBus bus;
+    auto slow = std::make_unique<NetworkManager>(bus, State::connectedGlobally);
+    slow->signal(SIGSTOP);
+    Watching program(bus);
+
+    slow->signal(SIGKILL);
+    slow.reset();
+    EXPECT_EQ(program.hear(), "satisfied");
+    const NetworkManager next(bus, State::disconnected);
+
+    EXPECT_EQ(program.hear(), "unsatisfied");
 }
 
 TEST(NetworkPath, IsSatisfiedWithoutASystemBus)

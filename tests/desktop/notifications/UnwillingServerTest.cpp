@@ -91,22 +91,14 @@ TEST_F(UnwillingServer, ThatIsNotThereYetGetsTheNoticesAfterItsStart)
     EXPECT_EQ(server.soFar(), QStringList());
 }
 
-TEST_F(UnwillingServer, ThatFallsBehindIsSpentNoMemoryOnAndGetsTheNewest)
+TEST_F(UnwillingServer, ThatFallsBehindGetsEachNoticeInItsTurn)
 {
     NotificationServer server(bus, {"-gated"});
     for (int i = 0; i < 1000; ++i) center.add(incident("incident " + std::to_string(i)));
 
     server.open();
 
-    QString last;
-    int count = 0;
-    while (last != "incident 999") {
-        const auto notice = server.notice();
-        ASSERT_FALSE(notice.isEmpty());
-        last = notice["summary"].toString();
-        ++count;
-    }
-    EXPECT_LT(count, 300);
+    for (int i = 0; i < 1000; ++i) ASSERT_EQ(server.notice()["summary"].toString(), "incident " + QString::number(i));
 }
 
 TEST_F(UnwillingServer, GetsTextsThatWouldBreakTheBusWhole)

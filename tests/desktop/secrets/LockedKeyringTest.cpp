@@ -208,6 +208,60 @@ TEST_F(LockedKeyring, RemovingAsksEvenIfAPollsPromptWasDismissed)
     EXPECT_EQ(keyring.count("KestruneAPIKeyService"), 0);
 }
 
+/// The key is in a keyring that is not the default one and is locked, while the default one is unlocked.
+class LockedKeyringBesideTheDefaultOne : public testing::Test {
+protected:
+    LockedKeyringBesideTheDefaultOne() { keyring.storeInALockedKeyring(apiKeyAttributes, "key-1"); }
+
+    Keyring keyring{sessionBus()};
+    SecretServiceStore store{1s};
+};
+
+TEST_F(LockedKeyringBesideTheDefaultOne, GivesItsSecretWhenThePromptIsAnswered)
+{
+    Prompter prompter(Prompter::answeringRightly());
+
+    EXPECT_EQ(store.find(apiKey), "key-1");
+
+    EXPECT_EQ(prompter.promptsByNow(), 1);
+}
+
+TEST_F(LockedKeyringBesideTheDefaultOne, SavingOverADismissedPromptFailsAndLeavesNoSecondItem)
+{
+    Prompter prompter(Prompter::dismissing());
+
+    store.remove(apiKey);
+    EXPECT_FALSE(store.add(apiKey, "key-2"));
+
+    EXPECT_EQ(prompter.promptsByNow(), 1);
+    EXPECT_EQ(keyring.count("KestruneAPIKeyService"), 1);
+    EXPECT_EQ(store.find(apiKey), std::nullopt);
+    EXPECT_EQ(prompter.promptsByNow(), 0);
+}
+
+TEST_F(LockedKeyringBesideTheDefaultOne, SavingOverAnAnsweredPromptLeavesTheNewItemAlone)
+{
+    Prompter prompter(Prompter::answeringRightly());
+
+    store.remove(apiKey);
+    EXPECT_TRUE(store.add(apiKey, "key-2"));
+
+    EXPECT_EQ(keyring.count("KestruneAPIKeyService"), 1);
+    EXPECT_EQ(store.find(apiKey), "key-2");
+}
+
+TEST_F(LockedKeyringBesideTheDefaultOne, DeletingOverADismissedPromptLeavesTheItemAndALaterLookRaisesNoPrompt)
+{
+    Prompter prompter(Prompter::dismissing());
+
+    store.remove(apiKey);
+
+    EXPECT_EQ(prompter.promptsByNow(), 1);
+    EXPECT_EQ(keyring.count("KestruneAPIKeyService"), 1);
+    EXPECT_EQ(store.find(apiKey), std::nullopt);
+    EXPECT_EQ(prompter.promptsByNow(), 0);
+}
+
 TEST(WithoutAnyKeyring, AddingHasOneMade)
 {
     const Keyring keyring(sessionBus(), Keyring::Start::withoutAnyKeyring);

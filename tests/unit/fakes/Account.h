@@ -43,7 +43,7 @@ struct Account : Service {
 
     core::AppStateManager::Ports ports()
     {
-        return {main, timers, clock, notifications, network, statusItem, updates, windows, api};
+        return {main, timers, clock, notifications, network, statusItem, updates, windows, credentials, api};
     }
 
     std::shared_ptr<core::AppStateManager> remade() { return core::AppStateManager::make(ports()); }

@@ -123,8 +123,10 @@ TEST_F(DashboardScreen, ARefreshWithPagesOnScreenStaysEnabledAndKeepsTheLastUpda
 
 TEST_F(DashboardScreen, ARefreshThatTheUserAsksForIsWorthAPromptAPollIsNot)
 {
-    state->refreshNow();
+    state->startPollTimer();
+    timers.advance(60s);
     run();
+    ASSERT_EQ(transport.requests.size(), 1u);
     EXPECT_EQ(credentials.promptsAllowed, 0);
     dashboard.refresh();
     EXPECT_EQ(credentials.promptsAllowed, 1);
@@ -146,6 +148,11 @@ TEST_F(DashboardScreen, AnErrorThatWentInTheMeantimeLeavesNoErrorState)
     refresh();
     state->clearAccountData();
     EXPECT_EQ(dashboard.content(), Content::empty);
+}
+
+TEST_F(DashboardScreen, TheListIsHeadedStatusPages)
+{
+    EXPECT_EQ(Dashboard::listHeading, "Status Pages");
 }
 
 TEST_F(DashboardScreen, ChoosingAnIntervalSetsIt)

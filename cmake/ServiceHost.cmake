@@ -1,0 +1,11 @@
+# Every request would fail with a host that makes no URL, and the program could tell nobody why; the build can.
+block()
+    set(host "[A-Za-z0-9_-]+(\\.[A-Za-z0-9_-]+)*\\.?|\\[[0-9A-Fa-f:.]+\\]")
+    if(NOT LARKSPAN_SERVICE_HOST MATCHES "^(${host})(:([0-9]+))?$")
+        message(FATAL_ERROR "LARKSPAN_SERVICE_HOST is \"${LARKSPAN_SERVICE_HOST}\", which is neither host nor host:port.")
+    endif()
+    set(port "${CMAKE_MATCH_4}")
+    if(NOT port STREQUAL "" AND (port LESS 1 OR port GREATER 65535))
+        message(FATAL_ERROR "LARKSPAN_SERVICE_HOST is \"${LARKSPAN_SERVICE_HOST}\", but ports are 1 to 65535.")
+    endif()
+endblock()
