@@ -44,9 +44,15 @@ void QtWindow::miniaturize()
 {
     if (!window_) return;
     wasMinimized_ = true;
+    keepsFocus_ = window_->isActive();
     // Added to the other states, so that a maximised window comes back maximised.
     window_->setWindowStates(window_->windowStates() | Qt::WindowMinimized);
-    QTimer::singleShot(timeToMinimize, this, &QtWindow::forgetRefusedMinimizing);
+    QTimer::singleShot(timeToMinimize, this, &QtWindow::noticeRefusedMinimizing);
+}
+
+void QtWindow::hide()
+{
+    if (window_) window_->setVisible(false);
 }
 
 void QtWindow::deminiaturize()
@@ -81,6 +87,7 @@ bool QtWindow::eventFilter(QObject* watched, QEvent* event)
 {
     // The user may have brought it back without the program's help.
     if (event->type() == QEvent::FocusIn) wasMinimized_ = false;
+    if (event->type() == QEvent::FocusOut) keepsFocus_ = false;
     if (event->type() != QEvent::Close || closingIsGranted_) return QObject::eventFilter(watched, event);
 
     const auto delegate = delegate_.lock();
@@ -94,13 +101,18 @@ bool QtWindow::isMinimized() const
     return window_->windowStates().testFlag(Qt::WindowMinimized);
 }
 
-void QtWindow::forgetRefusedMinimizing()
+void QtWindow::noticeRefusedMinimizing()
 {
+    if (!window_ || !window_->isExposed()) return;
+    // Wayland does not tell what came of the wish, but a window that is minimised loses the focus.
+    const bool isRefused = X11Activation::isNeeded() ? isMinimized() : wasMinimized_ && keepsFocus_;
     // A window manager without icons ignores the wish, while Qt goes on to believe that it was granted. On Wayland Qt
     // would believe it even after the user has brought the window back.
-    if (!window_ || !isMinimized() || !window_->isExposed()) return;
-    window_->setWindowStates(window_->windowStates() & ~Qt::WindowMinimized);
-    if (X11Activation::isNeeded()) wasMinimized_ = false;
+    if (isMinimized()) window_->setWindowStates(window_->windowStates() & ~Qt::WindowMinimized);
+    if (!isRefused) return;
+
+    wasMinimized_ = false;
+    if (const auto delegate = delegate_.lock()) delegate->windowDidNotMiniaturize();
 }
 
 }  // namespace larkspan::adapters

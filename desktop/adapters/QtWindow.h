@@ -25,8 +25,9 @@ public:
     bool isVisible() const override;
     bool canBecomeKeyWindow() const override;
     void setDelegate(std::weak_ptr<platform::WindowDelegate> delegate) override;
-    /// On a desktop that cannot minimise, the window stays as it is.
+    /// On a desktop that cannot minimise, the window stays as it is, and its delegate hears of that a second later.
     void miniaturize() override;
+    void hide() override;
     void deminiaturize() override;
     void makeKeyAndOrderFront() override;
 
@@ -35,13 +36,14 @@ protected:
 
 private:
     bool isMinimized() const;
-    void forgetRefusedMinimizing();
+    void noticeRefusedMinimizing();
 
     QPointer<QWindow> window_;
     std::weak_ptr<platform::WindowDelegate> delegate_;
     QString activationToken_;
     bool closingIsGranted_ = false;
     bool wasMinimized_ = false;
+    bool keepsFocus_ = false;
 };
 
 }  // namespace larkspan::adapters

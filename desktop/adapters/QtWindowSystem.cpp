@@ -16,6 +16,8 @@ QtWindowSystem::QtWindowSystem()
 void QtWindowSystem::add(QWindow& window)
 {
     windows_.push_back(std::make_shared<QtWindow>(window));
+    // At once: whoever holds one weakly is to see that it is gone.
+    connect(&window, &QObject::destroyed, this, &QtWindowSystem::forgetLostWindows);
 }
 
 void QtWindowSystem::setActivationToken(const QString& token)
@@ -25,7 +27,6 @@ void QtWindowSystem::setActivationToken(const QString& token)
 
 std::vector<std::shared_ptr<platform::Window>> QtWindowSystem::windows()
 {
-    forgetLostWindows();
     return {windows_.begin(), windows_.end()};
 }
 

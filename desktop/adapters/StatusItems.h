@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <utility>
 #include <vector>
@@ -15,6 +16,11 @@ public:
     explicit StatusItems(std::vector<std::reference_wrapper<platform::StatusItem>> items)
         : items_(std::move(items))
     {
+    }
+
+    bool isShown() const override
+    {
+        return std::ranges::any_of(items_, [](const auto& item) { return item.get().isShown(); });
     }
 
     void show(std::function<void(const platform::MenuRow& row)> perform) override

@@ -22,6 +22,8 @@ class MenuBridge : public QObject, public platform::StatusItem {
 public:
     explicit MenuBridge(std::function<void()> showAbout, QObject* parent = nullptr);
 
+    /// No panel: these rows are in the window, and go with it.
+    bool isShown() const override { return false; }
     void show(std::function<void(const platform::MenuRow& row)> perform) override;
     void setButton(const Button&) override {}
     void setMenu(const std::vector<platform::MenuRow>& rows) override;

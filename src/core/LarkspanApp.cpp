@@ -7,7 +7,8 @@ namespace larkspan::core {
 LarkspanApp::LarkspanApp(const AppStateManager::Ports& ports)
     : windows_(ports.windows)
     , appState_(AppStateManager::make(ports))
-    , windowLifecycleDelegate_(std::make_shared<MainWindowLifecycleDelegate>(ports.windows, ports.main))
+    , windowLifecycleDelegate_(
+          std::make_shared<MainWindowLifecycleDelegate>(ports.windows, ports.statusItem, ports.main))
 {
     support::start(ports.main, startUp(appState_, windowLifecycleDelegate_));
 }

@@ -14,8 +14,10 @@ void bringForward(platform::Window& window)
 
 }  // namespace
 
-MainWindowLifecycleDelegate::MainWindowLifecycleDelegate(platform::WindowSystem& windows, platform::Executor& main)
+MainWindowLifecycleDelegate::MainWindowLifecycleDelegate(
+    platform::WindowSystem& windows, const platform::StatusItem& statusItem, platform::Executor& main)
     : windows_(windows)
+    , statusItem_(statusItem)
     , main_(main)
 {
 }
@@ -42,6 +44,12 @@ bool MainWindowLifecycleDelegate::windowShouldClose()
 {
     if (const auto window = dashboardWindow_.lock()) window->miniaturize();
     return false;
+}
+
+void MainWindowLifecycleDelegate::windowDidNotMiniaturize()
+{
+    const auto window = dashboardWindow_.lock();
+    if (window && statusItem_.isShown()) window->hide();
 }
 
 void MainWindowLifecycleDelegate::adoptDashboardWindow()

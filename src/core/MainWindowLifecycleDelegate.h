@@ -3,15 +3,18 @@
 #include <memory>
 
 #include "platform/Executor.h"
+#include "platform/StatusItem.h"
 #include "platform/WindowSystem.h"
 
 namespace larkspan::core {
 
-/// The rules of the one window: closing it minimises it, and whatever needs it brings it back. Main thread only.
+/// The rules of the one window: closing it minimises it, or hides it where the desktop minimises no windows, and
+/// whatever needs it brings it back. Main thread only.
 class MainWindowLifecycleDelegate final : public platform::WindowDelegate,
                                           public std::enable_shared_from_this<MainWindowLifecycleDelegate> {
 public:
-    MainWindowLifecycleDelegate(platform::WindowSystem& windows, platform::Executor& main);
+    MainWindowLifecycleDelegate(
+        platform::WindowSystem& windows, const platform::StatusItem& statusItem, platform::Executor& main);
 
     void applicationDidFinishLaunching();
     void applicationDidBecomeActive();
@@ -21,6 +24,9 @@ public:
 
     bool windowShouldClose() override;
 
+    /// Hides the window, unless no panel shows the item that would bring it back.
+    void windowDidNotMiniaturize() override;
+
     /// Takes the first window that is visible or could be the active one, unless one is held already.
     void adoptDashboardWindow();
 
@@ -29,6 +35,7 @@ public:
 
 private:
     platform::WindowSystem& windows_;
+    const platform::StatusItem& statusItem_;
     platform::Executor& main_;
     std::weak_ptr<platform::Window> dashboardWindow_;
 };

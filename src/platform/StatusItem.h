@@ -40,6 +40,9 @@ public:
 
     virtual ~StatusItem() = default;
 
+    /// Whether a panel shows the item just now, so that the user can get at its menu.
+    virtual bool isShown() const = 0;
+
     /// Puts the item into the panel. `perform` hears of each command row that the user chooses.
     virtual void show(std::function<void(const MenuRow& row)> perform) = 0;
     virtual void setButton(const Button& button) = 0;

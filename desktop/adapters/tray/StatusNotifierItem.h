@@ -25,6 +25,7 @@ public:
     /// True while the desktop has a panel that shows such items.
     bool hasHost() const { return watcher_.hasHost(); }
 
+    bool isShown() const override { return hasHost(); }
     void show(std::function<void(const platform::MenuRow& row)> perform) override;
     void setButton(const Button& button) override;
     void setMenu(const std::vector<platform::MenuRow>& rows) override;

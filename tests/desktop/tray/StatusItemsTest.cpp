@@ -8,6 +8,7 @@ namespace {
 using platform::MenuRow;
 
 struct Place : platform::StatusItem {
+    bool isShown() const override { return hasPanel; }
     void show(std::function<void(const MenuRow& row)> given) override { perform = std::move(given); }
     void setButton(const Button& given) override { button = given; }
     void setMenu(const std::vector<MenuRow>& given) override { rows = given; }
@@ -15,7 +16,18 @@ struct Place : platform::StatusItem {
     std::function<void(const MenuRow& row)> perform;
     Button button;
     std::vector<MenuRow> rows;
+    bool hasPanel = false;
 };
+
+TEST(StatusItems, AreShownWhereOneOfThemIs)
+{
+    Place panel;
+    Place window;
+    const StatusItems items({panel, window});
+    EXPECT_FALSE(items.isShown());
+    panel.hasPanel = true;
+    EXPECT_TRUE(items.isShown());
+}
 
 TEST(StatusItems, EachPlaceShowsTheSameAndPerformsItsRows)
 {

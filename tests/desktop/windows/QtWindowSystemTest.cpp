@@ -29,9 +29,17 @@ public:
         return false;
     }
 
+    void windowDidNotMiniaturize() override
+    {
+        ++refusals;
+        if (hides) window->hide();
+    }
+
     std::shared_ptr<platform::Window> window;
     bool grants = false;
+    bool hides = false;
     int questions = 0;
+    int refusals = 0;
 };
 
 class OneWindow : public testing::Test {
@@ -93,6 +101,8 @@ TEST_F(WindowOnADesktop, CloseButtonAsksTheDelegateWhichMinimises)
     EXPECT_EQ(delegate->questions, 1);
     EXPECT_FALSE(adopted->isVisible());
     EXPECT_TRUE(adopted->canBecomeKeyWindow());
+    turnFor(1200ms);
+    EXPECT_EQ(delegate->refusals, 0);
 }
 
 TEST_F(WindowOnADesktop, ComesBackFromBeingMinimisedInFrontAndFocused)
@@ -171,6 +181,23 @@ TEST_F(WindowWithoutAWindowManager, StaysOnTheScreenWhenMinimisingIsRefused)
     EXPECT_TRUE(window.isExposed());
 }
 
+TEST_F(WindowWithoutAWindowManager, ThatIsNotMinimisedIsHiddenByItsDelegateAndShownAgain)
+{
+    delegate->hides = true;
+    adopted->setDelegate(delegate);
+
+    window.close();
+
+    ASSERT_TRUE(turnUntil([&] { return !adopted->isVisible(); }));
+    ASSERT_TRUE(turnUntil([&] { return delegate->refusals == 1 && !window.isExposed(); }));
+
+    adopted->deminiaturize();
+    adopted->makeKeyAndOrderFront();
+
+    EXPECT_TRUE(turnUntil([&] { return adopted->isVisible() && window.isExposed(); }));
+    EXPECT_EQ(delegate->refusals, 1);
+}
+
 TEST_F(WindowWithoutAWindowManager, ClosesWithoutADelegate)
 {
     window.close();
@@ -246,6 +273,18 @@ TEST_F(WindowWithoutAWindowManager, EndOfTheSessionIsNotHeldUpByAWindowThatMinim
 
     EXPECT_EQ(QCoreApplication::exec(), 0);
     EXPECT_EQ(delegate->questions, 0);
+}
+
+TEST(QtWindowSystem, HoldsNoWindowThatIsLostAlsoIfNobodyAsksForTheList)
+{
+    QtWindowSystem system;
+    auto window = std::make_unique<QRasterWindow>();
+    system.add(*window);
+    const std::weak_ptr<platform::Window> adopted = system.windows().front();
+
+    window.reset();
+
+    EXPECT_TRUE(adopted.expired());
 }
 
 TEST(QtWindowSystem, ListsItsWindowsInTheOrderOfTheirMakingWhileTheyExist)

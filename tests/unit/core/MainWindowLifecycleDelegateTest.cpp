@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "fakes/FakeStatusItem.h"
 #include "fakes/FakeWindowSystem.h"
 #include "fakes/ManualExecutor.h"
 
@@ -21,8 +22,9 @@ class WindowLifecycle : public testing::Test {
 protected:
     fakes::ManualExecutor main;
     fakes::FakeWindowSystem windows;
+    fakes::FakeStatusItem statusItem;
     std::shared_ptr<MainWindowLifecycleDelegate> delegate
-        = std::make_shared<MainWindowLifecycleDelegate>(windows, main);
+        = std::make_shared<MainWindowLifecycleDelegate>(windows, statusItem, main);
 };
 
 TEST_F(WindowLifecycle, ClosingMinimisesTheWindowAndDoesNotCloseIt)
@@ -31,6 +33,39 @@ TEST_F(WindowLifecycle, ClosingMinimisesTheWindowAndDoesNotCloseIt)
     delegate->adoptDashboardWindow();
     EXPECT_FALSE(window->delegate.lock()->windowShouldClose());
     EXPECT_EQ(window->calls, (Calls{"miniaturize"}));
+}
+
+TEST_F(WindowLifecycle, AWindowThatTheDesktopDoesNotMinimiseIsHiddenAndBroughtBackByTheMenu)
+{
+    const auto window = windows.addWindow();
+    delegate->adoptDashboardWindow();
+    delegate->windowShouldClose();
+    window->delegate.lock()->windowDidNotMiniaturize();
+    EXPECT_EQ(window->calls, (Calls{"miniaturize", "hide"}));
+    window->calls.clear();
+    showDashboardWindow(windows, delegate.get());
+    EXPECT_EQ(window->calls, broughtForward);
+}
+
+TEST_F(WindowLifecycle, AWindowThatTheDesktopDoesNotMinimiseStaysWhereNoPanelShowsTheItem)
+{
+    statusItem.hasPanel = false;
+    const auto window = windows.addWindow();
+    delegate->adoptDashboardWindow();
+    delegate->windowShouldClose();
+    delegate->windowDidNotMiniaturize();
+    EXPECT_EQ(window->calls, (Calls{"miniaturize"}));
+}
+
+TEST_F(WindowLifecycle, ClosingBeforeTheAdoptionMinimisesNothingAndOpeningTheDashboardThenAdopts)
+{
+    const auto window = windows.addWindow();
+    EXPECT_FALSE(delegate->windowShouldClose());
+    delegate->windowDidNotMiniaturize();
+    EXPECT_EQ(window->calls, Calls{});
+    showDashboardWindow(windows, delegate.get());
+    EXPECT_EQ(window->calls, broughtForward);
+    EXPECT_EQ(window->delegate.lock(), delegate);
 }
 
 TEST_F(WindowLifecycle, OpeningTheDashboardAfterClosingBringsItBack)

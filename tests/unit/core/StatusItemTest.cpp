@@ -20,7 +20,7 @@ class StatusItemOfTheAccount : public testing::Test, public Account {
 protected:
     void setUpItem()
     {
-        rules = std::make_shared<MainWindowLifecycleDelegate>(windows, main);
+        rules = std::make_shared<MainWindowLifecycleDelegate>(windows, statusItem, main);
         state->setupStatusItem(rules);
     }
 
@@ -55,6 +55,28 @@ TEST_F(StatusItemOfTheAccount, SetUpShowsAFirstMenuAtOnce)
     EXPECT_EQ(statusItem.titles(),
         (std::vector<std::string>{"Unknown", "-", "No Status Pages", "-", "Refresh", "Open Dashboard",
             "Check for Updates\u2026", "-", "Quit"}));
+}
+
+/// A place for the rows where nothing shows the button: no panel, but the window's menu.
+class ItemWithoutAButton final : public platform::StatusItem {
+public:
+    bool isShown() const override { return false; }
+    void show(std::function<void(const MenuRow&)>) override {}
+    void setButton(const Button&) override {}
+    void setMenu(const std::vector<MenuRow>& newRows) override { rows = newRows; }
+
+    std::vector<MenuRow> rows;
+};
+
+TEST_F(StatusItemOfTheAccount, IsBuiltAlsoWhereItHasNoButton)
+{
+    ItemWithoutAButton item;
+    const auto account = AppStateManager::make(
+        {main, timers, clock, notifications, network, item, updates, windows, credentials, api});
+    account->setupStatusItem({});
+    EXPECT_EQ(item.rows.size(), 9u);
+    EXPECT_EQ(item.rows.front().title, "Unknown");
+    EXPECT_EQ(item.rows.back().title, "Quit");
 }
 
 TEST_F(StatusItemOfTheAccount, FollowsTheAccount)

@@ -12,6 +12,7 @@ namespace larkspan::fakes {
 /// An item that keeps what it was last given and how often.
 class FakeStatusItem final : public platform::StatusItem {
 public:
+    bool isShown() const override { return hasPanel; }
     void show(std::function<void(const platform::MenuRow& row)> perform) override { choose = std::move(perform); }
     void setButton(const Button& newButton) override { button = newButton; }
     void setMenu(const std::vector<platform::MenuRow>& newRows) override
@@ -31,6 +32,7 @@ public:
     Button button;
     std::vector<platform::MenuRow> rows;
     int rebuilds = 0;
+    bool hasPanel = true;
 };
 
 }  // namespace larkspan::fakes

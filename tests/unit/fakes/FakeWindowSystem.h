@@ -19,6 +19,7 @@ public:
         delegate = std::move(newDelegate);
     }
     void miniaturize() override { calls.emplace_back("miniaturize"); }
+    void hide() override { calls.emplace_back("hide"); }
     void deminiaturize() override { calls.emplace_back("deminiaturize"); }
     void makeKeyAndOrderFront() override { calls.emplace_back("makeKeyAndOrderFront"); }
 
