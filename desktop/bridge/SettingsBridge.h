@@ -21,10 +21,15 @@ class SettingsBridge : public ScreenBridge {
     Q_PROPERTY(bool holdsKey READ holdsKey NOTIFY changed)
     Q_PROPERTY(bool hasExistingKey READ hasExistingKey NOTIFY changed)
     Q_PROPERTY(bool showsSavedKey READ showsSavedKey NOTIFY changed)
+    Q_PROPERTY(bool showsField READ showsField NOTIFY changed)
+    /// More than the longest key, so that a longer one is told from it.
+    Q_PROPERTY(int longestEntry READ longestEntry CONSTANT)
     Q_PROPERTY(bool isSaveEnabled READ isSaveEnabled NOTIFY changed)
     Q_PROPERTY(bool showsDeleteConfirmation READ showsDeleteConfirmation NOTIFY changed)
     Q_PROPERTY(larkspan::bridge::ConfirmationValue deleteConfirmation READ deleteConfirmation CONSTANT)
     Q_PROPERTY(larkspan::bridge::MarkerValue marker READ marker NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::MarkerValue refusal READ refusal NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::MarkerValue search READ search NOTIFY changed)
 
 public:
     SettingsBridge(
@@ -33,6 +38,8 @@ public:
     bool holdsKey() const { return !settings_->apiKey->empty(); }
     bool hasExistingKey() const { return *settings_->hasExistingKey; }
     bool showsSavedKey() const { return settings_->showsSavedKey(); }
+    bool showsField() const { return settings_->showsField(); }
+    int longestEntry() const { return static_cast<int>(workspace::Settings::longestKey) + 1; }
     bool isSaveEnabled() const { return settings_->isSaveEnabled(); }
     bool showsDeleteConfirmation() const { return *settings_->showDeleteConfirmation; }
     ConfirmationValue deleteConfirmation() const
@@ -40,6 +47,8 @@ public:
         return ConfirmationValue::of(workspace::Settings::deleteConfirmation);
     }
     MarkerValue marker() const { return MarkerValue::of(settings_->marker()); }
+    MarkerValue refusal() const { return MarkerValue::of(settings_->refusal()); }
+    MarkerValue search() const { return MarkerValue::of(settings_->search()); }
 
     Q_INVOKABLE void edit(const QString& text) { settings_->edit(text.toStdString()); }
     Q_INVOKABLE void saveAndVerify() { settings_->saveAndVerify(); }

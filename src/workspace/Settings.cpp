@@ -60,8 +60,20 @@ presentation::Marker Settings::marker() const
     return {};
 }
 
+presentation::Marker Settings::refusal() const
+{
+    return validationState->kind == ValidationState::Kind::invalid ? marker() : presentation::Marker{};
+}
+
+presentation::Marker Settings::search() const
+{
+    if (!*isLooking) return {};
+    return {.text = std::string(lookingText), .tone = presentation::Tone::secondary, .showsProgress = true};
+}
+
 void Settings::appear()
 {
+    isLooking = true;
     support::start(ports_.main, lookForKey(shared_from_this()));
 }
 
@@ -69,6 +81,7 @@ Task<void> Settings::lookForKey(std::shared_ptr<Settings> self)
 {
     auto looking = self->ports_.keys.hasAPIKey();
     self->hasExistingKey = co_await std::move(looking);
+    self->isLooking = false;
 }
 
 void Settings::edit(std::string text)
@@ -82,6 +95,11 @@ void Settings::saveAndVerify()
 {
     std::string key(support::trimmed(*apiKey));
     if (key.empty() || !isSaveEnabled()) return;
+    // The field holds one character more than that and no others, so what stands there may not be all that was pasted.
+    if (apiKey->size() > longestKey) {
+        validationState = invalid(failureText(APIKeyVerificationResult::invalid));
+        return;
+    }
     validationState = {ValidationState::Kind::validating};
     support::start(ports_.main, verify(shared_from_this(), std::move(key)));
 }

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "api/APIKeyStore.h"
@@ -41,16 +43,28 @@ public:
 
     explicit Settings(Ports ports, std::function<void()> onApiKeyDeleted = {});
 
+    /// Longer than any key, and as much as a request carries everywhere.
+    static constexpr std::size_t longestKey = 4096;
+    static constexpr std::string_view lookingText = "Looking for your API key...";
+
     support::Published<std::string> apiKey{*this};
+    /// The store has not said yet whether it holds a key; it may be waiting for the user.
+    support::Published<bool> isLooking{*this, false};
     support::Published<bool> hasExistingKey{*this, false};
     support::Published<ValidationState> validationState{*this};
     support::Published<bool> showDeleteConfirmation{*this, false};
 
     /// The row "API key saved" stands in place of the field.
     bool showsSavedKey() const { return *hasExistingKey && apiKey->empty(); }
+    /// The field is there, with what belongs to it.
+    bool showsField() const { return !*isLooking && !showsSavedKey(); }
     bool isSaveEnabled() const;
-    /// What came of the verification; all empty while nothing has been verified.
+    /// Beside "API key saved": what came of the verification; all empty while nothing has been verified.
     presentation::Marker marker() const;
+    /// Under the field: why the key was refused; all empty if it was not.
+    presentation::Marker refusal() const;
+    /// In place of both, while the store is asked.
+    presentation::Marker search() const;
 
     /// The sheet came up: looks whether a key is stored.
     void appear();

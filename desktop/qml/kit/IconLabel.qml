@@ -10,6 +10,8 @@ Row {
     property int tone: Tone.Primary
     property bool showsProgress: false
     property real pointSize: Theme.body
+    // What the sentence takes on one line.
+    readonly property real naturalWidth: Math.ceil(label.x + label.implicitWidth)
 
     spacing: Theme.unit
 

@@ -15,7 +15,6 @@ T.TextField {
     echoMode: TextInput.Password
     passwordMaskDelay: 0
     inputMethodHints: Qt.ImhSensitiveData | Qt.ImhHiddenText | Qt.ImhNoAutoUppercase | Qt.ImhNoPredictiveText
-    maximumLength: 4096
     selectByMouse: true
     color: Theme.text
     selectionColor: Theme.accent

@@ -9,13 +9,14 @@ Sheet {
     title: qsTr("Settings")
 
     // The field and its button come and go; the focus does not go with them.
-    readonly property bool takesKey: !settings.showsSavedKey
+    readonly property bool takesKey: settings.showsField
     onTakesKeyChanged: {
         if (takesKey) field.forceActiveFocus(Qt.OtherFocusReason)
         else doneButton.forceActiveFocus(Qt.OtherFocusReason)
     }
     barItems: CommandButton {
         id: doneButton
+        focus: true
         text: qsTr("Done")
         onClicked: sheet.close()
     }
@@ -33,16 +34,36 @@ Sheet {
 
         IconLabel {
             width: parent.width
+            visible: text !== ""
+            text: sheet.settings.search.text
+            tone: sheet.settings.search.tone
+            showsProgress: sheet.settings.search.showsProgress
+        }
+        Flow {
+            width: parent.width
+            spacing: 2 * Theme.unit
             visible: sheet.settings.showsSavedKey
-            symbol: "key.fill"
-            text: qsTr("API key saved")
+
+            IconLabel {
+                width: Math.min(naturalWidth, parent.width)
+                symbol: "key.fill"
+                text: qsTr("API key saved")
+            }
+            IconLabel {
+                width: Math.min(naturalWidth, parent.width)
+                visible: text !== ""
+                symbol: sheet.settings.marker.symbol
+                text: sheet.settings.marker.text
+                tone: sheet.settings.marker.tone
+                showsProgress: sheet.settings.marker.showsProgress
+            }
         }
         SecretField {
             id: field
-            focus: true
             width: parent.width
-            visible: !sheet.settings.showsSavedKey
+            visible: sheet.settings.showsField
             name: qsTr("API key")
+            maximumLength: sheet.settings.longestEntry
             placeholderText: qsTr("Paste your API key here")
             onTextEdited: sheet.settings.edit(text)
 
@@ -52,15 +73,14 @@ Sheet {
         }
         IconLabel {
             width: parent.width
-            visible: text !== ""
-            symbol: sheet.settings.marker.symbol
-            text: sheet.settings.marker.text
-            tone: sheet.settings.marker.tone
-            showsProgress: sheet.settings.marker.showsProgress
+            visible: sheet.settings.showsField && text !== ""
+            symbol: sheet.settings.refusal.symbol
+            text: sheet.settings.refusal.text
+            tone: sheet.settings.refusal.tone
         }
         IconLabel {
             width: parent.width
-            visible: !sheet.settings.showsSavedKey
+            visible: sheet.settings.showsField
             symbol: "lock.shield"
             text: qsTr("Your API key is stored securely in the Keychain.")
             tone: Tone.Secondary
@@ -71,7 +91,7 @@ Sheet {
             spacing: Theme.unit
 
             CommandButton {
-                visible: !sheet.settings.showsSavedKey
+                visible: sheet.settings.showsField
                 enabled: sheet.settings.isSaveEnabled
                 text: qsTr("Save & Verify")
                 isProminent: true

@@ -64,6 +64,21 @@ TEST_F(SettingsSheet, WithoutAStoredKeyShowsTheFieldAndADisabledButton)
     EXPECT_FALSE(settings->isSaveEnabled());
 }
 
+TEST_F(SettingsSheet, UntilTheStoreHasAnsweredItShowsThatItLooksAndOffersNoField)
+{
+    const auto settings = std::make_shared<Settings>(Settings::Ports{main, state, keys});
+    settings->appear();
+    EXPECT_EQ(settings->search().text, "Looking for your API key...");
+    EXPECT_TRUE(settings->search().showsProgress);
+    EXPECT_FALSE(settings->showsField());
+    EXPECT_FALSE(settings->showsSavedKey());
+    run();
+    EXPECT_EQ(settings->search(), presentation::Marker{});
+    EXPECT_FALSE(settings->showsField());
+    EXPECT_TRUE(settings->showsSavedKey());
+    EXPECT_TRUE(openedWithoutKey()->showsField());
+}
+
 TEST_F(SettingsSheet, LooksAtTheStoreOnTheClientsThreadOnly)
 {
     const auto settings = std::make_shared<Settings>(Settings::Ports{main, state, keys});
@@ -114,6 +129,25 @@ TEST_F(SettingsSheet, AnAcceptedKeyEmptiesTheFieldAndReadsConnected)
     EXPECT_TRUE(settings->showsSavedKey());
     EXPECT_EQ(*settings->apiKey, "");
     EXPECT_EQ(settings->validationState->kind, Kind::valid);
+}
+
+TEST_F(SettingsSheet, TheLongestKeyIsVerifiedWhole)
+{
+    const std::string longest(4096, 'k');
+    transport.script(pagesURL, 200, "[]");
+    const auto settings = enteredWithoutKey(longest);
+    EXPECT_EQ(transport.requests.at(0).headers.at(1).second, longest);
+    EXPECT_EQ(KeychainHelper::readAPIKey(credentials), longest);
+}
+
+TEST_F(SettingsSheet, ALongerTextIsRefusedInWordsAndNothingIsSent)
+{
+    for (const auto& text : {std::string(4097, 'k'), " " + std::string(4096, 'k')}) {
+        const auto settings = enteredWithoutKey(text);
+        EXPECT_EQ(settings->refusal().text, "Invalid or unauthorized API key.");
+        EXPECT_TRUE(settings->isSaveEnabled()) << "so that it can be corrected";
+    }
+    EXPECT_TRUE(transport.requests.empty());
 }
 
 TEST_F(SettingsSheet, StartsNoRefreshOfItsOwn)
@@ -196,6 +230,36 @@ TEST_F(SettingsSheet, AnEditDuringTheVerificationIsOverriddenByItsResult)
     EXPECT_EQ(settings->validationState->message, unauthorized);
 }
 
+TEST_F(SettingsSheet, AnEditDuringTheVerificationChangesNothingAboutTheKeyThatIsStored)
+{
+    const auto settings = enteredWithoutKey("k-new");
+    settings->edit("k-newer");
+    transport.answer(HttpResponse{200, "[]"});
+    run();
+    EXPECT_EQ(KeychainHelper::readAPIKey(credentials), "k-new");
+    EXPECT_EQ(*settings->apiKey, "");
+    EXPECT_TRUE(settings->showsSavedKey());
+    EXPECT_EQ(settings->marker().text, "Connected");
+}
+
+TEST_F(SettingsSheet, ADeletionDuringTheVerificationIsDoneAndAnAcceptedKeyIsStoredAfterIt)
+{
+    const auto settings = opened();
+    settings->edit("k-new");
+    settings->saveAndVerify();
+    run();
+    settings->deleteKey();
+    run();
+    EXPECT_TRUE(credentials.items.empty());
+    EXPECT_EQ(settings->validationState->kind, Kind::idle);
+    EXPECT_EQ(deletions, 1);
+
+    transport.answer(HttpResponse{200, "[]"});
+    run();
+    EXPECT_EQ(KeychainHelper::readAPIKey(credentials), "k-new");
+    EXPECT_EQ(settings->validationState->kind, Kind::valid);
+}
+
 TEST_F(SettingsSheet, ClosedDuringTheVerificationItStillStoresAnAcceptedKey)
 {
     auto settings = enteredWithoutKey("k-new");
@@ -258,11 +322,13 @@ struct MarkerRow {
 
 class SettingsMarker : public SettingsSheet, public testing::WithParamInterface<MarkerRow> {};
 
-TEST_P(SettingsMarker, TellsTheProgressOfTheLastVerification)
+TEST_P(SettingsMarker, TellsTheProgressOfTheLastVerificationAndUnderTheFieldAFailureAlone)
 {
     const auto settings = opened();
     settings->validationState = GetParam().state;
     EXPECT_EQ(settings->marker(), GetParam().marker);
+    const bool isFailure = GetParam().state.kind == Kind::invalid;
+    EXPECT_EQ(settings->refusal(), isFailure ? GetParam().marker : presentation::Marker{});
 }
 
 INSTANTIATE_TEST_SUITE_P(EachState, SettingsMarker,

@@ -1,0 +1,98 @@
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include "SettingsOnScreen.h"
+
+namespace larkspan {
+
+namespace {
+
+TEST_F(SettingsOnScreen, TheFieldIsReadyForAPaste)
+{
+    openWithoutKey();
+    EXPECT_TRUE(field().hasActiveFocus());
+}
+
+TEST_F(SettingsOnScreen, UntilTheKeyringHasAnsweredItIsShownThatItIsAskedAndNoFieldIsOffered)
+{
+    const auto looking = QStringLiteral("Looking for your API key...");
+    api::KeychainHelper::deleteAPIKey(credentials);
+    dashboard->openSettings();
+    settleWithoutTheClient();
+    EXPECT_TRUE(names(Role::ProgressBar).contains(looking));
+    EXPECT_FALSE(hasField());
+    EXPECT_FALSE(hasButton(saveLabel));
+    EXPECT_EQ(focused(), QStringLiteral("Done"));
+
+    settle();
+    EXPECT_FALSE(shows(looking));
+    EXPECT_TRUE(field().hasActiveFocus());
+}
+
+TEST_F(SettingsOnScreen, APasteThatIsLongerThanAnyKeyIsRefusedInWords)
+{
+    QGuiApplication::clipboard()->setText(QString(100'000, u'k'));
+    openWithoutKey();
+    press(Qt::Key_V, Qt::ControlModifier);
+    choose(saveLabel);
+    EXPECT_TRUE(shows(QStringLiteral("Invalid or unauthorized API key.")));
+    EXPECT_EQ(requestCount(), 0);
+}
+
+TEST_F(SettingsOnScreen, APasteOfTheLongestKeyIsStoredWhole)
+{
+    QGuiApplication::clipboard()->setText(QString(4096, u'k'));
+    openWithoutKey();
+    answerKey(200);
+    press(Qt::Key_V, Qt::ControlModifier);
+    choose(saveLabel);
+    EXPECT_EQ(api::KeychainHelper::readAPIKey(credentials), std::string(4096, 'k'));
+}
+
+TEST_F(SettingsOnScreen, TheKeyIsNowhereInTheAccessibilityTree)
+{
+    openWithoutKey();
+    const auto secret = QStringLiteral("secret");
+    type(secret);
+    for (const auto& thing : things()) {
+        auto* const interface = QAccessible::queryAccessibleInterface(thing.object);
+        for (const auto kind : {QAccessible::Name, QAccessible::Description, QAccessible::Value, QAccessible::Help}) {
+            EXPECT_FALSE(interface->text(kind).contains(secret)) << kind << " of " << thing.name.toStdString();
+        }
+        if (auto* const text = interface->textInterface()) {
+            EXPECT_FALSE(text->text(0, text->characterCount()).contains(secret)) << thing.name.toStdString();
+            int start = 0;
+            int end = 0;
+            EXPECT_FALSE(text->textAtOffset(0, QAccessible::WordBoundary, &start, &end).contains(secret));
+        }
+        if (auto* const value = interface->valueInterface()) {
+            EXPECT_FALSE(value->currentValue().toString().contains(secret)) << thing.name.toStdString();
+        }
+    }
+    EXPECT_TRUE(QAccessible::queryAccessibleInterface(&field())->state().passwordEdit);
+}
+
+TEST_F(SettingsOnScreen, TheKeyCannotBeCopiedOutOfTheField)
+{
+    QGuiApplication::clipboard()->setText(QStringLiteral("before"));
+    openWithoutKey();
+    type(QStringLiteral("secret"));
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_C, Qt::ControlModifier);
+    press(Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("before"));
+}
+
+TEST_F(SettingsOnScreen, AKeyIsPastedWithSurroundingBlanksAndNewlinesAndStoredWithout)
+{
+    QGuiApplication::clipboard()->setText(QStringLiteral("  secret \n"));
+    openWithoutKey();
+    answerKey(200);
+    press(Qt::Key_V, Qt::ControlModifier);
+    choose(saveLabel);
+    EXPECT_EQ(api::KeychainHelper::readAPIKey(credentials), "secret");
+}
+
+}  // namespace
+
+}  // namespace larkspan
