@@ -44,7 +44,10 @@ Item {
         width: visible ? Theme.dotSize : 0
         height: Theme.dotSize
         radius: Theme.dotSize / 2
-        color: delegate.isLit ? Theme.accentText : Theme.toneColor(delegate.row.tone)
+        color: Theme.toneColor(delegate.row.tone)
+        // The status keeps its colour on a lit row, where a rim parts it from the accent.
+        border.width: delegate.isLit ? Theme.hairline : 0
+        border.color: Theme.accentText
     }
     Label {
         anchors.left: dot.right
