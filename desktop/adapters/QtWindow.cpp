@@ -103,13 +103,14 @@ bool QtWindow::isMinimized() const
 
 void QtWindow::noticeRefusedMinimizing()
 {
+    if (!window_ || !window_->isExposed()) return;
+    // Wayland does not tell what came of the wish, but a window that is minimised loses the focus.
+    const bool isRefused = X11Activation::isNeeded() ? isMinimized() : wasMinimized_ && keepsFocus_;
     // A window manager without icons ignores the wish, while Qt goes on to believe that it was granted. On Wayland Qt
     // would believe it even after the user has brought the window back.
-    if (!window_ || !isMinimized() || !window_->isExposed()) return;
-    window_->setWindowStates(window_->windowStates() & ~Qt::WindowMinimized);
+    if (isMinimized()) window_->setWindowStates(window_->windowStates() & ~Qt::WindowMinimized);
+    if (!isRefused) return;
 
-    // Wayland does not tell which it was, but a window that is minimised loses the focus.
-    if (!X11Activation::isNeeded() && !keepsFocus_) return;
     wasMinimized_ = false;
     if (const auto delegate = delegate_.lock()) delegate->windowDidNotMiniaturize();
 }
