@@ -247,8 +247,8 @@ TEST_F(DashboardOnScreen, AnIntervalIsChosenFromTheKeyboardAndTheFocusComesBack)
         (QStringList{"Every 30 seconds", "Every 1 minute", "Every 2 minutes", "Every 5 minutes"}));
     for (const auto& thing : things()) {
         if (thing.role != Role::MenuItem) continue;
-        const auto state = QAccessible::queryAccessibleInterface(thing.object)->state();
-        EXPECT_FALSE(state.checkable || state.checked)
+        const auto shown = QAccessible::queryAccessibleInterface(thing.object)->state();
+        EXPECT_FALSE(shown.checkable || shown.checked)
             << "the current choice is not marked: " << thing.name.toStdString();
     }
     press(Qt::Key_Down);
