@@ -44,7 +44,18 @@ Item {
         width: visible ? Theme.dotSize : 0
         height: Theme.dotSize
         radius: Theme.dotSize / 2
-        color: delegate.isLit ? Theme.accentText : Theme.toneColor(delegate.row.tone)
+        color: Theme.toneColor(delegate.row.tone)
+
+        // The colours of a status are made for a card; one of them is the accent's own.
+        Rectangle {
+            z: -1
+            anchors.centerIn: parent
+            visible: delegate.isLit
+            width: parent.width + Theme.halfUnit
+            height: width
+            radius: width / 2
+            color: Theme.card
+        }
     }
     Label {
         anchors.left: dot.right

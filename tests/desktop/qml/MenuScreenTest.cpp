@@ -46,8 +46,27 @@ protected:
         return {};
     }
 
+    /// The colour of the dot in the row with this title.
+    QColor dot(const QString& title) const
+    {
+        for (const auto* const part : item(Role::MenuItem, title).childItems()) {
+            const bool isRound = part->width() > 0 && part->property("radius").toReal() * 2 == part->width();
+            if (part->isVisible() && isRound) return part->property("color").value<QColor>();
+        }
+        return {};
+    }
+
     std::vector<std::string> chosen;
 };
+
+TEST_F(MenuOnScreen, TheDotOfAPageKeepsItsColourOnTheRowThatIsLit)
+{
+    open(2);
+    press(Qt::Key_Home);
+    ASSERT_EQ(current(), QStringLiteral("page-0"));
+    ASSERT_TRUE(dot(QStringLiteral("page-1")).isValid());
+    EXPECT_EQ(dot(QStringLiteral("page-0")), dot(QStringLiteral("page-1")));
+}
 
 TEST_F(MenuOnScreen, HasThePanelsRowsInTheirOrderAndTheAboutBox)
 {
