@@ -1,4 +1,5 @@
 #include <QGuiApplication>
+#include <QIcon>
 
 #include <chrono>
 
@@ -18,6 +19,8 @@ int main(int argc, char* argv[])
     chooseRenderer();
     const QGuiApplication qt(argc, argv);
     QGuiApplication::setDesktopFileName(QStringLiteral("com.kestrune.larkspan"));
+    // The desktop knows the program's icon once that is installed; the demo runs without.
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/com.kestrune.larkspan.svg")));
 
     const adapters::SystemClock clock;
     simulator::DemoAccount account(clock, api::KeychainHelper::item, std::chrono::milliseconds(250));

@@ -43,6 +43,13 @@ class Display:
         """What the window manager sends when the button in the title bar is pressed."""
         self._ask("wmctrl", "-i", "-c", hex(int(window)))
 
+    def activate(self, window: str) -> None:
+        """What a taskbar asks for when the window is picked there."""
+        self._ask("wmctrl", "-i", "-a", hex(int(window)))
+
+    def has_icon(self, window: str) -> bool:
+        return "Icon (" in self._ask("xprop", "-id", window, "_NET_WM_ICON")
+
     def type_text(self, text: str) -> None:
         self._ask("xdotool", "type", "--delay", "5", text)
 
