@@ -39,6 +39,22 @@ def test_a_day_of_outages_and_a_closed_window(start, stored_key, the_service, th
     assert program.terminate() == 0
 
 
+def test_a_window_that_the_taskbar_brings_back_goes_on_showing_what_changes(start, stored_key, the_service, the_display):
+    program = start()
+    screen = program.screen
+    screen.wait_for_rows(NAMES)
+    window = program.window()
+    for health, word in [("major-outage", "Down"), ("maintenance", "Maintenance"), ("major-outage", "Down")]:
+        the_display.press_close_button(window)
+        eventually(lambda: the_display.state(window) == "Iconic", "closing does not minimise")
+        the_service.change("web", health=health)
+
+        the_display.activate(window)
+        eventually(lambda: the_display.active_window() == window, "the window does not come back")
+        screen.press("Refresh Now")
+        screen.wait_for(word)
+
+
 def test_the_key_goes_to_the_service_in_both_headers_and_nowhere_else(start, stored_key, the_service):
     program = start()
     program.screen.wait_for_rows(NAMES)

@@ -245,6 +245,12 @@ TEST_F(DashboardOnScreen, AnIntervalIsChosenFromTheKeyboardAndTheFocusComesBack)
     press(Qt::Key_Space);
     EXPECT_EQ(names(Role::MenuItem),
         (QStringList{"Every 30 seconds", "Every 1 minute", "Every 2 minutes", "Every 5 minutes"}));
+    for (const auto& thing : things()) {
+        if (thing.role != Role::MenuItem) continue;
+        const auto state = QAccessible::queryAccessibleInterface(thing.object)->state();
+        EXPECT_FALSE(state.checkable || state.checked)
+            << "the current choice is not marked: " << thing.name.toStdString();
+    }
     press(Qt::Key_Down);
     press(Qt::Key_Down);
     press(Qt::Key_Return);

@@ -1,6 +1,7 @@
 #include "api/IncidentEndpoints.h"
 
 #include "api/Endpoint.h"
+#include "api/KeychainHelper.h"
 #include "model/Incident.h"
 #include "model/IncidentRequests.h"
 
@@ -66,6 +67,14 @@ INSTANTIATE_TEST_SUITE_P(EachOperation, IncidentEndpoint,
             feature + "/incidents/7/acknowledge", "none", "nothing"},
         EndpointRow{"escalateIncident", [](Service& s) { return resultOf(s, s.api.escalateIncident("7")); }, "{}",
             "POST", feature + "/incidents/7/escalate", "none", "nothing"},
+        EndpointRow{"escalateIncidentAnsweredWithNothing",
+            [](Service& s) { return resultOf(s, s.api.escalateIncident("7")); }, "", "POST",
+            feature + "/incidents/7/escalate", "none", "nothing"},
+        EndpointRow{"fetchIncidentOfAnIdWithASlash", [](Service& s) { return resultOf(s, s.api.fetchIncident("a/b")); },
+            anIncident, "GET", v1 + "/incidents/a/b", "none", "7"},
+        EndpointRow{"fetchIncidentOfAnIdWithAQuestionMark",
+            [](Service& s) { return resultOf(s, s.api.fetchIncident("a?b/c")); }, anIncident, "GET",
+            v1 + "/incidents/a?b/c", "none", "7"},
         EndpointRow{"deleteIncident", [](Service& s) { return resultOf(s, s.api.deleteIncident("7")); }, "", "DELETE",
             v1 + "/incidents/7", "none", "nothing"}),
     [](const auto& row) { return row.param.name; });
@@ -95,6 +104,28 @@ TEST_F(Incidents, A200WithAJSONListIsADecodingFailureOfAcknowledgeAlthoughItTook
     transport.script(feature + "/incidents/7/acknowledge", 200, "[]");
     EXPECT_NE(failure(api.acknowledgeIncident("7")), "no failure");
     EXPECT_EQ(transport.requests.size(), 1u);
+}
+
+TEST_F(Incidents, A200WithAJSONListIsADecodingFailureOfEscalateToo)
+{
+    transport.script(feature + "/incidents/7/escalate", 200, "[]");
+    EXPECT_NE(failure(api.escalateIncident("7")), "no failure");
+    EXPECT_EQ(transport.requests.size(), 1u);
+}
+
+TEST_F(Incidents, AnIdWithAQuestionMarkThatMakesNoURLIsRefused)
+{
+    EXPECT_EQ(failure(api.deleteIncident("a?b c")), "Could not build a valid API URL.");
+    EXPECT_TRUE(transport.requests.empty());
+}
+
+TEST_F(Incidents, AnEncodingErrorSendsNothingAndComesBeforeAMissingKey)
+{
+    KeychainHelper::deleteAPIKey(credentials);
+    EXPECT_EQ(
+        failure(api.updateIncident("7", "\xC0\x80")), "The request could not be written: message is not valid text.");
+    EXPECT_TRUE(transport.requests.empty());
+    EXPECT_EQ(failure(api.updateIncident("7", "text")), "API key is missing.");
 }
 
 TEST_F(Incidents, ResolveAsksForTheStatesAndSendsTheIdOfTheFirstThatIsCalledResolvedInAnyCaseOfLetters)
@@ -154,6 +185,69 @@ TEST_F(Incidents, AFailedFetchOfTheStatesEndsTheResolveAndIsMadeAgainNextTime)
     transport.script(statesURL, 200, theStates);
     transport.script(incidentURL, 200, anIncident);
     EXPECT_EQ(failure(api.resolveIncident("7")), "no failure");
+}
+
+TEST_F(Incidents, AResolveWhoseLastRequestFailsFailsWithThatAndTheStatesStayKnown)
+{
+    transport.script(statesURL, 200, theStates);
+    transport.script(incidentURL, 409, "");
+    EXPECT_EQ(failure(api.resolveIncident("7")), "Server returned HTTP status code 409.");
+    transport.script(incidentURL, 200, anIncident);
+    EXPECT_EQ(failure(api.resolveIncident("7")), "no failure");
+    EXPECT_EQ(transport.requests.size(), 3u) << "the states once, the incident twice";
+}
+
+TEST_F(Incidents, TheStatesOutliveTheKey)
+{
+    transport.script(statesURL, 200, theStates);
+    result(api.fetchIncidentStates());
+    KeychainHelper::deleteAPIKey(credentials);
+    EXPECT_EQ(result(api.fetchIncidentStates()).size(), 3u);
+    EXPECT_EQ(transport.requests.size(), 1u);
+}
+
+/// Two requests for the states are under way.
+class TwoAnswers : public Incidents {
+protected:
+    TwoAnswers()
+    {
+        for (int request = 0; request < 2; ++request) {
+            support::start(main, [](KestruneAPI& kestrune) -> support::Task<void> {
+                try {
+                    auto fetching = kestrune.fetchIncidentStates();
+                    co_await std::move(fetching);
+                } catch (const support::LocalizedError&) {
+                }
+            }(api));
+        }
+        run();
+    }
+};
+
+class LaterAnswer : public TwoAnswers, public testing::WithParamInterface<HttpResponse> {};
+
+TEST_P(LaterAnswer, ThatFailsLeavesTheStatesOfTheEarlierOne)
+{
+    transport.answer(HttpResponse{.status = 200, .body = theStates});
+    transport.answer(GetParam());
+    run();
+    EXPECT_EQ(result(api.fetchIncidentStates()).size(), 3u);
+    EXPECT_EQ(transport.requests.size(), 2u);
+}
+
+INSTANTIATE_TEST_SUITE_P(InEitherWay, LaterAnswer,
+    testing::Values(HttpResponse{.status = 500, .body = ""}, HttpResponse{.status = 200, .body = "<html>"}));
+
+TEST_F(TwoAnswers, OfWhichBothAreGoodTheLaterWins)
+{
+    transport.answer(HttpResponse{.status = 200, .body = theStates});
+    transport.answer(HttpResponse{
+        .status = 200, .body = R"({"incident_states": [{"id": 9, "stage": "Resolved", "sort_order": 1}]})"});
+    run();
+    const auto states = result(api.fetchIncidentStates());
+    ASSERT_EQ(states.size(), 1u);
+    EXPECT_EQ(states[0].id, 9);
+    EXPECT_EQ(transport.requests.size(), 2u);
 }
 
 TEST_F(Incidents, TwoResolvesAtOnceMayBothAskForTheStatesAndBothSucceed)

@@ -276,6 +276,19 @@ TEST_F(Send, ARawRequestGivesTheBodyUndecodedAlsoWhenItIsEmpty)
     EXPECT_EQ(transport.requests.at(0).method, "GET");
 }
 
+TEST_F(Send, ARawRequestWithoutAKeySendsNothing)
+{
+    KeychainHelper::deleteAPIKey(credentials);
+    EXPECT_EQ(failure(api.sendRawRequest(Base::feature, "components")), "API key is missing.");
+    EXPECT_TRUE(transport.requests.empty());
+}
+
+TEST_F(Send, ARawRequestFailsAsTheTransportDoes)
+{
+    transport.script("https://service.example/user/api/components", URLError::Code::timedOut);
+    EXPECT_EQ(failure(api.sendRawRequest(Base::feature, "components")), "The request timed out.");
+}
+
 TEST_F(Send, ARawRequestFailsByItsStatusToo)
 {
     transport.script("https://service.example/user/api/components", 403, "no");

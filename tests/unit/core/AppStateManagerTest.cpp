@@ -42,6 +42,23 @@ TEST_F(Refresh, ConstructionAsksForAuthorizationOnceWatchesTheNetworkAndFetchesN
     EXPECT_TRUE(transport.requests.empty());
 }
 
+/// Notifications and the network, which write down in which order they are turned to.
+class Outside final : public platform::NotificationCenter, public platform::NetworkPathMonitor {
+public:
+    void requestAuthorization() override { order.emplace_back("authorization"); }
+    void add(const platform::NotificationRequest&) override {}
+    void start(std::function<void(bool)>) override { order.emplace_back("network"); }
+
+    std::vector<std::string> order;
+};
+
+TEST_F(Refresh, ConstructionAsksForAuthorizationBeforeItWatchesTheNetwork)
+{
+    Outside outside;
+    AppStateManager::make({main, timers, clock, outside, outside, statusItem, updates, windows, credentials, api});
+    EXPECT_EQ(outside.order, (std::vector<std::string>{"authorization", "network"}));
+}
+
 TEST_F(Refresh, PublishesThePagesInTheServicesOrderWithTheOverviewMergedIn)
 {
     servePages({"b", "a"}, {{"a", "degraded"}, {"b", "operational"}});

@@ -89,6 +89,25 @@ TEST_F(ChangesOfTheAccount, AnIncidentThatDisappearsAndComesBackRaisesNothing)
     EXPECT_EQ(cycle({active("1")}), Identifiers{});
 }
 
+TEST_F(ChangesOfTheAccount, AMaintenanceThatDisappearsAndComesBackRaisesNothing)
+{
+    cycle({});
+    EXPECT_EQ(cycle({}, {withStatus("1", "scheduled")}), Identifiers{"maintenance-1"});
+    cycle({});
+    EXPECT_EQ(cycle({}, {withStatus("1", "scheduled")}), Identifiers{});
+}
+
+TEST_F(ChangesOfTheAccount, ACycleThatFailsAfterThePagesLeavesWhatIsKnownAlone)
+{
+    cycle({active("1")});
+    serveIncidents({active("1"), active("2")});
+    transport.script(maintenancesURL, 503, "");
+    refresh();
+    ASSERT_TRUE(*state->refreshError);
+    EXPECT_EQ(notifications.added.size(), 0u);
+    EXPECT_EQ(cycle({active("1"), active("2")}), Identifiers{"incident-2"});
+}
+
 TEST_F(ChangesOfTheAccount, AMaintenanceWithOneOfTheTwoStatusesInAnyCaseOfLettersPosts)
 {
     cycle({});

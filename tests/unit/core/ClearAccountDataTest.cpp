@@ -62,6 +62,27 @@ TEST_F(ClearAccountData, DuringARunningCycleDoesNotStopItFromPublishing)
     EXPECT_TRUE(*state->hasCompletedInitialFetch);
 }
 
+TEST_F(ClearAccountData, DuringARunningCycleMakesThatOneSeedAndPostNothing)
+{
+    servePages({}, {});
+    refresh();
+    transport.forget(pagesURL);
+    state->refreshNow();
+    run();
+    state->clearAccountData();
+    serveIncidents({incident("1", "a")});
+    transport.answer(HttpResponse{.status = 200, .body = "[]"});
+    run();
+    EXPECT_EQ(state->incidents->size(), 1u);
+    EXPECT_TRUE(notifications.added.empty());
+
+    servePages({}, {});
+    serveIncidents({incident("1", "a"), incident("2", "b")});
+    refresh();
+    ASSERT_EQ(notifications.added.size(), 1u);
+    EXPECT_EQ(notifications.added[0].identifier, "incident-2");
+}
+
 TEST_F(ClearAccountData, LeavesTheGuardOfARunningCycleAlone)
 {
     state->refreshNow();

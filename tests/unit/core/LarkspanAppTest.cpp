@@ -38,6 +38,16 @@ TEST_F(App, StartedRunsTheFirstCycleAtOnceAndTheNextOneAFullIntervalLater)
     EXPECT_EQ(transport.requests.size(), 2u);
 }
 
+TEST_F(App, StartsTheItemThenThePollThenTheFirstCycle)
+{
+    while (statusItem.rebuilds == 0) ASSERT_TRUE(main.runOne());
+    EXPECT_EQ(timers.periods(), (std::vector<std::chrono::milliseconds>{10s, 60s})) << "the item's, then the poll's";
+    EXPECT_FALSE(*app.appState()->isLoading) << "the cycle is a task of its own";
+    run();
+    EXPECT_TRUE(*app.appState()->isLoading);
+    EXPECT_EQ(transport.requests.size(), 1u);
+}
+
 TEST_F(App, StartingWithoutAKeyRunsOneFailingCycleAtOnce)
 {
     api::KeychainHelper::deleteAPIKey(credentials);

@@ -28,6 +28,22 @@ TEST_F(Poll, DoesNotFireAtOnceButOnePeriodLater)
     EXPECT_EQ(transport.requests.size(), 1u);
 }
 
+TEST_F(Poll, FiringDuringARunningCycleSendsNothingAndIsNotMadeUpFor)
+{
+    state->startPollTimer();
+    refresh();
+    ASSERT_EQ(transport.pending.size(), 1u);
+    timers.advance(60s);
+    run();
+    EXPECT_EQ(transport.requests.size(), 1u);
+    transport.answer(platform::HttpResponse{.status = 500, .body = ""});
+    run();
+    EXPECT_EQ(transport.requests.size(), 1u);
+    timers.advance(60s);
+    run();
+    EXPECT_EQ(transport.requests.size(), 2u);
+}
+
 TEST_F(Poll, IsTheOnlyRetryOfAFailedCycle)
 {
     transport.script(pagesURL, 500, "");

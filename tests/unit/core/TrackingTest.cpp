@@ -126,6 +126,19 @@ TEST_F(Tracking, AFailureOfTheMaintenancesAloneFailsTheCycleWithTheirError)
     EXPECT_TRUE(state->incidents->empty());
 }
 
+TEST_F(Tracking, WithTheMaintenancesFailingFirstAndTheIncidentsSucceedingLaterTheErrorIsTheMaintenances)
+{
+    transport.forget(incidentsURL);
+    transport.script(maintenancesURL, 502, "");
+    refresh();
+    EXPECT_FALSE(*state->refreshError) << "the incidents are still awaited";
+    transport.answer(HttpResponse{.status = 200, .body = "[" + incident("1", "a") + "]"});
+    run();
+    EXPECT_EQ(error(), "Server returned HTTP status code 502.");
+    EXPECT_TRUE(state->incidents->empty());
+    EXPECT_EQ(requestedURLs(), (std::vector<std::string>{pagesURL, incidentsURL, maintenancesURL}));
+}
+
 TEST_F(Tracking, AnAccountWithNoIncidentsAndNoMaintenancesPublishesTwoEmptyListsAndCompletes)
 {
     serveIncidents({incident("1", "a")});

@@ -113,6 +113,13 @@ TEST(UpdateStatusPageRequest, WritesEveryFieldAndLeavesOutWhatIsAbsent)
     EXPECT_EQ(encoder.encode(UpdateStatusPageRequest{}), "{}");
 }
 
+TEST(JSONEncoder, EscapesWhatJSONCannotHoldAsItIsAndNothingElse)
+{
+    EXPECT_EQ(encoder.encode(CreateGroupRequest{.name = std::string("\0 \x01\x1f !~\x7f/\u00e9", 11)}),
+        "{\"name\":\"\\u0000 \\u0001\\u001f !~\x7f/\u00e9\"}");
+    EXPECT_EQ(encoder.encode(CreateGroupRequest{.name = "\b\f\n\r\t\"\\"}), R"({"name":"\b\f\n\r\t\"\\"})");
+}
+
 TEST(JSONEncoder, FailsOnTextThatIsNotUTF8)
 {
     EXPECT_THROW(encoder.encode(CreateIncidentRequest{.title = "\xC0\x80"}), EncodingError);

@@ -49,6 +49,19 @@ TEST_P(InvalidURL, IsAbsent)
     EXPECT_FALSE(URL::parse(GetParam()));
 }
 
+// Each class of characters at its first and last one, and beside them.
+INSTANTIATE_TEST_SUITE_P(AtTheBoundsOfACharacterClass, ValidURL,
+    testing::Values(ValidRow{"a:x", ""}, ValidRow{"z:x", ""}, ValidRow{"A:x", ""}, ValidRow{"Z:x", ""},
+        ValidRow{"a0:x", ""}, ValidRow{"a9:x", ""}, ValidRow{"https://azAZ09.example", "azAZ09.example"},
+        ValidRow{"https://e/%09%af%AF", "e"}, ValidRow{"https://[09af:AF::1]", "09af:AF::1"},
+        ValidRow{"https://e:0", "e"}, ValidRow{"https://e:9", "e"}));
+
+INSTANTIATE_TEST_SUITE_P(BesideTheBoundsOfACharacterClass, InvalidURL,
+    testing::Values("`:x", "{:x", "@:x", "[:x", "a`:x", "a{:x", "a@:x", "a[:x", "https://e/%/0", "https://e/%:0",
+        "https://e/%`0", "https://e/%g0", "https://e/%@0", "https://e/%G0", "https://e/%0/",
+        "https://e/%0:", "https://e/%0`", "https://e/%0g", "https://e/%0@", "https://e/%0G", "https://[`::1]",
+        "https://[g::1]", "https://[@::1]", "https://[G::1]", "https://e:8:0"));
+
 INSTANTIATE_TEST_SUITE_P(InItsCharacters, InvalidURL,
     testing::Values("", " ", "not a url", "https://exa mple.com", "https://example.com/a b", "https://example.com/\n",
         "https://example.com/<b>", "https://example.com/\"", "https://example.com/{id}", "https://example.com/a|b",
