@@ -1,5 +1,7 @@
 #include "gallery/Scene.h"
 
+#include <QTimer>
+
 #include <algorithm>
 #include <chrono>
 #include <exception>
@@ -183,6 +185,12 @@ using Kind = workspace::Settings::ValidationState::Kind;
 
 void justOpened(workspace::Settings&) {}
 
+void looking(workspace::Settings& sheet)
+{
+    // The stage's store answers at once; one that asks for a password does not.
+    QTimer::singleShot(20, [settings = sheet.shared_from_this()] { settings->isLooking = true; });
+}
+
 void verifying(workspace::Settings& sheet)
 {
     sheet.edit(typedKey);
@@ -264,10 +272,12 @@ std::vector<Scene> settingsScenes()
 {
     return {
         {"settings-no-key", settings(justOpened)},
+        {"settings-looking", settings(looking)},
         {"settings-verifying", settings(verifying)},
         {"settings-refused", settings(refused)},
         {"settings-saved", savedSettings(justOpened)},
         {"settings-connected", savedSettings(connected)},
+        {"settings-connected-narrow-large-font", savedSettings(connected), 480, 440, 20},
         {"settings-delete", savedSettings(aboutToDelete)},
         {"settings-refused-narrow", settings(refused), 480, 440},
         {"settings-refused-narrow-large-font", settings(refused), 480, 440, 20},

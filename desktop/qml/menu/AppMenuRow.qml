@@ -45,9 +45,17 @@ Item {
         height: Theme.dotSize
         radius: Theme.dotSize / 2
         color: Theme.toneColor(delegate.row.tone)
-        // The status keeps its colour on a lit row, where a rim parts it from the accent.
-        border.width: delegate.isLit ? Theme.hairline : 0
-        border.color: Theme.accentText
+
+        // The colours of a status are made for a card; one of them is the accent's own.
+        Rectangle {
+            z: -1
+            anchors.centerIn: parent
+            visible: delegate.isLit
+            width: parent.width + Theme.halfUnit
+            height: width
+            radius: width / 2
+            color: Theme.card
+        }
     }
     Label {
         anchors.left: dot.right
