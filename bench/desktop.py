@@ -33,7 +33,7 @@ RESIDENT_ROUNDS = 3
 SETTLING_SECONDS = 2
 IDLE_SECONDS = 60
 SCROLL_ROUNDS = 3
-SCROLLED_ROWS = 10_000
+SCROLLED_ROWS = {"pages": 10_000, "incidents": 10_000, "components": 10_000, "monitors": 2_000, "bare": 10_000}
 OVERVIEW_PATH = "/user/api/status-pages/status"
 
 
@@ -91,10 +91,10 @@ def scrolled():
     found = {}
     with desktop(lambda: display.server("2400x1600")) as (_, surroundings, _):
         for scale in ("1", "2"):
-            times = {"pages": [], "incidents": [], "components": [], "bare": []}
+            times = {kind: [] for kind in SCROLLED_ROWS}
             for _ in range(SCROLL_ROUNDS):
                 for kind, taken in times.items():
-                    command = [BINARIES / "larkspan-bench-scroll", kind, str(SCROLLED_ROWS)]
+                    command = [BINARIES / "larkspan-bench-scroll", kind, str(SCROLLED_ROWS[kind])]
                     ended = output_of(command, env=surroundings | {"QT_SCALE_FACTOR": scale})
                     taken.append([float(time) for time in ended.stdout.split()])
             found[scale] = {kind: [statistics.median(column) for column in zip(*taken)] for kind, taken in times.items()}
@@ -105,7 +105,7 @@ def opened():
     """From the choice of a page's incidents, of which there are many, to their first rows on screen, in milliseconds; the
     service's own time left out."""
     with desktop() as (_, surroundings, _):
-        return float(output_of([BINARIES / "larkspan-bench-scroll", "opening", str(SCROLLED_ROWS)], env=surroundings).stdout)
+        return float(output_of([BINARIES / "larkspan-bench-scroll", "opening", str(SCROLLED_ROWS["incidents"])], env=surroundings).stdout)
 
 
 def idle():

@@ -37,8 +37,8 @@ def measure_scroll(build):
     measurements = []
     for scale, times in found.items():
         bare_middle, bare_slow = times["bare"]
-        for kind in ("pages", "incidents", "components"):
-            name = f"scroll_10000_{kind}_{scale}x"
+        for kind, rows in (("pages", 10_000), ("incidents", 10_000), ("components", 10_000), ("monitors", 2_000)):
+            name = f"scroll_{rows}_{kind}_{scale}x"
             middle, slow = times[kind]
             measurements += [measurement(name, middle, "ms", bare_middle, SCROLL_GOAL),
                              measurement(f"{name}_95th", slow, "ms", bare_slow, SCROLL_GOAL)]

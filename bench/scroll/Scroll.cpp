@@ -1,7 +1,8 @@
 // Measures what a frame costs while a list of many rows scrolls, as a hand on a touchpad scrolls it: the window's list
-// of status pages, a page's list of incidents or of components, or a bare list that draws the same things.
+// of status pages, a page's list of incidents, of components or of monitors with all their metrics open, or a bare list
+// that draws the same things.
 //
-// usage: larkspan-bench-scroll pages|incidents|components|bare ROWS
+// usage: larkspan-bench-scroll pages|incidents|components|monitors|bare ROWS
 //                                          prints the median and the 95th percentile in milliseconds
 //        larkspan-bench-scroll opening ROWS
 //                                          prints how long it takes from the choice of a page's incidents to their
@@ -88,6 +89,23 @@ simulator::Account accountWithComponents(std::size_t rows)
     return account;
 }
 
+/// All of its monitors are of its first page, each with a day of metrics.
+simulator::Account accountWithMonitors(std::size_t monitors)
+{
+    auto account = accountWithPages(10);
+    account.monitors.clear();
+    for (std::size_t count = 0; count < monitors; ++count) {
+        simulator::Monitor monitor;
+        monitor.id = "monitor-" + std::to_string(count);
+        monitor.name = "Sign-in of region " + std::to_string(count);
+        monitor.type = "http";
+        monitor.state = "up";
+        monitor.statusPageId = account.statusPages.front().id;
+        account.monitors.push_back(std::move(monitor));
+    }
+    return account;
+}
+
 /// The program's window over an account.
 class ProgramsWindow : support::Observable {
 public:
@@ -114,6 +132,17 @@ public:
     {
         auto& page = openedAt(Tab::components);
         while (page.components()->rows().size() != rows) QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+    }
+
+    /// The same with its monitors, and opens the metrics of each.
+    void openMonitors(std::size_t count)
+    {
+        const auto view = openedAt(Tab::monitors).monitors();
+        while (view->viewModel->monitors->size() != count) QCoreApplication::processEvents();
+        for (const auto& monitor : *view->viewModel->monitors) view->toggleMetrics(monitor.id);
+        const auto isLoaded = [](const auto& row) { return row.second->showsPanel(); };
+        while (!std::ranges::all_of(view->rowViews(), isLoaded)) QCoreApplication::processEvents();
         QCoreApplication::processEvents();
     }
 
@@ -227,6 +256,10 @@ void measureKind(std::string_view kind, std::size_t rows)
         ProgramsWindow programs(accountWithComponents(rows));
         programs.openComponents(rows);
         measure(programs.window(), static_cast<int>(rows));
+    } else if (kind == "monitors") {
+        ProgramsWindow programs(accountWithMonitors(rows));
+        programs.openMonitors(rows);
+        measure(programs.window(), static_cast<int>(rows));
     } else {
         throw std::runtime_error("there is nothing of that kind to measure");
     }
@@ -237,7 +270,7 @@ void measureKind(std::string_view kind, std::size_t rows)
 int main(int argc, char** argv)
 {
     if (argc != 3) {
-        std::fputs("usage: larkspan-bench-scroll pages|incidents|components|bare|opening ROWS\n", stderr);
+        std::fputs("usage: larkspan-bench-scroll pages|incidents|components|monitors|bare|opening ROWS\n", stderr);
         return 2;
     }
     chooseRenderer();
