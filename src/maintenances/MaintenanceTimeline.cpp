@@ -11,6 +11,9 @@ using presentation::TimelineRow;
 
 namespace {
 
+constexpr const char* changeSymbol = "arrow.triangle.2.circlepath";
+constexpr const char* changeLabel = "Updated";
+
 /// Rows of the moments that are there.
 class Timeline {
 public:
@@ -42,14 +45,16 @@ std::vector<TimelineRow> maintenanceTimeline(const Maintenance& maintenance, con
         .add("calendar.badge.minus", "Scheduled End", plannedEnd)
         .add("play.circle", "Started", maintenance.startedAt)
         .add("checkmark.circle", "Completed", maintenance.completedAt)
+        .add(changeSymbol, changeLabel, maintenance.createdAt ? std::nullopt : maintenance.updatedAt)
         .rows;
 }
 
 std::vector<TimelineRow> recordTimeline(const Maintenance& maintenance, const platform::LocaleText& locale)
 {
+    if (!maintenance.createdAt) return {};
     return Timeline(locale)
         .add("plus.circle", "Created", maintenance.createdAt)
-        .add("arrow.triangle.2.circlepath", "Updated", maintenance.updatedAt)
+        .add(changeSymbol, changeLabel, maintenance.updatedAt)
         .rows;
 }
 

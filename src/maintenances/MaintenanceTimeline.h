@@ -12,7 +12,8 @@ namespace larkspan::maintenances {
 std::vector<presentation::TimelineRow> maintenanceTimeline(
     const model::Maintenance& maintenance, const platform::LocaleText& locale);
 
-/// When the record was made and changed, which stands apart.
+/// When the record was made, and changed since. It stands apart; without a creation there is nothing to part, and the
+/// change ends the rows above.
 std::vector<presentation::TimelineRow> recordTimeline(
     const model::Maintenance& maintenance, const platform::LocaleText& locale);
 

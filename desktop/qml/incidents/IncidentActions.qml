@@ -34,8 +34,9 @@ Item {
             Repeater {
                 model: actions.buttons
                 ActionCommand {
+                    id: command
                     onPressedById: id => actions.incident.press(id)
-                    transform: Translate { x: modelData.isProminent ? Math.max(0, row.gap) : 0 }
+                    transform: Translate { x: command.isProminent ? Math.max(0, row.gap) : 0 }
                 }
             }
         }

@@ -25,6 +25,7 @@ RecordRow {
     }
     Label {
         anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, parent.width - x)
         text: delegate.row.date
         font.pointSize: Theme.caption
         color: Theme.secondary

@@ -39,7 +39,6 @@ Item {
         font.weight: cell.day.isToday ? Font.DemiBold : Font.Normal
         color: cell.day.isChosen ? Theme.accentText : cell.day.isToday ? Theme.accentOnCard
             : cell.day.isInMonth ? Theme.text : Theme.secondary
-        opacity: cell.day.isInMonth || cell.day.isChosen ? 1 : 0.6
         Accessible.ignored: true
     }
     HoverHandler {

@@ -12,7 +12,8 @@ Column {
     spacing: Theme.unit + Theme.halfUnit
 
     Item {
-        readonly property bool isNarrow: caption.implicitWidth + 2 * Theme.unit + moment.implicitWidth > width
+        readonly property real momentWidth: date.implicitWidth + Theme.unit + time.implicitWidth
+        readonly property bool isNarrow: caption.implicitWidth + 2 * Theme.unit + momentWidth > width
 
         width: parent.width
         height: moment.y + moment.height
@@ -21,16 +22,19 @@ Column {
             id: caption
             text: box.name
         }
-        Row {
+        Flow {
             id: moment
+            width: Math.min(parent.width, Math.ceil(parent.momentWidth))
             x: parent.isNarrow ? 0 : parent.width - width
             y: parent.isNarrow ? caption.height : 0
             spacing: Theme.unit
 
             Label {
+                id: date
                 text: box.picker.date
             }
             Label {
+                id: time
                 text: box.picker.time
                 color: Theme.secondary
             }

@@ -37,6 +37,7 @@ CardRow {
             }
             Row {
                 id: line
+                width: parent.width
                 spacing: Theme.narrowGap
             }
         }

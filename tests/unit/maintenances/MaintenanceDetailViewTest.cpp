@@ -65,6 +65,15 @@ TEST_F(DetailOfAMaintenance, ShowsOnlyTheMomentsThatAreThereInTheirOrder)
             {"arrow.triangle.2.circlepath", "Updated", "2026-11-19", "08:00"}}));
 }
 
+TEST_F(DetailOfAMaintenance, WithoutACreationHasItsChangeAmongTheOtherMoments)
+{
+    opened(R"(, "start_at": "2026-11-20T10:00:00Z", "updated_at": "2026-11-19T08:00:00Z")");
+    EXPECT_EQ(view->timeline(),
+        (Rows{{"calendar.badge.clock", "Scheduled Start", "2026-11-20", "10:00"},
+            {"arrow.triangle.2.circlepath", "Updated", "2026-11-19", "08:00"}}));
+    EXPECT_EQ(view->recordRows(), Rows{});
+}
+
 TEST_F(DetailOfAMaintenance, ShowsAMessageThatIsNotEmptyButNotWhileEditing)
 {
     EXPECT_FALSE(opened()->showsDescription());
