@@ -26,7 +26,6 @@ QtObject {
     readonly property color focus: isDark ? blue : accent
     readonly property color hover: Qt.alpha(text, 0.06)
     readonly property color pressed: Qt.alpha(text, 0.12)
-    readonly property color shadow: isDark ? "#80000000" : "#30000000"
     readonly property color accentOnCard: isDark ? blue : accent
     // Of what stands on the full colour of a tone.
     readonly property color toneText: isDark ? window : accentText
