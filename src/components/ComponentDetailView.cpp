@@ -151,7 +151,7 @@ Task<void> ComponentDetailView::remove(std::shared_ptr<ComponentDetailView> self
     self->owner_.dismiss();
 }
 
-bool ComponentDetailView::hasUnsavedChanges() const
+bool ComponentDetailView::hasUnsavedText() const
 {
     return *isEditing
         && (*editedName != component->name || *editedStatus != component->status || *editedDescription != description()
@@ -160,7 +160,7 @@ bool ComponentDetailView::hasUnsavedChanges() const
 
 void ComponentDetailView::requestClose()
 {
-    if (isIdle() && hasUnsavedChanges())
+    if (isIdle() && hasUnsavedText())
         showDiscardConfirmation = true;
     else
         close();

@@ -110,7 +110,7 @@ public:
     /// The user confirmed the deletion.
     void deleteComponent();
 
-    bool hasUnsavedChanges() const;
+    bool hasUnsavedText() const;
     /// Escape, or the way back: closes what is open, but asks first where an edit would be lost.
     void requestClose();
     void keepEditing() { showDiscardConfirmation = false; }

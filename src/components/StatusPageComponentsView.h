@@ -62,6 +62,9 @@ public:
     /// Of `presentedComponent`; null without one.
     const std::shared_ptr<ComponentDetailView>& detail() const { return detail_; }
 
+    /// Leaving the screen would lose what has been typed.
+    bool hasUnsavedText() const { return detail_ && detail_->hasUnsavedText(); }
+
 private:
     ComponentDetailView::Owner ownerOf(const model::Component& opened);
     bool isPresented(const std::string& id) const;

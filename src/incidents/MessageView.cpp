@@ -1,7 +1,5 @@
 #include "incidents/MessageView.h"
 
-#include <utility>
-
 #include "incidents/markdown/StatusMarkdownContent.h"
 
 namespace larkspan::incidents {

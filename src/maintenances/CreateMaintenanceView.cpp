@@ -54,7 +54,10 @@ bool CreateMaintenanceView::isSelectionComplete() const
 
 bool CreateMaintenanceView::canBeSent() const
 {
-    return EventForm::canBeSent() && *scheduledUntil->moment > *scheduledFor->moment;
+    // In minutes, which is what the pickers show: one that was not touched still has its seconds.
+    using std::chrono::minutes;
+    const auto start = std::chrono::floor<minutes>(*scheduledFor->moment);
+    return EventForm::canBeSent() && std::chrono::floor<minutes>(*scheduledUntil->moment) > start;
 }
 
 bool CreateMaintenanceView::hasUnsavedText() const

@@ -32,7 +32,7 @@ public:
 
     CreateMaintenanceView(Ports ports, std::string pageId, Owner owner);
 
-    /// An hour from now on, unless something else is chosen.
+    /// From now on for an hour, unless something else is chosen.
     const std::shared_ptr<presentation::DateTimePicker> scheduledFor;
     const std::shared_ptr<presentation::DateTimePicker> scheduledUntil;
 

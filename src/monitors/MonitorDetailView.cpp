@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "model/URL.h"
+#include "monitors/MonitorRow.h"
 #include "presentation/WebAddress.h"
 
 namespace larkspan::monitors {
@@ -56,13 +57,13 @@ std::vector<ActionButton> MonitorDetailView::buttons() const
 {
     const bool isPaused = currentMonitor->isPaused;
     const bool isIdle = !*action->isInProgress;
-    return {{.id = "pauseResume",
+    return {{.id = std::string(MonitorRow::pauseResume),
                 .label = isPaused ? "Resume Monitor" : "Pause Monitor",
                 .symbol = isPaused ? "play.fill" : "pause.fill",
                 .tone = isPaused ? Tone::green : Tone::orange,
                 .isProminent = true,
                 .isEnabled = isIdle},
-        {.id = "checkNow",
+        {.id = std::string(MonitorRow::checkNow),
             .label = "Run Check",
             .symbol = "arrow.clockwise",
             .tone = Tone::blue,
@@ -72,8 +73,8 @@ std::vector<ActionButton> MonitorDetailView::buttons() const
 
 void MonitorDetailView::press(std::string_view id)
 {
-    if (id == "pauseResume") perform(DetailAction::pauseResume);
-    if (id == "checkNow") perform(DetailAction::checkNow);
+    if (id == MonitorRow::pauseResume) perform(DetailAction::pauseResume);
+    if (id == MonitorRow::checkNow) perform(DetailAction::checkNow);
 }
 
 void MonitorDetailView::perform(DetailAction wanted)

@@ -34,8 +34,6 @@ public:
 
     struct Owner {
         std::function<void(const model::Monitor&)> onUpdate;
-        /// Closes the screen.
-        std::function<void()> dismiss;
     };
 
     enum class DetailAction { pauseResume, checkNow };
@@ -66,7 +64,6 @@ public:
 
     /// Opens the monitor's URL; what is no web address is not opened.
     void openURL() const;
-    void close() { owner_.dismiss(); }
 
 private:
     static support::Task<void> carryOut(std::shared_ptr<MonitorDetailView> self, DetailAction wanted);

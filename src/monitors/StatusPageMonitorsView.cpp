@@ -102,14 +102,9 @@ void StatusPageMonitorsView::openMonitor(const std::string& id)
     if (!opened) return;
     const MonitorDetailView::Ports ports{ports_.main, ports_.monitors, ports_.locale, ports_.links};
     const auto view = weak_from_this();
-    MonitorDetailView::Owner owner{.onUpdate =
-                                       [view](const Monitor& refreshed) {
-                                           if (const auto self = view.lock()) self->viewModel->replace(refreshed);
-                                       },
-        .dismiss =
-            [view] {
-                if (const auto self = view.lock()) self->closeMonitor();
-            }};
+    MonitorDetailView::Owner owner{.onUpdate = [view](const Monitor& refreshed) {
+        if (const auto self = view.lock()) self->viewModel->replace(refreshed);
+    }};
     detail_ = std::make_shared<MonitorDetailView>(ports, *opened, std::move(owner));
     presentedMonitor = *opened;
 }

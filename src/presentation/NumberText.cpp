@@ -1,32 +1,22 @@
 #include "presentation/NumberText.h"
 
 #include <array>
-#include <cstdio>
+#include <charconv>
+#include <cmath>
 
 namespace larkspan::presentation {
 
-namespace {
-
-// The largest number has 309 digits before the point.
-using Digits = std::array<char, 400>;
-
-std::string taken(const Digits& digits, int length)
-{
-    return {digits.data(), static_cast<std::size_t>(length)};
-}
-
-}  // namespace
-
 std::string fixedText(double value, int digits)
 {
-    Digits text{};
-    return taken(text, std::snprintf(text.data(), text.size(), "%.*f", digits, value));
+    // The largest number has 309 digits before the point. Unlike printf this asks no locale, which Qt takes from the
+    // environment.
+    std::array<char, 400> text{};
+    return {text.begin(), std::to_chars(text.begin(), text.end(), value, std::chars_format::fixed, digits).ptr};
 }
 
 std::string signedText(double value, int digits)
 {
-    Digits text{};
-    return taken(text, std::snprintf(text.data(), text.size(), "%+.*f", digits, value));
+    return (std::signbit(value) ? "" : "+") + fixedText(value, digits);
 }
 
 }  // namespace larkspan::presentation

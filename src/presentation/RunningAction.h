@@ -18,8 +18,6 @@ public:
     {
     }
 
-    static constexpr const char* alertTitle = "Error";
-
     support::Published<bool> isInProgress{*this, false};
     /// The words of the alert; empty while there is none.
     support::Published<std::string> alert{*this};

@@ -107,7 +107,7 @@ const model::StatusPage* Dashboard::selectedPage() const
 
 void Dashboard::openPage(const std::string& id)
 {
-    if (*openedPage && (*openedPage)->page->id == id) return;
+    if (*openedPage && ((*openedPage)->page->id == id || (*openedPage)->hasUnsavedText())) return;
     selectedPageId = id;
     const auto* const page = selectedPage();
     openedPage = page ? std::make_shared<StatusPageDetailView>(portsOfPage(), *page) : nullptr;

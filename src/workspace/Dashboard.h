@@ -82,7 +82,8 @@ public:
     void refresh() { ports_.appState->refreshNow(); }
     void chooseRefreshInterval(std::chrono::seconds interval);
 
-    /// Selects the page and opens it, if the account has it. One that is open already stays as it is.
+    /// Selects the page and opens it, if the account has it. One that is open already stays as it is, and so does one
+    /// in which something is typed that would be lost: the user is led back to that instead.
     void openPage(const std::string& id);
     /// The user has gone back to the list.
     void closePage();

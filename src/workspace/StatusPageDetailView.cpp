@@ -1,5 +1,6 @@
 #include "workspace/StatusPageDetailView.h"
 
+#include <cstddef>
 #include <utility>
 
 #include "presentation/WebAddress.h"
@@ -76,6 +77,12 @@ void StatusPageDetailView::selectPrevious()
 StatusPageOverviewView StatusPageDetailView::overview() const
 {
     return StatusPageOverviewView::of(*page, *ports_.appState, ports_.locale, ports_.clock.now());
+}
+
+bool StatusPageDetailView::hasUnsavedText() const
+{
+    return (incidents_ && incidents_->hasUnsavedText()) || (components_ && components_->hasUnsavedText())
+        || (maintenances_ && maintenances_->hasUnsavedText());
 }
 
 void StatusPageDetailView::openPublicURL() const

@@ -63,8 +63,11 @@ public:
     const std::shared_ptr<monitors::StatusPageMonitorsView>& monitors() const { return monitors_; }
     /// The screen of the tab "Components"; null while another is selected.
     const std::shared_ptr<components::StatusPageComponentsView>& components() const { return components_; }
-    /// The same for "Maintenances".
+    /// The screen of the tab "Maintenances"; null while another is selected.
     const std::shared_ptr<maintenances::StatusPageMaintenancesView>& maintenances() const { return maintenances_; }
+
+    /// Leaving the page would lose what has been typed in one of its screens.
+    bool hasUnsavedText() const;
 
     /// Opens the page as the public sees it; what is no web address is not opened.
     void openPublicURL() const;

@@ -30,6 +30,7 @@ ScreenFrame {
         ToolbarButton {
             visible: !view.isEditing
             symbol: "trash"
+            ink: Theme.red
             help: qsTr("Delete Component")
             enabled: !view.detail.isBusy
             onClicked: view.detail.confirmDelete()
@@ -70,20 +71,16 @@ ScreenFrame {
         }
     }
 
-    PopupLoader {
+    ConfirmLoader {
         isShown: view.detail.showsDeleteConfirmation
+        confirmation: view.detail.deleteConfirmation
         onDismissed: view.detail.cancelDelete()
-        sourceComponent: ConfirmDialog {
-            confirmation: view.detail.deleteConfirmation
-            onConfirmed: view.detail.deleteComponent()
-        }
+        onConfirmed: view.detail.deleteComponent()
     }
-    PopupLoader {
+    ConfirmLoader {
         isShown: view.detail.showsDiscardConfirmation
+        confirmation: view.detail.discardConfirmation
         onDismissed: view.detail.keepEditing()
-        sourceComponent: ConfirmDialog {
-            confirmation: view.detail.discardConfirmation
-            onConfirmed: view.detail.discardChanges()
-        }
+        onConfirmed: view.detail.discardChanges()
     }
 }

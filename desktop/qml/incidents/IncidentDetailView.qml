@@ -19,6 +19,7 @@ ScreenFrame {
     }
     trailing: ToolbarButton {
         symbol: "trash"
+        ink: Theme.red
         help: qsTr("Delete Incident")
         enabled: view.incident.isDeleteEnabled
         onClicked: view.incident.confirmDelete()

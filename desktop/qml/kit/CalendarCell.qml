@@ -19,7 +19,6 @@ Item {
     Accessible.onPressAction: triggered()
 
     Rectangle {
-        id: plate
         anchors.centerIn: parent
         width: Math.min(parent.width, parent.height * 1.25) - Theme.halfUnit
         height: parent.height - Theme.halfUnit

@@ -2,7 +2,6 @@ import QtQuick
 
 // Loads its file when that is first wanted, and keeps it: what a window does not begin with costs its start nothing.
 Loader {
-    id: loader
     required property bool isWanted
     required property url file
     // The properties that the file begins with.

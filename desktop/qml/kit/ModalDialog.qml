@@ -4,7 +4,6 @@ import Larkspan
 
 // What comes up over the dimmed window: in its middle, with the focus kept inside while it is up. Escape closes it.
 T.Dialog {
-    id: dialog
 
     parent: T.Overlay.overlay
     x: parent ? Math.round((parent.width - width) / 2) : 0

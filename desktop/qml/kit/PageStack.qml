@@ -4,7 +4,6 @@ import Larkspan
 // The window's screens, one over the other: the first child is the one at the bottom, the pages pushed over it follow.
 // The focus is always with one of them.
 FocusScope {
-    id: stack
     focus: true
 
     Keys.onPressed: event => {

@@ -34,6 +34,7 @@ FocusScope {
         if (activeFocus) beneath.forceActiveFocus(Qt.OtherFocusReason)
     }
     function leave() {
+        if (!isLeaving) return
         isLeaving = false
         dismissed()
     }
@@ -56,7 +57,8 @@ FocusScope {
     }
 
     Behavior on progress {
-        enabled: Theme.calm > 0 && (page.isShown || page.isLeaving)
+        // Back goes at once: what is opened while a page still faded would be closed by that page's end.
+        enabled: Theme.calm > 0 && page.isShown && !page.isLeaving
         NumberAnimation {
             id: sliding
             duration: Theme.calm

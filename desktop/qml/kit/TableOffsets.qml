@@ -2,7 +2,6 @@ import QtQuick
 
 // How far the tables of a message are scrolled sideways: the rows of a table are rows of the list, and scroll as one.
 QtObject {
-    id: offsets
     property list<real> places
     signal moved(table: int)
 

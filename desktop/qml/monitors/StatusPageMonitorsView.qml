@@ -25,9 +25,10 @@ ContentArea {
 
     PopupLoader {
         isShown: view.monitors.alert !== ""
-        onDismissed: view.monitors.dismissAlert()
         sourceComponent: ErrorAlert {
             text: view.monitors.alert
+            // While it fades another may be raised, which is not to go with it.
+            onAboutToHide: view.monitors.dismissAlert()
         }
     }
 }

@@ -123,12 +123,10 @@ Sheet {
         }
     }
 
-    PopupLoader {
+    ConfirmLoader {
         isShown: sheet.settings.showsDeleteConfirmation
+        confirmation: sheet.settings.deleteConfirmation
         onDismissed: sheet.settings.cancelDelete()
-        sourceComponent: ConfirmDialog {
-            confirmation: sheet.settings.deleteConfirmation
-            onConfirmed: sheet.settings.deleteKey()
-        }
+        onConfirmed: sheet.settings.deleteKey()
     }
 }

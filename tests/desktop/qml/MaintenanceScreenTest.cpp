@@ -241,6 +241,20 @@ TEST_F(MaintenancesOnScreen, TheFormKeepsAllWhenTheServiceRefusesIt)
     EXPECT_TRUE(isEnabled("Save"));
 }
 
+TEST_F(MaintenancesOnScreen, WhileEditsAreSavedNothingCanBeTyped)
+{
+    openEditor();
+    type("Title", " now");
+    choose("Save");
+    EXPECT_FALSE(item(Role::EditableText, QStringLiteral("Title")).isEnabled());
+    transport.answer(platform::HttpResponse{.status = 422, .body = ""});
+    settle();
+    press(Qt::Key_Return);
+    EXPECT_TRUE(item(Role::EditableText, QStringLiteral("Title")).isEnabled());
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(asks("Discard Changes?"));
+}
+
 TEST_F(MaintenancesOnScreen, EscapeInTheFormAsksBeforeADateIsLostAndElseClosesIt)
 {
     openForm();

@@ -213,20 +213,20 @@ TEST_F(DetailOfAComponent, LeftByEscapeWithAnyChangeAsksFirst)
         [](auto& each) { each.chooseGroup(""); }};
     for (const auto change : changes) {
         editing(whole);
-        EXPECT_FALSE(view->hasUnsavedChanges());
+        EXPECT_FALSE(view->hasUnsavedText());
         change(*view);
-        EXPECT_TRUE(view->hasUnsavedChanges());
+        EXPECT_TRUE(view->hasUnsavedText());
         view->requestClose();
         EXPECT_TRUE(*view->showDiscardConfirmation);
         EXPECT_TRUE(*view->isEditing);
         view->keepEditing();
         EXPECT_FALSE(*view->showDiscardConfirmation);
-        EXPECT_TRUE(view->hasUnsavedChanges());
+        EXPECT_TRUE(view->hasUnsavedText());
         view->requestClose();
         view->discardChanges();
         EXPECT_FALSE(*view->showDiscardConfirmation);
         EXPECT_FALSE(*view->isEditing);
-        EXPECT_FALSE(view->hasUnsavedChanges());
+        EXPECT_FALSE(view->hasUnsavedText());
     }
     EXPECT_EQ(effects, Words{}) << "the component stays in sight";
 }

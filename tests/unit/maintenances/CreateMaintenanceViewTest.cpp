@@ -115,6 +115,15 @@ TEST_F(FormOfAMaintenance, WithEqualDatesCannotBeSaved)
     EXPECT_TRUE(form->isSaveEnabled());
 }
 
+TEST_F(FormOfAMaintenance, WithDatesThatShowAsEqualCannotBeSaved)
+{
+    clock.time += 37s;
+    titled()->scheduledFor->typeHour("10");
+    EXPECT_EQ(form->scheduledFor->time(), form->scheduledUntil->time());
+    EXPECT_FALSE(form->isSaveEnabled());
+    EXPECT_EQ(saved(), "nothing");
+}
+
 TEST_F(FormOfAMaintenance, WithAStartMovedBehindItsEndCannotBeSaved)
 {
     titled()->scheduledFor->moveDays(1);

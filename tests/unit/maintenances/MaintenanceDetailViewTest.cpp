@@ -123,6 +123,14 @@ TEST_F(DetailOfAMaintenance, OfAnUnknownStatusHasNeitherActionButtonButEditAndDe
     EXPECT_TRUE(*view->showDeleteConfirmation);
     view->beginEditing();
     EXPECT_TRUE(*view->isEditing);
+    answer(isCancelled);
+    view->saveEdits();
+    run();
+    EXPECT_FALSE(*view->isEditing);
+    transport.script(recordURL, 204, "");
+    view->removeMaintenance();
+    run();
+    EXPECT_EQ(effects, (Words{"update cancelled while busy", "delete 7 while busy", "dismiss while busy"}));
 }
 
 TEST_F(DetailOfAMaintenance, ComparesTheStatusWithItsCase)

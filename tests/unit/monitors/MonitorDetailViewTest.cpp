@@ -47,12 +47,9 @@ protected:
 
     std::shared_ptr<MonitorDetailView> opened(const Monitor& monitor = gateway())
     {
-        MonitorDetailView::Owner owner{.onUpdate =
-                                           [this](const Monitor& refreshed) {
-                                               effects.push_back("update of " + refreshed.name
-                                                   + (*view->action->isInProgress ? " while busy" : ""));
-                                           },
-            .dismiss = [this] { effects.emplace_back("dismiss"); }};
+        MonitorDetailView::Owner owner{.onUpdate = [this](const Monitor& refreshed) {
+            effects.push_back("update of " + refreshed.name + (*view->action->isInProgress ? " while busy" : ""));
+        }};
         view = std::make_shared<MonitorDetailView>(
             MonitorDetailView::Ports{main, api, locale, links}, monitor, std::move(owner));
         return view;
@@ -247,12 +244,6 @@ TEST_F(DetailOfAMonitor, ClosedDuringAnActionIsFreedAfterIt)
     transport.answer(platform::HttpResponse{500, ""});
     run();
     EXPECT_TRUE(held.expired());
-}
-
-TEST_F(DetailOfAMonitor, ClosesItself)
-{
-    opened()->close();
-    EXPECT_EQ(effects, Words{"dismiss"});
 }
 
 class RefusedInTheDetail : public DetailOfAMonitor,

@@ -44,6 +44,14 @@ TEST_F(LatencyOfAMonitor, HasNoGraphWithoutMetricsWithoutLatencyAndWithAnEmptyOn
     EXPECT_EQ(row->latencyGraph(), LatencyGraph{}) << "whatever points there are";
 }
 
+TEST_F(LatencyOfAMonitor, AnEmptyLatencyArrayHidesTheGraphButTheRowsBelowItAreStillShown)
+{
+    arrive({.avgMs = 250, .latency = Values{}});
+    EXPECT_EQ(row->latencyGraph(), LatencyGraph{});
+    EXPECT_TRUE(row->showsPanel());
+    EXPECT_EQ(row->figures().size(), 1u);
+}
+
 TEST_F(LatencyOfAMonitor, IsThatOfThePointsWhereThereAreSuch)
 {
     arrive({.latency = Values{5, 6}, .latencyPoints = std::vector<model::LatencyPoint>{{1, {}}, {2, {}}, {3, {}}}});

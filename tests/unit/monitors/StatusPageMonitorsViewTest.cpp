@@ -177,7 +177,7 @@ TEST_F(MonitorsOfAPage, OpenTheMonitorOfARowAndGoingBackClearsItWithoutALoad)
     ASSERT_TRUE(view->presentedMonitor->has_value());
     EXPECT_EQ((*view->presentedMonitor)->id, "2");
     ASSERT_TRUE(view->detail());
-    view->detail()->close();
+    view->closeMonitor();
     run();
     EXPECT_FALSE(view->presentedMonitor->has_value());
     EXPECT_FALSE(view->detail());

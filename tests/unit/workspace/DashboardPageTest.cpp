@@ -50,6 +50,29 @@ TEST_F(PageOfTheDashboard, OpensFromTheMenu)
     EXPECT_EQ(opened()->page->id, "b");
 }
 
+TEST_F(PageOfTheDashboard, AskedForFromTheMenuDoesNotTakeThePlaceOfOneInWhichTextIsTyped)
+{
+    dashboard->openPage("a");
+    auto& page = **dashboard->openedPage;
+    for (const auto tab : {Tab::incidents, Tab::maintenances}) {
+        page.select(tab);
+        EXPECT_FALSE(page.hasUnsavedText());
+        if (tab == Tab::incidents) {
+            page.incidents()->openCreateIncident();
+            page.incidents()->form()->title = "Mail is down";
+        } else {
+            page.maintenances()->openCreateMaintenance();
+            page.maintenances()->form()->title = "New certificates";
+        }
+        EXPECT_TRUE(page.hasUnsavedText());
+        state->openStatusPage("b");
+        EXPECT_EQ(opened()->page->id, "a");
+    }
+    page.select(Tab::overview);
+    state->openStatusPage("b");
+    EXPECT_EQ(opened()->page->id, "b");
+}
+
 TEST_F(PageOfTheDashboard, AskedForFromTheMenuWhileAnotherIsOpenIsAViewOfItsOwnWithTheOverviewSelected)
 {
     dashboard->openPage("a");
