@@ -1,4 +1,9 @@
+#include <QTest>
+
 #include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
 
 #include "ShownText.h"
 #include "gallery/ShownScene.h"
@@ -20,21 +25,36 @@ std::string words(const ShownText& text)
     return "\"" + text.text.left(60).toStdString() + "\"";
 }
 
+using Findings = std::vector<std::string>;
+
+Findings findingsIn(const QQuickWindow& window)
+{
+    Findings findings;
+    const auto texts = textsOf(window);
+    if (texts.empty()) findings.emplace_back("there is no text");
+    for (auto one = texts.begin(); one != texts.end(); ++one) {
+        if (!one->cut.isEmpty()) findings.push_back(words(*one) + " is cut " + one->cut.toStdString());
+        for (auto other = std::next(one); other != texts.end(); ++other) {
+            if (overlap(*one, *other)) findings.push_back(words(*one) + " lies on " + words(*other));
+        }
+    }
+    return findings;
+}
+
 class TextOfAScene : public testing::TestWithParam<Scene> {
 protected:
+    /// What stays: on a machine that is busy a list may still be on its way to its places.
     void look(const ShownScene::Look& look)
     {
         const ShownScene shown(GetParam(), look, main);
-        const auto texts = textsOf(shown.window());
-        const auto where = " at " + std::to_string(look.size.width()) + " points with a font of "
-            + std::to_string(static_cast<int>(look.fontPointSize));
-        EXPECT_FALSE(texts.empty());
-        for (auto one = texts.begin(); one != texts.end(); ++one) {
-            EXPECT_TRUE(one->cut.isEmpty()) << words(*one) << " is cut " << one->cut.toStdString() << where;
-            for (auto other = std::next(one); other != texts.end(); ++other) {
-                EXPECT_FALSE(overlap(*one, *other)) << words(*one) << " lies on " << words(*other) << where;
-            }
+        Findings findings = findingsIn(shown.window());
+        for (int looks = 0; !findings.empty() && looks < 20; ++looks) {
+            QTest::qWait(100);
+            shown.window().grabWindow();
+            findings = findingsIn(shown.window());
         }
+        EXPECT_EQ(findings, Findings{}) << "at " << look.size.width() << " points with a font of "
+                                        << look.fontPointSize;
     }
 
     adapters::MainExecutor main;
