@@ -20,23 +20,19 @@ FocusScope {
     readonly property bool isThere: loader.active
     property bool isLeaving: false
 
+    // At once: what is opened while a page still faded out would be closed by that page's end.
     function goBack() {
-        if (!isShown || isLeaving) return
+        if (!isShown) return
         if (isGuarded) return backWanted()
         isLeaving = true
         progress = 0
         returnFocus()
-        if (!sliding.running) leave()
+        isLeaving = false
+        dismissed()
     }
-    // At once, so that nothing that the user does next is lost to a page that only fades.
     function returnFocus() {
         focusBefore.giveBack()
         if (activeFocus) beneath.forceActiveFocus(Qt.OtherFocusReason)
-    }
-    function leave() {
-        if (!isLeaving) return
-        isLeaving = false
-        dismissed()
     }
 
     anchors.fill: parent
@@ -47,7 +43,6 @@ FocusScope {
     onIsShownChanged: {
         if (isShown) {
             focusBefore.remember(Window.activeFocusItem)
-            isLeaving = false
             progress = 1
             forceActiveFocus(Qt.OtherFocusReason)
         } else {
@@ -57,13 +52,10 @@ FocusScope {
     }
 
     Behavior on progress {
-        // Back goes at once: what is opened while a page still faded would be closed by that page's end.
         enabled: Theme.calm > 0 && page.isShown && !page.isLeaving
         NumberAnimation {
-            id: sliding
             duration: Theme.calm
             easing.type: Easing.OutCubic
-            onRunningChanged: if (!running && page.isLeaving) page.leave()
         }
     }
     Binding {
