@@ -14,6 +14,7 @@
 #include "adapters/http/CurlTransport.h"
 #include "adapters/http/PortalProxies.h"
 #include "adapters/secrets/SecretServiceStore.h"
+#include "qml/Fonts.h"
 #include "qml/Renderer.h"
 
 int main(int argc, char* argv[])
@@ -29,6 +30,7 @@ int main(int argc, char* argv[])
 
     adapters::SingleInstance instance(QDBusConnection::sessionBus());
     if (instance.claim(activationToken) == adapters::SingleInstance::Standing::second) return 0;
+    lookUpFonts();
 
     adapters::MainExecutor main;
     adapters::PortalProxies proxies(QDBusConnection::sessionBus(), main);

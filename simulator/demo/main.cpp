@@ -10,6 +10,7 @@
 #include "adapters/TerminationSignals.h"
 #include "api/KeychainHelper.h"
 #include "demo/DemoAccount.h"
+#include "qml/Fonts.h"
 #include "qml/Renderer.h"
 
 int main(int argc, char* argv[])
@@ -18,6 +19,7 @@ int main(int argc, char* argv[])
 
     chooseRenderer();
     const QGuiApplication qt(argc, argv);
+    lookUpFonts();
     QGuiApplication::setDesktopFileName(QStringLiteral("com.kestrune.larkspan"));
     // The desktop knows the program's icon once that is installed; the demo runs without.
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/com.kestrune.larkspan.svg")));

@@ -1,0 +1,15 @@
+#include "qml/Fonts.h"
+
+#include <QFontDatabase>
+#include <QThreadPool>
+
+namespace larkspan {
+
+void lookUpFonts()
+{
+    // Reading their configuration takes a tenth of the time until the first frame, and the screens load meanwhile. Any
+    // question makes the database read it, under a lock that the first text waits for.
+    QThreadPool::globalInstance()->start([] { static_cast<void>(QFontDatabase::families()); });
+}
+
+}  // namespace larkspan
