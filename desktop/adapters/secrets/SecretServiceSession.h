@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "adapters/secrets/SecretServiceBus.h"
+#include "adapters/secrets/SecretServiceNews.h"
 #include "platform/CredentialStore.h"
 
 namespace larkspan::adapters {
@@ -40,6 +41,11 @@ public:
     /// Whether there is a service that answers; the other calls need one.
     bool isOpen() const { return service_ != nullptr; }
 
+    /// Whether anything may have changed since the last call of `forgetNews`. What an answer reports has been heard
+    /// once the answer is there.
+    bool hasNews() const { return news_->haveCome(); }
+    void forgetNews() { news_->forget(); }
+
     /// The items with these attributes. Raises no prompt.
     Found search(const platform::CredentialItem& item);
 
@@ -68,6 +74,7 @@ private:
     ObjectPointer<SecretService> service_;
     /// The bus name of the very process that the session is with.
     std::string owner_;
+    std::optional<SecretServiceNews> news_;
 };
 
 }  // namespace larkspan::adapters

@@ -38,7 +38,9 @@ std::optional<std::string> SecretServiceStore::find(const platform::CredentialIt
 {
     const SecretServiceSession::Conversation conversation(*session_);
     if (!session_->isOpen()) return std::nullopt;
+    if (auto secret = findWhereItWas(item)) return secret;
 
+    session_->forgetNews();
     auto found = session_->search(item);
     if (found.unlocked.empty()) {
         if (found.locked.empty() || !mayPrompt_) return std::nullopt;
@@ -47,7 +49,20 @@ std::optional<std::string> SecretServiceStore::find(const platform::CredentialIt
         if (found.unlocked.empty()) return std::nullopt;
     }
     mayPrompt_ = true;
-    return session_->secret(changedLast(*session_, found.unlocked));
+    lastPlace_ = {std::string(item.service), std::string(item.account), changedLast(*session_, found.unlocked)};
+    return session_->secret(lastPlace_->path);
+}
+
+// Each request reads the key anew, and hardly ever has anything in the keyring changed since the one before.
+std::optional<std::string> SecretServiceStore::findWhereItWas(const platform::CredentialItem& item)
+{
+    if (!lastPlace_ || lastPlace_->service != item.service || lastPlace_->account != item.account) return std::nullopt;
+    if (session_->hasNews()) return std::nullopt;
+    auto secret = session_->secret(lastPlace_->path);
+    // News that came with the answer may be of another item that counts now.
+    if (!secret || session_->hasNews()) return std::nullopt;
+    mayPrompt_ = true;
+    return secret;
 }
 
 bool SecretServiceStore::add(const platform::CredentialItem& item, const std::string& secret)

@@ -3,6 +3,8 @@
 #include <atomic>
 #include <chrono>
 #include <memory>
+#include <optional>
+#include <string>
 
 #include "platform/CredentialStore.h"
 
@@ -41,11 +43,20 @@ public:
     void stop();
 
 private:
+    /// Where the last secret was found.
+    struct Place {
+        std::string service;
+        std::string account;
+        std::string path;
+    };
+
+    std::optional<std::string> findWhereItWas(const platform::CredentialItem& item);
     bool unlock(const std::string& path);
 
     std::unique_ptr<GLibStop> stop_;
     std::unique_ptr<SecretServiceSession> session_;
     std::atomic<bool> mayPrompt_ = true;
+    std::optional<Place> lastPlace_;
 };
 
 }  // namespace larkspan::adapters

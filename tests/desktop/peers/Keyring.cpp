@@ -56,6 +56,12 @@ void Keyring::store(const QStringList& attributes, const QByteArray& secret) con
     if (!tool.endsWell()) throw std::runtime_error("secret-tool stores nothing");
 }
 
+void Keyring::clear(const QStringList& attributes) const
+{
+    Peer tool("secret-tool", QStringList{"clear"} + attributes, environment());
+    if (!tool.endsWell()) throw std::runtime_error("secret-tool clears nothing");
+}
+
 void Keyring::storeInALockedKeyring(const QStringList& attributes, const QString& secret) const
 {
     Peer other("/usr/bin/python3",

@@ -29,6 +29,9 @@ public:
     /// Stores a secret with `secret-tool`, which takes attributes as names and values in turn.
     void store(const QStringList& attributes, const QByteArray& secret) const;
 
+    /// Removes the unlocked items that have these attributes with `secret-tool`.
+    void clear(const QStringList& attributes) const;
+
     /// Stores a secret in a second keyring, which is locked then and has the same password.
     void storeInALockedKeyring(const QStringList& attributes, const QString& secret) const;
 
