@@ -46,9 +46,9 @@ void SecretServiceBus::tell(const std::string& path, const char* interface, cons
         G_DBUS_CALL_FLAGS_NO_AUTO_START, -1, nullptr, nullptr, nullptr);
 }
 
-void SecretServiceBus::restartDeadline()
+void SecretServiceBus::restartDeadline(std::chrono::milliseconds patience)
 {
-    deadline_ = std::chrono::steady_clock::now() + patience_;
+    deadline_ = std::chrono::steady_clock::now() + patience;
 }
 
 VariantPointer SecretServiceBus::call(const char* destination, const std::string& path, const char* interface,

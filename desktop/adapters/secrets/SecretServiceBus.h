@@ -25,7 +25,8 @@ public:
     void tell(const std::string& path, const char* interface, const char* method);
 
     /// The deadline is `patience` from now.
-    void restartDeadline();
+    void restartDeadline() { restartDeadline(patience_); }
+    void restartDeadline(std::chrono::milliseconds patience);
 
     /// Connects if the bus isn't connected; says whether it is now.
     bool connect();

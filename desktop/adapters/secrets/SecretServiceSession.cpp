@@ -72,9 +72,14 @@ std::vector<std::string> texts(const VariantPointer& array)
 }  // namespace
 
 SecretServiceSession::Conversation::Conversation(SecretServiceSession& session)
+    : Conversation(session, session.bus_.patience())
+{
+}
+
+SecretServiceSession::Conversation::Conversation(SecretServiceSession& session, std::chrono::milliseconds patience)
     : entry_(session.bus_.loop())
 {
-    session.bus_.restartDeadline();
+    session.bus_.restartDeadline(patience);
     session.open();
 }
 

@@ -22,6 +22,8 @@ public:
     class Conversation {
     public:
         explicit Conversation(SecretServiceSession& session);
+        /// As long as `patience` at most.
+        Conversation(SecretServiceSession& session, std::chrono::milliseconds patience);
 
     private:
         GLibLoop::Entry entry_;

@@ -34,6 +34,11 @@ SecretServiceStore::SecretServiceStore(std::chrono::milliseconds patience)
 
 SecretServiceStore::~SecretServiceStore() = default;
 
+void SecretServiceStore::open()
+{
+    const SecretServiceSession::Conversation conversation(*session_, std::chrono::seconds(1));
+}
+
 std::optional<std::string> SecretServiceStore::find(const platform::CredentialItem& item)
 {
     const SecretServiceSession::Conversation conversation(*session_);

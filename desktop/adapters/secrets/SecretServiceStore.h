@@ -26,6 +26,10 @@ public:
     explicit SecretServiceStore(std::chrono::milliseconds patience = std::chrono::seconds(10));
     ~SecretServiceStore() override;
 
+    /// Opens the session, so that the first read need not wait for that. Raises no prompt, and gives up after a second:
+    /// the read then tries again with all its patience.
+    void open();
+
     /// Of several matching items, the one changed last. An unlocked one goes before any that needs a prompt.
     std::optional<std::string> find(const platform::CredentialItem& item) override;
 

@@ -63,6 +63,22 @@ TEST(FrozenService, EndsEveryOperationAtTheDeadlineAndIsUsableWhenItThaws)
     EXPECT_EQ(store.find(apiKey), "key-1");
 }
 
+TEST(FrozenService, HoldsUpTheOpeningOfTheSessionForASecondAtMost)
+{
+    Keyring keyring(sessionBus());
+    SecretServiceStore store;
+    keyring.store({"service", "KestruneAPIKeyService", "account", "KestruneAPIKey"}, "key-1");
+    keyring.signal(SIGSTOP);
+
+    const auto begin = std::chrono::steady_clock::now();
+    store.open();
+    const auto duration = std::chrono::steady_clock::now() - begin;
+    keyring.signal(SIGCONT);
+
+    EXPECT_LT(duration, 3s);
+    EXPECT_EQ(store.find(apiKey), "key-1");
+}
+
 TEST(ServiceKilledInACall, CountsAsEmptyAtOnce)
 {
     Keyring keyring(sessionBus());

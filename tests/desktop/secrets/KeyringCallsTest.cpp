@@ -79,6 +79,26 @@ TEST_F(KeyringCalls, FindTheSecretThatTheItemHasByNow)
     EXPECT_EQ(store_.find(apiKey), std::nullopt);
 }
 
+TEST(KeyringThatWasOpenedBeforehand, IsAskedForNoFurtherSessionByTheFirstRead)
+{
+    peers::Keyring keyring(sessionBus());
+    keyring.store(apiKeyAttributes, "key-1");
+    SecretServiceStore store;
+    store.open();
+    peers::Peer monitor("dbus-monitor",
+        {"--address", sessionBus().address(), "--profile", "type='method_call',member='OpenSession'"},
+        QProcessEnvironment::systemEnvironment());
+
+    // The monitor is at work once it has told of another store's session.
+    EXPECT_TRUE(peers::turnUntil([&] {
+        SecretServiceStore().open();
+        return monitor.heardByNow().filter("OpenSession").size() > 0;
+    }));
+    monitor.heardByNow();
+    EXPECT_EQ(store.find(apiKey), "key-1");
+    EXPECT_EQ(monitor.heardByNow().filter("OpenSession"), QStringList());
+}
+
 TEST_F(KeyringCalls, FindNothingForAnotherItem)
 {
     EXPECT_EQ(store_.find({.service = "KestruneAPIKeyService", .account = "another"}), std::nullopt);
