@@ -10,7 +10,7 @@ IncidentListBridge::IncidentListBridge(
     , view_(std::move(view))
     , updates_(updates)
 {
-    for (const auto& subscription : view_->observe(observer())) keep(subscription);
+    followChangesOf(*view_);
     IncidentListBridge::readState();
 }
 

@@ -12,7 +12,7 @@ MonitorListBridge::MonitorListBridge(
     , view_(std::move(view))
     , updates_(updates)
 {
-    for (const auto& subscription : view_->observe(observer())) keep(subscription);
+    followChangesOf(*view_);
     MonitorListBridge::readState();
 }
 
