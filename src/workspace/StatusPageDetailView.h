@@ -75,6 +75,10 @@ public:
 private:
     void leave();
     void enter(Tab tab);
+    void enterIncidents();
+    void enterMonitors();
+    void enterComponents();
+    void enterMaintenances();
 
     Ports ports_;
     std::shared_ptr<incidents::StatusPageIncidentsView> incidents_;
