@@ -40,7 +40,7 @@ protected:
 
 TEST_F(PatchedList, TakesAChangedRecordInThePlaceOfTheFirstOfItsId)
 {
-    list->replace({"a", "new"});
+    list->records.replace({"a", "new"});
     EXPECT_EQ(*list->records, (Records{{"a", "new"}, {"b", "2"}, {"a", "3"}}));
 }
 
@@ -48,23 +48,23 @@ TEST_F(PatchedList, TakesNoChangedRecordThatItDoesNotHave)
 {
     int changes = 0;
     const auto subscription = list->objectWillChange([&changes] { ++changes; });
-    list->replace({"c", "new"});
+    list->records.replace({"c", "new"});
     EXPECT_EQ(list->records->size(), 3u);
     EXPECT_EQ(changes, 0);
 }
 
 TEST_F(PatchedList, LosesEveryRecordOfAnIdAndKeepsTheOrderOfTheOthers)
 {
-    list->insertFirst({"c", "0"});
-    list->remove("a");
+    list->records.insertFirst({"c", "0"});
+    list->records.remove("a");
     EXPECT_EQ(*list->records, (Records{{"c", "0"}, {"b", "2"}}));
-    list->remove("none");
+    list->records.remove("none");
     EXPECT_EQ(list->records->size(), 2u);
 }
 
 TEST_F(PatchedList, HasANewRecordAtItsHeadOnce)
 {
-    list->insertFirst({"b", "new"});
+    list->records.insertFirst({"b", "new"});
     EXPECT_EQ(*list->records, (Records{{"b", "new"}, {"a", "1"}, {"a", "3"}}));
 }
 
