@@ -13,7 +13,7 @@ StatusPageComponentsView::StatusPageComponentsView(Ports ports, const std::strin
             .empty = {.symbol = "square.grid.2x2",
                 .title = "No Components",
                 .text = "This status page has no components yet."}})
-    , viewModel(std::make_shared<StatusPageComponentsViewModel>(ports.main, ports.components, pageID))
+    , viewModel(std::make_shared<StatusPageComponentsViewModel>(ports.main, ports.api, pageID))
     , ports_(ports)
 {
 }
@@ -33,7 +33,7 @@ void StatusPageComponentsView::openComponent(const std::string& id)
 {
     const auto* const opened = viewModel->components.find(id);
     if (!opened) return;
-    const ComponentDetailView::Ports ports{ports_.main, ports_.components, ports_.links};
+    const ComponentDetailView::Ports ports{ports_.main, ports_.api, ports_.links};
     auto detail = std::make_shared<ComponentDetailView>(ports, viewModel->pageId, *opened, ownerOf(id));
     detail->appear();
     presentedComponent.open(*opened, std::move(detail));

@@ -22,7 +22,7 @@ class StatusPageComponentsView final : public presentation::ListScreen,
 public:
     struct Ports {
         platform::Executor& main;
-        api::ComponentEndpoints& components;
+        api::ComponentEndpoints& api;
         platform::CredentialStore& credentials;
         platform::LinkOpener& links;
     };

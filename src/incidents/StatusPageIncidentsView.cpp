@@ -16,7 +16,7 @@ StatusPageIncidentsView::StatusPageIncidentsView(Ports ports, const std::string&
                 .tone = Tone::green,
                 .title = "No Incidents",
                 .text = "All systems are running smoothly."}})
-    , viewModel(std::make_shared<StatusPageIncidentsViewModel>(ports.main, ports.incidents, pageID))
+    , viewModel(std::make_shared<StatusPageIncidentsViewModel>(ports.main, ports.api, pageID))
     , ports_(ports)
 {
 }
@@ -31,7 +31,7 @@ void StatusPageIncidentsView::openIncident(const std::string& id)
 {
     const auto* const opened = viewModel->incidents.find(id);
     if (!opened) return;
-    const IncidentDetailView::Ports ports{ports_.main, ports_.incidents, ports_.clock, ports_.locale, ports_.links};
+    const IncidentDetailView::Ports ports{ports_.main, ports_.api, ports_.clock, ports_.locale, ports_.links};
     presentedIncident.open(*opened, std::make_shared<IncidentDetailView>(ports, *opened, ownerOf(id)));
 }
 
@@ -70,10 +70,8 @@ void StatusPageIncidentsView::closeIncident()
 void StatusPageIncidentsView::openCreateIncident()
 {
     if (*showCreateIncident) return;
-    const presentation::ComponentSelection::Ports selection{
-        ports_.main, ports_.components, ports_.monitors, ports_.locale};
-    showCreateIncident.open(std::make_shared<CreateIncidentView>(
-        CreateIncidentView::Ports{ports_.incidents, selection}, viewModel->pageId, ownerOfForm()));
+    const CreateIncidentView::Ports ports{ports_.api, ports_.selection()};
+    showCreateIncident.open(std::make_shared<CreateIncidentView>(ports, viewModel->pageId, ownerOfForm()));
 }
 
 CreateIncidentView::Owner StatusPageIncidentsView::ownerOfForm()

@@ -4,18 +4,12 @@
 #include <string>
 #include <vector>
 
-#include "api/ComponentEndpoints.h"
 #include "api/IncidentEndpoints.h"
-#include "api/MonitorEndpoints.h"
 #include "incidents/CreateIncidentView.h"
 #include "incidents/IncidentDetailView.h"
 #include "incidents/IncidentRow.h"
 #include "incidents/StatusPageIncidentsViewModel.h"
-#include "platform/Clock.h"
-#include "platform/CredentialStore.h"
-#include "platform/Executor.h"
-#include "platform/LinkOpener.h"
-#include "platform/LocaleText.h"
+#include "presentation/EventListPorts.h"
 #include "presentation/ListScreen.h"
 #include "presentation/PresentedRecord.h"
 #include "presentation/PresentedSheet.h"
@@ -26,15 +20,8 @@ namespace larkspan::incidents {
 class StatusPageIncidentsView final : public presentation::ListScreen,
                                       public std::enable_shared_from_this<StatusPageIncidentsView> {
 public:
-    struct Ports {
-        platform::Executor& main;
-        api::IncidentEndpoints& incidents;
-        api::ComponentEndpoints& components;
-        api::MonitorEndpoints& monitors;
-        platform::CredentialStore& credentials;
-        const platform::Clock& clock;
-        const platform::LocaleText& locale;
-        platform::LinkOpener& links;
+    struct Ports : presentation::EventListPorts {
+        api::IncidentEndpoints& api;
     };
 
     StatusPageIncidentsView(Ports ports, const std::string& pageID);

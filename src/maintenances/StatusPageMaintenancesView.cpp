@@ -14,7 +14,7 @@ StatusPageMaintenancesView::StatusPageMaintenancesView(Ports ports, const std::s
             .empty = {.symbol = "calendar.badge.clock",
                 .title = "No scheduled maintenances",
                 .text = "Maintenance windows will appear here."}})
-    , viewModel(std::make_shared<StatusPageMaintenancesViewModel>(ports.main, ports.maintenances, pageId))
+    , viewModel(std::make_shared<StatusPageMaintenancesViewModel>(ports.main, ports.api, pageId))
     , ports_(ports)
 {
 }
@@ -29,8 +29,7 @@ void StatusPageMaintenancesView::openMaintenance(const std::string& id)
 {
     const auto* const opened = viewModel->maintenances.find(id);
     if (!opened) return;
-    const MaintenanceDetailView::Ports ports{
-        ports_.main, ports_.maintenances, ports_.clock, ports_.locale, ports_.links};
+    const MaintenanceDetailView::Ports ports{ports_.main, ports_.api, ports_.clock, ports_.locale, ports_.links};
     presentedMaintenance.open(*opened, std::make_shared<MaintenanceDetailView>(ports, *opened, ownerOf(id)));
 }
 
@@ -64,10 +63,8 @@ void StatusPageMaintenancesView::closeMaintenance()
 void StatusPageMaintenancesView::openCreateMaintenance()
 {
     if (*showCreateSheet) return;
-    const presentation::ComponentSelection::Ports selection{
-        ports_.main, ports_.components, ports_.monitors, ports_.locale};
-    showCreateSheet.open(std::make_shared<CreateMaintenanceView>(
-        CreateMaintenanceView::Ports{ports_.maintenances, ports_.clock, selection}, viewModel->pageId, ownerOfForm()));
+    const CreateMaintenanceView::Ports ports{ports_.api, ports_.clock, ports_.selection()};
+    showCreateSheet.open(std::make_shared<CreateMaintenanceView>(ports, viewModel->pageId, ownerOfForm()));
 }
 
 CreateMaintenanceView::Owner StatusPageMaintenancesView::ownerOfForm()

@@ -4,18 +4,12 @@
 #include <string>
 #include <vector>
 
-#include "api/ComponentEndpoints.h"
 #include "api/MaintenanceEndpoints.h"
-#include "api/MonitorEndpoints.h"
 #include "maintenances/CreateMaintenanceView.h"
 #include "maintenances/MaintenanceDetailView.h"
 #include "maintenances/MaintenanceRow.h"
 #include "maintenances/StatusPageMaintenancesViewModel.h"
-#include "platform/Clock.h"
-#include "platform/CredentialStore.h"
-#include "platform/Executor.h"
-#include "platform/LinkOpener.h"
-#include "platform/LocaleText.h"
+#include "presentation/EventListPorts.h"
 #include "presentation/ListScreen.h"
 #include "presentation/PresentedRecord.h"
 #include "presentation/PresentedSheet.h"
@@ -27,15 +21,8 @@ namespace larkspan::maintenances {
 class StatusPageMaintenancesView final : public presentation::ListScreen,
                                          public std::enable_shared_from_this<StatusPageMaintenancesView> {
 public:
-    struct Ports {
-        platform::Executor& main;
-        api::MaintenanceEndpoints& maintenances;
-        api::ComponentEndpoints& components;
-        api::MonitorEndpoints& monitors;
-        platform::CredentialStore& credentials;
-        const platform::Clock& clock;
-        const platform::LocaleText& locale;
-        platform::LinkOpener& links;
+    struct Ports : presentation::EventListPorts {
+        api::MaintenanceEndpoints& api;
     };
 
     StatusPageMaintenancesView(Ports ports, const std::string& pageId);

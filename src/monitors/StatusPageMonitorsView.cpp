@@ -18,7 +18,7 @@ StatusPageMonitorsView::StatusPageMonitorsView(Ports ports, model::StatusPage op
                 .title = "No Monitors",
                 .text = "No monitors configured for this status page."}})
     , page(std::move(opened))
-    , viewModel(std::make_shared<StatusPageMonitorsViewModel>(ports.main, ports.monitors, page.id))
+    , viewModel(std::make_shared<StatusPageMonitorsViewModel>(ports.main, ports.api, page.id))
     , ports_(ports)
     , loads_(ports.main, *viewModel, [this] { forgetRowsThatLeft(); })
 {
@@ -47,7 +47,7 @@ void StatusPageMonitorsView::toggleMetrics(const std::string& id)
     if (!viewModel->monitors.find(id)) return;
     if (!rowViews_->contains(id)) {
         auto views = *rowViews_;
-        const MonitorRowView::Ports ports{ports_.main, ports_.monitors, ports_.locale};
+        const MonitorRowView::Ports ports{ports_.main, ports_.api, ports_.locale};
         views.emplace(id, std::make_shared<MonitorRowView>(ports, id));
         rowViews_ = std::move(views);
     }
@@ -71,7 +71,7 @@ void StatusPageMonitorsView::openMonitor(const std::string& id)
 {
     const auto* const opened = viewModel->monitors.find(id);
     if (!opened) return;
-    const MonitorDetailView::Ports ports{ports_.main, ports_.monitors, ports_.locale, ports_.links};
+    const MonitorDetailView::Ports ports{ports_.main, ports_.api, ports_.locale, ports_.links};
     MonitorDetailView::Owner owner{
         .onUpdate = support::whileAlive(weak_from_this(), [](StatusPageMonitorsView& self, const Monitor& refreshed) {
             self.viewModel->monitors.replace(refreshed);

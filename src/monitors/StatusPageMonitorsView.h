@@ -30,7 +30,7 @@ class StatusPageMonitorsView final : public presentation::ListScreen,
 public:
     struct Ports {
         platform::Executor& main;
-        api::MonitorEndpoints& monitors;
+        api::MonitorEndpoints& api;
         platform::CredentialStore& credentials;
         const platform::LocaleText& locale;
         platform::LinkOpener& links;

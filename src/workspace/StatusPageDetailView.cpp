@@ -47,14 +47,7 @@ void StatusPageDetailView::enter(Tab tab)
 
 void StatusPageDetailView::enterIncidents()
 {
-    const incidents::StatusPageIncidentsView::Ports ports{.main = ports_.main,
-        .incidents = ports_.api,
-        .components = ports_.api,
-        .monitors = ports_.api,
-        .credentials = ports_.credentials,
-        .clock = ports_.clock,
-        .locale = ports_.locale,
-        .links = ports_.links};
+    const incidents::StatusPageIncidentsView::Ports ports{eventPorts(), ports_.api};
     incidents_ = std::make_shared<incidents::StatusPageIncidentsView>(ports, page->id);
     incidents_->appear();
 }
@@ -62,7 +55,7 @@ void StatusPageDetailView::enterIncidents()
 void StatusPageDetailView::enterMonitors()
 {
     const monitors::StatusPageMonitorsView::Ports ports{.main = ports_.main,
-        .monitors = ports_.api,
+        .api = ports_.api,
         .credentials = ports_.credentials,
         .locale = ports_.locale,
         .links = ports_.links};
@@ -73,23 +66,27 @@ void StatusPageDetailView::enterMonitors()
 void StatusPageDetailView::enterComponents()
 {
     const components::StatusPageComponentsView::Ports ports{
-        .main = ports_.main, .components = ports_.api, .credentials = ports_.credentials, .links = ports_.links};
+        .main = ports_.main, .api = ports_.api, .credentials = ports_.credentials, .links = ports_.links};
     components_ = std::make_shared<components::StatusPageComponentsView>(ports, page->id);
     components_->appear();
 }
 
 void StatusPageDetailView::enterMaintenances()
 {
-    const maintenances::StatusPageMaintenancesView::Ports ports{.main = ports_.main,
-        .maintenances = ports_.api,
+    const maintenances::StatusPageMaintenancesView::Ports ports{eventPorts(), ports_.api};
+    maintenances_ = std::make_shared<maintenances::StatusPageMaintenancesView>(ports, page->id);
+    maintenances_->appear();
+}
+
+presentation::EventListPorts StatusPageDetailView::eventPorts() const
+{
+    return {.main = ports_.main,
         .components = ports_.api,
         .monitors = ports_.api,
         .credentials = ports_.credentials,
         .clock = ports_.clock,
         .locale = ports_.locale,
         .links = ports_.links};
-    maintenances_ = std::make_shared<maintenances::StatusPageMaintenancesView>(ports, page->id);
-    maintenances_->appear();
 }
 
 void StatusPageDetailView::selectNext()

@@ -18,7 +18,7 @@ protected:
     IncidentsOfAPage()
         : ListOfAPage(std::string(incidentsURL) + "?status_page_id=p")
     {
-        const StatusPageIncidentsView::Ports ports{main, api, api, api, credentials, clock, locale, links};
+        const StatusPageIncidentsView::Ports ports{{main, api, api, credentials, clock, locale, links}, api};
         view = std::make_shared<StatusPageIncidentsView>(ports, "p");
     }
 

@@ -18,7 +18,7 @@ protected:
     MaintenancesOfAPage()
         : ListOfAPage(maintenancesURL)
     {
-        const StatusPageMaintenancesView::Ports ports{main, api, api, api, credentials, clock, locale, links};
+        const StatusPageMaintenancesView::Ports ports{{main, api, api, credentials, clock, locale, links}, api};
         view = std::make_shared<StatusPageMaintenancesView>(ports, "p");
     }
 
