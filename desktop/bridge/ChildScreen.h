@@ -13,14 +13,16 @@ namespace larkspan::bridge {
 template <typename Bridge, typename Shown>
 class ChildScreen {
 public:
-    /// Makes the bridge of `shown`, or lets go of it where there is none; the same object keeps its bridge.
-    void follow(const std::shared_ptr<Shown>& shown, const ScreenUpdates& updates)
+    /// Makes the bridge of `shown`, or lets go of it where there is none; the same object keeps its bridge. False if
+    /// nothing had to be done.
+    bool follow(const std::shared_ptr<Shown>& shown, const ScreenUpdates& updates)
     {
-        if (shown_ == shown) return;
+        if (shown_ == shown) return false;
         shown_ = shown;
         // A screen that closes still reads its own.
         if (bridge_) bridge_.release()->deleteLater();
         if (shown_) bridge_ = std::make_unique<Bridge>(shown_, updates);
+        return true;
     }
 
     Bridge* get() const { return bridge_.get(); }

@@ -13,7 +13,7 @@ ComponentDetailBridge::ComponentDetailBridge(
     : ScreenBridge(updates, parent)
     , view_(std::move(view))
 {
-    for (const auto& subscription : view_->observe(observer())) keep(subscription);
+    followChangesOf(*view_);
     ComponentDetailBridge::readState();
 }
 

@@ -6,19 +6,17 @@ namespace larkspan::bridge {
 
 ComponentListBridge::ComponentListBridge(
     std::shared_ptr<components::StatusPageComponentsView> view, const ScreenUpdates& updates, QObject* parent)
-    : ScreenBridge(updates, parent)
+    : ListBridge(view, updates, parent)
     , view_(std::move(view))
-    , updates_(updates)
 {
-    for (const auto& subscription : view_->observe(observer())) keep(subscription);
     ComponentListBridge::readState();
 }
 
 void ComponentListBridge::readState()
 {
-    placeholder_ = PlaceholderValue::of(view_->placeholder());
+    ListBridge::readState();
     rows_.update(view_->rows());
-    detail_.follow(view_->detail(), updates_);
+    detail_.follow(view_->detail(), updates());
 }
 
 }  // namespace larkspan::bridge

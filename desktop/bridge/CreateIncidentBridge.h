@@ -15,14 +15,15 @@ class CreateIncidentBridge : public larkspan::bridge::EventFormBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
-    Q_PROPERTY(bool notifySubscribers READ notifySubscribers WRITE setNotifySubscribers NOTIFY changed)
+    Q_PROPERTY(bool notifySubscribers READ notifySubscribers NOTIFY changed)
 
 public:
     CreateIncidentBridge(
         std::shared_ptr<incidents::CreateIncidentView> view, const ScreenUpdates& updates, QObject* parent = nullptr);
 
     bool notifySubscribers() const { return *view_->notifySubscribers; }
-    void setNotifySubscribers(bool wanted) { view_->notifySubscribers = wanted; }
+
+    Q_INVOKABLE void toggleNotifySubscribers() { view_->notifySubscribers = !notifySubscribers(); }
 
 private:
     std::shared_ptr<incidents::CreateIncidentView> view_;

@@ -10,7 +10,7 @@ DashboardBridge::DashboardBridge(
     , dashboard_(std::move(dashboard))
     , updates_(updates)
 {
-    for (const auto& subscription : dashboard_->observe(observer())) keep(subscription);
+    followChangesOf(*dashboard_);
     DashboardBridge::readState();
 }
 

@@ -11,7 +11,7 @@ EventFormBridge::EventFormBridge(
     : ScreenBridge(updates, parent)
     , form_(std::move(form))
 {
-    for (const auto& subscription : form_->observe(observer())) keep(subscription);
+    followChangesOf(*form_);
     EventFormBridge::readState();
 }
 

@@ -14,7 +14,7 @@ IncidentDetailBridge::IncidentDetailBridge(
     , view_(std::move(view))
     , message_(view_->message, updates)
 {
-    for (const auto& subscription : view_->observe(observer())) keep(subscription);
+    followChangesOf(*view_);
     IncidentDetailBridge::readState();
 }
 

@@ -6,20 +6,18 @@ namespace larkspan::bridge {
 
 IncidentListBridge::IncidentListBridge(
     std::shared_ptr<incidents::StatusPageIncidentsView> view, const ScreenUpdates& updates, QObject* parent)
-    : ScreenBridge(updates, parent)
+    : ListBridge(view, updates, parent)
     , view_(std::move(view))
-    , updates_(updates)
 {
-    for (const auto& subscription : view_->observe(observer())) keep(subscription);
     IncidentListBridge::readState();
 }
 
 void IncidentListBridge::readState()
 {
-    placeholder_ = PlaceholderValue::of(view_->placeholder());
+    ListBridge::readState();
     rows_.update(view_->rows());
-    detail_.follow(view_->detail(), updates_);
-    form_.follow(view_->form(), updates_);
+    detail_.follow(view_->detail(), updates());
+    form_.follow(view_->form(), updates());
 }
 
 }  // namespace larkspan::bridge

@@ -16,7 +16,7 @@ MaintenanceDetailBridge::MaintenanceDetailBridge(
     , editedScheduledFor_(view_->editedScheduledFor, updates)
     , editedScheduledUntil_(view_->editedScheduledUntil, updates)
 {
-    for (const auto& subscription : view_->observe(observer())) keep(subscription);
+    followChangesOf(*view_);
     MaintenanceDetailBridge::readState();
 }
 

@@ -6,23 +6,20 @@
 
 #include "bridge/ChildScreen.h"
 #include "bridge/CreateMaintenanceBridge.h"
+#include "bridge/ListBridge.h"
 #include "bridge/MaintenanceDetailBridge.h"
 #include "bridge/RowListModel.h"
-#include "bridge/ScreenBridge.h"
 #include "bridge/values/MaintenanceRowValue.h"
-#include "bridge/values/PlaceholderValue.h"
 #include "maintenances/StatusPageMaintenancesView.h"
 
 namespace larkspan::bridge {
 
 /// A page's maintenances for QML; worded and decided by `maintenances::StatusPageMaintenancesView`.
-class MaintenanceListBridge : public ScreenBridge {
+/// The base has its whole name, since QML's tools look for the one that is written here.
+class MaintenanceListBridge : public larkspan::bridge::ListBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
-    Q_PROPERTY(bool showsList READ showsList NOTIFY changed)
-    Q_PROPERTY(larkspan::bridge::PlaceholderValue placeholder MEMBER placeholder_ NOTIFY changed)
-    Q_PROPERTY(larkspan::bridge::ListModel* rows READ rows CONSTANT)
     /// The maintenance that is open, and the form of a new one; null while there is none.
     Q_PROPERTY(larkspan::bridge::MaintenanceDetailBridge* detail READ detail NOTIFY changed)
     Q_PROPERTY(larkspan::bridge::CreateMaintenanceBridge* form READ form NOTIFY changed)
@@ -31,12 +28,10 @@ public:
     MaintenanceListBridge(std::shared_ptr<maintenances::StatusPageMaintenancesView> view, const ScreenUpdates& updates,
         QObject* parent = nullptr);
 
-    bool showsList() const { return view_->content() == presentation::Content::records; }
-    ListModel* rows() { return &rows_; }
+    ListModel* rows() override { return &rows_; }
     MaintenanceDetailBridge* detail() const { return detail_.get(); }
     CreateMaintenanceBridge* form() const { return form_.get(); }
 
-    Q_INVOKABLE void refresh() { view_->refresh(); }
     Q_INVOKABLE void open(const QString& id) { view_->openMaintenance(id.toStdString()); }
     Q_INVOKABLE void closeDetail() { view_->closeMaintenance(); }
     Q_INVOKABLE void openForm() { view_->openCreateMaintenance(); }
@@ -45,8 +40,6 @@ private:
     void readState() override;
 
     std::shared_ptr<maintenances::StatusPageMaintenancesView> view_;
-    const ScreenUpdates& updates_;
-    PlaceholderValue placeholder_;
     RowListModel<MaintenanceRowValue> rows_;
     ChildScreen<MaintenanceDetailBridge, maintenances::MaintenanceDetailView> detail_;
     ChildScreen<CreateMaintenanceBridge, maintenances::CreateMaintenanceView> form_;

@@ -11,7 +11,7 @@ MonitorDetailBridge::MonitorDetailBridge(
     : ScreenBridge(updates, parent)
     , view_(std::move(view))
 {
-    for (const auto& subscription : view_->observe(observer())) keep(subscription);
+    followChangesOf(*view_);
     MonitorDetailBridge::readState();
 }
 

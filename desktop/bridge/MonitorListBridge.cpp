@@ -8,11 +8,9 @@ namespace larkspan::bridge {
 
 MonitorListBridge::MonitorListBridge(
     std::shared_ptr<monitors::StatusPageMonitorsView> view, const ScreenUpdates& updates, QObject* parent)
-    : ScreenBridge(updates, parent)
+    : ListBridge(view, updates, parent)
     , view_(std::move(view))
-    , updates_(updates)
 {
-    for (const auto& subscription : view_->observe(observer())) keep(subscription);
     MonitorListBridge::readState();
 }
 
@@ -29,22 +27,22 @@ MonitorMetricsBridge* MonitorListBridge::metricsOf(const QString& id) const
 
 void MonitorListBridge::readState()
 {
-    placeholder_ = PlaceholderValue::of(view_->placeholder());
+    ListBridge::readState();
     followOpenedRows();
     rows_.update(view_->rows());
-    detail_.follow(view_->detail(), updates_);
+    detail_.follow(view_->detail(), updates());
 }
 
 void MonitorListBridge::followOpenedRows()
 {
     const auto& rowViews = view_->rowViews();
     for (auto& [id, row] : openedRows_) {
-        if (!rowViews.contains(id)) row.metrics.follow(nullptr, updates_);
+        if (!rowViews.contains(id)) row.metrics.follow(nullptr, updates());
     }
     std::erase_if(openedRows_, [&rowViews](const auto& row) { return !rowViews.contains(row.first); });
     for (const auto& [id, rowView] : rowViews) {
         auto& row = openedRows_[id];
-        row.metrics.follow(rowView, updates_);
+        if (!row.metrics.follow(rowView, updates())) continue;
         // What a method hands to QML would else be QML's to delete.
         QQmlEngine::setObjectOwnership(row.metrics.get(), QQmlEngine::CppOwnership);
         row.changes = rowView->objectWillChange(observer());

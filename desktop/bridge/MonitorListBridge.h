@@ -8,24 +8,21 @@
 #include <string>
 
 #include "bridge/ChildScreen.h"
+#include "bridge/ListBridge.h"
 #include "bridge/MonitorDetailBridge.h"
 #include "bridge/MonitorMetricsBridge.h"
 #include "bridge/RowListModel.h"
-#include "bridge/ScreenBridge.h"
 #include "bridge/values/MonitorRowValue.h"
-#include "bridge/values/PlaceholderValue.h"
 #include "monitors/StatusPageMonitorsView.h"
 
 namespace larkspan::bridge {
 
 /// A page's monitors for QML; worded and decided by `monitors::StatusPageMonitorsView`.
-class MonitorListBridge : public ScreenBridge {
+/// The base has its whole name, since QML's tools look for the one that is written here.
+class MonitorListBridge : public larkspan::bridge::ListBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
-    Q_PROPERTY(bool showsList READ showsList NOTIFY changed)
-    Q_PROPERTY(larkspan::bridge::PlaceholderValue placeholder MEMBER placeholder_ NOTIFY changed)
-    Q_PROPERTY(larkspan::bridge::ListModel* rows READ rows CONSTANT)
     Q_PROPERTY(QString alert READ alert NOTIFY changed)
     /// The monitor that is open; null while there is none.
     Q_PROPERTY(larkspan::bridge::MonitorDetailBridge* detail READ detail NOTIFY changed)
@@ -34,12 +31,10 @@ public:
     MonitorListBridge(std::shared_ptr<monitors::StatusPageMonitorsView> view, const ScreenUpdates& updates,
         QObject* parent = nullptr);
 
-    bool showsList() const { return view_->content() == presentation::Content::records; }
-    ListModel* rows() { return &rows_; }
+    ListModel* rows() override { return &rows_; }
     QString alert() const { return words(view_->alert()); }
     MonitorDetailBridge* detail() const { return detail_.get(); }
 
-    Q_INVOKABLE void refresh() { view_->refresh(); }
     Q_INVOKABLE void toggleMetrics(const QString& id) { view_->toggleMetrics(id.toStdString()); }
     Q_INVOKABLE void press(const QString& id, const QString& button);
     Q_INVOKABLE void dismissAlert() { view_->dismissAlert(); }
@@ -59,8 +54,6 @@ private:
     void followOpenedRows();
 
     std::shared_ptr<monitors::StatusPageMonitorsView> view_;
-    const ScreenUpdates& updates_;
-    PlaceholderValue placeholder_;
     std::map<std::string, OpenedRow> openedRows_;
     RowListModel<MonitorRowValue> rows_;
     ChildScreen<MonitorDetailBridge, monitors::MonitorDetailView> detail_;

@@ -4,12 +4,20 @@
 #include <QtQml/qqmlregistration.h>
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include "bridge/ScreenUpdates.h"
 #include "support/Observable.h"
 
 namespace larkspan::bridge {
+
+/// A screen that shows more than its own fields, and tells of all of it.
+template <typename Screen>
+concept ObservedAsAWhole = requires(Screen& screen, const std::function<void()>& observer)
+{
+    screen.observe(observer);
+};
 
 /// What the bridges of all screens are: QML hears once that something changed, after all changes of a turn.
 class ScreenBridge : public QObject {
@@ -28,7 +36,12 @@ protected:
     {
         subscriptions_.push_back(observed.objectWillChange(observer()));
     }
-    void keep(support::Subscription subscription) { subscriptions_.push_back(std::move(subscription)); }
+    /// The same for a screen of which more than itself changes.
+    template <ObservedAsAWhole Screen>
+    void followChangesOf(Screen& screen)
+    {
+        for (auto& subscription : screen.observe(observer())) subscriptions_.push_back(std::move(subscription));
+    }
 
     /// What an object with observers of its own calls before it changes.
     std::function<void()> observer();

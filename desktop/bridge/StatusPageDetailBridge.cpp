@@ -14,7 +14,7 @@ StatusPageDetailBridge::StatusPageDetailBridge(
     , view_(std::move(view))
     , updates_(updates)
 {
-    for (const auto& subscription : view_->observe(observer())) keep(subscription);
+    followChangesOf(*view_);
     StatusPageDetailBridge::readState();
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "gallery/OpenedTab.h"
+#include "gallery/ScreenStates.h"
 
 namespace larkspan::gallery {
 
@@ -15,6 +16,7 @@ using model::ComponentGroup;
 
 namespace {
 
+using Page = workspace::StatusPageDetailView;
 using Components = components::StatusPageComponentsView;
 using Detail = components::ComponentDetailView;
 
@@ -62,9 +64,7 @@ std::vector<Component> everyStatus()
 /// A scene of the tab "Components" of an opened page.
 std::function<void(Stage&)> tab(std::function<void(Components&)> arrange)
 {
-    return [arrange = std::move(arrange)](Stage& stage) {
-        arrange(*openTab(stage, workspace::StatusPageDetailView::Tab::components).components());
-    };
+    return sceneOfTab(Page::Tab::components, &Page::components, std::move(arrange));
 }
 
 void list(Components& view)
@@ -96,14 +96,7 @@ void fiveThousand(Components& view)
     view.viewModel->isLoading = false;
 }
 
-void loading(Components&) {}
-
-void empty(Components& view)
-{
-    view.viewModel->isLoading = false;
-}
-
-void failed(Components& view)
+void unavailable(Components& view)
 {
     view.viewModel->isLoading = false;
     view.viewModel->errorMessage
@@ -148,8 +141,6 @@ Component withBrokenURL()
     return made;
 }
 
-void reading(Detail&) {}
-
 void editing(Detail& view)
 {
     view.beginEditing();
@@ -167,15 +158,10 @@ void saving(Detail& view)
     view.action->isInProgress = true;
 }
 
-void refused(Detail& view)
+void refusedEdit(Detail& view)
 {
     view.beginEditing();
     view.action->alert = "Server returned HTTP status code 422.";
-}
-
-void aboutToDelete(Detail& view)
-{
-    view.confirmDelete();
 }
 
 void aboutToDiscard(Detail& view)
@@ -196,25 +182,25 @@ std::vector<Scene> componentScenes()
         {"components-list-narrow-large-font", tab(list), 480, 440, 20},
         {"components-list-without-groups", tab(withoutGroups)},
         {"components-five-thousand", tab(fiveThousand)},
-        {"components-loading", tab(loading)},
+        {"components-loading", tab(asItComesUp)},
         {"components-empty", tab(empty)},
-        {"components-failed", tab(failed)},
-        {"components-failed-narrow-large-font", tab(failed), 480, 440, 20},
-        {"component-whole", detail(whole(), reading)},
-        {"component-whole-narrow", detail(whole(), reading), 480, 440},
-        {"component-whole-wide", detail(whole(), reading), 1600, 900},
-        {"component-whole-narrow-large-font", detail(whole(), reading), 480, 440, 20},
-        {"component-longest-narrow", detail(longest(), reading), 480, 440},
-        {"component-longest-narrow-large-font", detail(longest(), reading), 480, 440, 20},
-        {"component-little-known", detail(component("1", "Webhooks", "operational"), reading)},
-        {"component-broken-url", detail(withBrokenURL(), reading)},
+        {"components-failed", tab(unavailable)},
+        {"components-failed-narrow-large-font", tab(unavailable), 480, 440, 20},
+        {"component-whole", detail(whole(), asItComesUp)},
+        {"component-whole-narrow", detail(whole(), asItComesUp), 480, 440},
+        {"component-whole-wide", detail(whole(), asItComesUp), 1600, 900},
+        {"component-whole-narrow-large-font", detail(whole(), asItComesUp), 480, 440, 20},
+        {"component-longest-narrow", detail(longest(), asItComesUp), 480, 440},
+        {"component-longest-narrow-large-font", detail(longest(), asItComesUp), 480, 440, 20},
+        {"component-little-known", detail(component("1", "Webhooks", "operational"), asItComesUp)},
+        {"component-broken-url", detail(withBrokenURL(), asItComesUp)},
         {"component-editing", detail(whole(), editing)},
         {"component-editing-narrow", detail(whole(), editing), 480, 440},
         {"component-editing-narrow-large-font", detail(whole(), editing), 480, 440, 20},
         {"component-editing-unlisted-status", detail(longest(), editing)},
         {"component-editing-without-groups", detail(whole(), editingWithoutGroups)},
         {"component-saving", detail(whole(), saving)},
-        {"component-refused", detail(whole(), refused)},
+        {"component-refused", detail(whole(), refusedEdit)},
         {"component-delete", detail(whole(), aboutToDelete)},
         {"component-discard", detail(whole(), aboutToDiscard)},
     };

@@ -1,15 +1,14 @@
 #include "gallery/IncidentScenes.h"
 
 #include <chrono>
-#include <exception>
 #include <functional>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "api/APIError.h"
 #include "gallery/OpenedTab.h"
+#include "gallery/ScreenStates.h"
 
 namespace larkspan::gallery {
 
@@ -19,14 +18,10 @@ using model::IncidentStatus;
 
 namespace {
 
+using Page = workspace::StatusPageDetailView;
 using Incidents = incidents::StatusPageIncidentsView;
 using Detail = incidents::IncidentDetailView;
 using Form = incidents::CreateIncidentView;
-
-support::Time now()
-{
-    return std::chrono::time_point_cast<std::chrono::milliseconds>(std::chrono::system_clock::now());
-}
 
 Incident incident(std::string id, std::string title, IncidentStatus status, std::optional<std::string> severity)
 {
@@ -73,8 +68,7 @@ A line right behind the table, with <b>HTML</b> that is text.)";
 /// A scene of the tab "Incidents" of an opened page.
 std::function<void(Stage&)> tab(std::function<void(Incidents&)> arrange)
 {
-    return [arrange = std::move(arrange)](
-               Stage& stage) { arrange(*openTab(stage, workspace::StatusPageDetailView::Tab::incidents).incidents()); };
+    return sceneOfTab(Page::Tab::incidents, &Page::incidents, std::move(arrange));
 }
 
 void list(Incidents& view)
@@ -94,28 +88,10 @@ void tenThousand(Incidents& view)
     view.viewModel->isLoading = false;
 }
 
-void loading(Incidents&) {}
-
-void empty(Incidents& view)
-{
-    view.viewModel->isLoading = false;
-}
-
-void failed(Incidents& view)
-{
-    view.viewModel->isLoading = false;
-    view.viewModel->error = std::make_exception_ptr(api::APIError::httpStatus(503));
-}
-
 /// A scene of one incident, opened.
 std::function<void(Stage&)> detail(Incident shown, std::function<void(Detail&)> arrange)
 {
-    return tab([shown = std::move(shown), arrange = std::move(arrange)](Incidents& view) {
-        view.viewModel->incidents = std::vector{shown};
-        view.viewModel->isLoading = false;
-        view.openIncident(shown.id);
-        arrange(*view.detail());
-    });
+    return tab(withDetail(std::move(shown), &Incidents::openIncident, std::move(arrange)));
 }
 
 Incident whole()
@@ -137,27 +113,10 @@ Incident resolved()
     return made;
 }
 
-void reading(Detail&) {}
-
 void editing(Detail& view)
 {
     view.addUpdate();
     view.editMessage = "A fix is on its way to the EU region.";
-}
-
-void working(Detail& view)
-{
-    view.action->isInProgress = true;
-}
-
-void refused(Detail& view)
-{
-    view.action->alert = "Server returned HTTP status code 409.";
-}
-
-void aboutToDelete(Detail& view)
-{
-    view.confirmDelete();
 }
 
 void aboutToDiscard(Detail& view)
@@ -174,16 +133,8 @@ void aboutToFollow(Detail& view)
 /// A scene of the form of a new incident.
 std::function<void(Stage&)> form(std::function<void(Form&)> arrange)
 {
-    return tab([arrange = std::move(arrange)](Incidents& view) {
-        list(view);
-        view.openCreateIncident();
-        auto& form = *view.form();
-        form.selection->isLoadingComponents = false;
-        arrange(form);
-    });
+    return tab(withForm(list, &Incidents::openCreateIncident, std::move(arrange)));
 }
-
-void untouched(Form&) {}
 
 void loadingComponents(Form& view)
 {
@@ -196,16 +147,6 @@ void wholeSelection(Form& view)
     view.selection->isLoadingMonitors = true;
 }
 
-void creating(Form& view)
-{
-    view.action->isInProgress = true;
-}
-
-void notCreated(Form& view)
-{
-    view.action->alert = "Server returned HTTP status code 422.";
-}
-
 }  // namespace
 
 std::vector<Scene> incidentScenes()
@@ -215,25 +156,25 @@ std::vector<Scene> incidentScenes()
         {"incidents-list-narrow", tab(list), 480, 440},
         {"incidents-list-narrow-large-font", tab(list), 480, 440, 20},
         {"incidents-ten-thousand", tab(tenThousand)},
-        {"incidents-loading", tab(loading)},
+        {"incidents-loading", tab(asItComesUp)},
         {"incidents-empty", tab(empty)},
         {"incidents-failed", tab(failed)},
-        {"incident-whole", detail(whole(), reading), 760, 900},
-        {"incident-whole-narrow", detail(whole(), reading), 480, 440},
-        {"incident-whole-narrow-large-font", detail(whole(), reading), 480, 900, 20},
-        {"incident-resolved", detail(resolved(), reading)},
+        {"incident-whole", detail(whole(), asItComesUp), 760, 900},
+        {"incident-whole-narrow", detail(whole(), asItComesUp), 480, 440},
+        {"incident-whole-narrow-large-font", detail(whole(), asItComesUp), 480, 900, 20},
+        {"incident-resolved", detail(resolved(), asItComesUp)},
         {"incident-editing", detail(whole(), editing)},
         {"incident-working", detail(resolved(), working)},
         {"incident-refused", detail(resolved(), refused)},
         {"incident-delete", detail(resolved(), aboutToDelete)},
         {"incident-discard", detail(whole(), aboutToDiscard)},
         {"incident-link", detail(whole(), aboutToFollow)},
-        {"incident-form", form(untouched), 760, 760},
-        {"incident-form-narrow-large-font", form(untouched), 480, 440, 20},
+        {"incident-form", form(asItComesUp), 760, 760},
+        {"incident-form-narrow-large-font", form(asItComesUp), 480, 440, 20},
         {"incident-form-loading-components", form(loadingComponents), 760, 760},
         {"incident-form-loading-monitors", form(wholeSelection), 760, 760},
-        {"incident-form-creating", form(creating)},
-        {"incident-form-refused", form(notCreated)},
+        {"incident-form-creating", form(working)},
+        {"incident-form-refused", form(refused)},
     };
 }
 

@@ -1,14 +1,13 @@
 #include "gallery/MaintenanceScenes.h"
 
 #include <chrono>
-#include <exception>
 #include <functional>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "api/APIError.h"
 #include "gallery/OpenedTab.h"
+#include "gallery/ScreenStates.h"
 
 namespace larkspan::gallery {
 
@@ -17,14 +16,10 @@ using model::Maintenance;
 
 namespace {
 
+using Page = workspace::StatusPageDetailView;
 using Maintenances = maintenances::StatusPageMaintenancesView;
 using Detail = maintenances::MaintenanceDetailView;
 using Form = maintenances::CreateMaintenanceView;
-
-support::Time now()
-{
-    return std::chrono::time_point_cast<std::chrono::milliseconds>(std::chrono::system_clock::now());
-}
 
 Maintenance maintenance(std::string id, std::string title, std::string status)
 {
@@ -59,9 +54,7 @@ constexpr const char* message = R"(We move the **primary database** to new hardw
 /// A scene of the tab "Maintenances" of an opened page.
 std::function<void(Stage&)> tab(std::function<void(Maintenances&)> arrange)
 {
-    return [arrange = std::move(arrange)](Stage& stage) {
-        arrange(*openTab(stage, workspace::StatusPageDetailView::Tab::maintenances).maintenances());
-    };
+    return sceneOfTab(Page::Tab::maintenances, &Page::maintenances, std::move(arrange));
 }
 
 void list(Maintenances& view)
@@ -70,28 +63,10 @@ void list(Maintenances& view)
     view.viewModel->isLoading = false;
 }
 
-void loading(Maintenances&) {}
-
-void empty(Maintenances& view)
-{
-    view.viewModel->isLoading = false;
-}
-
-void failed(Maintenances& view)
-{
-    view.viewModel->isLoading = false;
-    view.viewModel->error = std::make_exception_ptr(api::APIError::httpStatus(503));
-}
-
 /// A scene of one maintenance, opened.
 std::function<void(Stage&)> detail(Maintenance shown, std::function<void(Detail&)> arrange)
 {
-    return tab([shown = std::move(shown), arrange = std::move(arrange)](Maintenances& view) {
-        view.viewModel->maintenances = std::vector{shown};
-        view.viewModel->isLoading = false;
-        view.openMaintenance(shown.id);
-        arrange(*view.detail());
-    });
+    return tab(withDetail(std::move(shown), &Maintenances::openMaintenance, std::move(arrange)));
 }
 
 Maintenance whole(const std::string& status)
@@ -111,8 +86,6 @@ Maintenance planned()
     return made;
 }
 
-void reading(Detail&) {}
-
 void editing(Detail& view)
 {
     view.beginEditing();
@@ -122,21 +95,6 @@ void endBeforeStart(Detail& view)
 {
     view.beginEditing();
     view.editedScheduledUntil->moveMonths(-1);
-}
-
-void working(Detail& view)
-{
-    view.action->isInProgress = true;
-}
-
-void refused(Detail& view)
-{
-    view.action->alert = "Server returned HTTP status code 409.";
-}
-
-void aboutToDelete(Detail& view)
-{
-    view.confirmDelete();
 }
 
 void aboutToDiscard(Detail& view)
@@ -149,16 +107,8 @@ void aboutToDiscard(Detail& view)
 /// A scene of the form of a new maintenance.
 std::function<void(Stage&)> form(std::function<void(Form&)> arrange)
 {
-    return tab([arrange = std::move(arrange)](Maintenances& view) {
-        list(view);
-        view.openCreateMaintenance();
-        auto& form = *view.form();
-        form.selection->isLoadingComponents = false;
-        arrange(form);
-    });
+    return tab(withForm(list, &Maintenances::openCreateMaintenance, std::move(arrange)));
 }
-
-void untouched(Form&) {}
 
 void loadingMonitors(Form& view)
 {
@@ -169,11 +119,6 @@ void loadingMonitors(Form& view)
 void otherMonth(Form& view)
 {
     view.scheduledFor->browseMonths(1);
-}
-
-void creating(Form& view)
-{
-    view.action->isInProgress = true;
 }
 
 void withoutComponents(Form& view)
@@ -189,16 +134,16 @@ std::vector<Scene> maintenanceScenes()
         {"maintenances-list", tab(list)},
         {"maintenances-list-narrow", tab(list), 480, 440},
         {"maintenances-list-narrow-large-font", tab(list), 480, 440, 20},
-        {"maintenances-loading", tab(loading)},
+        {"maintenances-loading", tab(asItComesUp)},
         {"maintenances-empty", tab(empty)},
         {"maintenances-failed", tab(failed)},
-        {"maintenance-scheduled", detail(planned(), reading)},
-        {"maintenance-in-progress", detail(whole("in_progress"), reading), 760, 700},
-        {"maintenance-completed", detail(whole("completed"), reading), 760, 700},
-        {"maintenance-cancelled", detail(maintenance("1", "Called off", "cancelled"), reading)},
-        {"maintenance-narrow", detail(whole("in_progress"), reading), 480, 700},
-        {"maintenance-narrow-large-font", detail(whole("scheduled"), reading), 480, 900, 20},
-        {"maintenance-menu", detail(planned(), reading), 760, 600, 10, "More Actions"},
+        {"maintenance-scheduled", detail(planned(), asItComesUp)},
+        {"maintenance-in-progress", detail(whole("in_progress"), asItComesUp), 760, 700},
+        {"maintenance-completed", detail(whole("completed"), asItComesUp), 760, 700},
+        {"maintenance-cancelled", detail(maintenance("1", "Called off", "cancelled"), asItComesUp)},
+        {"maintenance-narrow", detail(whole("in_progress"), asItComesUp), 480, 700},
+        {"maintenance-narrow-large-font", detail(whole("scheduled"), asItComesUp), 480, 900, 20},
+        {"maintenance-menu", detail(planned(), asItComesUp), 760, 600, 10, "More Actions"},
         {"maintenance-editing", detail(whole("scheduled"), editing), 760, 1000},
         {"maintenance-editing-narrow", detail(whole("scheduled"), editing), 480, 1400},
         {"maintenance-editing-narrow-large-font", detail(whole("scheduled"), editing), 480, 1400, 20},
@@ -207,13 +152,13 @@ std::vector<Scene> maintenanceScenes()
         {"maintenance-refused", detail(planned(), refused)},
         {"maintenance-delete", detail(planned(), aboutToDelete)},
         {"maintenance-discard", detail(planned(), aboutToDiscard)},
-        {"maintenance-form", form(untouched), 760, 1250},
-        {"maintenance-form-small-window", form(untouched)},
-        {"maintenance-form-narrow", form(untouched), 480, 1250},
-        {"maintenance-form-narrow-large-font", form(untouched), 480, 1400, 20},
+        {"maintenance-form", form(asItComesUp), 760, 1250},
+        {"maintenance-form-small-window", form(asItComesUp)},
+        {"maintenance-form-narrow", form(asItComesUp), 480, 1250},
+        {"maintenance-form-narrow-large-font", form(asItComesUp), 480, 1400, 20},
         {"maintenance-form-loading-monitors", form(loadingMonitors), 760, 1250},
         {"maintenance-form-other-month", form(otherMonth), 760, 1250},
-        {"maintenance-form-creating", form(creating)},
+        {"maintenance-form-creating", form(working)},
         {"maintenance-form-without-components", form(withoutComponents)},
     };
 }

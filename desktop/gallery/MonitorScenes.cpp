@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <cmath>
-#include <exception>
 #include <functional>
 #include <optional>
 #include <set>
@@ -10,13 +9,12 @@
 #include <utility>
 #include <vector>
 
-#include "api/APIError.h"
 #include "gallery/OpenedTab.h"
+#include "gallery/ScreenStates.h"
 
 namespace larkspan::gallery {
 
 using namespace std::chrono_literals;
-using model::LatencyPoint;
 using model::Monitor;
 using model::MonitorMetricsWindow;
 using model::MonitorStatus;
@@ -24,14 +22,10 @@ using model::MonitorType;
 
 namespace {
 
+using Page = workspace::StatusPageDetailView;
 using Monitors = monitors::StatusPageMonitorsView;
 using Detail = monitors::MonitorDetailView;
 using Row = monitors::MonitorRowView;
-
-support::Time now()
-{
-    return std::chrono::time_point_cast<std::chrono::milliseconds>(std::chrono::system_clock::now());
-}
 
 Monitor monitor(std::string id, std::string name, MonitorType type, MonitorStatus status)
 {
@@ -81,8 +75,7 @@ MonitorMetricsWindow day()
 /// A scene of the tab "Monitors" of an opened page.
 std::function<void(Stage&)> tab(std::function<void(Monitors&)> arrange)
 {
-    return [arrange = std::move(arrange)](
-               Stage& stage) { arrange(*openTab(stage, workspace::StatusPageDetailView::Tab::monitors).monitors()); };
+    return sceneOfTab(Page::Tab::monitors, &Page::monitors, std::move(arrange));
 }
 
 void list(Monitors& view)
@@ -190,28 +183,10 @@ void twoThousand(Monitors& view)
     view.viewModel->isLoading = false;
 }
 
-void loading(Monitors&) {}
-
-void empty(Monitors& view)
-{
-    view.viewModel->isLoading = false;
-}
-
-void failed(Monitors& view)
-{
-    view.viewModel->isLoading = false;
-    view.viewModel->error = std::make_exception_ptr(api::APIError::httpStatus(503));
-}
-
 /// A scene of one monitor, opened.
 std::function<void(Stage&)> detail(Monitor shown, std::function<void(Detail&)> arrange)
 {
-    return tab([shown = std::move(shown), arrange = std::move(arrange)](Monitors& view) {
-        view.viewModel->monitors = std::vector{shown};
-        view.viewModel->isLoading = false;
-        view.openMonitor(shown.id);
-        arrange(*view.detail());
-    });
+    return tab(withDetail(std::move(shown), &Monitors::openMonitor, std::move(arrange)));
 }
 
 Monitor whole()
@@ -227,18 +202,6 @@ Monitor whole()
 Monitor paused()
 {
     return monitor("1", "mail gateway", MonitorType::smtp, MonitorStatus::paused);
-}
-
-void reading(Detail&) {}
-
-void working(Detail& view)
-{
-    view.action->isInProgress = true;
-}
-
-void refused(Detail& view)
-{
-    view.action->alert = "Server returned HTTP status code 409.";
 }
 
 }  // namespace
@@ -260,13 +223,13 @@ std::vector<Scene> monitorScenes()
         {"monitors-busy", tab(busy)},
         {"monitors-refused", tab(refusedInTheList)},
         {"monitors-two-thousand", tab(twoThousand)},
-        {"monitors-loading", tab(loading)},
+        {"monitors-loading", tab(asItComesUp)},
         {"monitors-empty", tab(empty)},
         {"monitors-failed", tab(failed)},
-        {"monitor-whole", detail(whole(), reading)},
-        {"monitor-whole-narrow", detail(whole(), reading), 480, 440},
-        {"monitor-whole-narrow-large-font", detail(whole(), reading), 480, 440, 20},
-        {"monitor-paused", detail(paused(), reading)},
+        {"monitor-whole", detail(whole(), asItComesUp)},
+        {"monitor-whole-narrow", detail(whole(), asItComesUp), 480, 440},
+        {"monitor-whole-narrow-large-font", detail(whole(), asItComesUp), 480, 440, 20},
+        {"monitor-paused", detail(paused(), asItComesUp)},
         {"monitor-working", detail(whole(), working)},
         {"monitor-refused", detail(whole(), refused)},
     };

@@ -15,8 +15,7 @@ workspace::StatusPageDetailView& openTab(Stage& stage, workspace::StatusPageDeta
     // With a key a load begins, and as nothing answers it does not end.
     stage.storeKey();
     stage.state().statusPages = std::vector{page};
-    stage.state().lastRefresh
-        = std::chrono::time_point_cast<std::chrono::milliseconds>(std::chrono::system_clock::now()) - 12s;
+    stage.state().lastRefresh = now() - 12s;
     stage.dashboard().openPage(page.id);
     auto& opened = **stage.dashboard().openedPage;
     opened.select(tab);

@@ -11,11 +11,6 @@ using model::StatusPage;
 
 namespace {
 
-support::Time now()
-{
-    return std::chrono::time_point_cast<std::chrono::milliseconds>(std::chrono::system_clock::now());
-}
-
 StatusPage acme()
 {
     StatusPage page;

@@ -44,7 +44,7 @@ StatusPage page(std::string id, std::string name, StatusPageStatus status)
 void refreshed(AppStateManager& state, std::vector<StatusPage> pages)
 {
     state.statusPages = std::move(pages);
-    state.lastRefresh = std::chrono::time_point_cast<std::chrono::milliseconds>(std::chrono::system_clock::now()) - 12s;
+    state.lastRefresh = now() - 12s;
 }
 
 template <typename Error>

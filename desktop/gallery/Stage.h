@@ -46,6 +46,12 @@ struct NoOutside final : platform::HttpTransport,
     std::optional<std::string> storedKey;
 };
 
+/// What the clock of every stage says.
+inline support::Time now()
+{
+    return adapters::SystemClock().now();
+}
+
 /// All that the window shows, with nothing behind it.
 class Stage : private support::Observable {
 public:

@@ -1,9 +1,6 @@
 #pragma once
 
-#include <array>
-#include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,19 +11,18 @@
 #include "platform/CredentialStore.h"
 #include "platform/Executor.h"
 #include "platform/LinkOpener.h"
-#include "presentation/Content.h"
-#include "presentation/Placeholder.h"
-#include "support/Observable.h"
+#include "presentation/ListScreen.h"
+#include "presentation/PresentedRecord.h"
 
 namespace larkspan::components {
 
 /// The components of one page: their list by group, and the one that is opened. Main thread only.
-class StatusPageComponentsView final : public support::Observable,
+class StatusPageComponentsView final : public presentation::ListScreen,
                                        public std::enable_shared_from_this<StatusPageComponentsView> {
 public:
     struct Ports {
         platform::Executor& main;
-        api::ComponentEndpoints& components;
+        api::ComponentEndpoints& api;
         platform::CredentialStore& credentials;
         platform::LinkOpener& links;
     };
@@ -36,44 +32,33 @@ public:
     const std::shared_ptr<StatusPageComponentsViewModel> viewModel;
 
     /// The component that stands in front of the list.
-    support::Published<std::optional<model::Component>> presentedComponent{*this};
+    presentation::PresentedRecord<model::Component, ComponentDetailView> presentedComponent{*this};
 
-    /// Calls `observer` before anything changes that the list shows, or what stands in front of it.
-    [[nodiscard]] std::array<support::Subscription, 2> observe(const std::function<void()>& observer);
-
-    /// The list came into sight for the first time; coming back to it fetches nothing.
-    void appear() { viewModel->loadComponents(); }
-    /// The user asked for a load. That is worth a prompt of the credential store.
-    void refresh();
-
-    /// A failure shows for as long as its alert is up, and after it a page without components.
-    presentation::Content content() const;
-    /// What stands in place of the list; all empty while there is one.
-    presentation::Placeholder placeholder() const;
     std::vector<ComponentRow> rows() const;
 
-    /// The words of the alert.
-    std::string alertMessage() const;
+    /// The words of the alert; empty while there is none.
+    std::string alert() const;
     void dismissAlert() { viewModel->showErrorAlert = false; }
 
     /// Opens the component of that id; nothing if it has gone meanwhile.
     void openComponent(const std::string& id);
+    /// Brings the list back into sight as it is: nothing is fetched for that.
     void closeComponent();
     /// Of `presentedComponent`; null without one.
-    const std::shared_ptr<ComponentDetailView>& detail() const { return detail_; }
+    const std::shared_ptr<ComponentDetailView>& detail() const { return presentedComponent.screen(); }
 
     /// Leaving the screen would lose what has been typed.
-    bool hasUnsavedText() const { return detail_ && detail_->hasUnsavedText(); }
+    bool hasUnsavedText() const { return detail() && detail()->hasUnsavedText(); }
 
 private:
-    ComponentDetailView::Owner ownerOf(const model::Component& opened);
-    bool isPresented(const std::string& id) const;
+    presentation::FetchedRecords& fetched() const override { return *viewModel; }
+
+    ComponentDetailView::Owner ownerOf(const std::string& opened);
     void onUpdate(const model::Component& changed);
     void onDelete(const model::Component& deleted);
     void dismiss(const std::string& id);
 
     const Ports ports_;
-    std::shared_ptr<ComponentDetailView> detail_;
 };
 
 }  // namespace larkspan::components

@@ -42,12 +42,17 @@ StatusPageComponentsViewModel::StatusPageComponentsViewModel(
 {
 }
 
-void StatusPageComponentsViewModel::loadComponents()
+void StatusPageComponentsViewModel::load()
 {
     isLoading = true;
     showErrorAlert = false;
     errorMessage = std::nullopt;
     support::start(main_, fetch(shared_from_this()));
+}
+
+presentation::Content StatusPageComponentsViewModel::content() const
+{
+    return presentation::contentOf(!components->empty(), *isLoading, *showErrorAlert);
 }
 
 Task<void> StatusPageComponentsViewModel::fetch(std::shared_ptr<StatusPageComponentsViewModel> self)

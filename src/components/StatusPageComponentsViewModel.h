@@ -10,14 +10,16 @@
 #include "model/Component.h"
 #include "model/ComponentGroup.h"
 #include "platform/Executor.h"
+#include "presentation/FetchedRecords.h"
+#include "presentation/RecordList.h"
 #include "support/Observable.h"
 #include "support/Task.h"
 
 namespace larkspan::components {
 
-/// The components of one page and their groups, fetched beside each other. A failed load leaves none of either. Main
-/// thread only; a running load outlives the screen that began it.
-class StatusPageComponentsViewModel final : public support::Observable,
+/// The components of one page and their groups, fetched beside each other. A failed load leaves none of either; a
+/// running load outlives the screen that began it.
+class StatusPageComponentsViewModel final : public presentation::FetchedRecords,
                                             public std::enable_shared_from_this<StatusPageComponentsViewModel> {
 public:
     StatusPageComponentsViewModel(platform::Executor& main, api::ComponentEndpoints& api, std::string page);
@@ -25,15 +27,19 @@ public:
     const std::string pageId;
 
     /// In the order in which the service gave them.
-    support::Published<std::vector<model::Component>> components{*this};
+    presentation::RecordList<model::Component> components{*this};
     support::Published<std::vector<model::ComponentGroup>> componentGroups{*this};
     support::Published<bool> isLoading{*this, false};
     /// The alert of a load that failed is up.
     support::Published<bool> showErrorAlert{*this, false};
     support::Published<std::optional<std::string>> errorMessage{*this};
 
-    /// Begins to fetch and returns at once. Loads may run beside each other; the last to finish wins.
-    void loadComponents();
+    void loadComponents() { load(); }
+    void load() override;
+
+    /// A failure shows for as long as its alert is up, and after it a page without components.
+    presentation::Content content() const override;
+    std::string failureText() const override { return errorMessage->value_or("Could not load components."); }
 
 private:
     static support::Task<void> fetch(std::shared_ptr<StatusPageComponentsViewModel> self);

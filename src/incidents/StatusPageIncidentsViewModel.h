@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "api/IncidentEndpoints.h"
 #include "model/Incident.h"
@@ -17,7 +16,7 @@ public:
     const std::string pageId;
 
     /// The list, in the order in which the service gave it.
-    support::Published<std::vector<model::Incident>>& incidents = records;
+    presentation::RecordList<model::Incident>& incidents = records;
 };
 
 }  // namespace larkspan::incidents

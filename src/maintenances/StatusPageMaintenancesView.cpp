@@ -1,136 +1,85 @@
 #include "maintenances/StatusPageMaintenancesView.h"
 
-#include <algorithm>
-#include <iterator>
+#include "presentation/RowsOf.h"
+#include "support/WhileAlive.h"
 
 namespace larkspan::maintenances {
 
 using model::Maintenance;
-using presentation::Content;
-using presentation::Placeholder;
-using presentation::Tone;
+using support::whileAlive;
 
 StatusPageMaintenancesView::StatusPageMaintenancesView(Ports ports, const std::string& pageId)
-    : viewModel(std::make_shared<StatusPageMaintenancesViewModel>(ports.main, ports.maintenances, pageId))
+    : ListScreen(ports.credentials,
+        {.loading = "Loading Maintenances...",
+            .empty = {.symbol = "calendar.badge.clock",
+                .title = "No scheduled maintenances",
+                .text = "Maintenance windows will appear here."}})
+    , viewModel(std::make_shared<StatusPageMaintenancesViewModel>(ports.main, ports.api, pageId))
     , ports_(ports)
 {
 }
 
-std::array<support::Subscription, 2> StatusPageMaintenancesView::observe(const std::function<void()>& observer)
-{
-    return {objectWillChange(observer), viewModel->objectWillChange(observer)};
-}
-
-void StatusPageMaintenancesView::refresh()
-{
-    ports_.credentials.allowPromptAgain();
-    viewModel->load();
-}
-
-Placeholder StatusPageMaintenancesView::placeholder() const
-{
-    switch (content()) {
-    case Content::loading: return presentation::loadingPlaceholder("Loading Maintenances...");
-    case Content::failure:
-        return presentation::failurePlaceholder(
-            {.symbol = "exclamationmark.triangle", .tone = Tone::yellow, .offersRetry = true}, *viewModel->error);
-    case Content::empty:
-        return {.symbol = "calendar.badge.clock",
-            .title = "No scheduled maintenances",
-            .text = "Maintenance windows will appear here."};
-    case Content::records: break;
-    }
-    return {};
-}
-
 std::vector<MaintenanceRow> StatusPageMaintenancesView::rows() const
 {
-    std::vector<MaintenanceRow> rows;
-    rows.reserve(viewModel->maintenances->size());
-    std::ranges::transform(*viewModel->maintenances, std::back_inserter(rows),
+    return presentation::rowsOf(*viewModel->maintenances,
         [this](const Maintenance& maintenance) { return MaintenanceRow::of(maintenance, ports_.locale); });
-    return rows;
 }
 
 void StatusPageMaintenancesView::openMaintenance(const std::string& id)
 {
-    const auto& maintenances = *viewModel->maintenances;
-    const auto opened = std::ranges::find(maintenances, id, &Maintenance::id);
-    if (opened == maintenances.end()) return;
-    const MaintenanceDetailView::Ports ports{
-        ports_.main, ports_.maintenances, ports_.clock, ports_.locale, ports_.links};
-    detail_ = std::make_shared<MaintenanceDetailView>(ports, *opened, ownerOf(id));
-    presentedMaintenance = *opened;
+    const auto* const opened = viewModel->maintenances.find(id);
+    if (!opened) return;
+    const MaintenanceDetailView::Ports ports{ports_.main, ports_.api, ports_.clock, ports_.locale, ports_.links};
+    presentedMaintenance.open(*opened, std::make_shared<MaintenanceDetailView>(ports, *opened, ownerOf(id)));
 }
 
 MaintenanceDetailView::Owner StatusPageMaintenancesView::ownerOf(const std::string& opened)
 {
     const auto view = weak_from_this();
-    return {.onUpdate =
-                [view](const Maintenance& updated) {
-                    if (const auto self = view.lock()) self->viewModel->replace(updated);
-                },
-        .onDelete =
-            [view](const Maintenance& deleted) {
-                const auto self = view.lock();
-                if (!self) return;
-                self->viewModel->remove(deleted.id);
-                self->closeMaintenance(deleted.id);
-            },
-        .dismiss =
-            [view, opened] {
-                if (const auto self = view.lock()) self->closeMaintenance(opened);
-            }};
+    return {.onUpdate = whileAlive(view,
+                [](StatusPageMaintenancesView& self, const Maintenance& updated) {
+                    self.viewModel->maintenances.replace(updated);
+                }),
+        .onDelete = whileAlive(view, &StatusPageMaintenancesView::onDelete),
+        .dismiss = whileAlive(view, [opened](StatusPageMaintenancesView& self) { self.dismiss(opened); })};
 }
 
-// A request that the user did not wait for ends behind the list, or behind another maintenance, which stays.
-void StatusPageMaintenancesView::closeMaintenance(const std::string& id)
+void StatusPageMaintenancesView::onDelete(const Maintenance& deleted)
 {
-    if (*presentedMaintenance && (*presentedMaintenance)->id == id) closeMaintenance();
+    viewModel->maintenances.remove(deleted.id);
+    dismiss(deleted.id);
+}
+
+void StatusPageMaintenancesView::dismiss(const std::string& id)
+{
+    if (presentedMaintenance.isOf(id)) closeMaintenance();
 }
 
 void StatusPageMaintenancesView::closeMaintenance()
 {
-    if (!*presentedMaintenance) return;
-    presentedMaintenance = std::nullopt;
-    detail_.reset();
-    appear();
+    if (presentedMaintenance.close()) appear();
 }
 
 void StatusPageMaintenancesView::openCreateMaintenance()
 {
     if (*showCreateSheet) return;
-    const presentation::ComponentSelection::Ports selection{
-        ports_.main, ports_.components, ports_.monitors, ports_.locale};
-    form_ = std::make_shared<CreateMaintenanceView>(
-        CreateMaintenanceView::Ports{ports_.maintenances, ports_.clock, selection}, viewModel->pageId, ownerOfForm());
-    form_->appear();
-    showCreateSheet = true;
+    const CreateMaintenanceView::Ports ports{ports_.api, ports_.clock, ports_.selection()};
+    showCreateSheet.open(std::make_shared<CreateMaintenanceView>(ports, viewModel->pageId, ownerOfForm()));
 }
 
 CreateMaintenanceView::Owner StatusPageMaintenancesView::ownerOfForm()
 {
     const auto view = weak_from_this();
-    return {.onCreated =
-                [view](const Maintenance& created) {
-                    if (const auto self = view.lock()) self->viewModel->insertFirst(created);
-                },
-        .dismiss =
-            [view] {
-                if (const auto self = view.lock()) self->closeCreateMaintenance();
-            }};
-}
-
-void StatusPageMaintenancesView::closeCreateMaintenance()
-{
-    if (!*showCreateSheet) return;
-    showCreateSheet = false;
-    form_.reset();
+    return {.onCreated = whileAlive(view,
+                [](StatusPageMaintenancesView& self, const Maintenance& created) {
+                    self.viewModel->maintenances.insertFirst(created);
+                }),
+        .dismiss = whileAlive(view, [](StatusPageMaintenancesView& self) { self.showCreateSheet.close(); })};
 }
 
 bool StatusPageMaintenancesView::hasUnsavedText() const
 {
-    return (detail_ && detail_->hasUnsavedText()) || (form_ && form_->hasUnsavedText());
+    return (detail() && detail()->hasUnsavedText()) || (form() && form()->hasUnsavedText());
 }
 
 }  // namespace larkspan::maintenances

@@ -2,25 +2,15 @@
 
 #include <utility>
 
-namespace larkspan::maintenances {
+#include "presentation/RecordsOfPage.h"
 
-using model::Maintenance;
-using support::Task;
+namespace larkspan::maintenances {
 
 StatusPageMaintenancesViewModel::StatusPageMaintenancesViewModel(
     platform::Executor& main, api::MaintenanceEndpoints& api, std::string page)
-    : FetchedList(main, [&api, page] { return fetchOfPage(&api, page); })
+    : FetchedList(main, [&api, page] { return presentation::recordsOfPage(api.fetchMaintenances(), page); })
     , pageId(std::move(page))
 {
-}
-
-Task<std::vector<Maintenance>> StatusPageMaintenancesViewModel::fetchOfPage(
-    api::MaintenanceEndpoints* api, std::string page)
-{
-    auto fetching = api->fetchMaintenances();
-    std::vector<Maintenance> all = co_await std::move(fetching);
-    std::erase_if(all, [&page](const Maintenance& each) { return each.statusPageId != page; });
-    co_return all;
 }
 
 }  // namespace larkspan::maintenances

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "api/MaintenanceEndpoints.h"
 #include "model/Maintenance.h"
@@ -9,7 +8,7 @@
 
 namespace larkspan::maintenances {
 
-/// The maintenances of one page. The service lists those of the whole account, so the others are dropped here.
+/// The maintenances of one page, of those of the whole account that the service lists.
 class StatusPageMaintenancesViewModel final : public presentation::FetchedList<model::Maintenance> {
 public:
     StatusPageMaintenancesViewModel(platform::Executor& main, api::MaintenanceEndpoints& api, std::string page);
@@ -17,10 +16,7 @@ public:
     const std::string pageId;
 
     /// The list, in the order in which the service gave it.
-    support::Published<std::vector<model::Maintenance>>& maintenances = records;
-
-private:
-    static support::Task<Records> fetchOfPage(api::MaintenanceEndpoints* api, std::string page);
+    presentation::RecordList<model::Maintenance>& maintenances = records;
 };
 
 }  // namespace larkspan::maintenances

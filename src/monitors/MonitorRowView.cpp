@@ -40,7 +40,7 @@ Task<void> MonitorRowView::loadMetrics(std::shared_ptr<MonitorRowView> self)
 {
     try {
         std::vector ids{self->monitorID_};
-        auto fetching = self->ports_.monitors.fetchMonitorMetrics(std::move(ids), range);
+        auto fetching = self->ports_.api.fetchMonitorMetrics(std::move(ids), range);
         auto windows = co_await std::move(fetching);
         const auto own = windows.find(self->monitorID_);
         if (own == windows.end())

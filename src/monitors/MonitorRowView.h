@@ -26,7 +26,7 @@ public:
 
     struct Ports {
         platform::Executor& main;
-        api::MonitorEndpoints& monitors;
+        api::MonitorEndpoints& api;
         const platform::LocaleText& locale;
     };
 

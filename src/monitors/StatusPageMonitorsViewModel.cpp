@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <exception>
 #include <utility>
+#include <vector>
 
+#include "presentation/RecordsOfPage.h"
 #include "support/LocalizedError.h"
 
 namespace larkspan::monitors {
@@ -11,22 +13,9 @@ namespace larkspan::monitors {
 using model::Monitor;
 using support::Task;
 
-namespace {
-
-// The service lists the account's monitors whatever page is asked about.
-Task<std::vector<Monitor>> monitorsOfPage(api::MonitorEndpoints* api, std::string pageId)
-{
-    auto fetching = api->fetchMonitors();
-    auto monitors = co_await std::move(fetching);
-    std::erase_if(monitors, [&pageId](const Monitor& monitor) { return monitor.statusPageId != pageId; });
-    co_return monitors;
-}
-
-}  // namespace
-
 StatusPageMonitorsViewModel::StatusPageMonitorsViewModel(
     platform::Executor& main, api::MonitorEndpoints& api, std::string page)
-    : FetchedList(main, [&api, page] { return monitorsOfPage(&api, page); })
+    : FetchedList(main, [&api, page] { return presentation::recordsOfPage(api.fetchMonitors(), page); })
     , pageId(std::move(page))
     , api_(api)
 {
@@ -70,14 +59,14 @@ Task<void> StatusPageMonitorsViewModel::refreshMonitor(
 {
     std::vector<Monitor> fetched;
     try {
-        auto fetching = monitorsOfPage(&self->api_, self->pageId);
+        auto fetching = presentation::recordsOfPage(self->api_.fetchMonitors(), self->pageId);
         fetched = co_await std::move(fetching);
     } catch (...) {
         // The action itself succeeded; the row shows what is known until the next load.
         co_return;
     }
     const auto refreshed = std::ranges::find(fetched, id, &Monitor::id);
-    if (refreshed != fetched.end()) self->replace(std::move(*refreshed));
+    if (refreshed != fetched.end()) self->monitors.replace(std::move(*refreshed));
 }
 
 void StatusPageMonitorsViewModel::setPerforming(const std::string& id, bool isPerforming)

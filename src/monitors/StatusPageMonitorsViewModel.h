@@ -4,7 +4,6 @@
 #include <optional>
 #include <set>
 #include <string>
-#include <vector>
 
 #include "api/MonitorEndpoints.h"
 #include "model/Monitor.h"
@@ -23,7 +22,7 @@ public:
     const std::string pageId;
 
     /// Those of the page alone, in the order in which the service gave the account's.
-    support::Published<std::vector<model::Monitor>>& monitors = records;
+    presentation::RecordList<model::Monitor>& monitors = records;
     /// The ids of the monitors with an action running.
     support::Published<std::set<std::string>> performingActions{*this};
     support::Published<bool> showErrorAlert{*this, false};

@@ -13,15 +13,24 @@ Content contentOf(bool hasRecords, bool isLoading, bool hasFailed)
     return hasFailed ? Content::failure : Content::empty;
 }
 
-Placeholder loadingPlaceholder(std::string text)
+Placeholder placeholderOf(Content content, const Placeholders& placeholders, std::string failureText)
 {
-    return {.text = std::move(text), .showsProgress = true};
+    switch (content) {
+    case Content::loading: return {.text = placeholders.loading, .showsProgress = true};
+    case Content::failure: {
+        auto failure = placeholders.failure;
+        failure.text = std::move(failureText);
+        return failure;
+    }
+    case Content::empty: return placeholders.empty;
+    case Content::records: break;
+    }
+    return {};
 }
 
-Placeholder failurePlaceholder(Placeholder failure, const std::exception_ptr& error)
+std::string failureText(const std::exception_ptr& error)
 {
-    failure.text = support::localizedDescription(error);
-    return failure;
+    return error ? support::localizedDescription(error) : "";
 }
 
 }  // namespace larkspan::presentation

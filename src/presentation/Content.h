@@ -1,6 +1,7 @@
 #pragma once
 
 #include <exception>
+#include <string>
 
 #include "presentation/Placeholder.h"
 
@@ -13,10 +14,19 @@ enum class Content { loading, failure, empty, records };
 /// failure of the one before it.
 Content contentOf(bool hasRecords, bool isLoading, bool hasFailed);
 
-/// The placeholder of a load that runs.
-Placeholder loadingPlaceholder(std::string text);
+/// What stands in place of the records, in each state that has none.
+struct Placeholders {
+    /// What the progress says.
+    std::string loading{};
+    /// Its text is that of the failure.
+    Placeholder failure{.symbol = "exclamationmark.triangle", .tone = Tone::yellow, .offersRetry = true};
+    Placeholder empty{};
+};
 
-/// `failure` with the error's description in place of its text.
-Placeholder failurePlaceholder(Placeholder failure, const std::exception_ptr& error);
+/// All empty while there are records; `failureText` says why the last load failed.
+Placeholder placeholderOf(Content content, const Placeholders& placeholders, std::string failureText);
+
+/// The error's description; empty without an error.
+std::string failureText(const std::exception_ptr& error);
 
 }  // namespace larkspan::presentation

@@ -1,10 +1,10 @@
 #include "workspace/Dashboard.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 #include "presentation/CompactRelativeTimeFormatter.h"
+#include "presentation/RowsOf.h"
 
 namespace larkspan::workspace {
 
@@ -21,7 +21,7 @@ Dashboard::Dashboard(Ports ports)
     , tick_(ports_.timers.every(10s, [this] { currentTime = ports_.clock.now(); }))
     , openStatusPage_(ports_.appState->inProcessNotifications().observe(
           core::InProcessNotifications::openStatusPage, [this](const std::string& id) { openPage(id); }))
-    , accountChanges_(ports_.appState->objectWillChange([this] { followOpenedPageSoon(); }))
+    , accountChanges_(ports_.main, *ports_.appState, [this] { followOpenedPage(); })
 {
 }
 
@@ -37,31 +37,22 @@ Content Dashboard::content() const
 
 Placeholder Dashboard::placeholder() const
 {
-    switch (content()) {
-    case Content::loading: return presentation::loadingPlaceholder("Loading Dashboard...");
-    case Content::failure:
-        return presentation::failurePlaceholder({.symbol = "exclamationmark.triangle",
-                                                    .tone = Tone::orange,
-                                                    .title = "Couldn’t Refresh",
-                                                    .offersSettings = true,
-                                                    .offersRetry = true},
-            *state().refreshError);
-    case Content::empty:
-        return {.symbol = "doc.text.magnifyingglass",
+    static const presentation::Placeholders placeholders{.loading = "Loading Dashboard...",
+        .failure = {.symbol = "exclamationmark.triangle",
+            .tone = Tone::orange,
+            .title = "Couldn’t Refresh",
+            .offersSettings = true,
+            .offersRetry = true},
+        .empty = {.symbol = "doc.text.magnifyingglass",
             .title = "No Status Pages",
             .text = "Add your Kestrune API key in Settings to get started.",
-            .offersSettings = true};
-    case Content::records: break;
-    }
-    return {};
+            .offersSettings = true}};
+    return presentation::placeholderOf(content(), placeholders, presentation::failureText(*state().refreshError));
 }
 
 std::vector<StatusPageRow> Dashboard::rows() const
 {
-    std::vector<StatusPageRow> rows;
-    rows.reserve(state().statusPages->size());
-    std::ranges::transform(*state().statusPages, std::back_inserter(rows), StatusPageRow::of);
-    return rows;
+    return presentation::rowsOf(*state().statusPages, StatusPageRow::of);
 }
 
 std::optional<std::size_t> Dashboard::selectedRow() const
@@ -124,17 +115,6 @@ void Dashboard::closePage()
     openedPage = nullptr;
 }
 
-void Dashboard::followOpenedPageSoon()
-{
-    if (!*openedPage || std::exchange(*followsSoon_, true)) return;
-    ports_.main.post([this, weak = std::weak_ptr(followsSoon_)] {
-        const auto followsSoon = weak.lock();
-        if (!followsSoon) return;
-        *followsSoon = false;
-        followOpenedPage();
-    });
-}
-
 void Dashboard::followOpenedPage()
 {
     if (!*openedPage) return;
@@ -151,17 +131,13 @@ void Dashboard::openSettings()
     if (*showingSettings) return;
     ports_.credentials.allowPromptAgain();
     const auto onApiKeyDeleted = [appState = ports_.appState] { appState->clearAccountData(); };
-    settings_ = std::make_shared<Settings>(Settings::Ports{ports_.main, ports_.appState, ports_.keys}, onApiKeyDeleted);
-    settings_->appear();
-    showingSettings = true;
+    const Settings::Ports ports{ports_.main, ports_.appState, ports_.keys};
+    showingSettings.open(std::make_shared<Settings>(ports, onApiKeyDeleted));
 }
 
 void Dashboard::closeSettings()
 {
-    if (!*showingSettings) return;
-    showingSettings = false;
-    settings_.reset();
-    refresh();
+    if (showingSettings.close()) refresh();
 }
 
 std::string refreshIntervalLabel(std::chrono::seconds interval)

@@ -18,10 +18,12 @@
 #include "platform/LinkOpener.h"
 #include "platform/LocaleText.h"
 #include "platform/Timers.h"
+#include "presentation/AfterChanges.h"
 #include "presentation/Content.h"
 #include "presentation/Headline.h"
 #include "presentation/Marker.h"
 #include "presentation/Placeholder.h"
+#include "presentation/PresentedSheet.h"
 #include "support/Observable.h"
 #include "support/Time.h"
 #include "workspace/DashboardOperationalSummary.h"
@@ -56,7 +58,7 @@ public:
     explicit Dashboard(Ports ports);
 
     /// The settings sheet is up.
-    support::Published<bool> showingSettings{*this, false};
+    presentation::PresentedSheet<Settings> showingSettings{*this};
     /// The page that the user has opened, or that the menu has.
     support::Published<std::optional<std::string>> selectedPageId{*this};
     /// The selected page's own screen; null while none is open.
@@ -92,22 +94,19 @@ public:
     /// The sheet has closed, in whatever way; a key that was saved takes effect now.
     void closeSettings();
     /// What the sheet shows; null while it is down.
-    const std::shared_ptr<Settings>& settings() const { return settings_; }
+    const std::shared_ptr<Settings>& settings() const { return showingSettings.screen(); }
 
 private:
     const core::AppStateManager& state() const { return *ports_.appState; }
     const model::StatusPage* selectedPage() const;
     StatusPageDetailView::Ports portsOfPage() const;
-    /// What the account's list has made of the opened page, once the list has landed.
-    void followOpenedPageSoon();
+    /// Takes over what the account's list has made of the opened page.
     void followOpenedPage();
 
     Ports ports_;
     std::unique_ptr<platform::Timer> tick_;
     support::Subscription openStatusPage_;
-    support::Subscription accountChanges_;
-    std::shared_ptr<bool> followsSoon_ = std::make_shared<bool>(false);
-    std::shared_ptr<Settings> settings_;
+    const presentation::AfterChanges accountChanges_;
 };
 
 /// The label of one interval choice: "Every 30 seconds", "Every 1 minute", "Every 2 minutes".

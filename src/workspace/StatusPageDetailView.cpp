@@ -37,31 +37,56 @@ void StatusPageDetailView::leave()
 void StatusPageDetailView::enter(Tab tab)
 {
     switch (tab) {
-    case Tab::overview: break;
-    case Tab::incidents:
-        incidents_ = std::make_shared<incidents::StatusPageIncidentsView>(
-            incidents::StatusPageIncidentsView::Ports{ports_.main, ports_.api, ports_.api, ports_.api,
-                ports_.credentials, ports_.clock, ports_.locale, ports_.links},
-            page->id);
-        return incidents_->appear();
-    case Tab::monitors:
-        monitors_ = std::make_shared<monitors::StatusPageMonitorsView>(
-            monitors::StatusPageMonitorsView::Ports{
-                ports_.main, ports_.api, ports_.credentials, ports_.locale, ports_.links},
-            *page);
-        return monitors_->appear();
-    case Tab::components:
-        components_ = std::make_shared<components::StatusPageComponentsView>(
-            components::StatusPageComponentsView::Ports{ports_.main, ports_.api, ports_.credentials, ports_.links},
-            page->id);
-        return components_->appear();
-    case Tab::maintenances:
-        maintenances_ = std::make_shared<maintenances::StatusPageMaintenancesView>(
-            maintenances::StatusPageMaintenancesView::Ports{ports_.main, ports_.api, ports_.api, ports_.api,
-                ports_.credentials, ports_.clock, ports_.locale, ports_.links},
-            page->id);
-        return maintenances_->appear();
+    case Tab::overview: return;
+    case Tab::incidents: return enterIncidents();
+    case Tab::monitors: return enterMonitors();
+    case Tab::components: return enterComponents();
+    case Tab::maintenances: return enterMaintenances();
     }
+}
+
+void StatusPageDetailView::enterIncidents()
+{
+    const incidents::StatusPageIncidentsView::Ports ports{eventPorts(), ports_.api};
+    incidents_ = std::make_shared<incidents::StatusPageIncidentsView>(ports, page->id);
+    incidents_->appear();
+}
+
+void StatusPageDetailView::enterMonitors()
+{
+    const monitors::StatusPageMonitorsView::Ports ports{.main = ports_.main,
+        .api = ports_.api,
+        .credentials = ports_.credentials,
+        .locale = ports_.locale,
+        .links = ports_.links};
+    monitors_ = std::make_shared<monitors::StatusPageMonitorsView>(ports, *page);
+    monitors_->appear();
+}
+
+void StatusPageDetailView::enterComponents()
+{
+    const components::StatusPageComponentsView::Ports ports{
+        .main = ports_.main, .api = ports_.api, .credentials = ports_.credentials, .links = ports_.links};
+    components_ = std::make_shared<components::StatusPageComponentsView>(ports, page->id);
+    components_->appear();
+}
+
+void StatusPageDetailView::enterMaintenances()
+{
+    const maintenances::StatusPageMaintenancesView::Ports ports{eventPorts(), ports_.api};
+    maintenances_ = std::make_shared<maintenances::StatusPageMaintenancesView>(ports, page->id);
+    maintenances_->appear();
+}
+
+presentation::EventListPorts StatusPageDetailView::eventPorts() const
+{
+    return {.main = ports_.main,
+        .components = ports_.api,
+        .monitors = ports_.api,
+        .credentials = ports_.credentials,
+        .clock = ports_.clock,
+        .locale = ports_.locale,
+        .links = ports_.links};
 }
 
 void StatusPageDetailView::selectNext()

@@ -17,6 +17,7 @@
 #include "platform/Executor.h"
 #include "platform/LinkOpener.h"
 #include "platform/LocaleText.h"
+#include "presentation/EventListPorts.h"
 #include "support/Observable.h"
 #include "workspace/StatusPageOverviewView.h"
 
@@ -75,6 +76,11 @@ public:
 private:
     void leave();
     void enter(Tab tab);
+    void enterIncidents();
+    void enterMonitors();
+    void enterComponents();
+    void enterMaintenances();
+    presentation::EventListPorts eventPorts() const;
 
     Ports ports_;
     std::shared_ptr<incidents::StatusPageIncidentsView> incidents_;

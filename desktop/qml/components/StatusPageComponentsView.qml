@@ -21,10 +21,10 @@ ContentArea {
     }
 
     PopupLoader {
-        isShown: view.components.showsAlert
+        isShown: view.components.alert !== ""
         onDismissed: view.components.dismissAlert()
         sourceComponent: ErrorAlert {
-            text: view.components.alertMessage
+            text: view.components.alert
         }
     }
 }

@@ -18,7 +18,7 @@ NewEventSheet {
             width: parent.width
             text: qsTr("Notify subscribers")
             isOn: sheet.incident.notifySubscribers
-            onClicked: sheet.incident.notifySubscribers = !sheet.incident.notifySubscribers
+            onClicked: sheet.incident.toggleNotifySubscribers()
         }
         Label {
             width: parent.width

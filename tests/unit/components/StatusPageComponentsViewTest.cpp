@@ -100,7 +100,7 @@ TEST_F(ListOfComponents, ThatFailsToLoadSaysWhyInTheAlertAndInTheBodyAndOffersRe
             .text = "Server returned HTTP status code 500.",
             .offersRetry = true}));
     EXPECT_TRUE(*view->viewModel->showErrorAlert);
-    EXPECT_EQ(view->alertMessage(), "Server returned HTTP status code 500.");
+    EXPECT_EQ(view->alert(), "Server returned HTTP status code 500.");
 }
 
 TEST_F(ListOfComponents, WhoseAlertIsDismissedShowsNoComponents)
@@ -119,7 +119,7 @@ TEST_F(ListOfComponents, WhoseFailureHasNoWordsHasThemFromTheScreen)
 {
     view->viewModel->showErrorAlert = true;
     EXPECT_EQ(view->placeholder().text, "Could not load components.");
-    EXPECT_EQ(view->alertMessage(), "An unknown error occurred.");
+    EXPECT_EQ(view->alert(), "An unknown error occurred.");
 }
 
 TEST_F(ListOfComponents, IsBlankedByARefreshThatFails)

@@ -1,40 +1,33 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <memory>
 #include <string>
-#include <vector>
 
-#include "api/KestruneAPI.h"
-#include "fakes/FakeLinkOpener.h"
-#include "fakes/PageComponents.h"
+#include "fakes/ListOfAPage.h"
 #include "maintenances/StatusPageMaintenancesView.h"
 
 namespace larkspan::maintenances {
 
-using Words = std::vector<std::string>;
+class MaintenancesOfAPage : public fakes::ListOfAPage<StatusPageMaintenancesView> {
+public:
+    static constexpr auto name = "Maintenances";
 
-inline std::string workOfThePage(const std::string& id, const std::string& rest = "")
-{
-    return R"({"id": ")" + id + R"(", "title": "Work )" + id + R"(", "status_page_id": "p")" + rest + "}";
-}
-
-/// The maintenances of page "p".
-class MaintenancesOfAPage : public testing::Test, public fakes::PageComponents {
 protected:
-    void serve(const std::vector<std::string>& records)
+    static constexpr auto loadingText = "Loading Maintenances...";
+
+    MaintenancesOfAPage()
+        : ListOfAPage(maintenancesURL)
     {
-        std::string list;
-        for (const auto& each : records) list += (list.empty() ? "" : ",") + each;
-        transport.script(maintenancesURL, 200, "[" + list + "]");
+        const StatusPageMaintenancesView::Ports ports{{main, api, api, credentials, clock, locale, links}, api};
+        view = std::make_shared<StatusPageMaintenancesView>(ports, "p");
     }
 
-    void appear()
+    static std::string record(const std::string& id, const std::string& rest = "")
     {
-        view->appear();
-        run();
+        return R"({"id": ")" + id + R"(", "title": "Work )" + id + R"(", "status_page_id": "p")" + rest + "}";
     }
+
+    static std::string urlOf(const std::string& id) { return std::string(maintenancesURL) + "/" + id; }
 
     void open(const std::string& id)
     {
@@ -42,18 +35,8 @@ protected:
         transport.requests.clear();
     }
 
-    static std::string urlOf(const std::string& id) { return std::string(maintenancesURL) + "/" + id; }
-
-    Words ids() const
-    {
-        Words all;
-        for (const auto& row : view->rows()) all.push_back(row.id);
-        return all;
-    }
-
-    fakes::FakeLinkOpener links;
-    std::shared_ptr<StatusPageMaintenancesView> view = std::make_shared<StatusPageMaintenancesView>(
-        StatusPageMaintenancesView::Ports{main, api, api, api, credentials, clock, locale, links}, "p");
+    void openForm() { view->openCreateMaintenance(); }
+    bool isFormUp() const { return *view->showCreateSheet; }
 };
 
 }  // namespace larkspan::maintenances

@@ -16,7 +16,7 @@ class OpenedMaintenance : public MaintenancesOfAPage {
 protected:
     OpenedMaintenance()
     {
-        serve({workOfThePage("1"), workOfThePage("2")});
+        serve({record("1"), record("2")});
         appear();
         open("1");
     }
@@ -61,7 +61,7 @@ TEST_F(OpenedMaintenance, ThatIsEditedShowsItInItsRowWithoutAnyFetch)
 
 TEST_F(OpenedMaintenance, WhoseRowHasGoneMeanwhileIsPatchedNowhere)
 {
-    serve({workOfThePage("2")});
+    serve({record("2")});
     appear();
     transport.script(urlOf("1"), 200, changed);
     edit("Changed");
@@ -151,83 +151,9 @@ TEST_F(OpenedMaintenance, WhoseScreenIsGoneEndsItsRequestsForNobody)
     EXPECT_NO_FATAL_FAILURE(run());
 }
 
-class MaintenanceFormOnAPage : public MaintenancesOfAPage {
-protected:
-    MaintenanceFormOnAPage()
-    {
-        serve({workOfThePage("1")});
-        appear();
-        view->openCreateMaintenance();
-        run();
-        transport.requests.clear();
-        transport.forget(maintenancesURL);
-    }
-
-    void save()
-    {
-        view->form()->title = "New";
-        view->form()->save();
-        run();
-    }
-};
-
-TEST_F(MaintenanceFormOnAPage, IsUpWithItsChoicesUntilItIsCancelled)
-{
-    EXPECT_TRUE(*view->showCreateSheet);
-    EXPECT_EQ(view->form()->pageId, "p");
-    EXPECT_EQ(view->form()->selection->groupChoices().size(), 2u);
-    const auto form = view->form();
-    view->openCreateMaintenance();
-    EXPECT_EQ(view->form(), form) << "asked for twice it is one";
-    form->cancel();
-    EXPECT_FALSE(*view->showCreateSheet);
-    EXPECT_EQ(view->form(), nullptr);
-    run();
-    EXPECT_TRUE(transport.requests.empty()) << "the list was in sight all the time";
-}
-
-TEST_F(MaintenanceFormOnAPage, PutsWhatItCreatesAtTheTopWithoutAFetchAndTheNextLoadTakesTheServicesOrder)
-{
-    save();
-    transport.answer(HttpResponse{201, workOfThePage("new")});
-    run();
-    EXPECT_EQ(ids(), (Words{"new", "1"}));
-    EXPECT_FALSE(*view->showCreateSheet);
-    EXPECT_EQ(transport.requests.size(), 1u);
-    serve({workOfThePage("1"), workOfThePage("new")});
-    appear();
-    EXPECT_EQ(ids(), (Words{"1", "new"}));
-}
-
-TEST_F(MaintenanceFormOnAPage, StaysUpWhenTheServiceRefuses)
-{
-    save();
-    transport.answer(HttpResponse{422, ""});
-    run();
-    EXPECT_TRUE(*view->showCreateSheet);
-    EXPECT_EQ(*view->form()->title, "New");
-    EXPECT_EQ(ids(), Words{"1"});
-}
-
-TEST_F(MaintenanceFormOnAPage, WhoseScreenIsGoneEndsItsRequestForNobody)
-{
-    save();
-    const std::weak_ptr<CreateMaintenanceView> held = view->form();
-    view.reset();
-    EXPECT_FALSE(held.expired());
-    transport.answer(HttpResponse{201, workOfThePage("new")});
-    run();
-    EXPECT_TRUE(held.expired());
-}
-
-TEST_F(MaintenanceFormOnAPage, WithATypedTextIsWhatLeavingTheScreenWouldLose)
+TEST_F(OpenedMaintenance, ThatIsEditedIsWhatLeavingTheScreenWouldLose)
 {
     EXPECT_FALSE(view->hasUnsavedText());
-    view->form()->title = "New";
-    EXPECT_TRUE(view->hasUnsavedText());
-    view->form()->cancel();
-    EXPECT_FALSE(view->hasUnsavedText());
-    open("1");
     view->detail()->beginEditing();
     EXPECT_FALSE(view->hasUnsavedText());
     view->detail()->editedMessage = "text";

@@ -1,26 +1,26 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <memory>
 #include <string>
-#include <utility>
-#include <vector>
 
-#include "api/KestruneAPI.h"
-#include "fakes/FakeLinkOpener.h"
-#include "fakes/FakeLocaleText.h"
-#include "fakes/Service.h"
+#include "fakes/ListOfAPage.h"
 #include "monitors/StatusPageMonitorsView.h"
 
 namespace larkspan::monitors {
 
-using Words = std::vector<std::string>;
+class MonitorsOfAPage : public fakes::ListOfAPage<StatusPageMonitorsView> {
+public:
+    static constexpr auto name = "Monitors";
 
-/// The monitors of the page "p", in front of a service that lists what the test says.
-class MonitorsOfAPage : public testing::Test, public fakes::Service {
 protected:
-    static inline const std::string listURL = "https://service.example/user/api/v1/monitors";
+    static constexpr auto loadingText = "Loading Monitors...";
+
+    MonitorsOfAPage()
+        : ListOfAPage("https://service.example/user/api/v1/monitors")
+    {
+        const StatusPageMonitorsView::Ports ports{main, api, credentials, locale, links};
+        view = std::make_shared<StatusPageMonitorsView>(ports, page());
+    }
 
     static std::string metricsURL(const std::string& id)
     {
@@ -38,24 +38,10 @@ protected:
         return R"({"id": ")" + id + R"(", "name": "Monitor )" + id + R"(", "type": "http", )" + rest + "}";
     }
 
-    void serve(const Words& records)
+    void open(const std::string& id)
     {
-        std::string list;
-        for (const auto& each : records) list += (list.empty() ? "" : ",") + each;
-        transport.script(listURL, 200, "[" + list + "]");
-    }
-
-    void appear()
-    {
-        view->appear();
-        run();
-    }
-
-    Words ids() const
-    {
-        Words all;
-        for (const auto& row : view->rows()) all.push_back(row.id);
-        return all;
+        view->openMonitor(id);
+        transport.requests.clear();
     }
 
     Words sent() const
@@ -73,11 +59,6 @@ protected:
         page.id = "p";
         return page;
     }
-
-    fakes::FakeLocaleText locale;
-    fakes::FakeLinkOpener links;
-    std::shared_ptr<StatusPageMonitorsView> view = std::make_shared<StatusPageMonitorsView>(
-        StatusPageMonitorsView::Ports{main, api, credentials, locale, links}, page());
 };
 
 }  // namespace larkspan::monitors

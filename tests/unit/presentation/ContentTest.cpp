@@ -33,21 +33,35 @@ INSTANTIATE_TEST_SUITE_P(EachCase, ContentOfAScreen,
 
 TEST(PlaceholderOfALoad, IsProgressWithItsWords)
 {
-    EXPECT_EQ(loadingPlaceholder("Loading..."), (Placeholder{.text = "Loading...", .showsProgress = true}));
+    EXPECT_EQ(placeholderOf(Content::loading, {.loading = "Loading..."}, "of before"),
+        (Placeholder{.text = "Loading...", .showsProgress = true}));
 }
 
 TEST(PlaceholderOfAFailure, HasTheErrorsDescription)
 {
-    const Placeholder look{.symbol = "exclamationmark.triangle", .tone = Tone::yellow, .offersRetry = true};
-    auto expected = look;
-    expected.text = "API key is missing.";
-    EXPECT_EQ(failurePlaceholder(look, std::make_exception_ptr(api::APIError::missingAPIKey())), expected);
+    const auto words = failureText(std::make_exception_ptr(api::APIError::missingAPIKey()));
+    EXPECT_EQ(placeholderOf(Content::failure, {}, words),
+        (Placeholder{.symbol = "exclamationmark.triangle",
+            .tone = Tone::yellow,
+            .text = "API key is missing.",
+            .offersRetry = true}));
 }
 
 TEST(PlaceholderOfAFailure, OfAnErrorWithoutADescriptionSaysSoInWords)
 {
-    EXPECT_EQ(failurePlaceholder({}, std::make_exception_ptr(std::runtime_error("x"))).text,
-        "The operation could not be completed.");
+    EXPECT_EQ(failureText(std::make_exception_ptr(std::runtime_error("x"))), "The operation could not be completed.");
+}
+
+TEST(PlaceholderOfAnEmptyList, IsTheListsOwn)
+{
+    const Placeholder nothing{.symbol = "checkmark.shield", .title = "Nothing"};
+    EXPECT_EQ(placeholderOf(Content::empty, {.empty = nothing}, ""), nothing);
+}
+
+TEST(PlaceholderOfRecords, IsNone)
+{
+    EXPECT_EQ(placeholderOf(Content::records, {.loading = "Loading...", .empty = {.title = "Nothing"}}, "of before"),
+        Placeholder{});
 }
 
 }  // namespace

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <exception>
+
+#include "api/APIError.h"
+
+namespace larkspan::gallery {
+
+// The states that screens of several kinds have. A list has begun its first load, which does not end by itself.
+
+inline constexpr auto asItComesUp = [](auto&) {};
+
+/// The list's load has brought nothing.
+inline constexpr auto empty = [](auto& list) { list.viewModel->isLoading = false; };
+
+/// The list's load has failed.
+inline constexpr auto failed = [](auto& list) {
+    list.viewModel->isLoading = false;
+    list.viewModel->error = std::make_exception_ptr(api::APIError::httpStatus(503));
+};
+
+/// A request of the screen runs.
+inline constexpr auto working = [](auto& screen) { screen.action->isInProgress = true; };
+
+/// The service has refused a request of the screen.
+inline constexpr auto refused = [](auto& screen) { screen.action->alert = "Server returned HTTP status code 409."; };
+
+inline constexpr auto aboutToDelete = [](auto& detail) { detail.confirmDelete(); };
+
+}  // namespace larkspan::gallery
