@@ -1,3 +1,7 @@
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "MaintenancesOnScreen.h"
@@ -239,6 +243,21 @@ TEST_F(MaintenancesOnScreen, TheFormKeepsAllWhenTheServiceRefusesIt)
     EXPECT_EQ(textOf("Title"), "Mail");
     EXPECT_EQ(textOf("End hour"), "11");
     EXPECT_TRUE(isEnabled("Save"));
+}
+
+TEST_F(MaintenancesOnScreen, WhatIsPastedIntoTheEditorIsSentAsItIs)
+{
+    openEditor();
+    QGuiApplication::clipboard()->setText(QStringLiteral("a\u00a0b\u2028c"));
+    focus(Role::EditableText, "Title");
+    press(Qt::Key_V, Qt::ControlModifier);
+    QGuiApplication::clipboard()->setText(QStringLiteral("a\u00a0b\u2028c\u2029d\r\ne "));
+    focus(Role::EditableText, "Message");
+    press(Qt::Key_V, Qt::ControlModifier);
+    choose("Save");
+    EXPECT_THAT(sent(),
+        testing::ElementsAre(testing::HasSubstr(
+            "{\"title\":\"Upgradea\u00a0b\u2028c\",\"message\":\"a\u00a0b\u2028c\\nd\\ne We **upgrade**.\",")));
 }
 
 TEST_F(MaintenancesOnScreen, WhileEditsAreSavedNothingCanBeTyped)
