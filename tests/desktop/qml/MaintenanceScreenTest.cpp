@@ -245,6 +245,27 @@ TEST_F(MaintenancesOnScreen, TheFormKeepsAllWhenTheServiceRefusesIt)
     EXPECT_TRUE(isEnabled("Save"));
 }
 
+TEST_F(MaintenancesOnScreen, WhileTheFormIsSentNothingInItCanBeChangedAndTheKeyboardIsBackAfterwards)
+{
+    openForm();
+    type("End hour", "11");
+    type("Title", "Mail");
+    transport.forget(maintenancesURL);
+    QMetaObject::invokeMethod(&item(Role::Button, QStringLiteral("Save")), "clicked");
+    settle();
+    EXPECT_TRUE(names(Role::ProgressBar).contains(QStringLiteral("Creating...")));
+    typeLetters("x");
+    for (const auto* const field : {"Title", "Message (Optional)", "Start hour"})
+        EXPECT_FALSE(item(Role::EditableText, QString::fromUtf8(field)).isEnabled()) << field;
+    EXPECT_FALSE(item(Role::Table, QStringLiteral("Start date")).isEnabled());
+    transport.answer(HttpResponse{.status = 422, .body = ""});
+    settle();
+    press(Qt::Key_Return);
+    typeLetters("y");
+    EXPECT_EQ(textOf("Title"), "Maily");
+    EXPECT_EQ(textOf("End hour"), "11");
+}
+
 TEST_F(MaintenancesOnScreen, WhatIsPastedIntoTheEditorIsSentAsItIs)
 {
     openEditor();
