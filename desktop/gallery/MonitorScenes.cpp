@@ -4,7 +4,6 @@
 #include <cmath>
 #include <exception>
 #include <functional>
-#include <optional>
 #include <set>
 #include <string>
 #include <utility>
