@@ -15,7 +15,6 @@
 #include <cstdio>
 #include <memory>
 #include <stdexcept>
-#include <string>
 #include <vector>
 
 #include "Arguments.h"

@@ -16,9 +16,9 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <optional>
 #include <stdexcept>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "Arguments.h"

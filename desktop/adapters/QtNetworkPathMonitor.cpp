@@ -74,12 +74,16 @@ void QtNetworkPathMonitor::followReachability()
 
 void QtNetworkPathMonitor::reportReachability()
 {
-    const auto reachability = QNetworkInformation::instance()->reachability();
-    if (reachability != QNetworkInformation::Reachability::Unknown) {
-        report(reachability == QNetworkInformation::Reachability::Online);
-    } else if (!reported_) {
-        // Between two states, and where it cannot tell, NetworkManager says this: what was last known stands.
-        report(true);
+    using Reachability = QNetworkInformation::Reachability;
+    switch (QNetworkInformation::instance()->reachability()) {
+    case Reachability::Online:
+    // There is a way out, only NetworkManager's own question to the internet was not answered: so it is behind many a
+    // proxy, firewall or VPN that lets the service through.
+    case Reachability::Site: return report(true);
+    case Reachability::Local:
+    case Reachability::Disconnected: return report(false);
+    // Between two states, and where it cannot tell, NetworkManager says this: what was last known stands.
+    case Reachability::Unknown: return report(reported_.value_or(true));
     }
 }
 

@@ -10,9 +10,9 @@
 
 namespace larkspan::adapters {
 
-/// The computer's network as NetworkManager sees it, through Qt's reachability: online means satisfied. Where nobody
-/// watches the network, and while its state is unknown, nothing speaks against it. Notices come on the main thread,
-/// on which the object lives.
+/// The computer's network as NetworkManager sees it, through Qt's reachability: satisfied is whatever leads beyond the
+/// local network. Where nobody watches the network, and while its state is unknown, nothing speaks against it. Notices
+/// come on the main thread, on which the object lives.
 class QtNetworkPathMonitor final : public QObject, public platform::NetworkPathMonitor {
 public:
     QtNetworkPathMonitor();

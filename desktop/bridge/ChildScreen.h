@@ -3,7 +3,6 @@
 #include <QObject>
 
 #include <memory>
-#include <utility>
 
 #include "bridge/ScreenUpdates.h"
 

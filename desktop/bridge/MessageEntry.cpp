@@ -1,5 +1,7 @@
 #include "bridge/MessageEntry.h"
 
+#include <utility>
+
 namespace larkspan::bridge {
 
 std::vector<MessageEntry> MessageEntry::entriesOf(incidents::MarkdownRows rows)

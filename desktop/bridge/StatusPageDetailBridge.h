@@ -62,6 +62,7 @@ public:
     Q_INVOKABLE void select(int tab);
     Q_INVOKABLE void selectNext() { view_->selectNext(); }
     Q_INVOKABLE void selectPrevious() { view_->selectPrevious(); }
+    Q_INVOKABLE void refresh() { view_->refresh(); }
     Q_INVOKABLE void openPublicURL() { view_->openPublicURL(); }
 
 private:

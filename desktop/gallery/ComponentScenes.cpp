@@ -52,11 +52,12 @@ std::vector<Component> everyStatus()
     return {component("1", "REST API", "up", "api", "Version 2, for customers."),
         component("2", "Webhooks", "DegradedPerformance", "api"),
         component("3", "Sign-in", "partialoutage", "api", "For customers in Europe and in North America."),
-        component("4", "Dashboard", "down", "web"),
+        component("4", "Dashboard", "down", "web", "Where customers sign in.\nIts description has two lines."),
         component("5",
             "Search with a name that goes on and on, far beyond what any window has room for in one line, at any size",
             "undermaintenance", "web",
-            "Its description is long as well, and is cut at its end where the row has no room left for more of it"),
+            "Its description is long as well, and goes on in as many lines as it needs where the row has no room beside "
+            "the status for all of it"),
         component("6", "<b>Bold</b> &amp; حالة الخدمة 🐦", "maintenance"),
         component("7", "Of a deleted group", "a status of many words that the service has never had before", "gone")};
 }

@@ -3,7 +3,6 @@
 #include <chrono>
 #include <cmath>
 #include <functional>
-#include <optional>
 #include <set>
 #include <string>
 #include <utility>

@@ -2,7 +2,6 @@
 
 #include <QTimer>
 
-#include <algorithm>
 #include <chrono>
 #include <exception>
 #include <iterator>

@@ -7,6 +7,7 @@
 #include <QQuickWindow>
 
 #include <cstdio>
+#include <utility>
 
 #include "adapters/MainExecutor.h"
 #include "gallery/Scene.h"

@@ -10,6 +10,11 @@
 Q_IMPORT_QML_PLUGIN(LarkspanPlugin)
 Q_IMPORT_QML_PLUGIN(Larkspan_BridgePlugin)
 
+// In no header of Qt; its documentation of key sequences says to declare it.
+QT_BEGIN_NAMESPACE
+void qt_set_sequence_auto_mnemonic(bool isOn);
+QT_END_NAMESPACE
+
 namespace larkspan {
 
 MainWindow::MainWindow(Content content, platform::Executor& main)
@@ -19,6 +24,8 @@ MainWindow::MainWindow(Content content, platform::Executor& main)
     , updates_(std::move(content.updates), screenUpdates_)
 {
     bridge::hideSecretsFromAccessibility();
+    // A text stands for itself: with mnemonics, "Save & Verify" is pressed by Alt and the space bar.
+    qt_set_sequence_auto_mnemonic(false);
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
     engine_.setInitialProperties({
         {QStringLiteral("dashboard"), QVariant::fromValue(&dashboard_)},

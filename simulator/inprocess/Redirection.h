@@ -1,8 +1,5 @@
 #pragma once
 
-#include <string>
-#include <string_view>
-
 #include "platform/HttpTransport.h"
 #include "service/Service.h"
 

@@ -4,7 +4,6 @@
 #include <condition_variable>
 #include <map>
 #include <mutex>
-#include <optional>
 #include <thread>
 
 #include "inprocess/Delays.h"

@@ -1,6 +1,7 @@
 #include "server/Control.h"
 
 #include <array>
+#include <functional>
 #include <utility>
 
 #include "account/Seed.h"

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-
 #include "server/FaultReader.h"
 #include "server/ServerCertificates.h"
 #include "service/Router.h"

@@ -3,7 +3,6 @@
 #include <charconv>
 #include <functional>
 #include <map>
-#include <optional>
 
 #include "account/Seed.h"
 #include "server/AuthorityStore.h"

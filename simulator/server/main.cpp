@@ -1,8 +1,6 @@
 #include <csignal>
 #include <exception>
 #include <iostream>
-#include <string>
-#include <vector>
 
 #include "account/Seed.h"
 #include "account/Storyline.h"

@@ -1,6 +1,5 @@
 #include "service/Router.h"
 
-#include <ranges>
 #include <utility>
 
 namespace larkspan::simulator {

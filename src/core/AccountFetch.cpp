@@ -2,7 +2,6 @@
 
 #include <exception>
 #include <stop_token>
-#include <string>
 #include <string_view>
 #include <unordered_map>
 #include <utility>

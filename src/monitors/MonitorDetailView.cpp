@@ -35,7 +35,8 @@ std::vector<Fact> MonitorDetailView::details() const
     if (monitor.url && model::URL::parse(*monitor.url)) {
         facts.push_back({.label = "URL",
             .text = *monitor.url,
-            .destination = presentation::isWebAddress(*monitor.url) ? *monitor.url : ""});
+            .destination = presentation::isWebAddress(*monitor.url) ? *monitor.url : "",
+            .hasSmallLabel = true});
     }
     if (monitor.intervalSeconds) {
         facts.push_back({.label = "Interval", .text = std::to_string(*monitor.intervalSeconds) + "s"});

@@ -4,7 +4,6 @@
 #include <functional>
 #include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "api/ComponentEndpoints.h"

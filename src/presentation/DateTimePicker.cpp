@@ -1,7 +1,6 @@
 #include "presentation/DateTimePicker.h"
 
 #include <cctype>
-#include <cstdlib>
 
 #include "presentation/CalendarMonth.h"
 #include "presentation/LocalMoment.h"

@@ -17,6 +17,8 @@ struct Fact {
     std::string caption{};
     /// Before the label; empty for none.
     std::string symbol{};
+    /// The label is in small letters, so that the text has the line.
+    bool hasSmallLabel = false;
 
     bool operator==(const Fact&) const = default;
 };

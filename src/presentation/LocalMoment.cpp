@@ -1,7 +1,5 @@
 #include "presentation/LocalMoment.h"
 
-#include <algorithm>
-
 namespace larkspan::presentation {
 
 using support::Time;

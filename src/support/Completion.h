@@ -2,7 +2,6 @@
 
 #include <asio/async_result.hpp>
 
-#include <memory>
 #include <utility>
 
 #include "support/Outcome.h"

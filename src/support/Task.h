@@ -5,8 +5,6 @@
 #include <asio/use_awaitable.hpp>
 
 #include <exception>
-#include <memory>
-#include <optional>
 #include <utility>
 
 #include "platform/Executor.h"

@@ -5,7 +5,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "api/APIKeyStore.h"
 #include "core/AppStateManager.h"

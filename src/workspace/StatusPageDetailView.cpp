@@ -99,6 +99,17 @@ void StatusPageDetailView::selectPrevious()
     select(tabs[(static_cast<std::size_t>(*selectedTab) + tabs.size() - 1) % tabs.size()]);
 }
 
+void StatusPageDetailView::refresh()
+{
+    switch (*selectedTab) {
+    case Tab::overview: return ports_.appState->refreshNow();
+    case Tab::incidents: return incidents_->refresh();
+    case Tab::monitors: return monitors_->refresh();
+    case Tab::components: return components_->refresh();
+    case Tab::maintenances: return maintenances_->refresh();
+    }
+}
+
 StatusPageOverviewView StatusPageDetailView::overview() const
 {
     return StatusPageOverviewView::of(*page, *ports_.appState, ports_.locale, ports_.clock.now());

@@ -57,6 +57,9 @@ public:
     void selectNext();
     void selectPrevious();
 
+    /// Fetches anew what the selected tab shows; the overview is made of the account's lists.
+    void refresh();
+
     StatusPageOverviewView overview() const;
     /// The screen of the tab "Incidents"; null while another is selected.
     const std::shared_ptr<incidents::StatusPageIncidentsView>& incidents() const { return incidents_; }

@@ -4,6 +4,7 @@
 #include <iostream>
 #include <iterator>
 #include <string>
+#include <string_view>
 
 #include "incidents/markdown/InlineText.h"
 

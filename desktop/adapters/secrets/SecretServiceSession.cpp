@@ -1,7 +1,5 @@
 #include "adapters/secrets/SecretServiceSession.h"
 
-#include <utility>
-
 #include "adapters/secrets/SecretPrompt.h"
 
 namespace larkspan::adapters {

@@ -20,6 +20,7 @@ struct FactValue {
     Q_PROPERTY(bool isLink MEMBER isLink)
     Q_PROPERTY(QString caption MEMBER caption)
     Q_PROPERTY(QString symbol MEMBER symbol)
+    Q_PROPERTY(bool hasSmallLabel MEMBER hasSmallLabel)
 
 public:
     QString label{};
@@ -28,11 +29,12 @@ public:
     bool isLink = false;
     QString caption{};
     QString symbol{};
+    bool hasSmallLabel = false;
 
     static FactValue of(const presentation::Fact& fact)
     {
         return {words(fact.label), words(fact.text), toneOf(fact.tone), !fact.destination.empty(), words(fact.caption),
-            words(fact.symbol)};
+            words(fact.symbol), fact.hasSmallLabel};
     }
 
     bool operator==(const FactValue&) const = default;

@@ -83,7 +83,7 @@ CardRow {
                 text: delegate.row.description
                 font.pointSize: Theme.caption
                 color: Theme.secondary
-                maximumLineCount: 1
+                wrapMode: Text.Wrap
             }
         }
         Pill {

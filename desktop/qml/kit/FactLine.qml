@@ -26,6 +26,7 @@ Item {
         width: Math.min(implicitWidth, line.width / 2 - Theme.unit - x)
         height: parent.height
         text: line.fact.label
+        font.pointSize: line.fact.hasSmallLabel ? Theme.caption : Theme.body
         color: Theme.secondary
     }
     Row {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Larkspan
 
 // Remembers who had the focus when something came up over it, and gives it back: with its ring if it had one.
 QtObject {
@@ -8,7 +9,8 @@ QtObject {
     property int reason: Qt.OtherFocusReason
 
     function remember(item: Item) {
-        memory.holder = item
+        // A row may have made room for another one by then, or not be the current one any more; its list knows.
+        memory.holder = item instanceof CardRow ? item.ListView.view : item
         memory.reason = item instanceof T.Control ? item["focusReason"] : Qt.OtherFocusReason
     }
 

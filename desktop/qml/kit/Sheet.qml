@@ -44,6 +44,7 @@ ModalDialog {
             id: scroller
             anchors.fill: parent
             anchors.topMargin: bar.height
+            enabled: !sheet.isBusy
         }
 
         BusyOverlay {

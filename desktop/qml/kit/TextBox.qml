@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Templates as T
 import Larkspan
+import Larkspan.Bridge
 
 // Several lines of text that the user types; it grows with them and scrolls beyond that. Tab goes on to the next control.
 FocusScope {
@@ -16,7 +17,6 @@ FocusScope {
         isFocused: area.activeFocus
     }
     Flickable {
-        id: scroller
         anchors.fill: parent
         anchors.margins: Theme.focusWidth
         contentWidth: width
@@ -37,9 +37,18 @@ FocusScope {
             renderType: Text.NativeRendering
             Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
             Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+            Keys.onReturnPressed: event => endLine(event)
+            Keys.onEnterPressed: event => endLine(event)
+            // With Shift, Qt alone puts a line separator, which ends no line for those who read the message.
+            function endLine(event: KeyEvent) {
+                event.accepted = (event.modifiers & Qt.ShiftModifier) !== 0
+                if (!event.accepted) return
+                remove(selectionStart, selectionEnd)
+                insert(cursorPosition, "\n")
+            }
             Accessible.role: Accessible.EditableText
             Accessible.name: box.name
-            onTextChanged: if (activeFocus) box.edited(text)
+            onTextChanged: if (activeFocus) box.edited(TypedText.of(textDocument))
         }
         T.ScrollBar.vertical: SlimScrollBar {}
     }

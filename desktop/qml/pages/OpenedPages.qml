@@ -20,7 +20,6 @@ FocusScope {
         sourceComponent: StatusPageDetailView {
             page: pages.dashboard.openedPage
             onWentBack: statusPage.goBack()
-            onAccountWanted: pages.dashboard.refresh()
         }
     }
     PushedPage {

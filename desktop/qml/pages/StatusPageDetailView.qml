@@ -6,8 +6,6 @@ import Larkspan.Bridge
 ScreenFrame {
     id: view
     required property StatusPageDetailBridge page
-    // The account's lists are asked for, of which the overview is made.
-    signal accountWanted
 
     title: page.title
     canGoBack: true
@@ -98,11 +96,7 @@ ScreenFrame {
     Shortcut {
         sequences: ["F5", "Ctrl+R"]
         enabled: view.visible
-        onActivated: view.page.incidents ? view.page.incidents.refresh()
-            : view.page.monitors ? view.page.monitors.refresh()
-            : view.page.components ? view.page.components.refresh()
-            : view.page.maintenances ? view.page.maintenances.refresh()
-            : view.accountWanted()
+        onActivated: view.page.refresh()
     }
     Shortcut {
         sequences: ["Ctrl+PgDown"]

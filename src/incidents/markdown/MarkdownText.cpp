@@ -1,6 +1,7 @@
 #include "incidents/markdown/MarkdownText.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "incidents/markdown/StyledText.h"
 #include "incidents/markdown/TextPieces.h"

@@ -147,6 +147,20 @@ TEST_F(ComponentsOnScreen, APageThatIsGoneTakesItsComponentWithIt)
     EXPECT_FALSE(isOpen());
 }
 
+TEST_F(ComponentsOnScreen, ALongDescriptionStandsInItsRowInWhole)
+{
+    std::string description;
+    for (int word = 0; word < 60; ++word) description += "word" + std::to_string(word) + " ";
+    serve({component("1", "REST API", R"(, "description": ")" + description + "\""), component("2", "Worker")});
+    press(Qt::Key_F5);
+    const auto& row = item(Role::ListItem, QStringLiteral("REST API"));
+    const auto& label = item(Role::StaticText, QString::fromStdString(description));
+    EXPECT_GT(label.property("lineCount").toInt(), 3);
+    EXPECT_FALSE(label.property("truncated").toBool());
+    EXPECT_GT(row.height(), label.height());
+    EXPECT_EQ(item(Role::ListItem, QStringLiteral("Worker")).y(), row.y() + row.height());
+}
+
 TEST_F(ComponentsOnScreen, AStatusLongerThanTheRowLeavesTheNameItsPlace)
 {
     serve({component("1", "REST API", R"(, "monitor_state": ")" + std::string(500, 'w') + "\"")});

@@ -205,6 +205,21 @@ TEST_F(HeadlineOnScreen, APageThatTheMenuAskedForIsTheCurrentRowInSightOnTheWayB
     EXPECT_TRUE(names(Role::ListItem).contains(QStringLiteral("page-250")));
 }
 
+TEST_F(HeadlineOnScreen, APageThatTheMenuAskedForWhileARowHadTheKeyboardHasItOnTheWayBack)
+{
+    servePages({"a", "b", "c"}, {});
+    refresh();
+    item(Role::List, QStringLiteral("Status Pages")).forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Down);
+    EXPECT_EQ(focused(), QStringLiteral("b"));
+    state->openStatusPage("c");
+    settle();
+    press(Qt::Key_Escape);
+    EXPECT_EQ(focused(), QStringLiteral("c"));
+    press(Qt::Key_Return);
+    EXPECT_EQ(*dashboard->selectedPageId, "c");
+}
+
 TEST_F(HeadlineOnScreen, ReturnOnARowOpensItsPage)
 {
     item(Role::List, QStringLiteral("Status Pages")).forceActiveFocus(Qt::TabFocusReason);

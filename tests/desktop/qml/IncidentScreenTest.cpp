@@ -178,6 +178,21 @@ TEST_F(IncidentsOnScreen, TheFormKeepsWhatWasTypedWhenTheServiceRefusesIt)
     EXPECT_TRUE(isEnabled("Save"));
 }
 
+TEST_F(IncidentsOnScreen, WhileTheFormIsSentNothingInItCanBeChanged)
+{
+    openForm();
+    type("Title", "Mail");
+    transport.forget(createURL);
+    choose("Save");
+    for (const auto* const field : {"Title", "Message (Optional)"})
+        EXPECT_FALSE(item(Role::EditableText, QString::fromUtf8(field)).isEnabled()) << field;
+    EXPECT_FALSE(item(Role::CheckBox, QStringLiteral("Notify subscribers")).isEnabled());
+    transport.answer(HttpResponse{.status = 422, .body = ""});
+    settle();
+    press(Qt::Key_Return);
+    EXPECT_TRUE(item(Role::EditableText, QStringLiteral("Title")).isEnabled());
+}
+
 TEST_F(IncidentsOnScreen, EscapeInTheFormAsksBeforeTypedTextIsLostAndElseClosesIt)
 {
     openForm();

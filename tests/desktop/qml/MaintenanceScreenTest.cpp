@@ -1,3 +1,7 @@
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "MaintenancesOnScreen.h"
@@ -239,6 +243,42 @@ TEST_F(MaintenancesOnScreen, TheFormKeepsAllWhenTheServiceRefusesIt)
     EXPECT_EQ(textOf("Title"), "Mail");
     EXPECT_EQ(textOf("End hour"), "11");
     EXPECT_TRUE(isEnabled("Save"));
+}
+
+TEST_F(MaintenancesOnScreen, WhileTheFormIsSentNothingInItCanBeChangedAndTheKeyboardIsBackAfterwards)
+{
+    openForm();
+    type("End hour", "11");
+    type("Title", "Mail");
+    transport.forget(maintenancesURL);
+    QMetaObject::invokeMethod(&item(Role::Button, QStringLiteral("Save")), "clicked");
+    settle();
+    EXPECT_TRUE(names(Role::ProgressBar).contains(QStringLiteral("Creating...")));
+    typeLetters("x");
+    for (const auto* const field : {"Title", "Message (Optional)", "Start hour"})
+        EXPECT_FALSE(item(Role::EditableText, QString::fromUtf8(field)).isEnabled()) << field;
+    EXPECT_FALSE(item(Role::Table, QStringLiteral("Start date")).isEnabled());
+    transport.answer(HttpResponse{.status = 422, .body = ""});
+    settle();
+    press(Qt::Key_Return);
+    typeLetters("y");
+    EXPECT_EQ(textOf("Title"), "Maily");
+    EXPECT_EQ(textOf("End hour"), "11");
+}
+
+TEST_F(MaintenancesOnScreen, WhatIsPastedIntoTheEditorIsSentAsItIs)
+{
+    openEditor();
+    QGuiApplication::clipboard()->setText(QStringLiteral("a\u00a0b\u2028c"));
+    focus(Role::EditableText, "Title");
+    press(Qt::Key_V, Qt::ControlModifier);
+    QGuiApplication::clipboard()->setText(QStringLiteral("a\u00a0b\u2028c\u2029d\r\ne "));
+    focus(Role::EditableText, "Message");
+    press(Qt::Key_V, Qt::ControlModifier);
+    choose("Save");
+    EXPECT_THAT(sent(),
+        testing::ElementsAre(testing::HasSubstr(
+            "{\"title\":\"Upgradea\u00a0b\u2028c\",\"message\":\"a\u00a0b\u2028c\\nd\\ne We **upgrade**.\",")));
 }
 
 TEST_F(MaintenancesOnScreen, WhileEditsAreSavedNothingCanBeTyped)

@@ -318,6 +318,17 @@ TEST_F(MonitorsOnScreen, ItsURLIsOpenedInTheBrowser)
     EXPECT_EQ(links.opened, Lines{"https://gateway.example/health"});
 }
 
+TEST_F(MonitorsOnScreen, ItsURLIsLabelledInSmallLettersAndWhatElseIsKnownIsNot)
+{
+    choose("Monitor Details");
+    const auto sizeOf = [this](const char* text) {
+        const auto& label = item(Role::StaticText, QString::fromUtf8(text));
+        return label.property("font").value<QFont>().pointSizeF() / QGuiApplication::font().pointSizeF();
+    };
+    EXPECT_NEAR(sizeOf("URL"), 0.86, 0.001);
+    for (const auto* const text : {"Interval", "300s"}) EXPECT_NEAR(sizeOf(text), 1, 0.001) << text;
+}
+
 TEST_F(MonitorsOnScreen, EachScreenCanBeLeftInMidRequest)
 {
     choose("Show latency graph");

@@ -132,13 +132,15 @@ TEST_F(TitleInOneLine, HasItsHeightWhateverTheTitle)
     }
 }
 
+/// A box and its neighbours; `typed` is what the box last said of its text.
 class BoxOfText : public testing::Test, public KitWindow {
 protected:
     BoxOfText()
         : KitWindow(QStringLiteral(R"(
+            property string typed
             Column {
                 CommandButton { objectName: "before"; text: "Before" }
-                TextBox { objectName: "box"; width: 300; name: "Text" }
+                TextBox { objectName: "box"; width: 300; name: "Text"; onEdited: text => window.typed = text }
                 CommandButton { objectName: "after"; text: "After" }
             })"))
     {
@@ -162,12 +164,25 @@ TEST_F(BoxOfText, IsLeftByTabInBothDirectionsAndHoldsNone)
     EXPECT_EQ(item(QStringLiteral("box")).property("text").toString(), QStringLiteral("a"));
 }
 
-TEST_F(BoxOfText, TakesLines)
+TEST_F(BoxOfText, TakesLinesWhetherOrNotShiftIsHeld)
 {
     press(Qt::Key_A);
     press(Qt::Key_Return);
     press(Qt::Key_B);
-    EXPECT_EQ(item(QStringLiteral("box")).property("text").toString(), QStringLiteral("a\nb"));
+    press(Qt::Key_Return, Qt::ShiftModifier);
+    press(Qt::Key_C);
+    press(Qt::Key_Enter, Qt::ShiftModifier);
+    EXPECT_EQ(property("typed").toString(), QStringLiteral("a\nb\nc\n"));
+}
+
+TEST_F(BoxOfText, ALineEndWithShiftTakesThePlaceOfWhatIsSelected)
+{
+    press(Qt::Key_A);
+    press(Qt::Key_B);
+    press(Qt::Key_Left, Qt::ShiftModifier);
+    press(Qt::Key_Return, Qt::ShiftModifier);
+    press(Qt::Key_C);
+    EXPECT_EQ(property("typed").toString(), QStringLiteral("a\nc"));
 }
 
 }  // namespace

@@ -48,6 +48,25 @@ TEST_F(SettingsOnScreen, TypingEnablesTheButtonButWhiteSpaceAloneDoesNot)
     EXPECT_TRUE(button(saveLabel).isEnabled());
 }
 
+TEST_F(SettingsOnScreen, TheAmpersandOfAButtonIsShownAndIsNoKey)
+{
+    openWithoutKey();
+    type(QStringLiteral("secret"));
+    bool isShown = false;
+    visit([&](QQuickItem& item) {
+        if (item.inherits("QQuickText") && item.isVisible()) isShown |= item.property("text") == saveLabel;
+    });
+    EXPECT_TRUE(isShown);
+    // Qt gives a button its key when it comes in sight.
+    auto& save = button(saveLabel);
+    save.setVisible(false);
+    save.setVisible(true);
+    const int requests = requestCount();
+    press(Qt::Key_Space, Qt::AltModifier);
+    EXPECT_EQ(requestCount(), requests);
+    EXPECT_TRUE(button(saveLabel).isEnabled());
+}
+
 TEST_F(SettingsOnScreen, ReturnInTheFieldDoesNothing)
 {
     openWithoutKey();

@@ -86,7 +86,8 @@ TEST_F(DetailOfAMonitor, ShowsWhatTheRecordSays)
     EXPECT_EQ(opened(monitor)->details(),
         (std::vector<Fact>{{.label = "URL",
                                .text = "https://api.acme.example/health?deep=1",
-                               .destination = "https://api.acme.example/health?deep=1"},
+                               .destination = "https://api.acme.example/health?deep=1",
+                               .hasSmallLabel = true},
             {.label = "Interval", .text = "60s"}, {.label = "Config Updated", .text = "2026-11-20"}}));
     EXPECT_EQ(view->pills(),
         (std::vector<Pill>{{"Operational", Tone::green, "checkmark.circle.fill"}, {"TCP", Tone::secondary}}));
@@ -130,7 +131,8 @@ TEST_F(DetailOfAMonitor, OpensItsURLOnlyIfThatIsAWebAddress)
     auto monitor = gateway();
     for (const auto* text : {"file:///etc/passwd", "javascript:alert(1)", "mail.acme.example"}) {
         monitor.url = text;
-        EXPECT_EQ(opened(monitor)->details(), (std::vector<Fact>{{.label = "URL", .text = text}}));
+        EXPECT_EQ(
+            opened(monitor)->details(), (std::vector<Fact>{{.label = "URL", .text = text, .hasSmallLabel = true}}));
         view->openURL();
     }
     opened()->openURL();

@@ -1,5 +1,6 @@
 #include "workspace/StatusPageDetailView.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -108,6 +109,35 @@ TEST_F(OpenedPage, HasTheScreenOfItsMaintenancesWhileTheirTabIsSelected)
     view.select(Tab::maintenances);
     EXPECT_NE(view.maintenances(), screen) << "made anew";
 }
+
+TEST_F(OpenedPage, RefreshesTheAccountForItsOverview)
+{
+    view.refresh();
+    run();
+    EXPECT_EQ(transport.requests.at(0).url, pagesURL);
+}
+
+struct RefreshedTab {
+    Tab tab;
+    const char* resource;
+};
+
+class RefreshOf : public OpenedPage, public testing::WithParamInterface<RefreshedTab> {};
+
+TEST_P(RefreshOf, ATabFetchesWhatItShowsAndNotTheAccount)
+{
+    view.select(GetParam().tab);
+    run();
+    transport.requests.clear();
+    view.refresh();
+    run();
+    ASSERT_FALSE(transport.requests.empty());
+    for (const auto& request : transport.requests) EXPECT_THAT(request.url, testing::HasSubstr(GetParam().resource));
+}
+
+INSTANTIATE_TEST_SUITE_P(EachTab, RefreshOf,
+    testing::Values(RefreshedTab{Tab::incidents, "/incidents"}, RefreshedTab{Tab::monitors, "/monitors"},
+        RefreshedTab{Tab::components, "/component"}, RefreshedTab{Tab::maintenances, "/maintenances"}));
 
 TEST_F(OpenedPage, RedrawsItsActivityWhenTheAccountPublishesNewLists)
 {

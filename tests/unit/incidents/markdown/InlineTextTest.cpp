@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <ostream>
+#include <string_view>
 
 namespace larkspan::incidents {
 
