@@ -6,8 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "api/KestruneAPI.h"
-#include "fakes/PageComponents.h"
+#include "fakes/OpenedForm.h"
 #include "fakes/Refusal.h"
 #include "presentation/Confirmation.h"
 
@@ -21,51 +20,20 @@ using Words = std::vector<std::string>;
 
 const std::string created = R"({"id": "8", "title": "Down", "created_at": "2026-11-20T09:00:00Z"})";
 
-class FormOfAnIncident : public testing::Test, public fakes::PageComponents {
+class FormOfAnIncident : public fakes::OpenedForm<CreateIncidentView> {
 protected:
-    /// With the components there to choose from.
-    std::shared_ptr<CreateIncidentView> opened()
+    FormOfAnIncident()
+        : OpenedForm(incidentsURL, created)
+    {
+    }
+
+    std::shared_ptr<CreateIncidentView> made() override
     {
         CreateIncidentView::Owner owner{.onCreated = [this](const model::Incident& incident) { note(incident.id); },
             .dismiss = [this] { note("dismiss"); }};
-        form = std::make_shared<CreateIncidentView>(
+        return std::make_shared<CreateIncidentView>(
             CreateIncidentView::Ports{api, {main, api, api, locale}}, "p", std::move(owner));
-        form->appear();
-        run();
-        transport.requests.clear();
-        return form;
     }
-
-    std::shared_ptr<CreateIncidentView> titled(const std::string& title)
-    {
-        opened()->title = title;
-        return form;
-    }
-
-    void choose(const std::string& group, const std::string& component)
-    {
-        form->selection->chooseGroup(group);
-        form->selection->chooseComponent(component);
-        run();
-        transport.requests.clear();
-    }
-
-    void note(const std::string& effect)
-    {
-        effects.push_back(effect + (form && *form->action->isInProgress ? " while busy" : ""));
-    }
-
-    /// The body of the request after "Save" was pressed.
-    std::string saved()
-    {
-        transport.script(incidentsURL, 200, created);
-        form->save();
-        run();
-        return transport.requests.empty() ? "nothing" : transport.requests.back().body.value_or("none");
-    }
-
-    std::shared_ptr<CreateIncidentView> form;
-    Words effects;
 };
 
 TEST_F(FormOfAnIncident, OpensEmptyForTheEntirePageWithSubscribersNotified)

@@ -99,7 +99,7 @@ INSTANTIATE_TEST_SUITE_P(EachState, ButtonsOfAnIncident,
 
 TEST_F(DetailOfAnIncident, OfACompletedOneCanBeNeitherAcknowledgedNorResolved)
 {
-    auto completed = decoded(record());
+    auto completed = decoded<model::Incident>(record());
     completed.status = model::IncidentStatus::completed;
     opened()->show(completed);
     EXPECT_EQ(enabledButtons(), (Words{"Escalate", "Add Update"}));
@@ -149,7 +149,7 @@ TEST_F(DetailOfAnIncident, TellsItsObserversOfItsRecordItsEditorAndItsRequests)
     opened();
     int changes = 0;
     const auto subscriptions = view->observe([&changes] { ++changes; });
-    view->show(decoded(record(resolved)));
+    view->show(decoded<model::Incident>(record(resolved)));
     EXPECT_EQ(changes, 1);
     view->addUpdate();
     EXPECT_GT(changes, 1);

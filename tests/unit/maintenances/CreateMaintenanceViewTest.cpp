@@ -6,8 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "api/KestruneAPI.h"
-#include "fakes/PageComponents.h"
+#include "fakes/OpenedForm.h"
 #include "fakes/Refusal.h"
 
 namespace larkspan::maintenances {
@@ -22,51 +21,26 @@ using Words = std::vector<std::string>;
 const std::string created = R"({"id": "8", "title": "Upgrade"})";
 const std::string anHour = R"("start_at":"2026-11-20T09:00:00Z","end_at":"2026-11-20T10:00:00Z")";
 
-class FormOfAMaintenance : public testing::Test, public fakes::PageComponents {
+class FormOfAMaintenance : public fakes::OpenedForm<CreateMaintenanceView> {
 protected:
-    std::shared_ptr<CreateMaintenanceView> opened()
+    FormOfAMaintenance()
+        : OpenedForm(maintenancesURL, created)
+    {
+    }
+
+    std::shared_ptr<CreateMaintenanceView> made() override
     {
         CreateMaintenanceView::Owner owner{
             .onCreated = [this](const model::Maintenance& maintenance) { note(maintenance.id); },
             .dismiss = [this] { note("dismiss"); }};
-        form = std::make_shared<CreateMaintenanceView>(
+        return std::make_shared<CreateMaintenanceView>(
             CreateMaintenanceView::Ports{api, clock, {main, api, api, locale}}, "p", std::move(owner));
-        form->appear();
-        run();
-        transport.requests.clear();
-        return form;
     }
 
     std::shared_ptr<CreateMaintenanceView> titled(const std::string& title = "Upgrade")
     {
-        opened()->title = title;
-        return form;
+        return OpenedForm::titled(title);
     }
-
-    void choose(const std::string& group, const std::string& component)
-    {
-        form->selection->chooseGroup(group);
-        form->selection->chooseComponent(component);
-        run();
-        transport.requests.clear();
-    }
-
-    void note(const std::string& effect)
-    {
-        effects.push_back(effect + (form && *form->action->isInProgress ? " while busy" : ""));
-    }
-
-    /// The body of the request after "Save" was pressed.
-    std::string saved()
-    {
-        transport.script(maintenancesURL, 200, created);
-        form->save();
-        run();
-        return transport.requests.empty() ? "nothing" : transport.requests.back().body.value_or("none");
-    }
-
-    std::shared_ptr<CreateMaintenanceView> form;
-    Words effects;
 };
 
 TEST_F(FormOfAMaintenance, OpensEmptyForTheEntirePageAndTheNextHour)

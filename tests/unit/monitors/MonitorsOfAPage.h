@@ -58,15 +58,6 @@ protected:
         return all;
     }
 
-    Words sent() const
-    {
-        Words lines;
-        for (const auto& request : transport.requests) {
-            lines.push_back(request.method + " " + request.url.substr(std::string("https://service.example").size()));
-        }
-        return lines;
-    }
-
     static model::StatusPage page()
     {
         model::StatusPage page;
