@@ -27,7 +27,7 @@ ComponentDetailView::ComponentDetailView(Ports ports, std::string page, Componen
 {
 }
 
-std::array<support::Subscription, 2> ComponentDetailView::observe(const std::function<void()>& observer)
+support::Subscriptions ComponentDetailView::observe(const std::function<void()>& observer)
 {
     return {objectWillChange(observer), action->objectWillChange(observer)};
 }

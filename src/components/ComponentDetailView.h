@@ -73,7 +73,7 @@ public:
     const std::shared_ptr<presentation::RunningAction> action;
 
     /// Calls `observer` before anything changes that the screen shows.
-    [[nodiscard]] std::array<support::Subscription, 2> observe(const std::function<void()>& observer);
+    [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer);
 
     /// The screen came up: fetches the groups that there are.
     void appear();

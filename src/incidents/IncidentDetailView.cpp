@@ -9,6 +9,7 @@ namespace larkspan::incidents {
 using model::Incident;
 using model::IncidentStatus;
 using presentation::ActionButton;
+using presentation::Command;
 using support::Task;
 
 namespace {
@@ -29,12 +30,12 @@ IncidentDetailView::IncidentDetailView(Ports ports, Incident shown, Owner owner)
 {
 }
 
-std::array<support::Subscription, 2> IncidentDetailView::observe(const std::function<void()>& observer)
+support::Subscriptions IncidentDetailView::observe(const std::function<void()>& observer)
 {
     return {objectWillChange(observer), action->objectWillChange(observer)};
 }
 
-std::vector<IncidentDetailView::Command> IncidentDetailView::commands() const
+std::vector<Command<IncidentDetailView>> IncidentDetailView::commands() const
 {
     const bool isIdle = !*action->isInProgress;
     if (*isEditing) {
@@ -67,16 +68,12 @@ std::vector<IncidentDetailView::Command> IncidentDetailView::commands() const
 
 std::vector<ActionButton> IncidentDetailView::buttons() const
 {
-    std::vector<ActionButton> shown;
-    for (auto& command : commands()) shown.push_back(std::move(command.button));
-    return shown;
+    return presentation::buttonsOf(commands());
 }
 
 void IncidentDetailView::press(std::string_view id)
 {
-    for (const auto& command : commands()) {
-        if (command.button.id == id && command.button.isEnabled) return command.run(*this);
-    }
+    presentation::press(id, commands(), *this);
 }
 
 void IncidentDetailView::close()

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <functional>
 #include <memory>
 #include <string>
@@ -17,6 +16,7 @@
 #include "platform/LinkOpener.h"
 #include "platform/LocaleText.h"
 #include "presentation/ActionButton.h"
+#include "presentation/Command.h"
 #include "presentation/Confirmation.h"
 #include "presentation/RunningAction.h"
 #include "support/Observable.h"
@@ -64,7 +64,7 @@ public:
     const std::shared_ptr<MessageView> message;
 
     /// Calls `observer` before anything changes that the screen shows.
-    [[nodiscard]] std::array<support::Subscription, 2> observe(const std::function<void()>& observer);
+    [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer);
 
     void show(model::Incident changed) { incident = std::move(changed); }
 
@@ -106,12 +106,7 @@ public:
     void discardChanges();
 
 private:
-    struct Command {
-        presentation::ActionButton button;
-        void (*run)(IncidentDetailView& view);
-    };
-
-    std::vector<Command> commands() const;
+    std::vector<presentation::Command<IncidentDetailView>> commands() const;
 
     static support::Task<void> acknowledge(std::shared_ptr<IncidentDetailView> self);
     static support::Task<void> resolve(std::shared_ptr<IncidentDetailView> self);

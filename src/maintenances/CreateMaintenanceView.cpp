@@ -39,7 +39,7 @@ CreateMaintenanceView::CreateMaintenanceView(Ports ports, std::string page, Owne
 {
 }
 
-std::vector<support::Subscription> CreateMaintenanceView::observe(const std::function<void()>& observer)
+support::Subscriptions CreateMaintenanceView::observe(const std::function<void()>& observer)
 {
     auto subscriptions = EventForm::observe(observer);
     subscriptions.push_back(scheduledFor->objectWillChange(observer));

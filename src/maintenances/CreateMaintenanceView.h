@@ -36,7 +36,7 @@ public:
     const std::shared_ptr<presentation::DateTimePicker> scheduledFor;
     const std::shared_ptr<presentation::DateTimePicker> scheduledUntil;
 
-    [[nodiscard]] std::vector<support::Subscription> observe(const std::function<void()>& observer) override;
+    [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer) override;
 
     /// A component is enough; a monitor of it may be left open.
     bool isSelectionComplete() const override;

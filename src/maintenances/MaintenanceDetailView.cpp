@@ -10,6 +10,7 @@ namespace larkspan::maintenances {
 using api::MaintenanceChanges;
 using model::Maintenance;
 using presentation::ActionButton;
+using presentation::Command;
 using presentation::DateTimePicker;
 using presentation::TimelineRow;
 using presentation::Tone;
@@ -28,7 +29,7 @@ MaintenanceDetailView::MaintenanceDetailView(Ports ports, Maintenance shown, Own
 {
 }
 
-std::vector<support::Subscription> MaintenanceDetailView::observe(const std::function<void()>& observer)
+support::Subscriptions MaintenanceDetailView::observe(const std::function<void()>& observer)
 {
     return {objectWillChange(observer), action->objectWillChange(observer)};
 }
@@ -43,12 +44,12 @@ std::vector<TimelineRow> MaintenanceDetailView::recordRows() const
     return recordTimeline(*currentMaintenance, ports_.locale);
 }
 
-std::vector<MaintenanceDetailView::Command> MaintenanceDetailView::commands() const
+std::vector<Command<MaintenanceDetailView>> MaintenanceDetailView::commands() const
 {
     if (*isEditing) return {};
     const bool isIdle = !*action->isInProgress;
     const auto& status = currentMaintenance->status;
-    std::vector<Command> shown;
+    std::vector<Command<MaintenanceDetailView>> shown;
     if (status == scheduled) {
         shown.push_back({{.id = "start",
                              .label = "Start Maintenance",
@@ -75,16 +76,12 @@ std::vector<MaintenanceDetailView::Command> MaintenanceDetailView::commands() co
 
 std::vector<ActionButton> MaintenanceDetailView::buttons() const
 {
-    std::vector<ActionButton> shown;
-    for (auto& command : commands()) shown.push_back(std::move(command.button));
-    return shown;
+    return presentation::buttonsOf(commands());
 }
 
 void MaintenanceDetailView::press(std::string_view id)
 {
-    for (const auto& command : commands()) {
-        if (command.button.id == id && command.button.isEnabled) return command.run(*this);
-    }
+    presentation::press(id, commands(), *this);
 }
 
 void MaintenanceDetailView::close()

@@ -16,6 +16,7 @@
 #include "platform/LinkOpener.h"
 #include "platform/LocaleText.h"
 #include "presentation/ActionButton.h"
+#include "presentation/Command.h"
 #include "presentation/Confirmation.h"
 #include "presentation/DateTimePicker.h"
 #include "presentation/RunningAction.h"
@@ -67,7 +68,7 @@ public:
     const std::shared_ptr<incidents::MessageView> message;
 
     /// Calls `observer` before anything changes that the screen shows.
-    [[nodiscard]] std::vector<support::Subscription> observe(const std::function<void()>& observer);
+    [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer);
 
     std::string title() const { return *isEditing ? "Edit Maintenance" : currentMaintenance->title; }
     presentation::Pill status() const { return statusPill(currentMaintenance->status); }
@@ -107,12 +108,7 @@ public:
     void discardChanges();
 
 private:
-    struct Command {
-        presentation::ActionButton button;
-        void (*run)(MaintenanceDetailView& view);
-    };
-
-    std::vector<Command> commands() const;
+    std::vector<presentation::Command<MaintenanceDetailView>> commands() const;
     bool hasEditedTitle() const;
     api::MaintenanceChanges edits() const;
 

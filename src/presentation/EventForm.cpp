@@ -17,7 +17,7 @@ EventForm::EventForm(
 {
 }
 
-std::vector<support::Subscription> EventForm::observe(const std::function<void()>& observer)
+support::Subscriptions EventForm::observe(const std::function<void()>& observer)
 {
     return {objectWillChange(observer), action->objectWillChange(observer), selection->objectWillChange(observer)};
 }

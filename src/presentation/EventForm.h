@@ -41,7 +41,7 @@ public:
     const std::shared_ptr<ComponentSelection> selection;
 
     /// Calls `observer` before anything changes that the form shows.
-    [[nodiscard]] virtual std::vector<support::Subscription> observe(const std::function<void()>& observer);
+    [[nodiscard]] virtual support::Subscriptions observe(const std::function<void()>& observer);
 
     /// The sheet came up: fetches what there is to choose from.
     void appear() { selection->load(); }
