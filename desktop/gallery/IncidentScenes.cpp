@@ -141,7 +141,7 @@ void reading(Detail&) {}
 
 void editing(Detail& view)
 {
-    view.addUpdate();
+    view.beginEditing();
     view.editMessage = "A fix is on its way to the EU region.";
 }
 

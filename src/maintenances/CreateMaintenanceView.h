@@ -47,8 +47,6 @@ protected:
 
 private:
     support::Task<void> create() override;
-    static support::Task<void> send(std::shared_ptr<CreateMaintenanceView> self, api::NewMaintenance arguments);
-
     api::NewMaintenance arguments() const;
 
     api::MaintenanceEndpoints& api_;

@@ -17,7 +17,7 @@ ScreenFrame {
 
     leading: CommandButton {
         text: view.detail.closeLabel
-        enabled: !view.detail.isBusy
+        enabled: view.detail.isCloseEnabled
         onClicked: view.wentBack()
     }
     trailing: [
@@ -75,7 +75,7 @@ ScreenFrame {
         isShown: view.detail.showsDeleteConfirmation
         confirmation: view.detail.deleteConfirmation
         onDismissed: view.detail.cancelDelete()
-        onConfirmed: view.detail.deleteComponent()
+        onConfirmed: view.detail.deleteRecord()
     }
     ConfirmLoader {
         isShown: view.detail.showsDiscardConfirmation

@@ -21,7 +21,7 @@ ScreenFrame {
         symbol: "trash"
         ink: Theme.red
         help: qsTr("Delete Incident")
-        enabled: view.incident.isDeleteEnabled
+        enabled: !view.incident.isBusy
         onClicked: view.incident.confirmDelete()
     }
 
@@ -40,7 +40,7 @@ ScreenFrame {
         isShown: view.incident.showsDeleteConfirmation
         confirmation: view.incident.deleteConfirmation
         onDismissed: view.incident.cancelDelete()
-        onConfirmed: view.incident.deleteIncident()
+        onConfirmed: view.incident.deleteRecord()
     }
     ConfirmLoader {
         isShown: view.incident.showsDiscardConfirmation

@@ -58,7 +58,7 @@ ScreenFrame {
         isShown: view.maintenance.showsDeleteConfirmation
         confirmation: view.maintenance.deleteConfirmation
         onDismissed: view.maintenance.cancelDelete()
-        onConfirmed: view.maintenance.removeMaintenance()
+        onConfirmed: view.maintenance.deleteRecord()
     }
     ConfirmLoader {
         isShown: view.maintenance.showsDiscardConfirmation

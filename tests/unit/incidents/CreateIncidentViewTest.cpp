@@ -44,7 +44,7 @@ TEST_F(FormOfAnIncident, OpensEmptyForTheEntirePageWithSubscribersNotified)
     EXPECT_TRUE(*form->notifySubscribers);
     EXPECT_EQ(*form->selection->selectedComponentGroupID, "");
     EXPECT_FALSE(form->isSaveEnabled());
-    EXPECT_TRUE(form->isCancelEnabled());
+    EXPECT_TRUE(form->isCloseEnabled());
     EXPECT_EQ(form->selectionHint(), "Choose a group only when the incident is limited to it.");
     form->selection->chooseGroup("back");
     EXPECT_EQ(form->selectionHint(), "Then choose the affected component within that group.");
@@ -157,9 +157,9 @@ TEST_F(FormOfAnIncident, WhileItIsSentCanNeitherBeSavedAgainNorLeft)
 {
     titled("Down")->save();
     EXPECT_FALSE(form->isSaveEnabled());
-    EXPECT_FALSE(form->isCancelEnabled());
+    EXPECT_FALSE(form->isCloseEnabled());
     form->save();
-    form->cancel();
+    form->close();
     form->requestClose();
     run();
     EXPECT_EQ(transport.requests.size(), 1u);
@@ -215,7 +215,7 @@ TEST_F(FormOfAnIncident, LeftByEscapeWithSomethingTypedAsksFirst)
 
 TEST_F(FormOfAnIncident, CancelledClosesWithoutAsking)
 {
-    titled("Down")->cancel();
+    titled("Down")->close();
     EXPECT_EQ(effects, Words{"dismiss"});
 }
 

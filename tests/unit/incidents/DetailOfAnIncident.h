@@ -40,7 +40,7 @@ protected:
 
     std::shared_ptr<IncidentDetailView> editing(const std::string& text)
     {
-        opened()->addUpdate();
+        opened()->beginEditing();
         view->editMessage = text;
         return view;
     }

@@ -114,6 +114,17 @@ TEST_F(DetailOfAnIncident, NoLongerAsksAboutATextThatTheServiceHasMeanwhile)
     EXPECT_FALSE(*view->isEditing);
 }
 
+TEST_F(DetailOfAnIncident, StaysInSightWhereATextIsDiscardedThatTheServiceHasMeanwhile)
+{
+    editing("hello")->saveUpdate();
+    run();
+    view->requestClose();
+    transport.answer(HttpResponse{200, record()});
+    run();
+    view->discardChanges();
+    EXPECT_EQ(effects, Words{"update while busy"});
+}
+
 }  // namespace
 
 }  // namespace larkspan::incidents

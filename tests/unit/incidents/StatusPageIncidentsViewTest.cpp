@@ -210,7 +210,7 @@ TEST_F(OpenedIncident, ThatIsDeletedClosesAndIsGoneAfterTheLoad)
 {
     serve({record("2")});
     transport.script(recordURL + "1", 200, "");
-    view->detail()->deleteIncident();
+    view->detail()->deleteRecord();
     run();
     EXPECT_FALSE(view->presentedIncident->has_value());
     EXPECT_EQ(ids(), Words{"2"});
@@ -233,7 +233,7 @@ TEST_F(OpenedIncident, ThatIsClosedInMidRequestDoesNotComeBackButItsRowIsBrought
 
 TEST_F(OpenedIncident, ThatIsClosedWhileItIsDeletedIsGoneWhenTheServiceHasDone)
 {
-    view->detail()->deleteIncident();
+    view->detail()->deleteRecord();
     run();
     view->closeIncident();
     run();
@@ -246,7 +246,7 @@ TEST_F(OpenedIncident, ThatIsClosedWhileItIsDeletedIsGoneWhenTheServiceHasDone)
 
 TEST_F(OpenedIncident, ThatEndsItsRequestBehindAnotherLeavesThatOneAlone)
 {
-    view->detail()->deleteIncident();
+    view->detail()->deleteRecord();
     run();
     view->closeIncident();
     run();
@@ -296,7 +296,7 @@ TEST_F(FormOnAPage, IsUpWithItsChoicesUntilItIsCancelled)
     const auto form = view->form();
     view->openCreateIncident();
     EXPECT_EQ(view->form(), form) << "asked for twice it is one";
-    form->cancel();
+    form->close();
     EXPECT_FALSE(*view->showCreateIncident);
     EXPECT_EQ(view->form(), nullptr);
     run();
@@ -350,11 +350,11 @@ TEST_F(FormOnAPage, WithATypedTextIsWhatLeavingTheScreenWouldLose)
     EXPECT_FALSE(view->hasUnsavedText());
     view->form()->title = "New";
     EXPECT_TRUE(view->hasUnsavedText());
-    view->form()->cancel();
+    view->form()->close();
     EXPECT_FALSE(view->hasUnsavedText());
     open("1");
     EXPECT_FALSE(view->hasUnsavedText());
-    view->detail()->addUpdate();
+    view->detail()->beginEditing();
     view->detail()->editMessage = "text";
     EXPECT_TRUE(view->hasUnsavedText());
 }

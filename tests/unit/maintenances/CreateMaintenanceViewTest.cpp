@@ -186,9 +186,9 @@ TEST_F(FormOfAMaintenance, WhileItIsSentCanNeitherBeSavedAgainNorLeft)
 {
     titled()->save();
     EXPECT_FALSE(form->isSaveEnabled());
-    EXPECT_FALSE(form->isCancelEnabled());
+    EXPECT_FALSE(form->isCloseEnabled());
     form->save();
-    form->cancel();
+    form->close();
     form->requestClose();
     run();
     EXPECT_EQ(transport.requests.size(), 1u);

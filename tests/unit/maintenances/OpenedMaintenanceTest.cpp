@@ -105,7 +105,7 @@ TEST_F(OpenedMaintenance, ThatIsDeletedLosesItsRowAtOnceAndCloses)
 {
     transport.forget(maintenancesURL);
     transport.script(urlOf("1"), 204, "");
-    view->detail()->removeMaintenance();
+    view->detail()->deleteRecord();
     run();
     EXPECT_EQ(ids(), Words{"2"});
     EXPECT_FALSE(view->presentedMaintenance->has_value());
@@ -127,7 +127,7 @@ TEST_F(OpenedMaintenance, ThatIsClosedInMidRequestDoesNotComeBackButItsRowIsPatc
 
 TEST_F(OpenedMaintenance, ThatEndsItsDeletionBehindAnotherLosesItsRowAndLeavesThatOneAlone)
 {
-    view->detail()->removeMaintenance();
+    view->detail()->deleteRecord();
     run();
     view->closeMaintenance();
     run();
@@ -142,7 +142,7 @@ TEST_F(OpenedMaintenance, ThatEndsItsDeletionBehindAnotherLosesItsRowAndLeavesTh
 
 TEST_F(OpenedMaintenance, WhoseScreenIsGoneEndsItsRequestsForNobody)
 {
-    view->detail()->removeMaintenance();
+    view->detail()->deleteRecord();
     run();
     const std::weak_ptr<StatusPageMaintenancesView> held = view;
     view.reset();
@@ -179,7 +179,7 @@ TEST_F(MaintenanceFormOnAPage, IsUpWithItsChoicesUntilItIsCancelled)
     const auto form = view->form();
     view->openCreateMaintenance();
     EXPECT_EQ(view->form(), form) << "asked for twice it is one";
-    form->cancel();
+    form->close();
     EXPECT_FALSE(*view->showCreateSheet);
     EXPECT_EQ(view->form(), nullptr);
     run();
@@ -225,7 +225,7 @@ TEST_F(MaintenanceFormOnAPage, WithATypedTextIsWhatLeavingTheScreenWouldLose)
     EXPECT_FALSE(view->hasUnsavedText());
     view->form()->title = "New";
     EXPECT_TRUE(view->hasUnsavedText());
-    view->form()->cancel();
+    view->form()->close();
     EXPECT_FALSE(view->hasUnsavedText());
     open("1");
     view->detail()->beginEditing();
