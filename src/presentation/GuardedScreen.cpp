@@ -19,7 +19,7 @@ void GuardedScreen::close()
 {
     // Its owner may let go of it here.
     const auto self = shared_from_this();
-    if (isCloseEnabled()) leave();
+    if (isCloseEnabled() && !isDismissed_) leave();
 }
 
 void GuardedScreen::requestClose()
@@ -28,6 +28,12 @@ void GuardedScreen::requestClose()
         showDiscardConfirmation = true;
     else
         close();
+}
+
+void GuardedScreen::dismiss()
+{
+    isDismissed_ = true;
+    dismiss_();
 }
 
 void GuardedScreen::discardChanges()

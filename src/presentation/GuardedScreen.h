@@ -30,7 +30,7 @@ public:
     virtual bool hasUnsavedText() const = 0;
     /// Also while a request runs, unless the screen has to show how that ends.
     virtual bool isCloseEnabled() const { return true; }
-    /// Leaves without a question.
+    /// Leaves without a question. Pressed again before the screen has gone, it does nothing.
     void close();
     /// Escape, the way back or a press outside: closes, but asks first where text would be lost.
     void requestClose();
@@ -42,7 +42,7 @@ protected:
     /// `dismiss` closes the screen.
     GuardedScreen(platform::Executor& main, std::function<void()> dismiss);
 
-    void dismiss() const { dismiss_(); }
+    void dismiss();
 
     /// `screen` as its requests hold it.
     template <typename Screen>
@@ -56,6 +56,7 @@ private:
     virtual void leave() { dismiss(); }
 
     const std::function<void()> dismiss_;
+    bool isDismissed_ = false;
 };
 
 }  // namespace larkspan::presentation

@@ -85,6 +85,14 @@ TEST_F(DetailOfAnIncident, LeftByEscapeClosesTheEditorFirstAndThenTheScreen)
     EXPECT_EQ(effects, Words{"dismiss"});
 }
 
+TEST_F(DetailOfAnIncident, LeftTwiceBeforeItHasGoneTellsItsOwnerOnce)
+{
+    opened()->requestClose();
+    view->requestClose();
+    view->close();
+    EXPECT_EQ(effects, Words{"dismiss"});
+}
+
 TEST_F(DetailOfAnIncident, LeftByEscapeWithATypedTextAsksFirst)
 {
     editing("hello")->requestClose();
