@@ -20,8 +20,8 @@ protected:
 
     /// `created` is what the service answers at `eventsURL`.
     OpenedForm(std::string eventsURL, std::string created)
-        : eventsURL_(std::move(eventsURL))
-        , created_(std::move(created))
+        : created(std::move(created))
+        , eventsURL_(std::move(eventsURL))
     {
     }
 
@@ -59,18 +59,18 @@ protected:
     /// The body of the request after "Save" was pressed.
     std::string saved()
     {
-        transport.script(eventsURL_, 200, created_);
+        transport.script(eventsURL_, 200, created);
         form->save();
         run();
         return transport.requests.empty() ? "nothing" : transport.requests.back().body.value_or("none");
     }
 
+    const std::string created;
     std::shared_ptr<Form> form;
     Words effects;
 
 private:
     const std::string eventsURL_;
-    const std::string created_;
 };
 
 }  // namespace larkspan::fakes

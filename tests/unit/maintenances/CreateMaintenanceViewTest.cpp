@@ -1,13 +1,10 @@
-#include "maintenances/CreateMaintenanceView.h"
-
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 #include <vector>
 
-#include "fakes/OpenedForm.h"
 #include "fakes/Refusal.h"
+#include "maintenances/FormOfAMaintenance.h"
 
 namespace larkspan::maintenances {
 
@@ -15,33 +12,9 @@ namespace {
 
 using namespace std::chrono_literals;
 using fakes::Refusal;
-using platform::HttpResponse;
 using Words = std::vector<std::string>;
 
-const std::string created = R"({"id": "8", "title": "Upgrade"})";
 const std::string anHour = R"("start_at":"2026-11-20T09:00:00Z","end_at":"2026-11-20T10:00:00Z")";
-
-class FormOfAMaintenance : public fakes::OpenedForm<CreateMaintenanceView> {
-protected:
-    FormOfAMaintenance()
-        : OpenedForm(maintenancesURL, created)
-    {
-    }
-
-    std::shared_ptr<CreateMaintenanceView> made() override
-    {
-        CreateMaintenanceView::Owner owner{
-            .onCreated = [this](const model::Maintenance& maintenance) { note(maintenance.id); },
-            .dismiss = [this] { note("dismiss"); }};
-        return std::make_shared<CreateMaintenanceView>(
-            CreateMaintenanceView::Ports{api, clock, {main, api, api, locale}}, "p", std::move(owner));
-    }
-
-    std::shared_ptr<CreateMaintenanceView> titled(const std::string& title = "Upgrade")
-    {
-        return OpenedForm::titled(title);
-    }
-};
 
 TEST_F(FormOfAMaintenance, OpensEmptyForTheEntirePageAndTheNextHour)
 {
@@ -174,27 +147,6 @@ TEST_F(FormOfAMaintenance, WhoseGroupsCannotBeFetchedSaysNothing)
     EXPECT_TRUE(form->isSaveEnabled());
 }
 
-TEST_F(FormOfAMaintenance, CreatedTellsItsOwnerThenClosesThenIsIdle)
-{
-    titled();
-    saved();
-    EXPECT_EQ(effects, (Words{"8 while busy", "dismiss while busy"}));
-    EXPECT_FALSE(*form->action->isInProgress);
-}
-
-TEST_F(FormOfAMaintenance, WhileItIsSentCanNeitherBeSavedAgainNorLeft)
-{
-    titled()->save();
-    EXPECT_FALSE(form->isSaveEnabled());
-    EXPECT_FALSE(form->isCloseEnabled());
-    form->save();
-    form->close();
-    form->requestClose();
-    run();
-    EXPECT_EQ(transport.requests.size(), 1u);
-    EXPECT_EQ(effects, Words{});
-}
-
 class RefusedMaintenance : public FormOfAMaintenance, public testing::WithParamInterface<Refusal> {};
 
 TEST_P(RefusedMaintenance, IsAnAlertOverAFormThatKeepsAllThatWasTypedAndChosen)
@@ -253,18 +205,6 @@ TEST_F(FormOfAMaintenance, TellsItsObserversOfItsDatesToo)
     form->action->dismissAlert();
     form->selection->chooseMonitor("m");
     EXPECT_EQ(changes, 5);
-}
-
-TEST_F(FormOfAMaintenance, ThatIsGoneStillEndsItsRequestAndThenIsFreed)
-{
-    titled()->save();
-    run();
-    const std::weak_ptr<CreateMaintenanceView> held = form;
-    form.reset();
-    EXPECT_FALSE(held.expired());
-    transport.answer(HttpResponse{200, created});
-    run();
-    EXPECT_TRUE(held.expired());
 }
 
 }  // namespace
