@@ -10,10 +10,9 @@ using components::ComponentDetailView;
 
 ComponentDetailBridge::ComponentDetailBridge(
     std::shared_ptr<ComponentDetailView> view, const ScreenUpdates& updates, QObject* parent)
-    : ScreenBridge(updates, parent)
+    : EditableDetailBridge(view, updates, parent)
     , view_(std::move(view))
 {
-    followChangesOf(*view_);
     ComponentDetailBridge::readState();
 }
 
@@ -28,11 +27,6 @@ int ComponentDetailBridge::selectedStatus() const
 {
     const auto place = view_->selectedStatus();
     return place ? static_cast<int>(*place) : -1;
-}
-
-ConfirmationValue ComponentDetailBridge::deleteConfirmation() const
-{
-    return ConfirmationValue::of(ComponentDetailView::deleteConfirmation);
 }
 
 void ComponentDetailBridge::readState()

@@ -7,9 +7,8 @@
 #include <cstddef>
 #include <memory>
 
-#include "bridge/ScreenBridge.h"
+#include "bridge/EditableDetailBridge.h"
 #include "bridge/values/ChoiceValue.h"
-#include "bridge/values/ConfirmationValue.h"
 #include "bridge/values/FactValue.h"
 #include "bridge/values/PillValue.h"
 #include "components/ComponentDetailView.h"
@@ -17,7 +16,7 @@
 namespace larkspan::bridge {
 
 /// An opened component for QML; worded and decided by `components::ComponentDetailView`.
-class ComponentDetailBridge : public ScreenBridge {
+class ComponentDetailBridge : public larkspan::bridge::EditableDetailBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
@@ -27,8 +26,6 @@ class ComponentDetailBridge : public ScreenBridge {
     Q_PROPERTY(bool showsDetails READ showsDetails NOTIFY changed)
     Q_PROPERTY(QList<larkspan::bridge::FactValue> details MEMBER details_ NOTIFY changed)
     Q_PROPERTY(QString description READ description NOTIFY changed)
-    Q_PROPERTY(QString closeLabel READ closeLabel NOTIFY changed)
-    Q_PROPERTY(bool isEditing READ isEditing NOTIFY changed)
     Q_PROPERTY(QString editedName READ editedName NOTIFY changed)
     Q_PROPERTY(QList<QString> statuses READ statuses CONSTANT)
     /// The place of the edited status among them; -1 if it is none of them.
@@ -37,14 +34,7 @@ class ComponentDetailBridge : public ScreenBridge {
     Q_PROPERTY(bool showsGroupPicker READ showsGroupPicker NOTIFY changed)
     Q_PROPERTY(QList<larkspan::bridge::ChoiceValue> groups MEMBER groups_ NOTIFY changed)
     Q_PROPERTY(QString selectedGroup READ selectedGroup NOTIFY changed)
-    Q_PROPERTY(bool isSaveEnabled READ isSaveEnabled NOTIFY changed)
-    Q_PROPERTY(bool showsDeleteConfirmation READ showsDeleteConfirmation NOTIFY changed)
-    Q_PROPERTY(larkspan::bridge::ConfirmationValue deleteConfirmation READ deleteConfirmation CONSTANT)
-    Q_PROPERTY(bool showsDiscardConfirmation READ showsDiscardConfirmation NOTIFY changed)
-    Q_PROPERTY(larkspan::bridge::ConfirmationValue discardConfirmation READ discardConfirmation CONSTANT)
-    Q_PROPERTY(bool isBusy READ isBusy NOTIFY changed)
     Q_PROPERTY(QString busyText READ busyText CONSTANT)
-    Q_PROPERTY(QString alert READ alert NOTIFY changed)
 
 public:
     ComponentDetailBridge(
@@ -55,38 +45,20 @@ public:
     PillValue status() const { return PillValue::of(view_->status()); }
     bool showsDetails() const { return view_->showsDetails(); }
     QString description() const { return words(view_->description()); }
-    QString closeLabel() const { return words(view_->closeLabel()); }
-    bool isEditing() const { return *view_->isEditing; }
     QString editedName() const { return words(*view_->editedName); }
     QList<QString> statuses() const;
     int selectedStatus() const;
     QString editedDescription() const { return words(*view_->editedDescription); }
     bool showsGroupPicker() const { return view_->showsGroupPicker(); }
     QString selectedGroup() const { return words(view_->selectedGroup()); }
-    bool isSaveEnabled() const { return view_->isSaveEnabled(); }
-    bool showsDeleteConfirmation() const { return *view_->showingDeleteConfirmation; }
-    ConfirmationValue deleteConfirmation() const;
-    bool showsDiscardConfirmation() const { return *view_->showDiscardConfirmation; }
-    ConfirmationValue discardConfirmation() const { return ConfirmationValue::of(presentation::discardConfirmation); }
-    bool isBusy() const { return !view_->isIdle(); }
     QString busyText() const { return words(components::ComponentDetailView::busyText); }
-    QString alert() const { return words(*view_->action->alert); }
 
     Q_INVOKABLE void openURL() { view_->openURL(); }
-    Q_INVOKABLE void beginEditing() { view_->beginEditing(); }
     Q_INVOKABLE void editName(const QString& text) { view_->editedName = text.toStdString(); }
     Q_INVOKABLE void chooseStatus(int place) { view_->chooseStatus(static_cast<std::size_t>(place)); }
     Q_INVOKABLE void editDescription(const QString& text) { view_->editedDescription = text.toStdString(); }
     Q_INVOKABLE void chooseGroup(const QString& id) { view_->chooseGroup(id.toStdString()); }
     Q_INVOKABLE void saveChanges() { view_->saveChanges(); }
-    Q_INVOKABLE void close() { view_->close(); }
-    Q_INVOKABLE void requestClose() { view_->requestClose(); }
-    Q_INVOKABLE void keepEditing() { view_->keepEditing(); }
-    Q_INVOKABLE void discardChanges() { view_->discardChanges(); }
-    Q_INVOKABLE void confirmDelete() { view_->confirmDelete(); }
-    Q_INVOKABLE void cancelDelete() { view_->cancelDelete(); }
-    Q_INVOKABLE void deleteComponent() { view_->deleteComponent(); }
-    Q_INVOKABLE void dismissAlert() { view_->action->dismissAlert(); }
 
 private:
     void readState() override;

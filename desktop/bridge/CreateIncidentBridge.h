@@ -10,7 +10,6 @@
 namespace larkspan::bridge {
 
 /// The form of a new incident for QML; worded and decided by `incidents::CreateIncidentView`.
-/// The base has its whole name, since QML's tools look for the one that is written here.
 class CreateIncidentBridge : public larkspan::bridge::EventFormBridge {
     Q_OBJECT
     QML_ELEMENT

@@ -11,7 +11,6 @@
 namespace larkspan::bridge {
 
 /// The form of a new maintenance for QML; worded and decided by `maintenances::CreateMaintenanceView`.
-/// The base has its whole name, since QML's tools look for the one that is written here.
 class CreateMaintenanceBridge : public larkspan::bridge::EventFormBridge {
     Q_OBJECT
     QML_ELEMENT

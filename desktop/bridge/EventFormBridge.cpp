@@ -8,10 +8,9 @@ namespace larkspan::bridge {
 
 EventFormBridge::EventFormBridge(
     std::shared_ptr<presentation::EventForm> form, const ScreenUpdates& updates, QObject* parent)
-    : ScreenBridge(updates, parent)
+    : GuardedScreenBridge(form, updates, parent)
     , form_(std::move(form))
 {
-    followChangesOf(*form_);
     EventFormBridge::readState();
 }
 

@@ -5,16 +5,14 @@
 
 #include <memory>
 
-#include "bridge/ScreenBridge.h"
-#include "bridge/Words.h"
+#include "bridge/GuardedScreenBridge.h"
 #include "bridge/values/ChoiceValue.h"
-#include "bridge/values/ConfirmationValue.h"
 #include "presentation/EventForm.h"
 
 namespace larkspan::bridge {
 
 /// What the forms of all events have for QML; worded and decided by `presentation::EventForm`.
-class EventFormBridge : public ScreenBridge {
+class EventFormBridge : public larkspan::bridge::GuardedScreenBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("what the forms of all events are")
@@ -30,13 +28,7 @@ class EventFormBridge : public ScreenBridge {
     Q_PROPERTY(QString selectedMonitor READ selectedMonitor NOTIFY changed)
     Q_PROPERTY(bool isLoadingComponents READ isLoadingComponents NOTIFY changed)
     Q_PROPERTY(QString selectionHint READ selectionHint NOTIFY changed)
-    Q_PROPERTY(bool isSaveEnabled READ isSaveEnabled NOTIFY changed)
-    Q_PROPERTY(bool isCancelEnabled READ isCancelEnabled NOTIFY changed)
-    Q_PROPERTY(bool isBusy READ isBusy NOTIFY changed)
     Q_PROPERTY(QString busyText READ busyText CONSTANT)
-    Q_PROPERTY(QString alert READ alert NOTIFY changed)
-    Q_PROPERTY(bool showsDiscardConfirmation READ showsDiscardConfirmation NOTIFY changed)
-    Q_PROPERTY(larkspan::bridge::ConfirmationValue discardConfirmation READ discardConfirmation CONSTANT)
 
 public:
     QString selectedGroup() const { return words(*selection().selectedComponentGroupID); }
@@ -48,13 +40,7 @@ public:
     QString selectedMonitor() const { return words(*selection().selectedMonitorID); }
     bool isLoadingComponents() const { return *selection().isLoadingComponents; }
     QString selectionHint() const { return words(form_->selectionHint()); }
-    bool isSaveEnabled() const { return form_->isSaveEnabled(); }
-    bool isCancelEnabled() const { return form_->isCancelEnabled(); }
-    bool isBusy() const { return *form_->action->isInProgress; }
     QString busyText() const { return words(presentation::EventForm::busyText); }
-    QString alert() const { return words(*form_->action->alert); }
-    bool showsDiscardConfirmation() const { return *form_->showDiscardConfirmation; }
-    ConfirmationValue discardConfirmation() const { return ConfirmationValue::of(presentation::discardConfirmation); }
 
     Q_INVOKABLE void editTitle(const QString& text) { form_->title = text.toStdString(); }
     Q_INVOKABLE void editMessage(const QString& text) { form_->message = text.toStdString(); }
@@ -62,11 +48,6 @@ public:
     Q_INVOKABLE void chooseComponent(const QString& id) { form_->selection->chooseComponent(id.toStdString()); }
     Q_INVOKABLE void chooseMonitor(const QString& id) { form_->selection->chooseMonitor(id.toStdString()); }
     Q_INVOKABLE void save() { form_->save(); }
-    Q_INVOKABLE void cancel() { form_->cancel(); }
-    Q_INVOKABLE void requestClose() { form_->requestClose(); }
-    Q_INVOKABLE void keepEditing() { form_->keepEditing(); }
-    Q_INVOKABLE void discardChanges() { form_->discardChanges(); }
-    Q_INVOKABLE void dismissAlert() { form_->action->dismissAlert(); }
 
 protected:
     EventFormBridge(std::shared_ptr<presentation::EventForm> form, const ScreenUpdates& updates, QObject* parent);

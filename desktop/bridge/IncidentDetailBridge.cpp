@@ -10,17 +10,11 @@ using incidents::IncidentDetailView;
 
 IncidentDetailBridge::IncidentDetailBridge(
     std::shared_ptr<IncidentDetailView> view, const ScreenUpdates& updates, QObject* parent)
-    : ScreenBridge(updates, parent)
+    : EditableDetailBridge(view, updates, parent)
     , view_(std::move(view))
     , message_(view_->message, updates)
 {
-    followChangesOf(*view_);
     IncidentDetailBridge::readState();
-}
-
-ConfirmationValue IncidentDetailBridge::deleteConfirmation() const
-{
-    return ConfirmationValue::of(IncidentDetailView::deleteConfirmation);
 }
 
 void IncidentDetailBridge::readState()

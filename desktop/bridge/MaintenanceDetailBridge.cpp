@@ -10,19 +10,13 @@ using maintenances::MaintenanceDetailView;
 
 MaintenanceDetailBridge::MaintenanceDetailBridge(
     std::shared_ptr<MaintenanceDetailView> view, const ScreenUpdates& updates, QObject* parent)
-    : ScreenBridge(updates, parent)
+    : EditableDetailBridge(view, updates, parent)
     , view_(std::move(view))
     , message_(view_->message, updates)
     , editedScheduledFor_(view_->editedScheduledFor, updates)
     , editedScheduledUntil_(view_->editedScheduledUntil, updates)
 {
-    followChangesOf(*view_);
     MaintenanceDetailBridge::readState();
-}
-
-ConfirmationValue MaintenanceDetailBridge::deleteConfirmation() const
-{
-    return ConfirmationValue::of(MaintenanceDetailView::deleteConfirmation);
 }
 
 void MaintenanceDetailBridge::readState()

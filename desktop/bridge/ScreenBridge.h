@@ -51,7 +51,7 @@ protected:
 
 private:
     ChangeNotice notice_;
-    std::vector<support::Subscription> subscriptions_;
+    support::Subscriptions subscriptions_;
 };
 
 }  // namespace larkspan::bridge

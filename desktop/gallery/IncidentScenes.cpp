@@ -115,7 +115,7 @@ Incident resolved()
 
 void editing(Detail& view)
 {
-    view.addUpdate();
+    view.beginEditing();
     view.editMessage = "A fix is on its way to the EU region.";
 }
 

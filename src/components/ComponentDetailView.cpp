@@ -18,23 +18,26 @@ using presentation::Fact;
 using support::Task;
 using support::unlessEmpty;
 
-ComponentDetailView::ComponentDetailView(Ports ports, std::string page, Component shown, Owner owner)
-    : pageId(std::move(page))
-    , component(*this, std::move(shown))
-    , action(std::make_shared<presentation::RunningAction>(ports.main))
-    , ports_(ports)
-    , owner_(std::move(owner))
-{
-}
+namespace {
 
-std::array<support::Subscription, 2> ComponentDetailView::observe(const std::function<void()>& observer)
+constexpr presentation::Confirmation deletion{
+    .title = "Delete Component", .text = {}, .confirm = "Delete", .cancel = "Cancel"};
+
+}  // namespace
+
+ComponentDetailView::ComponentDetailView(Ports ports, std::string page, Component shown, Owner owner)
+    : EditableDetail(ports.main, deletion, std::move(owner.dismiss))
+    , pageId(std::move(page))
+    , component(*this, std::move(shown))
+    , ports_(ports)
+    , onUpdate_(std::move(owner.onUpdate))
+    , onDelete_(std::move(owner.onDelete))
 {
-    return {objectWillChange(observer), action->objectWillChange(observer)};
 }
 
 void ComponentDetailView::appear()
 {
-    support::start(ports_.main, loadGroups(shared_from_this()));
+    support::start(ports_.main, loadGroups(held(this)));
 }
 
 Task<void> ComponentDetailView::loadGroups(std::shared_ptr<ComponentDetailView> self)
@@ -75,24 +78,18 @@ void ComponentDetailView::openURL() const
     }
 }
 
-void ComponentDetailView::close()
-{
-    // Its owner may let go of it here.
-    const auto self = shared_from_this();
-    if (!isIdle()) return;
-    if (*isEditing)
-        isEditing = false;
-    else
-        owner_.dismiss();
-}
-
-void ComponentDetailView::beginEditing()
+void ComponentDetailView::fillEditor()
 {
     editedName = component->name;
     editedStatus = component->status;
     editedDescription = description();
     editedGroupId = component->groupId;
-    isEditing = true;
+}
+
+bool ComponentDetailView::isEdited() const
+{
+    return *editedName != component->name || *editedStatus != component->status || *editedDescription != description()
+        || *editedGroupId != component->groupId;
 }
 
 std::optional<std::size_t> ComponentDetailView::selectedStatus() const
@@ -115,7 +112,7 @@ bool ComponentDetailView::isSaveEnabled() const
 void ComponentDetailView::saveChanges()
 {
     if (!isSaveEnabled()) return;
-    action->run(save(shared_from_this(),
+    action->run(save(held(this),
         {.name = std::string(support::trimmed(*editedName)),
             .description = unlessEmpty(*editedDescription),
             .status = *editedStatus,
@@ -127,49 +124,21 @@ Task<void> ComponentDetailView::save(std::shared_ptr<ComponentDetailView> self, 
     auto updating = self->ports_.api.updateComponent(self->component->id, std::move(changes));
     const Component updated = co_await std::move(updating);
     self->component = updated;
-    self->owner_.onUpdate(updated);
-    self->showDiscardConfirmation = false;
-    self->isEditing = false;
+    self->onUpdate_(updated);
+    self->closeEditor();
 }
 
-void ComponentDetailView::confirmDelete()
+Task<void> ComponentDetailView::remove()
 {
-    if (isIdle()) showingDeleteConfirmation = true;
+    return deleteComponent(held(this));
 }
 
-void ComponentDetailView::deleteComponent()
-{
-    showingDeleteConfirmation = false;
-    action->run(remove(shared_from_this()));
-}
-
-Task<void> ComponentDetailView::remove(std::shared_ptr<ComponentDetailView> self)
+Task<void> ComponentDetailView::deleteComponent(std::shared_ptr<ComponentDetailView> self)
 {
     auto deleting = self->ports_.api.deleteComponent(self->component->id);
     co_await std::move(deleting);
-    self->owner_.onDelete(*self->component);
-    self->owner_.dismiss();
-}
-
-bool ComponentDetailView::hasUnsavedText() const
-{
-    return *isEditing
-        && (*editedName != component->name || *editedStatus != component->status || *editedDescription != description()
-            || *editedGroupId != component->groupId);
-}
-
-void ComponentDetailView::requestClose()
-{
-    if (isIdle() && hasUnsavedText())
-        showDiscardConfirmation = true;
-    else
-        close();
-}
-
-void ComponentDetailView::discardChanges()
-{
-    showDiscardConfirmation = false;
-    isEditing = false;
+    self->onDelete_(*self->component);
+    self->dismiss();
 }
 
 }  // namespace larkspan::components

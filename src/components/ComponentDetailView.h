@@ -17,9 +17,8 @@
 #include "platform/Executor.h"
 #include "platform/LinkOpener.h"
 #include "presentation/Choice.h"
-#include "presentation/Confirmation.h"
+#include "presentation/EditableDetail.h"
 #include "presentation/Fact.h"
-#include "presentation/RunningAction.h"
 #include "support/Observable.h"
 #include "support/Task.h"
 
@@ -27,7 +26,7 @@ namespace larkspan::components {
 
 /// One component, its editor and its deletion. It has a copy of the record and tells its owner of each success, so that
 /// nothing is fetched again. Main thread only; closing it stops no request.
-class ComponentDetailView final : public support::Observable, public std::enable_shared_from_this<ComponentDetailView> {
+class ComponentDetailView final : public presentation::EditableDetail {
 public:
     struct Ports {
         platform::Executor& main;
@@ -44,8 +43,6 @@ public:
 
     static constexpr std::string_view title = "Component Details";
     static constexpr std::string_view busyText = "Processing...";
-    static constexpr presentation::Confirmation deleteConfirmation{
-        .title = "Delete Component", .text = {}, .confirm = "Delete", .cancel = "Cancel"};
 
     struct StatusChoice {
         std::string_view label;
@@ -61,19 +58,12 @@ public:
 
     support::Published<model::Component> component;
     support::Published<std::vector<model::ComponentGroup>> groups{*this};
-    support::Published<bool> isEditing{*this, false};
     support::Published<std::string> editedName{*this};
     support::Published<std::string> editedStatus{*this, "up"};
     support::Published<std::string> editedDescription{*this};
     support::Published<std::optional<std::string>> editedGroupId{*this};
-    support::Published<bool> showingDeleteConfirmation{*this, false};
-    /// The question is up whether what was edited may be lost.
-    support::Published<bool> showDiscardConfirmation{*this, false};
-    /// The request that runs, and the alert of the one that failed.
-    const std::shared_ptr<presentation::RunningAction> action;
-
-    /// Calls `observer` before anything changes that the screen shows.
-    [[nodiscard]] std::array<support::Subscription, 2> observe(const std::function<void()>& observer);
+    /// The question of every detail, by the name that it has for a component.
+    support::Published<bool>& showingDeleteConfirmation = showDeleteConfirmation;
 
     /// The screen came up: fetches the groups that there are.
     void appear();
@@ -87,13 +77,6 @@ public:
     /// Opens the component's address; what is no web address is not opened.
     void openURL() const;
 
-    bool isIdle() const { return !*action->isInProgress; }
-    /// The button that leaves the editor or, outside it, the screen.
-    std::string_view closeLabel() const { return *isEditing ? "Cancel" : "Close"; }
-    void close();
-
-    /// Opens the editor with the values that the component has.
-    void beginEditing();
     /// The place of the edited status among those that can be chosen; absent for any other word.
     std::optional<std::size_t> selectedStatus() const;
     void chooseStatus(std::size_t place) { editedStatus = std::string(statusChoices.at(place).value); }
@@ -102,29 +85,24 @@ public:
     /// The empty text stands for no group.
     std::string selectedGroup() const { return editedGroupId->value_or(""); }
     void chooseGroup(const std::string& id);
-    bool isSaveEnabled() const;
+    bool isSaveEnabled() const override;
     void saveChanges();
-
-    void confirmDelete();
-    void cancelDelete() { showingDeleteConfirmation = false; }
-    /// The user confirmed the deletion.
-    void deleteComponent();
-
-    bool hasUnsavedText() const;
-    /// Escape, or the way back: closes what is open, but asks first where an edit would be lost.
-    void requestClose();
-    void keepEditing() { showDiscardConfirmation = false; }
-    void discardChanges();
+    bool isCloseEnabled() const override { return isIdle(); }
 
 private:
+    void fillEditor() override;
+    bool isEdited() const override;
+    support::Task<void> remove() override;
+
     static support::Task<void> loadGroups(std::shared_ptr<ComponentDetailView> self);
     static support::Task<void> save(std::shared_ptr<ComponentDetailView> self, model::UpdateComponentRequest changes);
-    static support::Task<void> remove(std::shared_ptr<ComponentDetailView> self);
+    static support::Task<void> deleteComponent(std::shared_ptr<ComponentDetailView> self);
 
     const model::ComponentGroup* group() const;
 
     const Ports ports_;
-    const Owner owner_;
+    const std::function<void(const model::Component&)> onUpdate_;
+    const std::function<void(const model::Component&)> onDelete_;
 };
 
 }  // namespace larkspan::components

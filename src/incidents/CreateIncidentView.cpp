@@ -7,7 +7,6 @@
 namespace larkspan::incidents {
 
 using model::CreateIncidentRequest;
-using model::Incident;
 using presentation::ComponentSelection;
 using support::Task;
 
@@ -46,15 +45,7 @@ CreateIncidentRequest CreateIncidentView::request() const
 
 Task<void> CreateIncidentView::create()
 {
-    return send(std::static_pointer_cast<CreateIncidentView>(shared_from_this()), request());
-}
-
-Task<void> CreateIncidentView::send(std::shared_ptr<CreateIncidentView> self, CreateIncidentRequest request)
-{
-    auto creating = self->api_.createIncident(std::move(request));
-    const Incident created = co_await std::move(creating);
-    self->onCreated_(created);
-    self->dismiss();
+    return send(held(this), api_.createIncident(request()), onCreated_);
 }
 
 }  // namespace larkspan::incidents

@@ -35,8 +35,6 @@ public:
 
 private:
     support::Task<void> create() override;
-    static support::Task<void> send(std::shared_ptr<CreateIncidentView> self, model::CreateIncidentRequest request);
-
     model::CreateIncidentRequest request() const;
 
     api::IncidentEndpoints& api_;

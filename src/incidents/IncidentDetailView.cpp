@@ -9,6 +9,7 @@ namespace larkspan::incidents {
 using model::Incident;
 using model::IncidentStatus;
 using presentation::ActionButton;
+using presentation::Command;
 using support::Task;
 
 namespace {
@@ -18,25 +19,24 @@ bool isOver(const Incident& incident)
     return incident.status == IncidentStatus::resolved || incident.status == IncidentStatus::completed;
 }
 
+constexpr presentation::Confirmation deletion{.title = "Delete Incident",
+    .text = "Are you sure you want to delete this incident? This action cannot be undone.",
+    .confirm = "Delete",
+    .cancel = "Cancel"};
+
 }  // namespace
 
 IncidentDetailView::IncidentDetailView(Ports ports, Incident shown, Owner owner)
-    : incident(*this, std::move(shown))
-    , action(std::make_shared<presentation::RunningAction>(ports.main))
+    : EditableDetail(ports.main, deletion, std::move(owner.dismiss))
+    , incident(*this, std::move(shown))
     , message(std::make_shared<MessageView>(ports.links))
     , ports_(ports)
-    , owner_(std::move(owner))
+    , onUpdate_(std::move(owner.onUpdate))
 {
 }
 
-std::array<support::Subscription, 2> IncidentDetailView::observe(const std::function<void()>& observer)
+std::vector<Command<IncidentDetailView>> IncidentDetailView::commands() const
 {
-    return {objectWillChange(observer), action->objectWillChange(observer)};
-}
-
-std::vector<IncidentDetailView::Command> IncidentDetailView::commands() const
-{
-    const bool isIdle = !*action->isInProgress;
     if (*isEditing) {
         return {{{.id = "saveUpdate",
                      .label = "Save Update",
@@ -45,7 +45,7 @@ std::vector<IncidentDetailView::Command> IncidentDetailView::commands() const
                      .isEnabled = isSaveEnabled()},
             [](auto& view) { view.saveUpdate(); }}};
     }
-    const bool canResolve = isIdle && !isOver(*incident);
+    const bool canResolve = isIdle() && !isOver(*incident);
     return {
         {{.id = "acknowledge",
              .label = "Acknowledge",
@@ -58,45 +58,34 @@ std::vector<IncidentDetailView::Command> IncidentDetailView::commands() const
              .tone = presentation::Tone::green,
              .isEnabled = canResolve},
             [](auto& view) { view.performAction(DetailAction::resolve); }},
-        {{.id = "escalate", .label = "Escalate", .symbol = "arrow.up.doc", .isEnabled = isIdle},
+        {{.id = "escalate", .label = "Escalate", .symbol = "arrow.up.doc", .isEnabled = isIdle()},
             [](auto& view) { view.performAction(DetailAction::escalate); }},
-        {{.id = "addUpdate", .label = "Add Update", .symbol = "plus.bubble", .isProminent = true, .isEnabled = isIdle},
-            [](auto& view) { view.addUpdate(); }},
+        {{.id = "addUpdate",
+             .label = "Add Update",
+             .symbol = "plus.bubble",
+             .isProminent = true,
+             .isEnabled = isIdle()},
+            [](auto& view) { view.beginEditing(); }},
     };
 }
 
 std::vector<ActionButton> IncidentDetailView::buttons() const
 {
-    std::vector<ActionButton> shown;
-    for (auto& command : commands()) shown.push_back(std::move(command.button));
-    return shown;
+    return presentation::buttonsOf(commands());
 }
 
 void IncidentDetailView::press(std::string_view id)
 {
-    for (const auto& command : commands()) {
-        if (command.button.id == id && command.button.isEnabled) return command.run(*this);
-    }
-}
-
-void IncidentDetailView::close()
-{
-    // Its owner may let go of it here.
-    const auto self = shared_from_this();
-    if (*isEditing)
-        isEditing = false;
-    else
-        owner_.dismiss();
+    presentation::press(id, commands(), *this);
 }
 
 void IncidentDetailView::performAction(DetailAction wanted)
 {
-    const auto self = shared_from_this();
     switch (wanted) {
-    case DetailAction::acknowledge: return action->run(acknowledge(self));
-    case DetailAction::resolve: return action->run(resolve(self));
-    case DetailAction::escalate: return action->run(escalate(self));
-    case DetailAction::delete_: return action->run(remove(self));
+    case DetailAction::acknowledge: return action->run(acknowledge(held(this)));
+    case DetailAction::resolve: return action->run(resolve(held(this)));
+    case DetailAction::escalate: return action->run(escalate(held(this)));
+    case DetailAction::delete_: return deleteRecord();
     }
 }
 
@@ -121,78 +110,51 @@ Task<void> IncidentDetailView::refetch(std::shared_ptr<IncidentDetailView> self)
 {
     auto fetching = self->ports_.api.fetchIncident(self->incident->id);
     const Incident fetched = co_await std::move(fetching);
-    self->owner_.onUpdate(fetched);
+    self->onUpdate_(fetched);
 }
 
 Task<void> IncidentDetailView::resolve(std::shared_ptr<IncidentDetailView> self)
 {
     auto resolving = self->ports_.api.resolveIncident(self->incident->id);
     const Incident resolved = co_await std::move(resolving);
-    self->owner_.onUpdate(resolved);
+    self->onUpdate_(resolved);
 }
 
-Task<void> IncidentDetailView::remove(std::shared_ptr<IncidentDetailView> self)
+Task<void> IncidentDetailView::remove()
+{
+    return deleteIncident(held(this));
+}
+
+Task<void> IncidentDetailView::deleteIncident(std::shared_ptr<IncidentDetailView> self)
 {
     auto deleting = self->ports_.api.deleteIncident(self->incident->id);
     co_await std::move(deleting);
-    self->owner_.dismiss();
+    self->dismiss();
 }
 
-void IncidentDetailView::addUpdate()
+bool IncidentDetailView::isEdited() const
 {
-    editMessage = {};
-    isEditing = true;
+    return !support::trimmed(*editMessage).empty();
 }
 
 bool IncidentDetailView::isSaveEnabled() const
 {
-    return !*action->isInProgress && !support::trimmed(*editMessage).empty();
+    return isIdle() && isEdited();
 }
 
 void IncidentDetailView::saveUpdate()
 {
     std::string text(support::trimmed(*editMessage));
     if (text.empty()) return;
-    action->run(save(shared_from_this(), std::move(text)));
+    action->run(save(held(this), std::move(text)));
 }
 
 Task<void> IncidentDetailView::save(std::shared_ptr<IncidentDetailView> self, std::string text)
 {
     auto updating = self->ports_.api.updateIncident(self->incident->id, std::move(text));
     const Incident updated = co_await std::move(updating);
-    self->owner_.onUpdate(updated);
-    self->showDiscardConfirmation = false;
-    self->isEditing = false;
-}
-
-void IncidentDetailView::confirmDelete()
-{
-    if (isDeleteEnabled()) showDeleteConfirmation = true;
-}
-
-void IncidentDetailView::deleteIncident()
-{
-    showDeleteConfirmation = false;
-    performAction(DetailAction::delete_);
-}
-
-bool IncidentDetailView::hasUnsavedText() const
-{
-    return *isEditing && !support::trimmed(*editMessage).empty();
-}
-
-void IncidentDetailView::requestClose()
-{
-    if (hasUnsavedText())
-        showDiscardConfirmation = true;
-    else
-        close();
-}
-
-void IncidentDetailView::discardChanges()
-{
-    showDiscardConfirmation = false;
-    isEditing = false;
+    self->onUpdate_(updated);
+    self->closeEditor();
 }
 
 }  // namespace larkspan::incidents

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <functional>
 #include <memory>
 #include <string>
@@ -17,8 +16,8 @@
 #include "platform/LinkOpener.h"
 #include "platform/LocaleText.h"
 #include "presentation/ActionButton.h"
-#include "presentation/Confirmation.h"
-#include "presentation/RunningAction.h"
+#include "presentation/Command.h"
+#include "presentation/EditableDetail.h"
 #include "support/Observable.h"
 #include "support/Task.h"
 
@@ -26,7 +25,7 @@ namespace larkspan::incidents {
 
 /// One incident, and what can be done to it. It changes no record by itself: after each success it gives the service's
 /// own to its owner, who hands it back with `show`. Main thread only; closing it stops no request.
-class IncidentDetailView final : public support::Observable, public std::enable_shared_from_this<IncidentDetailView> {
+class IncidentDetailView final : public presentation::EditableDetail {
 public:
     struct Ports {
         platform::Executor& main;
@@ -44,27 +43,13 @@ public:
 
     enum class DetailAction { acknowledge, resolve, escalate, delete_ };
 
-    static constexpr presentation::Confirmation deleteConfirmation{.title = "Delete Incident",
-        .text = "Are you sure you want to delete this incident? This action cannot be undone.",
-        .confirm = "Delete",
-        .cancel = "Cancel"};
-
     IncidentDetailView(Ports ports, model::Incident incident, Owner owner);
 
     support::Published<model::Incident> incident;
-    support::Published<bool> showDeleteConfirmation{*this, false};
-    /// The question is up whether the text of the editor may be lost.
-    support::Published<bool> showDiscardConfirmation{*this, false};
-    /// The editor of an update is open.
-    support::Published<bool> isEditing{*this, false};
+    /// The update that is being written.
     support::Published<std::string> editMessage{*this};
-    /// The request that runs, and the alert of the one that failed.
-    const std::shared_ptr<presentation::RunningAction> action;
     /// The description as it is shown.
     const std::shared_ptr<MessageView> message;
-
-    /// Calls `observer` before anything changes that the screen shows.
-    [[nodiscard]] std::array<support::Subscription, 2> observe(const std::function<void()>& observer);
 
     void show(model::Incident changed) { incident = std::move(changed); }
 
@@ -82,46 +67,29 @@ public:
     std::vector<presentation::ActionButton> buttons() const;
     /// Does what the button of that id says; nothing if there is none or it is disabled.
     void press(std::string_view id);
-    bool isDeleteEnabled() const { return !*action->isInProgress; }
-    /// The button that leaves the editor or, outside it, the screen.
-    std::string_view closeLabel() const { return *isEditing ? "Cancel" : "Close"; }
-    void close();
 
     void performAction(DetailAction wanted);
 
-    void addUpdate();
-    bool isSaveEnabled() const;
+    bool isSaveEnabled() const override;
     /// Sends what has been typed; the editor closes when the service has it.
     void saveUpdate();
 
-    void confirmDelete();
-    void cancelDelete() { showDeleteConfirmation = false; }
-    /// The user confirmed the deletion.
-    void deleteIncident();
-
-    bool hasUnsavedText() const;
-    /// Escape, or the way back: closes what is open, but asks first where text would be lost.
-    void requestClose();
-    void keepEditing() { showDiscardConfirmation = false; }
-    void discardChanges();
-
 private:
-    struct Command {
-        presentation::ActionButton button;
-        void (*run)(IncidentDetailView& view);
-    };
-
-    std::vector<Command> commands() const;
+    std::vector<presentation::Command<IncidentDetailView>> commands() const;
+    /// Each update begins with nothing.
+    void fillEditor() override { editMessage = {}; }
+    bool isEdited() const override;
+    support::Task<void> remove() override;
 
     static support::Task<void> acknowledge(std::shared_ptr<IncidentDetailView> self);
     static support::Task<void> resolve(std::shared_ptr<IncidentDetailView> self);
     static support::Task<void> escalate(std::shared_ptr<IncidentDetailView> self);
-    static support::Task<void> remove(std::shared_ptr<IncidentDetailView> self);
+    static support::Task<void> deleteIncident(std::shared_ptr<IncidentDetailView> self);
     static support::Task<void> refetch(std::shared_ptr<IncidentDetailView> self);
     static support::Task<void> save(std::shared_ptr<IncidentDetailView> self, std::string text);
 
     const Ports ports_;
-    const Owner owner_;
+    const std::function<void(const model::Incident&)> onUpdate_;
 };
 
 }  // namespace larkspan::incidents

@@ -8,7 +8,6 @@
 namespace larkspan::maintenances {
 
 using api::NewMaintenance;
-using model::Maintenance;
 using presentation::ComponentSelection;
 using presentation::DateTimePicker;
 using support::Task;
@@ -39,7 +38,7 @@ CreateMaintenanceView::CreateMaintenanceView(Ports ports, std::string page, Owne
 {
 }
 
-std::vector<support::Subscription> CreateMaintenanceView::observe(const std::function<void()>& observer)
+support::Subscriptions CreateMaintenanceView::observe(const std::function<void()>& observer)
 {
     auto subscriptions = EventForm::observe(observer);
     subscriptions.push_back(scheduledFor->objectWillChange(observer));
@@ -78,15 +77,7 @@ NewMaintenance CreateMaintenanceView::arguments() const
 
 Task<void> CreateMaintenanceView::create()
 {
-    return send(std::static_pointer_cast<CreateMaintenanceView>(shared_from_this()), arguments());
-}
-
-Task<void> CreateMaintenanceView::send(std::shared_ptr<CreateMaintenanceView> self, NewMaintenance arguments)
-{
-    auto creating = self->api_.createMaintenance(std::move(arguments));
-    const Maintenance created = co_await std::move(creating);
-    self->onCreated_(created);
-    self->dismiss();
+    return send(held(this), api_.createMaintenance(arguments()), onCreated_);
 }
 
 }  // namespace larkspan::maintenances

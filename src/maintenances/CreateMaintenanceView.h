@@ -36,7 +36,7 @@ public:
     const std::shared_ptr<presentation::DateTimePicker> scheduledFor;
     const std::shared_ptr<presentation::DateTimePicker> scheduledUntil;
 
-    [[nodiscard]] std::vector<support::Subscription> observe(const std::function<void()>& observer) override;
+    [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer) override;
 
     /// A component is enough; a monitor of it may be left open.
     bool isSelectionComplete() const override;
@@ -47,8 +47,6 @@ protected:
 
 private:
     support::Task<void> create() override;
-    static support::Task<void> send(std::shared_ptr<CreateMaintenanceView> self, api::NewMaintenance arguments);
-
     api::NewMaintenance arguments() const;
 
     api::MaintenanceEndpoints& api_;

@@ -16,9 +16,9 @@
 #include "platform/LinkOpener.h"
 #include "platform/LocaleText.h"
 #include "presentation/ActionButton.h"
-#include "presentation/Confirmation.h"
+#include "presentation/Command.h"
 #include "presentation/DateTimePicker.h"
-#include "presentation/RunningAction.h"
+#include "presentation/EditableDetail.h"
 #include "support/Observable.h"
 #include "support/Task.h"
 
@@ -26,8 +26,7 @@ namespace larkspan::maintenances {
 
 /// One maintenance, and what can be done to it. It keeps a copy of its record, which the service's answers replace, and
 /// tells its owner of each. Main thread only; closing it stops no request.
-class MaintenanceDetailView final : public support::Observable,
-                                    public std::enable_shared_from_this<MaintenanceDetailView> {
+class MaintenanceDetailView final : public presentation::EditableDetail {
 public:
     struct Ports {
         platform::Executor& main;
@@ -44,30 +43,16 @@ public:
         std::function<void()> dismiss;
     };
 
-    static constexpr presentation::Confirmation deleteConfirmation{.title = "Delete Maintenance",
-        .text = "Are you sure you want to delete this maintenance? This action cannot be undone.",
-        .confirm = "Delete",
-        .cancel = "Cancel"};
-
     MaintenanceDetailView(Ports ports, model::Maintenance maintenance, Owner owner);
 
     /// The record shown. Its status is as it was decoded, also when its start passes meanwhile.
     support::Published<model::Maintenance> currentMaintenance;
-    support::Published<bool> showDeleteConfirmation{*this, false};
-    /// The question is up whether what was edited may be lost.
-    support::Published<bool> showDiscardConfirmation{*this, false};
-    support::Published<bool> isEditing{*this, false};
     support::Published<std::string> editedTitle{*this};
     support::Published<std::string> editedMessage{*this};
     const std::shared_ptr<presentation::DateTimePicker> editedScheduledFor;
     const std::shared_ptr<presentation::DateTimePicker> editedScheduledUntil;
-    /// The request that runs, and the alert of the one that failed.
-    const std::shared_ptr<presentation::RunningAction> action;
     /// The description as it is shown.
     const std::shared_ptr<incidents::MessageView> message;
-
-    /// Calls `observer` before anything changes that the screen shows.
-    [[nodiscard]] std::vector<support::Subscription> observe(const std::function<void()>& observer);
 
     std::string title() const { return *isEditing ? "Edit Maintenance" : currentMaintenance->title; }
     presentation::Pill status() const { return statusPill(currentMaintenance->status); }
@@ -82,46 +67,30 @@ public:
     std::vector<presentation::ActionButton> buttons() const;
     /// Does what the button of that id says; nothing if there is none or it is disabled.
     void press(std::string_view id);
-    bool isMenuEnabled() const { return !*action->isInProgress; }
-    /// The button that leaves the editor or, outside it, the screen.
-    std::string_view closeLabel() const { return *isEditing ? "Cancel" : "Close"; }
-    void close();
 
     void startMaintenance();
     void completeMaintenance();
 
-    void beginEditing();
-    bool isSaveEnabled() const;
+    bool isSaveEnabled() const override;
     /// Sends what was edited; the editor closes when the service has it.
     void saveEdits();
 
-    void confirmDelete();
-    void cancelDelete() { showDeleteConfirmation = false; }
-    /// The user confirmed the deletion.
-    void removeMaintenance();
-
-    bool hasUnsavedText() const;
-    /// Escape, or the way back: closes what is open, but asks first where edits would be lost.
-    void requestClose();
-    void keepEditing() { showDiscardConfirmation = false; }
-    void discardChanges();
-
 private:
-    struct Command {
-        presentation::ActionButton button;
-        void (*run)(MaintenanceDetailView& view);
-    };
+    std::vector<presentation::Command<MaintenanceDetailView>> commands() const;
+    void fillEditor() override;
+    bool isEdited() const override;
+    support::Task<void> remove() override;
 
-    std::vector<Command> commands() const;
     bool hasEditedTitle() const;
     api::MaintenanceChanges edits() const;
 
     static support::Task<void> update(std::shared_ptr<MaintenanceDetailView> self, api::MaintenanceChanges changes);
     static support::Task<void> save(std::shared_ptr<MaintenanceDetailView> self, api::MaintenanceChanges changes);
-    static support::Task<void> remove(std::shared_ptr<MaintenanceDetailView> self);
+    static support::Task<void> removeMaintenance(std::shared_ptr<MaintenanceDetailView> self);
 
     const Ports ports_;
-    const Owner owner_;
+    const std::function<void(const model::Maintenance&)> onUpdate_;
+    const std::function<void(const model::Maintenance&)> onDelete_;
 };
 
 }  // namespace larkspan::maintenances

@@ -11,6 +11,7 @@ namespace larkspan::monitors {
 
 using model::Monitor;
 using presentation::ActionButton;
+using presentation::Command;
 using presentation::Fact;
 using presentation::Tone;
 using support::Task;
@@ -23,7 +24,7 @@ MonitorDetailView::MonitorDetailView(Ports ports, Monitor monitor, Owner owner)
 {
 }
 
-std::array<support::Subscription, 2> MonitorDetailView::observe(const std::function<void()>& observer)
+support::Subscriptions MonitorDetailView::observe(const std::function<void()>& observer)
 {
     return {objectWillChange(observer), action->objectWillChange(observer)};
 }
@@ -54,28 +55,36 @@ Fact MonitorDetailView::lastCheck() const
         .caption = ports_.locale.timeOnly(*currentMonitor->lastCheckTime)};
 }
 
-std::vector<ActionButton> MonitorDetailView::buttons() const
+std::vector<Command<MonitorDetailView>> MonitorDetailView::commands() const
 {
     const bool isPaused = currentMonitor->isPaused;
     const bool isIdle = !*action->isInProgress;
-    return {{.id = std::string(MonitorRow::pauseResume),
-                .label = isPaused ? "Resume Monitor" : "Pause Monitor",
-                .symbol = isPaused ? "play.fill" : "pause.fill",
-                .tone = isPaused ? Tone::green : Tone::orange,
-                .isProminent = true,
-                .isEnabled = isIdle},
-        {.id = std::string(MonitorRow::checkNow),
-            .label = "Run Check",
-            .symbol = "arrow.clockwise",
-            .tone = Tone::blue,
-            .isProminent = true,
-            .isEnabled = isIdle}};
+    return {
+        {{.id = std::string(MonitorRow::pauseResume),
+             .label = isPaused ? "Resume Monitor" : "Pause Monitor",
+             .symbol = isPaused ? "play.fill" : "pause.fill",
+             .tone = isPaused ? Tone::green : Tone::orange,
+             .isProminent = true,
+             .isEnabled = isIdle},
+            [](auto& view) { view.perform(DetailAction::pauseResume); }},
+        {{.id = std::string(MonitorRow::checkNow),
+             .label = "Run Check",
+             .symbol = "arrow.clockwise",
+             .tone = Tone::blue,
+             .isProminent = true,
+             .isEnabled = isIdle},
+            [](auto& view) { view.perform(DetailAction::checkNow); }},
+    };
+}
+
+std::vector<ActionButton> MonitorDetailView::buttons() const
+{
+    return presentation::buttonsOf(commands());
 }
 
 void MonitorDetailView::press(std::string_view id)
 {
-    if (id == MonitorRow::pauseResume) perform(DetailAction::pauseResume);
-    if (id == MonitorRow::checkNow) perform(DetailAction::checkNow);
+    presentation::press(id, commands(), *this);
 }
 
 void MonitorDetailView::perform(DetailAction wanted)

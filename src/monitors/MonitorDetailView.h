@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <functional>
 #include <memory>
 #include <string>
@@ -14,6 +13,7 @@
 #include "platform/LinkOpener.h"
 #include "platform/LocaleText.h"
 #include "presentation/ActionButton.h"
+#include "presentation/Command.h"
 #include "presentation/Fact.h"
 #include "presentation/RunningAction.h"
 #include "support/Observable.h"
@@ -48,7 +48,7 @@ public:
     const std::shared_ptr<presentation::RunningAction> action;
 
     /// Calls `observer` before anything changes that the screen shows.
-    [[nodiscard]] std::array<support::Subscription, 2> observe(const std::function<void()>& observer);
+    [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer);
 
     std::vector<presentation::Pill> pills() const { return headerPills(*currentMonitor); }
     /// The group "Details"; what the record does not have is left out.
@@ -58,7 +58,7 @@ public:
 
     /// In the order of the screen.
     std::vector<presentation::ActionButton> buttons() const;
-    /// Does what the button of that id says; nothing while an action runs.
+    /// Does what the button of that id says; nothing if there is none or it is disabled.
     void press(std::string_view id);
     void perform(DetailAction wanted);
 
@@ -66,6 +66,7 @@ public:
     void openURL() const;
 
 private:
+    std::vector<presentation::Command<MonitorDetailView>> commands() const;
     static support::Task<void> carryOut(std::shared_ptr<MonitorDetailView> self, DetailAction wanted);
 
     const Ports ports_;

@@ -8,18 +8,19 @@ namespace larkspan::presentation {
 
 EventForm::EventForm(
     ComponentSelection::Ports ports, std::string page, SelectionWords words, std::function<void()> dismiss)
-    : pageId(std::move(page))
-    , action(std::make_shared<RunningAction>(ports.main))
+    : GuardedScreen(ports.main, std::move(dismiss))
+    , pageId(std::move(page))
     , selection(std::make_shared<ComponentSelection>(
           ports, pageId, words.failure, [alerts = action](std::string failure) { alerts->alert = std::move(failure); }))
     , words_(words)
-    , dismiss_(std::move(dismiss))
 {
 }
 
-std::vector<support::Subscription> EventForm::observe(const std::function<void()>& observer)
+support::Subscriptions EventForm::observe(const std::function<void()>& observer)
 {
-    return {objectWillChange(observer), action->objectWillChange(observer), selection->objectWillChange(observer)};
+    auto subscriptions = GuardedScreen::observe(observer);
+    subscriptions.push_back(selection->objectWillChange(observer));
+    return subscriptions;
 }
 
 std::string_view EventForm::selectionHint() const
@@ -35,7 +36,7 @@ bool EventForm::canBeSent() const
 
 bool EventForm::isSaveEnabled() const
 {
-    return !*action->isInProgress && canBeSent() && isSelectionComplete();
+    return isIdle() && canBeSent() && isSelectionComplete();
 }
 
 void EventForm::save()
@@ -43,30 +44,9 @@ void EventForm::save()
     if (canBeSent()) action->run(create());
 }
 
-void EventForm::cancel()
-{
-    // Its owner may let go of it here.
-    const auto self = shared_from_this();
-    if (isCancelEnabled()) dismiss();
-}
-
 bool EventForm::hasUnsavedText() const
 {
     return !support::trimmed(*title).empty() || !support::trimmed(*message).empty();
-}
-
-void EventForm::requestClose()
-{
-    if (isCancelEnabled() && hasUnsavedText())
-        showDiscardConfirmation = true;
-    else
-        cancel();
-}
-
-void EventForm::discardChanges()
-{
-    showDiscardConfirmation = false;
-    cancel();
 }
 
 }  // namespace larkspan::presentation

@@ -4,10 +4,11 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "presentation/ComponentSelection.h"
-#include "presentation/RunningAction.h"
+#include "presentation/GuardedScreen.h"
 #include "support/Observable.h"
 #include "support/Task.h"
 
@@ -15,7 +16,7 @@ namespace larkspan::presentation {
 
 /// The form of a new event of one page: its words, what it affects, and the request that makes it. It keeps what was
 /// typed until the service has it. Main thread only.
-class EventForm : public support::Observable, public std::enable_shared_from_this<EventForm> {
+class EventForm : public GuardedScreen {
 public:
     /// What one kind of event says of the choice of what it affects.
     struct SelectionWords {
@@ -28,20 +29,13 @@ public:
 
     static constexpr const char* busyText = "Creating...";
 
-    virtual ~EventForm() = default;
-
     const std::string pageId;
 
     support::Published<std::string> title{*this};
     support::Published<std::string> message{*this};
-    /// The question is up whether what has been typed may be lost.
-    support::Published<bool> showDiscardConfirmation{*this, false};
-    /// The request that runs, and the alert of whatever failed last.
-    const std::shared_ptr<RunningAction> action;
     const std::shared_ptr<ComponentSelection> selection;
 
-    /// Calls `observer` before anything changes that the form shows.
-    [[nodiscard]] virtual std::vector<support::Subscription> observe(const std::function<void()>& observer);
+    [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer) override;
 
     /// The sheet came up: fetches what there is to choose from.
     void appear() { selection->load(); }
@@ -51,16 +45,11 @@ public:
     std::string_view selectionHint() const;
     virtual bool isSelectionComplete() const = 0;
 
-    bool isSaveEnabled() const;
+    bool isSaveEnabled() const override;
     void save();
-    bool isCancelEnabled() const { return !*action->isInProgress; }
-    void cancel();
 
-    virtual bool hasUnsavedText() const;
-    /// Escape, or a press outside: cancels, but asks first where text would be lost.
-    void requestClose();
-    void keepEditing() { showDiscardConfirmation = false; }
-    void discardChanges();
+    bool hasUnsavedText() const override;
+    bool isCloseEnabled() const override { return isIdle(); }
 
 protected:
     /// `dismiss` closes the sheet.
@@ -71,11 +60,18 @@ protected:
     /// Sends the request; the form is there until it has ended.
     virtual support::Task<void> create() = 0;
 
-    void dismiss() const { dismiss_(); }
+    /// Awaits the event that `creating` makes, tells `onCreated` of it and closes the sheet.
+    template <typename Event>
+    static support::Task<void> send(
+        std::shared_ptr<EventForm> self, support::Task<Event> creating, std::function<void(const Event&)> onCreated)
+    {
+        const Event created = co_await std::move(creating);
+        onCreated(created);
+        self->dismiss();
+    }
 
 private:
     const SelectionWords words_;
-    const std::function<void()> dismiss_;
 };
 
 }  // namespace larkspan::presentation

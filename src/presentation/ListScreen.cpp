@@ -10,7 +10,7 @@ ListScreen::ListScreen(platform::CredentialStore& credentials, Placeholders plac
 {
 }
 
-std::array<support::Subscription, 2> ListScreen::observe(const std::function<void()>& observer)
+support::Subscriptions ListScreen::observe(const std::function<void()>& observer)
 {
     return {objectWillChange(observer), fetched().objectWillChange(observer)};
 }

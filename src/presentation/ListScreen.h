@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <functional>
 
 #include "platform/CredentialStore.h"
@@ -17,7 +16,7 @@ public:
     virtual ~ListScreen() = default;
 
     /// Calls `observer` before anything changes that the list shows, or what stands in front of it.
-    [[nodiscard]] std::array<support::Subscription, 2> observe(const std::function<void()>& observer);
+    [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer);
 
     /// The list came into sight.
     void appear() { fetched().load(); }

@@ -9,6 +9,8 @@ namespace larkspan::support {
 
 /// Ends with the subscriber: destroying it ends the notices, also from within one.
 using Subscription = std::shared_ptr<const void>;
+/// Those of one subscriber to all that a screen consists of.
+using Subscriptions = std::vector<Subscription>;
 
 /// An object whose observers are told just before one of its `Published` fields changes. One thread only.
 class Observable {

@@ -25,7 +25,7 @@ Dashboard::Dashboard(Ports ports)
 {
 }
 
-std::array<support::Subscription, 2> Dashboard::observe(const std::function<void()>& observer)
+support::Subscriptions Dashboard::observe(const std::function<void()>& observer)
 {
     return {objectWillChange(observer), ports_.appState->objectWillChange(observer)};
 }

@@ -67,7 +67,7 @@ public:
     support::Published<support::Time> currentTime;
 
     /// Calls `observer` before anything changes that the dashboard shows, the account's state included.
-    [[nodiscard]] std::array<support::Subscription, 2> observe(const std::function<void()>& observer);
+    [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer);
 
     presentation::Content content() const;
     /// What stands in place of the list; all empty while there is one.

@@ -13,7 +13,7 @@ StatusPageDetailView::StatusPageDetailView(Ports ports, model::StatusPage opened
 {
 }
 
-std::array<support::Subscription, 2> StatusPageDetailView::observe(const std::function<void()>& observer)
+support::Subscriptions StatusPageDetailView::observe(const std::function<void()>& observer)
 {
     return {objectWillChange(observer), ports_.appState->objectWillChange(observer)};
 }

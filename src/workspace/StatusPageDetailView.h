@@ -49,7 +49,7 @@ public:
     support::Published<Tab> selectedTab{*this, Tab::overview};
 
     /// Calls `observer` before anything changes that the page shows, the account's state included.
-    [[nodiscard]] std::array<support::Subscription, 2> observe(const std::function<void()>& observer);
+    [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer);
 
     /// Leaves the screen of the tab that was selected, and makes that of `tab` anew; the selected tab stays as it is.
     void select(Tab tab);

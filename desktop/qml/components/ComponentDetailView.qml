@@ -3,23 +3,16 @@ import Larkspan
 import Larkspan.Bridge
 
 // One component, and its editor.
-ScreenFrame {
+EditableDetailFrame {
     id: view
     required property ComponentDetailBridge detail
     readonly property bool isEditing: detail.isEditing
 
+    record: detail
     title: detail.title
-    isBusy: detail.isBusy
     busyText: detail.busyText
-    alert: detail.alert
-    onAlertDismissed: detail.dismissAlert()
     onIsEditingChanged: if (!isEditing) column.forceActiveFocus(Qt.OtherFocusReason)
 
-    leading: CommandButton {
-        text: view.detail.closeLabel
-        enabled: !view.detail.isBusy
-        onClicked: view.wentBack()
-    }
     trailing: [
         CommandButton {
             visible: !view.isEditing
@@ -69,18 +62,5 @@ ScreenFrame {
                 detail: view.detail
             }
         }
-    }
-
-    ConfirmLoader {
-        isShown: view.detail.showsDeleteConfirmation
-        confirmation: view.detail.deleteConfirmation
-        onDismissed: view.detail.cancelDelete()
-        onConfirmed: view.detail.deleteComponent()
-    }
-    ConfirmLoader {
-        isShown: view.detail.showsDiscardConfirmation
-        confirmation: view.detail.discardConfirmation
-        onDismissed: view.detail.keepEditing()
-        onConfirmed: view.detail.discardChanges()
     }
 }

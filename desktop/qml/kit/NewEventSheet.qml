@@ -18,8 +18,8 @@ Sheet {
 
     barLeading: CommandButton {
         text: qsTr("Cancel")
-        enabled: sheet.form.isCancelEnabled
-        onClicked: sheet.form.cancel()
+        enabled: sheet.form.isCloseEnabled
+        onClicked: sheet.form.close()
     }
     barItems: CommandButton {
         text: qsTr("Save")

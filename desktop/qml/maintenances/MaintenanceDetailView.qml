@@ -4,19 +4,13 @@ import Larkspan.Bridge
 
 // One maintenance, and what can be done to it; in its place, while it is edited, the editor. Its message may be long, so
 // it is the list, and the rest stands above and below it.
-ScreenFrame {
+EditableDetailFrame {
     id: view
     required property MaintenanceDetailBridge maintenance
 
+    record: maintenance
     title: maintenance.title
-    isBusy: maintenance.isBusy
-    alert: maintenance.alert
-    onAlertDismissed: maintenance.dismissAlert()
 
-    leading: CommandButton {
-        text: view.maintenance.closeLabel
-        onClicked: view.wentBack()
-    }
     trailing: [
         MaintenanceMenuButton {
             visible: !view.maintenance.isEditing
@@ -52,18 +46,5 @@ ScreenFrame {
         sourceComponent: MaintenanceEditor {
             maintenance: view.maintenance
         }
-    }
-
-    ConfirmLoader {
-        isShown: view.maintenance.showsDeleteConfirmation
-        confirmation: view.maintenance.deleteConfirmation
-        onDismissed: view.maintenance.cancelDelete()
-        onConfirmed: view.maintenance.removeMaintenance()
-    }
-    ConfirmLoader {
-        isShown: view.maintenance.showsDiscardConfirmation
-        confirmation: view.maintenance.discardConfirmation
-        onDismissed: view.maintenance.keepEditing()
-        onConfirmed: view.maintenance.discardChanges()
     }
 }

@@ -19,7 +19,7 @@ ToolbarButton {
         KitMenuItem {
             text: qsTr("Edit")
             symbol: "pencil"
-            enabled: button.maintenance.isMenuEnabled
+            enabled: !button.maintenance.isBusy
             onTriggered: button.maintenance.beginEditing()
         }
         KitMenuSeparator {}
@@ -27,7 +27,7 @@ ToolbarButton {
             text: qsTr("Delete")
             symbol: "trash"
             isDestructive: true
-            enabled: button.maintenance.isMenuEnabled
+            enabled: !button.maintenance.isBusy
             onTriggered: button.maintenance.confirmDelete()
         }
     }

@@ -12,6 +12,15 @@ FocusScope {
     property bool isReady: false
     Component.onCompleted: isReady = true
 
+    // The record decides what the way back leaves: its editor, with a question or without, or the page.
+    component RecordPage: PushedPage {
+        required property EditableDetailBridge record
+
+        isShown: record !== null
+        isGuarded: true
+        onBackWanted: record.requestClose()
+    }
+
     PushedPage {
         id: statusPage
         isShown: pages.isReady && pages.dashboard.openedPage !== null
@@ -22,19 +31,15 @@ FocusScope {
             onWentBack: statusPage.goBack()
         }
     }
-    PushedPage {
+    RecordPage {
         id: incidentPage
         readonly property IncidentListBridge incidents: pages.dashboard.openedPage ? pages.dashboard.openedPage.incidents : null
         readonly property IncidentDetailBridge incident: incidents ? incidents.detail : null
 
-        isShown: incident !== null
+        record: incident
         beneath: statusPage
-        isGuarded: incident !== null && incident.isEditing
-        onBackWanted: incident.requestClose()
-        onDismissed: incidents.closeDetail()
         sourceComponent: IncidentDetailView {
             incident: incidentPage.incident
-            onWentBack: incidentPage.incident.isEditing ? incidentPage.incident.close() : incidentPage.goBack()
         }
     }
     PushedPage {
@@ -50,34 +55,26 @@ FocusScope {
             onWentBack: monitorPage.goBack()
         }
     }
-    PushedPage {
+    RecordPage {
         id: componentPage
         readonly property ComponentListBridge components: pages.dashboard.openedPage ? pages.dashboard.openedPage.components : null
         readonly property ComponentDetailBridge detail: components ? components.detail : null
 
-        isShown: detail !== null
+        record: detail
         beneath: statusPage
-        isGuarded: detail !== null && (detail.isEditing || detail.isBusy)
-        onBackWanted: detail.requestClose()
-        onDismissed: components.closeDetail()
         sourceComponent: ComponentDetailView {
             detail: componentPage.detail
-            onWentBack: componentPage.detail.isEditing ? componentPage.detail.close() : componentPage.goBack()
         }
     }
-    PushedPage {
+    RecordPage {
         id: maintenancePage
         readonly property MaintenanceListBridge maintenances: pages.dashboard.openedPage ? pages.dashboard.openedPage.maintenances : null
         readonly property MaintenanceDetailBridge maintenance: maintenances ? maintenances.detail : null
 
-        isShown: maintenance !== null
+        record: maintenance
         beneath: statusPage
-        isGuarded: maintenance !== null && maintenance.isEditing
-        onBackWanted: maintenance.requestClose()
-        onDismissed: maintenances.closeDetail()
         sourceComponent: MaintenanceDetailView {
             maintenance: maintenancePage.maintenance
-            onWentBack: maintenancePage.maintenance.isEditing ? maintenancePage.maintenance.close() : maintenancePage.goBack()
         }
     }
 }

@@ -80,14 +80,14 @@ ScreenFrame {
 
     PopupLoader {
         isShown: view.page.incidents !== null && view.page.incidents.form !== null
-        onDismissed: view.page.incidents.form.cancel()
+        onDismissed: view.page.incidents.form.close()
         sourceComponent: CreateIncidentView {
             incident: view.page.incidents.form
         }
     }
     PopupLoader {
         isShown: view.page.maintenances !== null && view.page.maintenances.form !== null
-        onDismissed: view.page.maintenances.form.cancel()
+        onDismissed: view.page.maintenances.form.close()
         sourceComponent: CreateMaintenanceView {
             maintenance: view.page.maintenances.form
         }

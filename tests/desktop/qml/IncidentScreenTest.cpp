@@ -52,6 +52,16 @@ TEST_F(IncidentsOnScreen, OneOpensWithAllItsGroupsAndClosesToItsRow)
     EXPECT_EQ(sent(), std::vector<std::string>{std::string("GET ") + pageIncidentsURL}) << "it is fetched afresh";
 }
 
+TEST_F(IncidentsOnScreen, OneThatIsLeftTwiceBeforeItHasGoneFetchesTheListOnce)
+{
+    openFirst();
+    QTest::keyClick(&window(), Qt::Key_Escape);
+    QTest::keyClick(&window(), Qt::Key_Escape);
+    settle();
+    EXPECT_EQ(names(Role::ListItem), (QStringList{"Login errors", "Slow checkout"}));
+    EXPECT_EQ(sent(), std::vector<std::string>{std::string("GET ") + pageIncidentsURL});
+}
+
 TEST_F(IncidentsOnScreen, OneIsAcknowledgedAndShownAnew)
 {
     openFirst();

@@ -11,10 +11,10 @@ TEST_F(DetailOfAComponent, AsksBeforeItIsDeletedAndCancelDoesNothing)
 {
     opened()->confirmDelete();
     EXPECT_TRUE(*view->showingDeleteConfirmation);
-    EXPECT_EQ(ComponentDetailView::deleteConfirmation.title, "Delete Component");
-    EXPECT_EQ(ComponentDetailView::deleteConfirmation.text, "");
-    EXPECT_EQ(ComponentDetailView::deleteConfirmation.confirm, "Delete");
-    EXPECT_EQ(ComponentDetailView::deleteConfirmation.cancel, "Cancel");
+    EXPECT_EQ(view->deleteConfirmation.title, "Delete Component");
+    EXPECT_EQ(view->deleteConfirmation.text, "");
+    EXPECT_EQ(view->deleteConfirmation.confirm, "Delete");
+    EXPECT_EQ(view->deleteConfirmation.cancel, "Cancel");
     view->cancelDelete();
     run();
     EXPECT_FALSE(*view->showingDeleteConfirmation);
@@ -25,7 +25,7 @@ TEST_F(DetailOfAComponent, DeletedTellsItsOwnerAndThenCloses)
 {
     transport.script(url, 204, "");
     opened()->confirmDelete();
-    view->deleteComponent();
+    view->deleteRecord();
     EXPECT_FALSE(*view->showingDeleteConfirmation);
     EXPECT_EQ(ComponentDetailView::busyText, "Processing...");
     run();
@@ -36,8 +36,8 @@ TEST_F(DetailOfAComponent, DeletedTellsItsOwnerAndThenCloses)
 
 TEST_F(DetailOfAComponent, DeletedTwiceSendsOnce)
 {
-    opened()->deleteComponent();
-    view->deleteComponent();
+    opened()->deleteRecord();
+    view->deleteRecord();
     run();
     EXPECT_EQ(sent(), Words{"DELETE /user/api/components/7"});
 }
@@ -47,7 +47,7 @@ class RefusedDeletion : public DetailOfAComponent, public testing::WithParamInte
 TEST_P(RefusedDeletion, IsAnAlertThatChangesNothingAndLeavesTheScreenOpen)
 {
     transport.script(url, GetParam().answer);
-    opened()->deleteComponent();
+    opened()->deleteRecord();
     run();
     EXPECT_EQ(*view->action->alert, GetParam().alert);
     EXPECT_EQ(effects, Words{});

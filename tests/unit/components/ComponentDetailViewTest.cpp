@@ -99,7 +99,7 @@ TEST_F(DetailOfAComponent, ShowsWhatIsNoWebAddressAndNeverOpensIt)
 TEST_F(DetailOfAComponent, IsClosedByItsButtonAndByEscape)
 {
     opened()->close();
-    view->requestClose();
+    opened()->requestClose();
     EXPECT_EQ(effects, (Words{"dismiss Component 7", "dismiss Component 7"}));
 }
 

@@ -189,7 +189,7 @@ TEST_F(DetailOfAComponent, WhileItIsSavedCanNeitherBeSavedAgainNorClosedNorDelet
     view->close();
     view->requestClose();
     view->confirmDelete();
-    view->deleteComponent();
+    view->deleteRecord();
     run();
     EXPECT_EQ(sent(), Words{"PUT /user/api/components/7"});
     EXPECT_TRUE(*view->isEditing);

@@ -43,16 +43,6 @@ public:
         return "[" + joined + "]";
     }
 
-    /// "METHOD path" of what was sent.
-    Words sent() const
-    {
-        Words lines;
-        for (const auto& request : transport.requests) {
-            lines.push_back(request.method + " " + request.url.substr(std::string("https://service.example").size()));
-        }
-        return lines;
-    }
-
     fakes::FakeLinkOpener links;
 };
 

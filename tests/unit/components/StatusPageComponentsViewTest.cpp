@@ -231,7 +231,7 @@ TEST_F(OpenedComponent, ThatIsDeletedClosesAndTakesEveryRowOfItsIdAlongWithoutAF
     run();
     transport.requests.clear();
     transport.script(std::string(recordURL) + "1", 204, "");
-    view->detail()->deleteComponent();
+    view->detail()->deleteRecord();
     run();
     EXPECT_FALSE(view->presentedComponent->has_value());
     EXPECT_EQ(view->detail(), nullptr);
@@ -260,7 +260,7 @@ TEST_F(OpenedComponent, ThatIsTakenAwayInMidRequestDoesNotComeBackButItsRowIsPat
 
 TEST_F(OpenedComponent, ThatEndsItsDeletionBehindAnotherLeavesThatOneAlone)
 {
-    view->detail()->deleteComponent();
+    view->detail()->deleteRecord();
     run();
     view->closeComponent();
     open("2");

@@ -14,4 +14,14 @@ Service::Service()
 
 Service::~Service() = default;
 
+std::vector<std::string> Service::sent() const
+{
+    const std::string origin = std::string("https://") + host;
+    std::vector<std::string> lines;
+    for (const auto& request : transport.requests) {
+        lines.push_back(request.method + " " + request.url.substr(origin.size()));
+    }
+    return lines;
+}
+
 }  // namespace larkspan::fakes

@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "fakes/FakeCredentialStore.h"
 #include "fakes/FakeTransport.h"
@@ -40,6 +41,9 @@ struct Service {
     {
         while (main.run() + client.run() > 0) {}
     }
+
+    /// "METHOD path" of each request.
+    std::vector<std::string> sent() const;
 
     /// The result of `task`, or its exception; fails loudly if it did not end.
     template <typename T>

@@ -1,72 +1,17 @@
-#include "incidents/CreateIncidentView.h"
-
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 #include <vector>
 
-#include "api/KestruneAPI.h"
-#include "fakes/PageComponents.h"
 #include "fakes/Refusal.h"
-#include "presentation/Confirmation.h"
+#include "incidents/FormOfAnIncident.h"
 
 namespace larkspan::incidents {
 
 namespace {
 
 using fakes::Refusal;
-using platform::HttpResponse;
 using Words = std::vector<std::string>;
-
-const std::string created = R"({"id": "8", "title": "Down", "created_at": "2026-11-20T09:00:00Z"})";
-
-class FormOfAnIncident : public testing::Test, public fakes::PageComponents {
-protected:
-    /// With the components there to choose from.
-    std::shared_ptr<CreateIncidentView> opened()
-    {
-        CreateIncidentView::Owner owner{.onCreated = [this](const model::Incident& incident) { note(incident.id); },
-            .dismiss = [this] { note("dismiss"); }};
-        form = std::make_shared<CreateIncidentView>(
-            CreateIncidentView::Ports{api, {main, api, api, locale}}, "p", std::move(owner));
-        form->appear();
-        run();
-        transport.requests.clear();
-        return form;
-    }
-
-    std::shared_ptr<CreateIncidentView> titled(const std::string& title)
-    {
-        opened()->title = title;
-        return form;
-    }
-
-    void choose(const std::string& group, const std::string& component)
-    {
-        form->selection->chooseGroup(group);
-        form->selection->chooseComponent(component);
-        run();
-        transport.requests.clear();
-    }
-
-    void note(const std::string& effect)
-    {
-        effects.push_back(effect + (form && *form->action->isInProgress ? " while busy" : ""));
-    }
-
-    /// The body of the request after "Save" was pressed.
-    std::string saved()
-    {
-        transport.script(incidentsURL, 200, created);
-        form->save();
-        run();
-        return transport.requests.empty() ? "nothing" : transport.requests.back().body.value_or("none");
-    }
-
-    std::shared_ptr<CreateIncidentView> form;
-    Words effects;
-};
 
 TEST_F(FormOfAnIncident, OpensEmptyForTheEntirePageWithSubscribersNotified)
 {
@@ -76,7 +21,7 @@ TEST_F(FormOfAnIncident, OpensEmptyForTheEntirePageWithSubscribersNotified)
     EXPECT_TRUE(*form->notifySubscribers);
     EXPECT_EQ(*form->selection->selectedComponentGroupID, "");
     EXPECT_FALSE(form->isSaveEnabled());
-    EXPECT_TRUE(form->isCancelEnabled());
+    EXPECT_TRUE(form->isCloseEnabled());
     EXPECT_EQ(form->selectionHint(), "Choose a group only when the incident is limited to it.");
     form->selection->chooseGroup("back");
     EXPECT_EQ(form->selectionHint(), "Then choose the affected component within that group.");
@@ -176,29 +121,6 @@ TEST_F(FormOfAnIncident, SendsTheComponentAndTheMonitorButNotTheGroup)
         R"({"title":"Down","status_page_id":"p","component_id":"api","monitor_id":"m1","notify_subscribers":true})");
 }
 
-TEST_F(FormOfAnIncident, CreatedTellsItsOwnerThenClosesThenIsIdle)
-{
-    titled("Down");
-    saved();
-    EXPECT_EQ(effects, (Words{"8 while busy", "dismiss while busy"}));
-    EXPECT_FALSE(*form->action->isInProgress);
-    EXPECT_EQ(*form->action->alert, "");
-}
-
-TEST_F(FormOfAnIncident, WhileItIsSentCanNeitherBeSavedAgainNorLeft)
-{
-    titled("Down")->save();
-    EXPECT_FALSE(form->isSaveEnabled());
-    EXPECT_FALSE(form->isCancelEnabled());
-    form->save();
-    form->cancel();
-    form->requestClose();
-    run();
-    EXPECT_EQ(transport.requests.size(), 1u);
-    EXPECT_EQ(effects, Words{});
-    EXPECT_FALSE(*form->showDiscardConfirmation);
-}
-
 class RefusedIncident : public FormOfAnIncident, public testing::WithParamInterface<fakes::Refusal> {};
 
 TEST_P(RefusedIncident, IsAnAlertOverAFormThatKeepsAllThatWasTypedAndChosen)
@@ -228,29 +150,6 @@ TEST_F(FormOfAnIncident, LeftByEscapeWithNothingTypedJustCloses)
     EXPECT_EQ(effects, Words{"dismiss"});
 }
 
-TEST_F(FormOfAnIncident, LeftByEscapeWithSomethingTypedAsksFirst)
-{
-    opened()->message = "We look";
-    EXPECT_TRUE(form->hasUnsavedText());
-    form->requestClose();
-    EXPECT_TRUE(*form->showDiscardConfirmation);
-    EXPECT_EQ(presentation::discardConfirmation.title, "Discard Changes?");
-    form->keepEditing();
-    EXPECT_FALSE(*form->showDiscardConfirmation);
-    EXPECT_EQ(*form->message, "We look");
-    EXPECT_EQ(effects, Words{});
-    form->requestClose();
-    form->discardChanges();
-    EXPECT_FALSE(*form->showDiscardConfirmation);
-    EXPECT_EQ(effects, Words{"dismiss"});
-}
-
-TEST_F(FormOfAnIncident, CancelledClosesWithoutAsking)
-{
-    titled("Down")->cancel();
-    EXPECT_EQ(effects, Words{"dismiss"});
-}
-
 TEST_F(FormOfAnIncident, TellsItsObserversOfItsTextItsSelectionAndItsRequests)
 {
     opened();
@@ -262,18 +161,6 @@ TEST_F(FormOfAnIncident, TellsItsObserversOfItsTextItsSelectionAndItsRequests)
     EXPECT_EQ(changes, 2);
     form->action->dismissAlert();
     EXPECT_EQ(changes, 3);
-}
-
-TEST_F(FormOfAnIncident, ThatIsGoneStillEndsItsRequestAndThenIsFreed)
-{
-    titled("Down")->save();
-    run();
-    const std::weak_ptr<CreateIncidentView> held = form;
-    form.reset();
-    EXPECT_FALSE(held.expired());
-    transport.answer(HttpResponse{200, created});
-    run();
-    EXPECT_TRUE(held.expired());
 }
 
 }  // namespace

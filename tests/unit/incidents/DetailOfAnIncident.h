@@ -1,18 +1,12 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "api/KestruneAPI.h"
-#include "fakes/FakeLinkOpener.h"
-#include "fakes/FakeLocaleText.h"
-#include "fakes/Service.h"
+#include "fakes/OpenedDetail.h"
 #include "incidents/IncidentDetailView.h"
-#include "model/JSONDecoder.h"
 
 namespace larkspan::incidents {
 
@@ -31,27 +25,22 @@ inline const std::string acknowledged = R"(, "acknowledged_at": "x")";
 inline const std::string resolved = R"(, "incident_state_id": "4", "ended_at": "2026-11-20T08:30:00Z")";
 
 /// An incident "7" on the screen, whose owner hands back what it is told.
-class DetailOfAnIncident : public testing::Test, public fakes::Service {
+class DetailOfAnIncident : public fakes::OpenedDetail<IncidentDetailView> {
 protected:
     using Action = IncidentDetailView::DetailAction;
-
-    model::Incident decoded(const std::string& json)
-    {
-        return model::JSONDecoder(clock).decodeResult<model::Incident>(json);
-    }
 
     std::shared_ptr<IncidentDetailView> opened(const std::string& rest = "")
     {
         IncidentDetailView::Owner owner{.onUpdate = [this](const model::Incident& changed) { update(changed); },
             .dismiss = [this] { note("dismiss"); }};
-        view = std::make_shared<IncidentDetailView>(
-            IncidentDetailView::Ports{main, api, clock, locale, links}, decoded(record(rest)), std::move(owner));
+        view = std::make_shared<IncidentDetailView>(IncidentDetailView::Ports{main, api, clock, locale, links},
+            decoded<model::Incident>(record(rest)), std::move(owner));
         return view;
     }
 
     std::shared_ptr<IncidentDetailView> editing(const std::string& text)
     {
-        opened()->addUpdate();
+        opened()->beginEditing();
         view->editMessage = text;
         return view;
     }
@@ -62,39 +51,11 @@ protected:
         if (view) view->show(changed);
     }
 
-    void note(const std::string& effect)
-    {
-        effects.push_back(effect + (view && *view->action->isInProgress ? " while busy" : ""));
-    }
-
     void performed(Action action)
     {
         view->performAction(action);
         run();
     }
-
-    Words sent() const
-    {
-        Words lines;
-        for (const auto& request : transport.requests) {
-            lines.push_back(request.method + " " + request.url.substr(std::string("https://service.example").size()));
-        }
-        return lines;
-    }
-
-    Words enabledButtons() const
-    {
-        Words labels;
-        for (const auto& button : view->buttons()) {
-            if (button.isEnabled) labels.push_back(button.label);
-        }
-        return labels;
-    }
-
-    fakes::FakeLocaleText locale;
-    fakes::FakeLinkOpener links;
-    std::shared_ptr<IncidentDetailView> view;
-    Words effects;
 };
 
 }  // namespace larkspan::incidents

@@ -61,11 +61,11 @@ TEST_F(DetailOfAnIncident, AsksBeforeItDeletesAndCancelDoesNothing)
 {
     opened()->confirmDelete();
     EXPECT_TRUE(*view->showDeleteConfirmation);
-    EXPECT_EQ(IncidentDetailView::deleteConfirmation.title, "Delete Incident");
-    EXPECT_EQ(IncidentDetailView::deleteConfirmation.text,
-        "Are you sure you want to delete this incident? This action cannot be undone.");
-    EXPECT_EQ(IncidentDetailView::deleteConfirmation.confirm, "Delete");
-    EXPECT_EQ(IncidentDetailView::deleteConfirmation.cancel, "Cancel");
+    EXPECT_EQ(view->deleteConfirmation.title, "Delete Incident");
+    EXPECT_EQ(
+        view->deleteConfirmation.text, "Are you sure you want to delete this incident? This action cannot be undone.");
+    EXPECT_EQ(view->deleteConfirmation.confirm, "Delete");
+    EXPECT_EQ(view->deleteConfirmation.cancel, "Cancel");
     view->cancelDelete();
     run();
     EXPECT_FALSE(*view->showDeleteConfirmation);
@@ -76,7 +76,7 @@ TEST_F(DetailOfAnIncident, DeletedClosesItselfAndUpdatesNobody)
 {
     transport.script(recordURL, 200, "");
     opened()->confirmDelete();
-    view->deleteIncident();
+    view->deleteRecord();
     EXPECT_FALSE(*view->showDeleteConfirmation);
     run();
     EXPECT_EQ(sent(), Words{"DELETE /user/api/v1/incidents/7"});

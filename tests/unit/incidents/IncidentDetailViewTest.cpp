@@ -22,7 +22,7 @@ TEST_F(DetailOfAnIncident, IsTitledAsTheIncidentAndWhileEditingAddUpdate)
     opened();
     EXPECT_EQ(view->title(), "Outage");
     EXPECT_EQ(view->closeLabel(), "Close");
-    view->addUpdate();
+    view->beginEditing();
     EXPECT_EQ(view->title(), "Add Update");
     EXPECT_EQ(view->closeLabel(), "Cancel");
 }
@@ -61,7 +61,7 @@ TEST_F(DetailOfAnIncident, ShowsAMessageThatIsNotEmptyAlsoOneOfBlanksButNotWhile
     EXPECT_TRUE(opened(R"(, "message": " \n ")")->showsDescription());
     opened(R"(, "message": "We **look**")");
     EXPECT_EQ(view->description(), "We **look**");
-    view->addUpdate();
+    view->beginEditing();
     EXPECT_FALSE(view->showsDescription());
     view->close();
     EXPECT_TRUE(view->showsDescription());
@@ -99,7 +99,7 @@ INSTANTIATE_TEST_SUITE_P(EachState, ButtonsOfAnIncident,
 
 TEST_F(DetailOfAnIncident, OfACompletedOneCanBeNeitherAcknowledgedNorResolved)
 {
-    auto completed = decoded(record());
+    auto completed = decoded<model::Incident>(record());
     completed.status = model::IncidentStatus::completed;
     opened()->show(completed);
     EXPECT_EQ(enabledButtons(), (Words{"Escalate", "Add Update"}));
@@ -109,17 +109,19 @@ TEST_F(DetailOfAnIncident, DisablesEverythingButClosingWhileARequestRuns)
 {
     opened()->press("escalate");
     EXPECT_EQ(enabledButtons(), Words{});
-    EXPECT_FALSE(view->isDeleteEnabled());
+    EXPECT_FALSE(view->isIdle());
     view->confirmDelete();
     EXPECT_FALSE(*view->showDeleteConfirmation);
-    view->addUpdate();
-    view->editMessage = "text";
-    EXPECT_EQ(enabledButtons(), Words{});
+    view->beginEditing();
+    EXPECT_FALSE(*view->isEditing);
+    EXPECT_TRUE(view->isCloseEnabled());
     transport.script(actionURL + "escalate", 200, "{}");
     transport.script(recordURL, 200, record());
     run();
-    EXPECT_EQ(enabledButtons(), Words{"Save Update"});
-    EXPECT_TRUE(view->isDeleteEnabled());
+    EXPECT_EQ(enabledButtons().size(), 4u);
+    EXPECT_TRUE(view->isIdle());
+    editing("text")->saveUpdate();
+    EXPECT_EQ(enabledButtons(), Words{}) << "nor can it be sent again";
 }
 
 TEST_F(DetailOfAnIncident, PressedOnADisabledOrUnknownButtonDoesNothing)
@@ -149,9 +151,9 @@ TEST_F(DetailOfAnIncident, TellsItsObserversOfItsRecordItsEditorAndItsRequests)
     opened();
     int changes = 0;
     const auto subscriptions = view->observe([&changes] { ++changes; });
-    view->show(decoded(record(resolved)));
+    view->show(decoded<model::Incident>(record(resolved)));
     EXPECT_EQ(changes, 1);
-    view->addUpdate();
+    view->beginEditing();
     EXPECT_GT(changes, 1);
     const int before = changes;
     performed(Action::escalate);

@@ -85,6 +85,14 @@ TEST_F(DetailOfAnIncident, LeftByEscapeClosesTheEditorFirstAndThenTheScreen)
     EXPECT_EQ(effects, Words{"dismiss"});
 }
 
+TEST_F(DetailOfAnIncident, LeftTwiceBeforeItHasGoneTellsItsOwnerOnce)
+{
+    opened()->requestClose();
+    view->requestClose();
+    view->close();
+    EXPECT_EQ(effects, Words{"dismiss"});
+}
+
 TEST_F(DetailOfAnIncident, LeftByEscapeWithATypedTextAsksFirst)
 {
     editing("hello")->requestClose();
@@ -112,6 +120,17 @@ TEST_F(DetailOfAnIncident, NoLongerAsksAboutATextThatTheServiceHasMeanwhile)
     run();
     EXPECT_FALSE(*view->showDiscardConfirmation);
     EXPECT_FALSE(*view->isEditing);
+}
+
+TEST_F(DetailOfAnIncident, StaysInSightWhereATextIsDiscardedThatTheServiceHasMeanwhile)
+{
+    editing("hello")->saveUpdate();
+    run();
+    view->requestClose();
+    transport.answer(HttpResponse{200, record()});
+    run();
+    view->discardChanges();
+    EXPECT_EQ(effects, Words{"update while busy"});
 }
 
 }  // namespace

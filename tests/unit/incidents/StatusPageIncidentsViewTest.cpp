@@ -99,7 +99,7 @@ TEST_F(OpenedIncident, ThatIsDeletedClosesAndIsGoneAfterTheLoad)
 {
     serve({record("2")});
     transport.script(recordURL + "1", 200, "");
-    view->detail()->deleteIncident();
+    view->detail()->deleteRecord();
     run();
     EXPECT_FALSE(view->presentedIncident->has_value());
     EXPECT_EQ(ids(), Words{"2"});
@@ -122,7 +122,7 @@ TEST_F(OpenedIncident, ThatIsClosedInMidRequestDoesNotComeBackButItsRowIsBrought
 
 TEST_F(OpenedIncident, ThatIsClosedWhileItIsDeletedIsGoneWhenTheServiceHasDone)
 {
-    view->detail()->deleteIncident();
+    view->detail()->deleteRecord();
     run();
     view->closeIncident();
     run();
@@ -135,7 +135,7 @@ TEST_F(OpenedIncident, ThatIsClosedWhileItIsDeletedIsGoneWhenTheServiceHasDone)
 
 TEST_F(OpenedIncident, ThatEndsItsRequestBehindAnotherLeavesThatOneAlone)
 {
-    view->detail()->deleteIncident();
+    view->detail()->deleteRecord();
     run();
     view->closeIncident();
     run();
@@ -162,7 +162,7 @@ TEST_F(OpenedIncident, WhoseScreenIsGoneEndsItsRequestForNobody)
 TEST_F(OpenedIncident, WithATypedUpdateIsWhatLeavingTheScreenWouldLose)
 {
     EXPECT_FALSE(view->hasUnsavedText());
-    view->detail()->addUpdate();
+    view->detail()->beginEditing();
     EXPECT_FALSE(view->hasUnsavedText());
     view->detail()->editMessage = "text";
     EXPECT_TRUE(view->hasUnsavedText());

@@ -1,14 +1,10 @@
-#include "maintenances/CreateMaintenanceView.h"
-
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 #include <vector>
 
-#include "api/KestruneAPI.h"
-#include "fakes/PageComponents.h"
 #include "fakes/Refusal.h"
+#include "maintenances/FormOfAMaintenance.h"
 
 namespace larkspan::maintenances {
 
@@ -16,58 +12,9 @@ namespace {
 
 using namespace std::chrono_literals;
 using fakes::Refusal;
-using platform::HttpResponse;
 using Words = std::vector<std::string>;
 
-const std::string created = R"({"id": "8", "title": "Upgrade"})";
 const std::string anHour = R"("start_at":"2026-11-20T09:00:00Z","end_at":"2026-11-20T10:00:00Z")";
-
-class FormOfAMaintenance : public testing::Test, public fakes::PageComponents {
-protected:
-    std::shared_ptr<CreateMaintenanceView> opened()
-    {
-        CreateMaintenanceView::Owner owner{
-            .onCreated = [this](const model::Maintenance& maintenance) { note(maintenance.id); },
-            .dismiss = [this] { note("dismiss"); }};
-        form = std::make_shared<CreateMaintenanceView>(
-            CreateMaintenanceView::Ports{api, clock, {main, api, api, locale}}, "p", std::move(owner));
-        form->appear();
-        run();
-        transport.requests.clear();
-        return form;
-    }
-
-    std::shared_ptr<CreateMaintenanceView> titled(const std::string& title = "Upgrade")
-    {
-        opened()->title = title;
-        return form;
-    }
-
-    void choose(const std::string& group, const std::string& component)
-    {
-        form->selection->chooseGroup(group);
-        form->selection->chooseComponent(component);
-        run();
-        transport.requests.clear();
-    }
-
-    void note(const std::string& effect)
-    {
-        effects.push_back(effect + (form && *form->action->isInProgress ? " while busy" : ""));
-    }
-
-    /// The body of the request after "Save" was pressed.
-    std::string saved()
-    {
-        transport.script(maintenancesURL, 200, created);
-        form->save();
-        run();
-        return transport.requests.empty() ? "nothing" : transport.requests.back().body.value_or("none");
-    }
-
-    std::shared_ptr<CreateMaintenanceView> form;
-    Words effects;
-};
 
 TEST_F(FormOfAMaintenance, OpensEmptyForTheEntirePageAndTheNextHour)
 {
@@ -200,27 +147,6 @@ TEST_F(FormOfAMaintenance, WhoseGroupsCannotBeFetchedSaysNothing)
     EXPECT_TRUE(form->isSaveEnabled());
 }
 
-TEST_F(FormOfAMaintenance, CreatedTellsItsOwnerThenClosesThenIsIdle)
-{
-    titled();
-    saved();
-    EXPECT_EQ(effects, (Words{"8 while busy", "dismiss while busy"}));
-    EXPECT_FALSE(*form->action->isInProgress);
-}
-
-TEST_F(FormOfAMaintenance, WhileItIsSentCanNeitherBeSavedAgainNorLeft)
-{
-    titled()->save();
-    EXPECT_FALSE(form->isSaveEnabled());
-    EXPECT_FALSE(form->isCancelEnabled());
-    form->save();
-    form->cancel();
-    form->requestClose();
-    run();
-    EXPECT_EQ(transport.requests.size(), 1u);
-    EXPECT_EQ(effects, Words{});
-}
-
 class RefusedMaintenance : public FormOfAMaintenance, public testing::WithParamInterface<Refusal> {};
 
 TEST_P(RefusedMaintenance, IsAnAlertOverAFormThatKeepsAllThatWasTypedAndChosen)
@@ -279,18 +205,6 @@ TEST_F(FormOfAMaintenance, TellsItsObserversOfItsDatesToo)
     form->action->dismissAlert();
     form->selection->chooseMonitor("m");
     EXPECT_EQ(changes, 5);
-}
-
-TEST_F(FormOfAMaintenance, ThatIsGoneStillEndsItsRequestAndThenIsFreed)
-{
-    titled()->save();
-    run();
-    const std::weak_ptr<CreateMaintenanceView> held = form;
-    form.reset();
-    EXPECT_FALSE(held.expired());
-    transport.answer(HttpResponse{200, created});
-    run();
-    EXPECT_TRUE(held.expired());
 }
 
 }  // namespace

@@ -1,18 +1,13 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "api/KestruneAPI.h"
-#include "fakes/FakeLinkOpener.h"
-#include "fakes/FakeLocaleText.h"
-#include "fakes/Service.h"
+#include "fakes/OpenedDetail.h"
 #include "maintenances/MaintenanceDetailView.h"
-#include "model/JSONDecoder.h"
 
 namespace larkspan::maintenances {
 
@@ -32,21 +27,16 @@ inline const std::string isCompleted = R"(, "start_at": "2026-11-20T07:00:00Z", 
 inline const std::string isCancelled = R"(, "status": "cancelled")";
 
 /// A maintenance "7" on the screen.
-class DetailOfAMaintenance : public testing::Test, public fakes::Service {
+class DetailOfAMaintenance : public fakes::OpenedDetail<MaintenanceDetailView> {
 protected:
-    model::Maintenance decoded(const std::string& json)
-    {
-        return model::JSONDecoder(clock).decodeResult<model::Maintenance>(json);
-    }
-
     std::shared_ptr<MaintenanceDetailView> opened(const std::string& rest = isScheduled)
     {
         MaintenanceDetailView::Owner owner{
             .onUpdate = [this](const model::Maintenance& changed) { note("update " + changed.status); },
             .onDelete = [this](const model::Maintenance& deleted) { note("delete " + deleted.id); },
             .dismiss = [this] { note("dismiss"); }};
-        view = std::make_shared<MaintenanceDetailView>(
-            MaintenanceDetailView::Ports{main, api, clock, locale, links}, decoded(record(rest)), std::move(owner));
+        view = std::make_shared<MaintenanceDetailView>(MaintenanceDetailView::Ports{main, api, clock, locale, links},
+            decoded<model::Maintenance>(record(rest)), std::move(owner));
         return view;
     }
 
@@ -56,42 +46,18 @@ protected:
         return view;
     }
 
-    void note(const std::string& effect)
-    {
-        effects.push_back(effect + (view && *view->action->isInProgress ? " while busy" : ""));
-    }
-
     void answer(const std::string& rest) { transport.script(recordURL, 200, record(rest)); }
 
-    void press(std::string_view button)
-    {
-        view->press(button);
-        run();
-    }
-
+    /// With their bodies.
     Words sent() const
     {
-        Words lines;
-        for (const auto& request : transport.requests) {
-            lines.push_back(request.method + " " + request.url.substr(std::string("https://service.example").size())
-                + (request.body ? " " + *request.body : ""));
+        Words lines = Service::sent();
+        for (std::size_t at = 0; at < lines.size(); ++at) {
+            const auto& body = transport.requests.at(at).body;
+            if (body) lines[at] += " " + *body;
         }
         return lines;
     }
-
-    Words enabledButtons() const
-    {
-        Words labels;
-        for (const auto& button : view->buttons()) {
-            if (button.isEnabled) labels.push_back(button.label);
-        }
-        return labels;
-    }
-
-    fakes::FakeLocaleText locale;
-    fakes::FakeLinkOpener links;
-    std::shared_ptr<MaintenanceDetailView> view;
-    Words effects;
 };
 
 }  // namespace larkspan::maintenances

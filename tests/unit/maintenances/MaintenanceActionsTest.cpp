@@ -50,11 +50,11 @@ TEST_F(DetailOfAMaintenance, AsksBeforeItDeletesAndCancelDoesNothing)
 {
     opened()->press("delete");
     EXPECT_TRUE(*view->showDeleteConfirmation);
-    EXPECT_EQ(MaintenanceDetailView::deleteConfirmation.title, "Delete Maintenance");
-    EXPECT_EQ(MaintenanceDetailView::deleteConfirmation.text,
+    EXPECT_EQ(view->deleteConfirmation.title, "Delete Maintenance");
+    EXPECT_EQ(view->deleteConfirmation.text,
         "Are you sure you want to delete this maintenance? This action cannot be undone.");
-    EXPECT_EQ(MaintenanceDetailView::deleteConfirmation.confirm, "Delete");
-    EXPECT_EQ(MaintenanceDetailView::deleteConfirmation.cancel, "Cancel");
+    EXPECT_EQ(view->deleteConfirmation.confirm, "Delete");
+    EXPECT_EQ(view->deleteConfirmation.cancel, "Cancel");
     view->cancelDelete();
     run();
     EXPECT_FALSE(*view->showDeleteConfirmation);
@@ -65,7 +65,7 @@ TEST_F(DetailOfAMaintenance, DeletedTellsItsOwnerAndThenCloses)
 {
     transport.script(recordURL, 204, "");
     opened()->confirmDelete();
-    view->removeMaintenance();
+    view->deleteRecord();
     EXPECT_FALSE(*view->showDeleteConfirmation);
     run();
     EXPECT_EQ(sent(), Words{"DELETE /user/api/v1/maintenances/7"});
@@ -79,7 +79,7 @@ TEST_F(DetailOfAMaintenance, PressedTwiceSendsOnce)
     press("start");
     press("start");
     view->startMaintenance();
-    view->removeMaintenance();
+    view->deleteRecord();
     run();
     EXPECT_EQ(transport.requests.size(), 1u);
 }
@@ -107,7 +107,7 @@ TEST_P(RefusedMaintenanceAction, IsAnAlertThatLeavesTheStatusAsItWas)
 
 INSTANTIATE_TEST_SUITE_P(EachActionAndAnswer, RefusedMaintenanceAction,
     testing::Combine(testing::Values(&MaintenanceDetailView::startMaintenance,
-                         &MaintenanceDetailView::completeMaintenance, &MaintenanceDetailView::removeMaintenance),
+                         &MaintenanceDetailView::completeMaintenance, &MaintenanceDetailView::deleteRecord),
         testing::ValuesIn(fakes::refusals())));
 
 TEST_F(DetailOfAMaintenance, BeginsAnActionWithoutTheAlertOfTheOneBefore)

@@ -118,7 +118,7 @@ TEST_F(DetailOfAMaintenance, OfAnUnknownStatusHasNeitherActionButtonButEditAndDe
     opened(isCancelled);
     EXPECT_EQ(view->status(), (Pill{"Cancelled", Tone::gray}));
     EXPECT_EQ(view->buttons(), std::vector{deletion});
-    EXPECT_TRUE(view->isMenuEnabled());
+    EXPECT_TRUE(view->isIdle());
     view->press("delete");
     EXPECT_TRUE(*view->showDeleteConfirmation);
     view->beginEditing();
@@ -128,7 +128,7 @@ TEST_F(DetailOfAMaintenance, OfAnUnknownStatusHasNeitherActionButtonButEditAndDe
     run();
     EXPECT_FALSE(*view->isEditing);
     transport.script(recordURL, 204, "");
-    view->removeMaintenance();
+    view->deleteRecord();
     run();
     EXPECT_EQ(effects, (Words{"update cancelled while busy", "delete 7 while busy", "dismiss while busy"}));
 }
@@ -163,7 +163,7 @@ TEST_F(DetailOfAMaintenance, DisablesEverythingButClosingWhileARequestRuns)
     press("start");
     EXPECT_EQ(enabledButtons(), Words{});
     EXPECT_EQ(view->buttons().size(), 2u) << "they stay in sight";
-    EXPECT_FALSE(view->isMenuEnabled());
+    EXPECT_FALSE(view->isIdle());
     view->confirmDelete();
     EXPECT_FALSE(*view->showDeleteConfirmation);
     view->beginEditing();
@@ -171,7 +171,7 @@ TEST_F(DetailOfAMaintenance, DisablesEverythingButClosingWhileARequestRuns)
     transport.answer(HttpResponse{200, record(isInProgress)});
     run();
     EXPECT_EQ(enabledButtons(), (Words{"Complete Maintenance", "Delete Maintenance"}));
-    EXPECT_TRUE(view->isMenuEnabled());
+    EXPECT_TRUE(view->isIdle());
 }
 
 TEST_F(DetailOfAMaintenance, ThatIsGoneStillEndsItsRequestAndThenIsFreed)

@@ -105,7 +105,7 @@ TEST_F(OpenedMaintenance, ThatIsDeletedLosesItsRowAtOnceAndCloses)
 {
     transport.forget(maintenancesURL);
     transport.script(urlOf("1"), 204, "");
-    view->detail()->removeMaintenance();
+    view->detail()->deleteRecord();
     run();
     EXPECT_EQ(ids(), Words{"2"});
     EXPECT_FALSE(view->presentedMaintenance->has_value());
@@ -127,7 +127,7 @@ TEST_F(OpenedMaintenance, ThatIsClosedInMidRequestDoesNotComeBackButItsRowIsPatc
 
 TEST_F(OpenedMaintenance, ThatEndsItsDeletionBehindAnotherLosesItsRowAndLeavesThatOneAlone)
 {
-    view->detail()->removeMaintenance();
+    view->detail()->deleteRecord();
     run();
     view->closeMaintenance();
     run();
@@ -142,7 +142,7 @@ TEST_F(OpenedMaintenance, ThatEndsItsDeletionBehindAnotherLosesItsRowAndLeavesTh
 
 TEST_F(OpenedMaintenance, WhoseScreenIsGoneEndsItsRequestsForNobody)
 {
-    view->detail()->removeMaintenance();
+    view->detail()->deleteRecord();
     run();
     const std::weak_ptr<StatusPageMaintenancesView> held = view;
     view.reset();

@@ -7,11 +7,8 @@
 #include <tuple>
 #include <vector>
 
-#include "api/KestruneAPI.h"
-#include "fakes/FakeLinkOpener.h"
-#include "fakes/FakeLocaleText.h"
+#include "fakes/OpenedDetail.h"
 #include "fakes/Refusal.h"
-#include "fakes/Service.h"
 #include "model/ISO8601.h"
 
 namespace larkspan::monitors {
@@ -33,7 +30,7 @@ std::string listOf(const std::string& keys)
     return R"([{"id": "1", "name": "Other"}, {"id": "7", "name": "Gateway", "type": "tcp")" + keys + "}]";
 }
 
-class DetailOfAMonitor : public testing::Test, public fakes::Service {
+class DetailOfAMonitor : public fakes::OpenedDetail<MonitorDetailView> {
 protected:
     static Monitor gateway()
     {
@@ -47,33 +44,12 @@ protected:
 
     std::shared_ptr<MonitorDetailView> opened(const Monitor& monitor = gateway())
     {
-        MonitorDetailView::Owner owner{.onUpdate = [this](const Monitor& refreshed) {
-            effects.push_back("update of " + refreshed.name + (*view->action->isInProgress ? " while busy" : ""));
-        }};
+        MonitorDetailView::Owner owner{
+            .onUpdate = [this](const Monitor& refreshed) { note("update of " + refreshed.name); }};
         view = std::make_shared<MonitorDetailView>(
             MonitorDetailView::Ports{main, api, locale, links}, monitor, std::move(owner));
         return view;
     }
-
-    void press(const std::string& button)
-    {
-        view->press(button);
-        run();
-    }
-
-    Words sent() const
-    {
-        Words lines;
-        for (const auto& request : transport.requests) {
-            lines.push_back(request.method + " " + request.url.substr(std::string("https://service.example").size()));
-        }
-        return lines;
-    }
-
-    fakes::FakeLocaleText locale;
-    fakes::FakeLinkOpener links;
-    std::shared_ptr<MonitorDetailView> view;
-    Words effects;
 };
 
 TEST_F(DetailOfAMonitor, ShowsWhatTheRecordSays)

@@ -44,15 +44,6 @@ protected:
         transport.requests.clear();
     }
 
-    Words sent() const
-    {
-        Words lines;
-        for (const auto& request : transport.requests) {
-            lines.push_back(request.method + " " + request.url.substr(std::string("https://service.example").size()));
-        }
-        return lines;
-    }
-
     static model::StatusPage page()
     {
         model::StatusPage page;

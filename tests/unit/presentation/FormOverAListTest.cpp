@@ -53,7 +53,7 @@ TYPED_TEST(FormOverAList, IsUpWithItsChoicesUntilItIsCancelled)
     EXPECT_EQ(form->selection->groupChoices().size(), 2u);
     this->openForm();
     EXPECT_EQ(this->view->form(), form) << "asked for twice it is one";
-    form->cancel();
+    form->close();
     EXPECT_FALSE(this->isFormUp());
     EXPECT_EQ(this->view->form(), nullptr);
     this->run();
@@ -105,7 +105,7 @@ TYPED_TEST(FormOverAList, WithATypedTextIsWhatLeavingTheScreenWouldLose)
     EXPECT_FALSE(this->view->hasUnsavedText());
     this->view->form()->title = "New";
     EXPECT_TRUE(this->view->hasUnsavedText());
-    this->view->form()->cancel();
+    this->view->form()->close();
     EXPECT_FALSE(this->view->hasUnsavedText());
 }
 

@@ -1,0 +1,45 @@
+#include "presentation/EditableDetail.h"
+
+#include <utility>
+
+namespace larkspan::presentation {
+
+EditableDetail::EditableDetail(platform::Executor& main, Confirmation deletion, std::function<void()> dismiss)
+    : GuardedScreen(main, std::move(dismiss))
+    , deleteConfirmation(deletion)
+{
+}
+
+void EditableDetail::beginEditing()
+{
+    if (!isIdle()) return;
+    fillEditor();
+    isEditing = true;
+}
+
+void EditableDetail::confirmDelete()
+{
+    if (isIdle()) showDeleteConfirmation = true;
+}
+
+void EditableDetail::deleteRecord()
+{
+    showDeleteConfirmation = false;
+    action->run(remove());
+}
+
+void EditableDetail::closeEditor()
+{
+    showDiscardConfirmation = false;
+    isEditing = false;
+}
+
+void EditableDetail::leave()
+{
+    if (*isEditing)
+        closeEditor();
+    else
+        dismiss();
+}
+
+}  // namespace larkspan::presentation

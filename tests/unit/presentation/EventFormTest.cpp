@@ -1,0 +1,98 @@
+#include "presentation/EventForm.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "incidents/FormOfAnIncident.h"
+#include "maintenances/FormOfAMaintenance.h"
+#include "presentation/Confirmation.h"
+
+namespace larkspan::presentation {
+
+namespace {
+
+using platform::HttpResponse;
+using Words = std::vector<std::string>;
+
+template <typename Form>
+class FormOfAnEvent : public Form {
+};
+
+struct NameOfAForm {
+    template <typename Form>
+    static std::string GetName(int)
+    {
+        return std::is_same_v<Form, incidents::FormOfAnIncident> ? "Incident" : "Maintenance";
+    }
+};
+
+using Forms = testing::Types<incidents::FormOfAnIncident, maintenances::FormOfAMaintenance>;
+TYPED_TEST_SUITE(FormOfAnEvent, Forms, NameOfAForm);
+
+TYPED_TEST(FormOfAnEvent, CreatedTellsItsOwnerThenClosesThenIsIdle)
+{
+    this->titled("New");
+    this->saved();
+    EXPECT_EQ(this->effects, (Words{"8 while busy", "dismiss while busy"}));
+    EXPECT_TRUE(this->form->isIdle());
+    EXPECT_EQ(*this->form->action->alert, "");
+}
+
+TYPED_TEST(FormOfAnEvent, WhileItIsSentCanNeitherBeSavedAgainNorLeft)
+{
+    const auto form = this->titled("New");
+    form->save();
+    EXPECT_FALSE(form->isSaveEnabled());
+    EXPECT_FALSE(form->isCloseEnabled());
+    form->save();
+    form->close();
+    form->requestClose();
+    this->run();
+    EXPECT_EQ(this->transport.requests.size(), 1u);
+    EXPECT_EQ(this->effects, Words{});
+    EXPECT_FALSE(*form->showDiscardConfirmation);
+}
+
+TYPED_TEST(FormOfAnEvent, LeftByEscapeWithSomethingTypedAsksFirst)
+{
+    const auto form = this->opened();
+    form->message = "We look";
+    EXPECT_TRUE(form->hasUnsavedText());
+    form->requestClose();
+    EXPECT_TRUE(*form->showDiscardConfirmation);
+    EXPECT_EQ(discardConfirmation.title, "Discard Changes?");
+    form->keepEditing();
+    EXPECT_FALSE(*form->showDiscardConfirmation);
+    EXPECT_EQ(*form->message, "We look");
+    EXPECT_EQ(this->effects, Words{});
+    form->requestClose();
+    form->discardChanges();
+    EXPECT_FALSE(*form->showDiscardConfirmation);
+    EXPECT_EQ(this->effects, Words{"dismiss"});
+}
+
+TYPED_TEST(FormOfAnEvent, CancelledClosesWithoutAsking)
+{
+    this->titled("New")->close();
+    EXPECT_EQ(this->effects, Words{"dismiss"});
+}
+
+TYPED_TEST(FormOfAnEvent, ThatIsGoneStillEndsItsRequestAndThenIsFreed)
+{
+    this->titled("New")->save();
+    this->run();
+    const std::weak_ptr<EventForm> held = this->form;
+    this->form.reset();
+    EXPECT_FALSE(held.expired());
+    this->transport.answer(HttpResponse{200, this->created});
+    this->run();
+    EXPECT_TRUE(held.expired());
+}
+
+}  // namespace
+
+}  // namespace larkspan::presentation
