@@ -33,7 +33,6 @@ public:
 
     Q_INVOKABLE void dismissAlert() { view_->dismissAlert(); }
     Q_INVOKABLE void open(const QString& id) { view_->openComponent(id.toStdString()); }
-    Q_INVOKABLE void closeDetail() { view_->closeComponent(); }
 
 private:
     void readState() override;

@@ -33,7 +33,6 @@ public:
     CreateIncidentBridge* form() const { return form_.get(); }
 
     Q_INVOKABLE void open(const QString& id) { view_->openIncident(id.toStdString()); }
-    Q_INVOKABLE void closeDetail() { view_->closeIncident(); }
     Q_INVOKABLE void openForm() { view_->openCreateIncident(); }
 
 private:

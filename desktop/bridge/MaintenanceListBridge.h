@@ -33,7 +33,6 @@ public:
     CreateMaintenanceBridge* form() const { return form_.get(); }
 
     Q_INVOKABLE void open(const QString& id) { view_->openMaintenance(id.toStdString()); }
-    Q_INVOKABLE void closeDetail() { view_->closeMaintenance(); }
     Q_INVOKABLE void openForm() { view_->openCreateMaintenance(); }
 
 private:
