@@ -4,8 +4,9 @@ import json
 
 import pytest
 
+import opening
 from patience import eventually
-from service import NAMES, PAGES
+from service import PAGES
 
 PAGE = PAGES[0]["id"]
 API = "/user/api"
@@ -19,13 +20,9 @@ def page(start, stored_key, the_service, the_display):
     the_service.edge = the_service.add_component_group("Edge", page=PAGE)
     the_service.component = the_service.add_component("REST API", group=the_service.core)
     the_service.add_component("Cache", group=the_service.edge)
-    screen = start().screen
-    screen.wait_for_rows(NAMES)
-    the_display.press_key("Return")
-    screen.wait_for("Current Status")
+    screen = opening.first_page(start, the_display)
     the_service.forget()
-    the_display.press_key("ctrl+4")
-    screen.wait_for_rows(["REST API", "Cache"])
+    opening.tab(screen, the_display, 4, ["REST API", "Cache"])
     return screen
 
 

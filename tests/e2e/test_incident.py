@@ -4,7 +4,8 @@ import json
 
 import pytest
 
-from service import KEY, NAMES, PAGES
+import opening
+from service import KEY, PAGES
 
 PAGE = PAGES[0]["id"]
 V1 = "/user/api/v1"
@@ -14,25 +15,15 @@ V1 = "/user/api/v1"
 def page(start, stored_key, the_service, the_display):
     """The tab "Incidents" of the first page, which has one incident."""
     the_service.incident = the_service.open_incident("Login errors", page=PAGE)
-    screen = start().screen
-    screen.wait_for_rows(NAMES)
-    the_display.press_key("Return")
-    screen.wait_for("Current Status")
-    the_display.press_key("ctrl+2")
-    screen.wait_for_rows(["Login errors"])
+    screen = opening.first_page(start, the_display)
+    opening.tab(screen, the_display, 2, ["Login errors"])
     return screen
 
 
 @pytest.fixture
 def opened(page, the_display, the_service):
     """That incident, opened."""
-    the_display.press_key("Tab")
-    page.wait_for_focus("Back")
-    for _ in range(3):
-        the_display.press_key("Tab")
-    page.wait_for_focus("Login errors")
-    the_display.press_key("Return")
-    page.wait_for("Timeline")
+    opening.first_event(page, the_display, "Login errors")
     the_service.forget()
     return page
 

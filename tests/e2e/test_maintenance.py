@@ -5,8 +5,9 @@ from datetime import datetime, timedelta, timezone
 
 import pytest
 
+import opening
 from patience import eventually
-from service import NAMES, PAGES
+from service import PAGES
 
 PAGE = PAGES[0]["id"]
 V1 = "/user/api/v1"
@@ -28,25 +29,15 @@ def is_now(text: str) -> bool:
 def page(start, stored_key, the_service, the_display):
     """The tab "Maintenances" of the first page, which has one that begins in an hour and lasts one."""
     the_service.plan_maintenance("Database upgrade", page=PAGE)
-    screen = start().screen
-    screen.wait_for_rows(NAMES)
-    the_display.press_key("Return")
-    screen.wait_for("Current Status")
-    the_display.press_key("ctrl+5")
-    screen.wait_for_rows(["Database upgrade"])
+    screen = opening.first_page(start, the_display)
+    opening.tab(screen, the_display, 5, ["Database upgrade"])
     return screen
 
 
 @pytest.fixture
 def opened(page, the_display, the_service):
     """That maintenance, opened."""
-    the_display.press_key("Tab")
-    page.wait_for_focus("Back")
-    for _ in range(3):
-        the_display.press_key("Tab")
-    page.wait_for_focus("Database upgrade")
-    the_display.press_key("Return")
-    page.wait_for("Timeline")
+    opening.first_event(page, the_display, "Database upgrade")
     the_service.forget()
     return page
 

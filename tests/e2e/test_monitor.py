@@ -2,6 +2,7 @@
 
 import pytest
 
+import opening
 from patience import eventually
 
 PAGES = ["Northwind Payments API", "Northwind Web Checkout", "Northwind Identity"]
@@ -18,12 +19,8 @@ def order(name: str) -> tuple[str, str]:
 def page(start, stored_key, the_service, the_display):
     """The tab "Monitors" of the first page."""
     the_service.seed("tiny")
-    screen = start().screen
-    screen.wait_for_rows(PAGES)
-    the_display.press_key("Return")
-    screen.wait_for("Current Status")
-    the_display.press_key("ctrl+3")
-    screen.wait_for_rows(MONITORS)
+    screen = opening.first_page(start, the_display, PAGES)
+    opening.tab(screen, the_display, 3, MONITORS)
     the_service.forget()
     return screen
 

@@ -1,15 +1,13 @@
 """A status page opened with the keyboard alone, its overview read, and left again."""
 
+import opening
 from service import NAMES, PAGES
 
 TABS = ["Overview", "Incidents", "Monitors", "Components", "Maintenances"]
 
 
 def test_a_page_opens_from_its_row_and_the_way_back_leads_to_it(start, stored_key, the_service, the_display):
-    screen = start().screen
-    screen.wait_for_rows(NAMES)
-    the_display.press_key("Return")
-    screen.wait_for("Current Status")
+    screen = opening.first_page(start, the_display)
     assert screen.shows(NAMES[0])
     assert all(screen.shows(tab) for tab in TABS)
     assert screen.shows("Current Activity")
@@ -20,10 +18,7 @@ def test_a_page_opens_from_its_row_and_the_way_back_leads_to_it(start, stored_ke
 
 
 def test_alt_and_left_leads_back_too_and_the_tabs_are_chosen_by_their_keys(start, stored_key, the_service, the_display):
-    screen = start().screen
-    screen.wait_for_rows(NAMES)
-    the_display.press_key("Return")
-    screen.wait_for("Current Status")
+    screen = opening.first_page(start, the_display)
     the_display.press_key("ctrl+4")
     screen.wait_until_gone("Current Status")
     the_display.press_key("ctrl+Next")
@@ -34,10 +29,7 @@ def test_alt_and_left_leads_back_too_and_the_tabs_are_chosen_by_their_keys(start
 
 
 def test_an_opened_page_follows_the_account_and_closes_when_it_is_gone(start, stored_key, the_service, the_display):
-    screen = start().screen
-    screen.wait_for_rows(NAMES)
-    the_display.press_key("Return")
-    screen.wait_for("Current Status")
+    screen = opening.first_page(start, the_display)
     the_service.change(PAGES[0]["id"], name="A name of its own")
     the_display.press_key("F5")
     screen.wait_for("A name of its own")
