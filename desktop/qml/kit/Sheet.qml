@@ -48,6 +48,7 @@ ModalDialog {
         }
 
         BusyOverlay {
+            radius: Theme.cardRadius
             visible: sheet.isBusy
             text: sheet.busyText
         }

@@ -18,9 +18,9 @@ class OpenedForm : public testing::Test, public PageComponents {
 protected:
     using Words = std::vector<std::string>;
 
-    /// `created` is what the service answers at `eventsURL`.
-    OpenedForm(std::string eventsURL, std::string created)
-        : created(std::move(created))
+    /// `answer` is what the service sends back from `eventsURL`.
+    OpenedForm(std::string eventsURL, std::string answer)
+        : created(std::move(answer))
         , eventsURL_(std::move(eventsURL))
     {
     }

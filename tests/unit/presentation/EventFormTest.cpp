@@ -44,34 +44,34 @@ TYPED_TEST(FormOfAnEvent, CreatedTellsItsOwnerThenClosesThenIsIdle)
 
 TYPED_TEST(FormOfAnEvent, WhileItIsSentCanNeitherBeSavedAgainNorLeft)
 {
-    const auto form = this->titled("New");
-    form->save();
-    EXPECT_FALSE(form->isSaveEnabled());
-    EXPECT_FALSE(form->isCloseEnabled());
-    form->save();
-    form->close();
-    form->requestClose();
+    const auto written = this->titled("New");
+    written->save();
+    EXPECT_FALSE(written->isSaveEnabled());
+    EXPECT_FALSE(written->isCloseEnabled());
+    written->save();
+    written->close();
+    written->requestClose();
     this->run();
     EXPECT_EQ(this->transport.requests.size(), 1u);
     EXPECT_EQ(this->effects, Words{});
-    EXPECT_FALSE(*form->showDiscardConfirmation);
+    EXPECT_FALSE(*written->showDiscardConfirmation);
 }
 
 TYPED_TEST(FormOfAnEvent, LeftByEscapeWithSomethingTypedAsksFirst)
 {
-    const auto form = this->opened();
-    form->message = "We look";
-    EXPECT_TRUE(form->hasUnsavedText());
-    form->requestClose();
-    EXPECT_TRUE(*form->showDiscardConfirmation);
+    const auto written = this->opened();
+    written->message = "We look";
+    EXPECT_TRUE(written->hasUnsavedText());
+    written->requestClose();
+    EXPECT_TRUE(*written->showDiscardConfirmation);
     EXPECT_EQ(discardConfirmation.title, "Discard Changes?");
-    form->keepEditing();
-    EXPECT_FALSE(*form->showDiscardConfirmation);
-    EXPECT_EQ(*form->message, "We look");
+    written->keepEditing();
+    EXPECT_FALSE(*written->showDiscardConfirmation);
+    EXPECT_EQ(*written->message, "We look");
     EXPECT_EQ(this->effects, Words{});
-    form->requestClose();
-    form->discardChanges();
-    EXPECT_FALSE(*form->showDiscardConfirmation);
+    written->requestClose();
+    written->discardChanges();
+    EXPECT_FALSE(*written->showDiscardConfirmation);
     EXPECT_EQ(this->effects, Words{"dismiss"});
 }
 
