@@ -31,6 +31,6 @@ GroupBox {
         id: below
         visible: group.hasApart
         width: parent.width
-        spacing: Theme.unit + Theme.halfUnit
+        spacing: group.contentSpacing
     }
 }

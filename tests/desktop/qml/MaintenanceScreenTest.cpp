@@ -53,6 +53,18 @@ TEST_F(MaintenancesOnScreen, OneOpensWithAllItsGroupsAndClosesToItsRow)
     EXPECT_EQ(focused(), "Upgrade");
 }
 
+TEST_F(MaintenancesOnScreen, TheRowsOfATimelineAreAsFarApartBelowItsLineAsAbove)
+{
+    serve({work("1", "Upgrade",
+        isScheduled + R"(, "created_at": "2026-11-01T09:00:00Z", "updated_at": "2026-11-02T09:00:00Z")")});
+    press(Qt::Key_F5);
+    openFirst();
+    const auto top = [this](const char* label) {
+        return item(Role::StaticText, QString::fromUtf8(label)).mapToScene({0, 0}).y();
+    };
+    EXPECT_EQ(top("Updated") - top("Created"), top("Scheduled End") - top("Scheduled Start"));
+}
+
 TEST_F(MaintenancesOnScreen, OneIsStartedAndThenCompleted)
 {
     openFirst();
