@@ -92,7 +92,7 @@ TEST(KeyringThatWasOpenedBeforehand, IsAskedForNoFurtherSessionByTheFirstRead)
     // The monitor is at work once it has told of another store's session.
     EXPECT_TRUE(peers::turnUntil([&] {
         SecretServiceStore().open();
-        return monitor.heardByNow().filter("OpenSession").size() > 0;
+        return !monitor.heardByNow().filter("OpenSession").empty();
     }));
     monitor.heardByNow();
     EXPECT_EQ(store.find(apiKey), "key-1");
