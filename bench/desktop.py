@@ -15,7 +15,7 @@ import time
 from contextlib import contextmanager
 from pathlib import Path
 
-from measurement import ROOT, Unable, output_of
+from measurement import ROOT, SCROLLED_ROWS, Unable, output_of
 
 sys.path.append(str(ROOT / "tests/e2e"))
 
@@ -33,7 +33,6 @@ RESIDENT_ROUNDS = 3
 SETTLING_SECONDS = 2
 IDLE_SECONDS = 60
 SCROLL_ROUNDS = 3
-SCROLLED_ROWS = {"pages": 10_000, "incidents": 10_000, "components": 10_000, "monitors": 2_000, "bare": 10_000}
 # Where the names of the rows come to stand, and before them the mark of being busy, which is never at rest: x, y, width,
 # height.
 ROWS = ("60", "200", "340", "120")

@@ -4,6 +4,8 @@ import subprocess
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
+# What is scrolled, and how many rows of it.
+SCROLLED_ROWS = {"pages": 10_000, "incidents": 10_000, "components": 10_000, "monitors": 2_000, "bare": 10_000}
 
 
 class Unable(Exception):

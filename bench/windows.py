@@ -6,7 +6,7 @@ import re
 import sys
 import tempfile
 
-from measurement import ROOT, Unable, measurement, program
+from measurement import ROOT, SCROLLED_ROWS, Unable, measurement, program
 
 sys.path.append(str(ROOT / "tests/e2e"))
 
@@ -42,10 +42,9 @@ def measure_scroll(build):
     found = on_the_desktop(build, "scroll", "larkspan-bench-scroll")
     measurements = []
     for scale, times in found.items():
-        bare_middle, bare_slow = times["bare"]
-        for kind, rows in (("pages", 10_000), ("incidents", 10_000), ("components", 10_000), ("monitors", 2_000)):
-            name = f"scroll_{rows}_{kind}_{scale}x"
-            middle, slow = times[kind]
+        bare_middle, bare_slow = times.pop("bare")
+        for kind, (middle, slow) in times.items():
+            name = f"scroll_{SCROLLED_ROWS[kind]}_{kind}_{scale}x"
             measurements += [measurement(name, middle, "ms", bare_middle, SCROLL_GOAL),
                              measurement(f"{name}_95th", slow, "ms", bare_slow, SCROLL_GOAL)]
     return measurements

@@ -8,6 +8,7 @@
 #include <thread>
 #include <tuple>
 
+#include "ApiKeyItem.h"
 #include "SessionBus.h"
 #include "adapters/secrets/SecretServiceStore.h"
 #include "peers/EventLoop.h"
@@ -20,7 +21,6 @@ namespace {
 using peers::Keyring;
 using namespace std::chrono_literals;
 
-constexpr platform::CredentialItem apiKey{.service = "KestruneAPIKeyService", .account = "KestruneAPIKey"};
 constexpr auto patience = 400ms;
 
 class ServiceThatNeverAnswers : public testing::TestWithParam<const char*> {};
@@ -67,7 +67,7 @@ TEST(FrozenService, HoldsUpTheOpeningOfTheSessionForASecondAtMost)
 {
     Keyring keyring(sessionBus());
     SecretServiceStore store;
-    keyring.store({"service", "KestruneAPIKeyService", "account", "KestruneAPIKey"}, "key-1");
+    keyring.store(apiKeyAttributes, "key-1");
     keyring.signal(SIGSTOP);
 
     const auto begin = std::chrono::steady_clock::now();

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "ApiKeyItem.h"
 #include "SessionBus.h"
 #include "adapters/secrets/SecretServiceStore.h"
 #include "peers/EventLoop.h"
@@ -9,9 +10,6 @@
 
 namespace larkspan::adapters {
 namespace {
-
-constexpr platform::CredentialItem apiKey{.service = "KestruneAPIKeyService", .account = "KestruneAPIKey"};
-const QStringList apiKeyAttributes{"service", "KestruneAPIKeyService", "account", "KestruneAPIKey"};
 
 /// Tells what the keyring is asked for, by whomever.
 class KeyringCalls : public testing::Test {

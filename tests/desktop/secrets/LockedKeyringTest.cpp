@@ -3,6 +3,7 @@
 #include <csignal>
 #include <future>
 
+#include "ApiKeyItem.h"
 #include "Prompter.h"
 #include "SessionBus.h"
 #include "adapters/secrets/SecretServiceStore.h"
@@ -16,9 +17,6 @@ using peers::Keyring;
 using peers::turnFor;
 using peers::turnUntil;
 using namespace std::chrono_literals;
-
-constexpr platform::CredentialItem apiKey{.service = "KestruneAPIKeyService", .account = "KestruneAPIKey"};
-const QStringList apiKeyAttributes{"service", "KestruneAPIKeyService", "account", "KestruneAPIKey"};
 
 class LockedKeyring : public testing::Test {
 protected:

@@ -4,6 +4,7 @@
 
 #include <csignal>
 
+#include "ApiKeyItem.h"
 #include "SessionBus.h"
 #include "peers/EventLoop.h"
 #include "peers/Keyring.h"
@@ -14,9 +15,6 @@ namespace {
 using peers::Keyring;
 using namespace std::chrono_literals;
 using namespace std::string_literals;
-
-constexpr platform::CredentialItem apiKey{.service = "KestruneAPIKeyService", .account = "KestruneAPIKey"};
-const QStringList apiKeyAttributes{"service", "KestruneAPIKeyService", "account", "KestruneAPIKey"};
 
 class SecretServiceStoreTest : public testing::Test {
 protected:

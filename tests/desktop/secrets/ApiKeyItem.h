@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QStringList>
+
+#include "platform/CredentialStore.h"
+
+namespace larkspan::adapters {
+
+inline constexpr platform::CredentialItem apiKey{.service = "KestruneAPIKeyService", .account = "KestruneAPIKey"};
+/// The same as names and values in turn, as `secret-tool` takes them.
+inline const QStringList apiKeyAttributes{"service", "KestruneAPIKeyService", "account", "KestruneAPIKey"};
+
+}  // namespace larkspan::adapters
