@@ -29,8 +29,7 @@ void QtNetworkPathMonitor::start(std::function<void(bool isSatisfied)> update)
 {
     update_ = std::move(update);
     if (!bus_.isConnected()) {
-        QMetaObject::invokeMethod(
-            this, [this] { report(true); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, [this] { report(true); }, Qt::QueuedConnection);
         return;
     }
     auto* const watcher

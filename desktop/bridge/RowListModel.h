@@ -107,7 +107,7 @@ void RowListModel<Value>::reorder(std::vector<std::size_t>& places)
         return;
     }
     for (auto stray = std::ranges::find(isInRun, false); stray != isInRun.end();
-         stray = std::ranges::find(isInRun, false)) {
+        stray = std::ranges::find(isInRun, false)) {
         const auto from = stray - isInRun.begin();
         const auto to = placeInRun(places, isInRun, places[static_cast<std::size_t>(from)]);
         *stray = true;

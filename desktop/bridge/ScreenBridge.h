@@ -14,10 +14,8 @@ namespace larkspan::bridge {
 
 /// A screen that shows more than its own fields, and tells of all of it.
 template <typename Screen>
-concept ObservedAsAWhole = requires(Screen& screen, const std::function<void()>& observer)
-{
-    screen.observe(observer);
-};
+concept ObservedAsAWhole
+    = requires(Screen& screen, const std::function<void()>& observer) { screen.observe(observer); };
 
 /// What the bridges of all screens are: QML hears once that something changed, after all changes of a turn.
 class ScreenBridge : public QObject {

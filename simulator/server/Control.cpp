@@ -116,9 +116,8 @@ Control::Control(Service& service, ServerCertificates& certificates)
         service.clearFaults();
         return done;
     });
-    router_.add("GET", "/simulator/requests", [&service](const Call&) {
-        return Answer{200, wireRequests(service.received())};
-    });
+    router_.add("GET", "/simulator/requests",
+        [&service](const Call&) { return Answer{200, wireRequests(service.received())}; });
     router_.add("DELETE", "/simulator/requests", [&service](const Call&) {
         service.forgetReceived();
         return done;

@@ -113,9 +113,7 @@ const std::map<std::string, ReadFault, std::less<>>& faultReaders()
         {"drip", readDrip},
         {"reset", [](const Members& members) { return fault::Reset{members.after()}; }},
         {"truncation",
-            [](const Members& members) {
-                return fault::Truncation{members.after(), members.truth("hides_length")};
-            }},
+            [](const Members& members) { return fault::Truncation{members.after(), members.truth("hides_length")}; }},
         {"closed_before_first_byte", [](const Members&) { return fault::ClosedBeforeFirstByte{}; }},
         {"not_http", [](const Members&) { return fault::NotHttp{}; }},
         {"body", readBody},

@@ -16,29 +16,27 @@ namespace larkspan::simulator {
 class WireValue {
 public:
     template <typename Value>
-        requires std::constructible_from<Json, Value> WireValue(Value value)
-            : json_(Json(std::move(value)))
-        {
-        }
+        requires std::constructible_from<Json, Value>
+    WireValue(Value value)
+        : json_(Json(std::move(value)))
+    {
+    }
 
-        WireValue(support::Time time)
-            : json_(wireDate(time))
-        {
-        }
+    WireValue(support::Time time)
+        : json_(wireDate(time))
+    {
+    }
 
-        template <typename Value>
-        WireValue(const std::optional<Value>& value)
-            : json_(value ? WireValue(*value).json_ : std::nullopt)
-        {
-        }
+    template <typename Value>
+    WireValue(const std::optional<Value>& value)
+        : json_(value ? WireValue(*value).json_ : std::nullopt)
+    {
+    }
 
-        const std::optional<Json>& json() const
-        {
-            return json_;
-        }
+    const std::optional<Json>& json() const { return json_; }
 
-    private:
-        std::optional<Json> json_;
+private:
+    std::optional<Json> json_;
 };
 
 /// A record on the wire, key by key; what is absent is left out.

@@ -9,10 +9,10 @@ using support::whileAlive;
 
 StatusPageComponentsView::StatusPageComponentsView(Ports ports, const std::string& pageID)
     : ListScreen(ports.credentials,
-        {.loading = "Loading Components...",
-            .empty = {.symbol = "square.grid.2x2",
-                .title = "No Components",
-                .text = "This status page has no components yet."}})
+          {.loading = "Loading Components...",
+              .empty = {.symbol = "square.grid.2x2",
+                  .title = "No Components",
+                  .text = "This status page has no components yet."}})
     , viewModel(std::make_shared<StatusPageComponentsViewModel>(ports.main, ports.api, pageID))
     , ports_(ports)
 {

@@ -11,11 +11,11 @@ using support::whileAlive;
 
 StatusPageIncidentsView::StatusPageIncidentsView(Ports ports, const std::string& pageID)
     : ListScreen(ports.credentials,
-        {.loading = "Loading Incidents...",
-            .empty = {.symbol = "checkmark.shield",
-                .tone = Tone::green,
-                .title = "No Incidents",
-                .text = "All systems are running smoothly."}})
+          {.loading = "Loading Incidents...",
+              .empty = {.symbol = "checkmark.shield",
+                  .tone = Tone::green,
+                  .title = "No Incidents",
+                  .text = "All systems are running smoothly."}})
     , viewModel(std::make_shared<StatusPageIncidentsViewModel>(ports.main, ports.api, pageID))
     , ports_(ports)
 {

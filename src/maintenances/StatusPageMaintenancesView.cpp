@@ -10,10 +10,10 @@ using support::whileAlive;
 
 StatusPageMaintenancesView::StatusPageMaintenancesView(Ports ports, const std::string& pageId)
     : ListScreen(ports.credentials,
-        {.loading = "Loading Maintenances...",
-            .empty = {.symbol = "calendar.badge.clock",
-                .title = "No scheduled maintenances",
-                .text = "Maintenance windows will appear here."}})
+          {.loading = "Loading Maintenances...",
+              .empty = {.symbol = "calendar.badge.clock",
+                  .title = "No scheduled maintenances",
+                  .text = "Maintenance windows will appear here."}})
     , viewModel(std::make_shared<StatusPageMaintenancesViewModel>(ports.main, ports.api, pageId))
     , ports_(ports)
 {

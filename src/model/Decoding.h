@@ -195,20 +195,16 @@ inline IdentifierText decodeIdentifier(const JSONValue& value)
 }
 
 template <typename T>
-struct IsList : std::false_type {
-};
+struct IsList : std::false_type {};
 
 template <typename Element>
-struct IsList<std::vector<Element>> : std::true_type {
-};
+struct IsList<std::vector<Element>> : std::true_type {};
 
 template <typename T>
-struct IsMap : std::false_type {
-};
+struct IsMap : std::false_type {};
 
 template <typename Value>
-struct IsMap<std::map<std::string, Value>> : std::true_type {
-};
+struct IsMap<std::map<std::string, Value>> : std::true_type {};
 
 template <typename T>
 T decode(const JSONValue& value)

@@ -17,10 +17,8 @@ struct RawTexts;
 
 /// The word for `value`.
 template <typename Enumeration>
-constexpr std::string_view rawText(Enumeration value) requires requires
-{
-    RawTexts<Enumeration>::table;
-}
+constexpr std::string_view rawText(Enumeration value)
+    requires requires { RawTexts<Enumeration>::table; }
 {
     for (const auto& row : RawTexts<Enumeration>::table) {
         if (row.value == value) return row.text;

@@ -84,38 +84,38 @@ constexpr Type initialValue(const Other&, const Rest&... rest)
 }
 
 template <typename Record, typename Field>
-constexpr RequiredRow<Record, Field> wireRow(std::string_view name, Field Record::*field)
+constexpr RequiredRow<Record, Field> wireRow(std::string_view name, Field Record::* field)
 {
     return {name, field};
 }
 
 template <typename Record, typename Field>
-constexpr OptionalRow<Record, Field> wireRow(std::string_view name, std::optional<Field> Record::*field)
+constexpr OptionalRow<Record, Field> wireRow(std::string_view name, std::optional<Field> Record::* field)
 {
     return {name, field};
 }
 
 template <typename Record, typename Field, typename Value>
 constexpr DefaultedRow<Record, Field, Value> wireRow(
-    std::string_view name, Field Record::*field, Otherwise<Value> otherwise)
+    std::string_view name, Field Record::* field, Otherwise<Value> otherwise)
 {
     return {name, field, otherwise.value};
 }
 
 template <typename Record>
-constexpr IdentifierRow<Record> wireRow(std::string_view name, std::string Record::*field, Identifier)
+constexpr IdentifierRow<Record> wireRow(std::string_view name, std::string Record::* field, Identifier)
 {
     return {name, field};
 }
 
 template <typename Record, typename Field>
-constexpr ForgivingRow<Record, Field> wireRow(std::string_view name, std::optional<Field> Record::*field, Forgiving)
+constexpr ForgivingRow<Record, Field> wireRow(std::string_view name, std::optional<Field> Record::* field, Forgiving)
 {
     return {name, field};
 }
 
 template <typename Record, typename Field, typename... Rest>
-constexpr auto wireRow(std::string_view, Field Record::*field, Key key, Rest... rest)
+constexpr auto wireRow(std::string_view, Field Record::* field, Key key, Rest... rest)
 {
     return wireRow(key.name, field, rest...);
 }

@@ -12,21 +12,21 @@ class KeyedValue;
 template <typename Record, typename Field>
 struct RequiredRow {
     std::string_view key;
-    Field Record::*field;
+    Field Record::* field;
 };
 
 /// A missing key and null leave the field absent. Written only when present.
 template <typename Record, typename Field>
 struct OptionalRow {
     std::string_view key;
-    std::optional<Field> Record::*field;
+    std::optional<Field> Record::* field;
 };
 
 /// A missing key and null give `otherwise`. Always written.
 template <typename Record, typename Field, typename Value>
 struct DefaultedRow {
     std::string_view key;
-    Field Record::*field;
+    Field Record::* field;
     Value otherwise;
 };
 
@@ -34,14 +34,14 @@ struct DefaultedRow {
 template <typename Record>
 struct IdentifierRow {
     std::string_view key;
-    std::string Record::*field;
+    std::string Record::* field;
 };
 
 /// As `OptionalRow`, and a value that does not read leaves the field absent too.
 template <typename Record, typename Field>
 struct ForgivingRow {
     std::string_view key;
-    std::optional<Field> Record::*field;
+    std::optional<Field> Record::* field;
 };
 
 /// `derive` works out fields of the record from what the key holds and from the rows above, which are read already.

@@ -12,10 +12,7 @@
 namespace larkspan::model {
 
 template <typename Record, int line>
-concept HasFieldAt = requires
-{
-    Record::template rowAt<Record>(Line<line>{});
-};
+concept HasFieldAt = requires { Record::template rowAt<Record>(Line<line>{}); };
 
 template <typename Record, int... line>
 constexpr auto fieldLinesAmong(std::integer_sequence<int, line...>)

@@ -13,10 +13,10 @@ using model::Monitor;
 
 StatusPageMonitorsView::StatusPageMonitorsView(Ports ports, model::StatusPage opened)
     : ListScreen(ports.credentials,
-        {.loading = "Loading Monitors...",
-            .empty = {.symbol = "antenna.radiowaves.left.and.right",
-                .title = "No Monitors",
-                .text = "No monitors configured for this status page."}})
+          {.loading = "Loading Monitors...",
+              .empty = {.symbol = "antenna.radiowaves.left.and.right",
+                  .title = "No Monitors",
+                  .text = "No monitors configured for this status page."}})
     , page(std::move(opened))
     , viewModel(std::make_shared<StatusPageMonitorsViewModel>(ports.main, ports.api, page.id))
     , ports_(ports)

@@ -28,8 +28,7 @@ public:
         line_.reserve(text.size() + 2);
         line_ += disguise;
         line_ += text;
-        std::ranges::replace_if(
-            line_, [](char character) { return character == '\n' || character == '\r'; }, disguise);
+        std::ranges::replace_if(line_, [](char character) { return character == '\n' || character == '\r'; }, disguise);
         if (text.ends_with(' ')) line_ += disguise;
     }
 

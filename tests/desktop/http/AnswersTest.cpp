@@ -28,9 +28,8 @@ TEST_F(Transport, CompletesOnTheLoopAndNeverInsideTheCall)
     std::promise<std::pair<bool, bool>> seen;
     loop.post([&] {
         auto hasReturned = std::make_shared<bool>(false);
-        transport().send(get("no URL at all"), {}, [&, hasReturned](const Result&) {
-            seen.set_value({loop.isOnItsThread(), *hasReturned});
-        });
+        transport().send(get("no URL at all"), {},
+            [&, hasReturned](const Result&) { seen.set_value({loop.isOnItsThread(), *hasReturned}); });
         *hasReturned = true;
     });
     EXPECT_EQ(seen.get_future().get(), std::pair(true, true));

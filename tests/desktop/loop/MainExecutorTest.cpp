@@ -114,8 +114,7 @@ TEST(MainExecutor, WorkThatPostsItselfOnAndOnLeavesRoomForOtherEvents)
     bool otherEventSeen = false;
 
     executor.post(again);
-    QMetaObject::invokeMethod(
-        &executor, [&] { otherEventSeen = true; }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(&executor, [&] { otherEventSeen = true; }, Qt::QueuedConnection);
 
     EXPECT_TRUE(turnUntil([&] { return otherEventSeen; }));
     stop = true;

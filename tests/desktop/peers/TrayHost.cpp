@@ -21,7 +21,7 @@ QProcessEnvironment environment(const PrivateBus& bus)
 
 TrayHost::TrayHost(const PrivateBus& bus, bool hasHost)
     : process_("/usr/bin/python3", {LARKSPAN_PEERS "/tray_host.py", hasHost ? "--with-host" : "--without-host"},
-        environment(bus))
+          environment(bus))
 {
     process_.hear();
 }

@@ -59,9 +59,8 @@ TEST_F(MaintenancesOnScreen, TheRowsOfATimelineAreAsFarApartBelowItsLineAsAbove)
         isScheduled + R"(, "created_at": "2026-11-01T09:00:00Z", "updated_at": "2026-11-02T09:00:00Z")")});
     press(Qt::Key_F5);
     openFirst();
-    const auto top = [this](const char* label) {
-        return item(Role::StaticText, QString::fromUtf8(label)).mapToScene({0, 0}).y();
-    };
+    const auto top
+        = [this](const char* label) { return item(Role::StaticText, QString::fromUtf8(label)).mapToScene({0, 0}).y(); };
     EXPECT_EQ(top("Updated") - top("Created"), top("Scheduled End") - top("Scheduled Start"));
 }
 

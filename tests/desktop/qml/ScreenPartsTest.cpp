@@ -79,7 +79,7 @@ TEST_F(AlertOfAScreen, IsADialogTitledErrorWithTheWordsAndOneButton)
 {
     EXPECT_EQ(dialogs(), QStringList{"Error"});
     EXPECT_TRUE(namesOf(QAccessible::queryAccessibleInterface(&window()), QAccessible::StaticText)
-                    .contains(QStringLiteral("Server returned HTTP status code 409.")));
+            .contains(QStringLiteral("Server returned HTTP status code 409.")));
     EXPECT_EQ(
         namesOf(QAccessible::queryAccessibleInterface(&window()), QAccessible::Button), (QStringList{"Before", "OK"}));
 }

@@ -13,7 +13,7 @@ class Prompter : public peers::Peer {
 public:
     explicit Prompter(const QStringList& answer)
         : Peer("/usr/bin/python3", QStringList{LARKSPAN_SECRET_PEERS "/prompter.py"} + answer,
-            QProcessEnvironment::systemEnvironment())
+              QProcessEnvironment::systemEnvironment())
     {
         hear();
     }

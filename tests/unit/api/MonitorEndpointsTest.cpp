@@ -40,32 +40,24 @@ INSTANTIATE_TEST_SUITE_P(EachOperation, MonitorEndpoint,
         EndpointRow{"resumeMonitor", [](Service& s) { return resultOf(s, s.api.resumeMonitor("7")); }, "", "POST",
             feature + "/monitors/7/resume", "none", "nothing"},
         EndpointRow{"fetchMonitorMetrics",
-            [](Service& s) {
-                return monitorsIn(s.result(s.api.fetchMonitorMetrics({"a", "b"}, "24h")));
-            },
+            [](Service& s) { return monitorsIn(s.result(s.api.fetchMonitorMetrics({"a", "b"}, "24h"))); },
             R"({"data": {"metrics": {"a": {}, "b": {}}}})", "GET", feature + "/monitors/metrics?ids=a,b&range=24h",
             "none", "a b"},
         EndpointRow{"fetchMonitorMetricsOfNoMonitor",
             [](Service& s) { return monitorsIn(s.result(s.api.fetchMonitorMetrics({}, "24h"))); }, R"({"metrics": {}})",
             "GET", feature + "/monitors/metrics?ids=&range=24h", "none", ""},
         EndpointRow{"fetchMonitorMetricsOutsideTheQuerySet",
-            [](Service& s) {
-                return monitorsIn(s.result(s.api.fetchMonitorMetrics({"a b", "#"}, "1 h")));
-            },
+            [](Service& s) { return monitorsIn(s.result(s.api.fetchMonitorMetrics({"a b", "#"}, "1 h"))); },
             R"({"metrics": {}})", "GET", feature + "/monitors/metrics?ids=a%20b,%23&range=1%20h", "none", ""},
         EndpointRow{"fetchMonitorsWithMetrics",
-            [](Service& s) {
-                return resultOf(s, s.api.fetchMonitorsWithMetrics({"a", "b c"}));
-            },
+            [](Service& s) { return resultOf(s, s.api.fetchMonitorsWithMetrics({"a", "b c"})); },
             R"([{"id": "m", "name": "M", "metrics": {}}])", "GET", feature + "/monitors?component_ids=a,b%20c", "none",
             "m"},
         EndpointRow{"fetchMonitorsWithMetricsOfNoComponent",
             [](Service& s) { return resultOf(s, s.api.fetchMonitorsWithMetrics({})); }, "[]", "GET",
             feature + "/monitors?component_ids=", "none", ""},
         EndpointRow{"fetchComponentMonitors",
-            [](Service& s) {
-                return resultOf(s, s.api.fetchComponentMonitors({"a", "b c"}));
-            },
+            [](Service& s) { return resultOf(s, s.api.fetchComponentMonitors({"a", "b c"})); },
             R"({"monitors": [{"id": 2, "name": "B", "component_id": "a"},
                 {"id": "1", "name": "A", "component_id": "b c"}]})",
             "GET", feature + "/monitors?component_ids=a,b%20c", "none", "2 1"}),

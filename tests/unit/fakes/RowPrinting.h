@@ -19,10 +19,7 @@ struct AnyField {
 template <typename T, std::size_t... Index>
 constexpr bool hasFields(std::index_sequence<Index...>)
 {
-    return requires
-    {
-        T{(static_cast<void>(Index), AnyField{})...};
-    };
+    return requires { T{(static_cast<void>(Index), AnyField{})...}; };
 }
 
 template <typename T, std::size_t most = 12>

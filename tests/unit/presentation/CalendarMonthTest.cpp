@@ -32,7 +32,7 @@ TEST(WeeksOfAMonth, HoldEveryDayOfEveryMonthWhereverItsWeekBegins)
 {
     for (const auto first : {Saturday, Sunday, Monday}) {
         for (auto month = 2023y / std::chrono::January; month < 2029y / std::chrono::January;
-             month += std::chrono::months(1)) {
+            month += std::chrono::months(1)) {
             const auto weeks = weeksOf(month, first);
             EXPECT_LE(weeks.front(), local_days(month / 1));
             EXPECT_GE(weeks.back(), local_days(month / std::chrono::last));

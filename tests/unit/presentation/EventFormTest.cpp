@@ -19,8 +19,7 @@ using platform::HttpResponse;
 using Words = std::vector<std::string>;
 
 template <typename Form>
-class FormOfAnEvent : public Form {
-};
+class FormOfAnEvent : public Form {};
 
 struct NameOfAForm {
     template <typename Form>

@@ -97,8 +97,9 @@ INSTANTIATE_TEST_SUITE_P(Pairs, DrawnApart,
 
 INSTANTIATE_TEST_SUITE_P(Pairs, DrawnTogether,
     testing::Values(PairRow{U'a', U'\u0301'}, PairRow{U'க', U'\u0BBE'}, PairRow{U'a', U'\u20DD'},
-        PairRow{U'\u2764', U'\uFE0F'}, PairRow{U'👩', U'\u200D'}, PairRow{U'\u200D', U'👩'}, PairRow{U'👋', U'\U0001F3FD'},
-        PairRow{U'\U0001F1E9', U'\U0001F1EA'}, PairRow{U'\u1100', U'\u1161'}, PairRow{U'🏴', U'\U000E0067'}));
+        PairRow{U'\u2764', U'\uFE0F'}, PairRow{U'👩', U'\u200D'}, PairRow{U'\u200D', U'👩'},
+        PairRow{U'👋', U'\U0001F3FD'}, PairRow{U'\U0001F1E9', U'\U0001F1EA'}, PairRow{U'\u1100', U'\u1161'},
+        PairRow{U'🏴', U'\U000E0067'}));
 
 }  // namespace
 
