@@ -1,61 +1,50 @@
 #pragma once
 
-#include <httplib.h>
-
 #include <chrono>
+#include <string_view>
 
 #include "server/OpenSsl.h"
-#include "service/Exchange.h"
 
 namespace larkspan::simulator {
 
-/// A client's connection, down to its bytes: every byte of an answer passes here, and what is wrong with
-/// its way is done to it here.
-class Connection final : public httplib::Stream {
+/// A client's connection over TLS, down to how it ends. Whatever waits is woken by a shutdown of the socket.
+class Connection {
 public:
     /// Owns the socket.
     Connection(int socket, SSL_CTX* context);
-    ~Connection() override;
+
+    /// Ends it in the way that was asked for last, and in good order unless another was.
+    ~Connection();
+
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
-
-    /// The connection of a request that the server is handling.
-    static Connection& of(const httplib::Request& request);
 
     /// Agrees on TLS; false if the client would not.
     bool accept();
 
-    /// Waits for the next request; false when there will be none.
-    bool waitForRequest(std::chrono::milliseconds longest);
+    /// Whether bytes of the client are there or come within that time; its going away counts too.
+    bool hasBytes(std::chrono::milliseconds within) const;
 
-    SSL* ssl() const { return ssl_.get(); }
+    /// How many came, 0 if no more will.
+    std::size_t read(void* data, std::size_t size);
 
-    /// How the answer to the current request shall travel.
-    void deliver(const Delivery& delivery);
+    /// False if the client is gone.
+    bool write(std::string_view bytes);
 
-    bool is_readable() const override;
-    bool is_writable() const override;
-    ssize_t read(char* data, size_t size) override;
-    ssize_t write(const char* data, size_t size) override;
-    void get_remote_ip_and_port(std::string& address, int& port) const override;
-    void get_local_ip_and_port(std::string& address, int& port) const override;
-    socket_t socket() const override { return socket_; }
+    /// Lets time pass; false if the connection ended meanwhile.
+    bool pause(std::chrono::milliseconds time) const;
+
+    /// The client shall not be told that this is the end.
+    void endAbruptly() { ending_ = Ending::abrupt; }
+
+    void endByReset() { ending_ = Ending::reset; }
 
 private:
-    enum class Stage { beforeAnswer, head, body, ended };
-
-    ssize_t writeHead(const char* data, size_t size);
-    ssize_t writeBody(const char* data, size_t size);
-    bool writeAll(const char* data, size_t size);
-    bool pause(std::chrono::milliseconds time);
-    ssize_t end();
+    enum class Ending { inOrder, abrupt, reset };
 
     int socket_;
     SslPointer ssl_;
-    Stage stage_ = Stage::beforeAnswer;
-    Delivery delivery_;
-    std::uint64_t bodyBytesSent_ = 0;
-    bool isReset_ = false;
+    Ending ending_ = Ending::inOrder;
 };
 
 }  // namespace larkspan::simulator

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <thread>
 
 #include "server/ServerCertificates.h"
 #include "service/Service.h"
@@ -18,14 +17,12 @@ public:
     /// Ends all connections, whatever they wait for.
     ~HttpsServer();
 
-    int port() const { return port_; }
+    int port() const;
 
 private:
     class Listener;
 
     std::unique_ptr<Listener> listener_;
-    int port_ = 0;
-    std::jthread thread_;
 };
 
 }  // namespace larkspan::simulator

@@ -21,8 +21,6 @@ sigset_t holdSignals()
     sigaddset(&signals, SIGINT);
     sigaddset(&signals, SIGHUP);
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
-    // A client that goes away in the middle is an ordinary thing.
-    std::signal(SIGPIPE, SIG_IGN);
     return signals;
 }
 

@@ -93,10 +93,26 @@ INSTANTIATE_TEST_SUITE_P(EachKind, HttpsCertificate,
         CertificateRow{CertificateKind::wrongName, CURLE_PEER_FAILED_VERIFICATION},
         CertificateRow{CertificateKind::untrusted, CURLE_PEER_FAILED_VERIFICATION}));
 
+enum class Outcome { whole, timedOut, connectionLost, notHttp, other };
+
+/// What of a connection's end libcurl tells apart differs from one release to the next.
+Outcome outcomeOf(CURLcode code)
+{
+    switch (code) {
+    case CURLE_OK: return Outcome::whole;
+    case CURLE_OPERATION_TIMEDOUT: return Outcome::timedOut;
+    case CURLE_RECV_ERROR:
+    case CURLE_GOT_NOTHING:
+    case CURLE_PARTIAL_FILE: return Outcome::connectionLost;
+    case CURLE_UNSUPPORTED_PROTOCOL: return Outcome::notHttp;
+    default: return Outcome::other;
+    }
+}
+
 struct WireFaultRow {
     std::string_view name;
     Fault fault;
-    CURLcode code;
+    Outcome outcome;
     std::size_t bodyBytes;
 };
 
@@ -108,19 +124,19 @@ TEST_P(HttpsFault, HappensOnTheWireAndToOneRequest)
 
     const auto result = fetchPages();
 
-    EXPECT_EQ(result.code, GetParam().code) << curl_easy_strerror(result.code);
+    EXPECT_EQ(outcomeOf(result.code), GetParam().outcome) << curl_easy_strerror(result.code);
     EXPECT_EQ(result.body.size(), GetParam().bodyBytes);
     EXPECT_EQ(service_.received().size(), 1u);
     EXPECT_EQ(fetchPages().status, 200);
 }
 
 INSTANTIATE_TEST_SUITE_P(EachFault, HttpsFault,
-    testing::Values(WireFaultRow{"Hang", fault::Hang{}, CURLE_OPERATION_TIMEDOUT, 0},
-        WireFaultRow{"Reset", fault::Reset{100}, CURLE_RECV_ERROR, 100},
-        WireFaultRow{"Truncation", fault::Truncation{100}, CURLE_PARTIAL_FILE, 100},
-        WireFaultRow{"ClosedBeforeFirstByte", fault::ClosedBeforeFirstByte{}, CURLE_GOT_NOTHING, 0},
-        WireFaultRow{"NotHttp", fault::NotHttp{}, CURLE_UNSUPPORTED_PROTOCOL, 0},
-        WireFaultRow{"EmptyBody", fault::Body{}, CURLE_OK, 0}),
+    testing::Values(WireFaultRow{"Hang", fault::Hang{}, Outcome::timedOut, 0},
+        WireFaultRow{"Reset", fault::Reset{100}, Outcome::connectionLost, 100},
+        WireFaultRow{"Truncation", fault::Truncation{100}, Outcome::connectionLost, 100},
+        WireFaultRow{"ClosedBeforeFirstByte", fault::ClosedBeforeFirstByte{}, Outcome::connectionLost, 0},
+        WireFaultRow{"NotHttp", fault::NotHttp{}, Outcome::notHttp, 0},
+        WireFaultRow{"EmptyBody", fault::Body{}, Outcome::whole, 0}),
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(Https, DripsABodyUntilTheClientLosesPatience)
@@ -174,7 +190,7 @@ TEST_F(Https, EndsWhileAClientWaitsForAnAnswer)
     server_.reset();
 
     EXPECT_LT(std::chrono::steady_clock::now() - before, 1s);
-    EXPECT_EQ(waiting.get().code, CURLE_GOT_NOTHING);
+    EXPECT_EQ(outcomeOf(waiting.get().code), Outcome::connectionLost);
 }
 
 TEST_F(Https, RefusesAPortThatIsTaken)
