@@ -9,6 +9,7 @@
 
 #include <utility>
 
+#include "adapters/NameOwner.h"
 #include "adapters/WhenAnswered.h"
 
 namespace larkspan::adapters {
@@ -91,8 +92,17 @@ void PackageKitTransaction::onCreated(const QDBusPendingCall& answer)
     const QDBusPendingReply<QDBusObjectPath> path = answer;
     if (path.isError()) return end(meansThereIsNoService(path.error()) ? End::noService : End::failed);
 
-    owner_ = answer.reply().service();
-    path_ = path.value().path();
+    whenOwnerIsKnown(
+        this, bus_, service, [this, path = path.value().path()](const QString& owner) { onOwnerKnown(owner, path); });
+}
+
+void PackageKitTransaction::onOwnerKnown(const QString& owner, const QString& path)
+{
+    if (hasEnded_) return;
+    if (owner.isEmpty()) return end(End::failed);
+
+    owner_ = owner;
+    path_ = path;
     listen();
     startWork();
 }

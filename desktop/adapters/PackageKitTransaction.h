@@ -50,6 +50,7 @@ private slots:
 
 private:
     void onCreated(const QDBusPendingCall& answer);
+    void onOwnerKnown(const QString& owner, const QString& path);
     void listen();
     void startWork();
     QDBusPendingCall callTransaction(const QString& method, const QVariantList& arguments);

@@ -1,6 +1,5 @@
 #include "adapters/tray/StatusNotifierWatcher.h"
 
-#include <QDBusMessage>
 #include <QDBusPendingCall>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -8,6 +7,8 @@
 #include <QDBusVariant>
 
 #include <utility>
+
+#include "adapters/NameOwner.h"
 
 namespace larkspan::adapters {
 
@@ -17,14 +18,6 @@ constexpr auto service = "org.kde.StatusNotifierWatcher";
 constexpr auto path = "/StatusNotifierWatcher";
 constexpr auto watcherInterface = "org.kde.StatusNotifierWatcher";
 
-QDBusMessage call(const char* interface, const char* method, const QVariantList& arguments)
-{
-    auto message = QDBusMessage::createMethodCall(service, path, interface, method);
-    message.setArguments(arguments);
-    message.setAutoStartService(false);
-    return message;
-}
-
 }  // namespace
 
 StatusNotifierWatcher::StatusNotifierWatcher(QDBusConnection bus, QObject* parent)
@@ -32,19 +25,13 @@ StatusNotifierWatcher::StatusNotifierWatcher(QDBusConnection bus, QObject* paren
     , bus_(std::move(bus))
 {
     if (!bus_.isConnected()) return;
-    auto* const owner = new QDBusServiceWatcher(service, bus_, QDBusServiceWatcher::WatchForOwnerChange, this);
-    connect(owner, &QDBusServiceWatcher::serviceOwnerChanged, this,
-        [this](const QString&, const QString&, const QString& newOwner) {
-            if (newOwner.isEmpty()) {
-                onUnregistered();
-            } else {
-                onRegistered(newOwner);
-            }
-        });
+    auto* const changes = new QDBusServiceWatcher(service, bus_, QDBusServiceWatcher::WatchForOwnerChange, this);
+    connect(changes, &QDBusServiceWatcher::serviceOwnerChanged, this,
+        [this](const QString&, const QString&, const QString& owner) { setOwner(owner); });
     for (const auto* const name : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"}) {
         bus_.connect(service, path, watcherInterface, name, this, SLOT(askForHost()));
     }
-    askForHost();
+    whenOwnerIsKnown(this, bus_, service, [this](const QString& owner) { setOwner(owner); });
 }
 
 StatusNotifierWatcher::~StatusNotifierWatcher() = default;
@@ -52,38 +39,35 @@ StatusNotifierWatcher::~StatusNotifierWatcher() = default;
 void StatusNotifierWatcher::registerItem()
 {
     hasItem_ = true;
-    sendRegistration();
+    if (!owner_.isEmpty()) sendRegistration();
 }
 
-void StatusNotifierWatcher::onRegistered(const QString& owner)
+void StatusNotifierWatcher::setOwner(const QString& owner)
 {
-    owner_ = owner;
-    if (hasItem_ && !registration_) sendRegistration();
+    if (std::exchange(owner_, owner) == owner) return;
+    answer_.reset();
+    if (owner_.isEmpty()) return setHasHost(false);
+    if (hasItem_) sendRegistration();
     askForHost();
 }
 
-void StatusNotifierWatcher::onUnregistered()
+// To that process and no other, so that each list has the item once and none is started for it.
+QDBusMessage StatusNotifierWatcher::call(const char* interface, const char* method, const QVariantList& arguments) const
 {
-    answer_.reset();
-    setHasHost(false);
+    auto message = QDBusMessage::createMethodCall(owner_, path, interface, method);
+    message.setArguments(arguments);
+    return message;
 }
 
 void StatusNotifierWatcher::sendRegistration()
 {
-    if (!bus_.isConnected()) return;
     // The connection's own name, since a sandbox doesn't let programs own the customary one.
-    const auto registration = call(watcherInterface, "RegisterStatusNotifierItem", {bus_.baseService()});
-    registration_ = std::make_unique<QDBusPendingCallWatcher>(bus_.asyncCall(registration));
-    connect(registration_.get(), &QDBusPendingCallWatcher::finished, this, [this, owner = owner_] {
-        const auto answeredBy = registration_->reply().service();
-        registration_.release()->deleteLater();
-        // A list that came while this was under way may have it already, or may be the next one.
-        if (owner_ != owner && owner_ != answeredBy) sendRegistration();
-    });
+    bus_.asyncCall(call(watcherInterface, "RegisterStatusNotifierItem", {bus_.baseService()}));
 }
 
 void StatusNotifierWatcher::askForHost()
 {
+    if (owner_.isEmpty()) return;
     const auto question
         = call("org.freedesktop.DBus.Properties", "Get", {watcherInterface, QString("IsStatusNotifierHostRegistered")});
     answer_ = std::make_unique<QDBusPendingCallWatcher>(bus_.asyncCall(question));

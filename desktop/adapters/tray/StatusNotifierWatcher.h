@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QObject>
 #include <QString>
+#include <QVariantList>
 
 #include <memory>
 
@@ -32,15 +34,14 @@ private slots:
     void askForHost();
 
 private:
-    void onRegistered(const QString& owner);
-    void onUnregistered();
+    void setOwner(const QString& owner);
+    QDBusMessage call(const char* interface, const char* method, const QVariantList& arguments) const;
     void sendRegistration();
     void setHasHost(bool hasHost);
 
     QDBusConnection bus_;
     std::unique_ptr<QDBusPendingCallWatcher> answer_;
-    std::unique_ptr<QDBusPendingCallWatcher> registration_;
-    /// The bus name of the process that has the list, once it is known.
+    /// The bus name of the process that has the list; empty while none has.
     QString owner_;
     bool hasItem_ = false;
     bool hasHost_ = false;
