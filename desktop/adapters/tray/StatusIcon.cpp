@@ -1,8 +1,8 @@
 #include "adapters/tray/StatusIcon.h"
 
-#include <QIcon>
 #include <QImage>
 #include <QPainter>
+#include <QStandardPaths>
 #include <QSvgRenderer>
 #include <QtEndian>
 
@@ -37,6 +37,13 @@ QString iconName(const std::string& symbolName)
     return QString("com.kestrune.larkspan-%1-symbolic").arg(QLatin1String(status));
 }
 
+/// In the theme that every other one falls back to, where this program's icons are installed.
+bool isInstalled(const QString& iconName)
+{
+    const auto file = QStringLiteral("icons/hicolor/symbolic/apps/%1.svg").arg(iconName);
+    return !QStandardPaths::locate(QStandardPaths::GenericDataLocation, file).isEmpty();
+}
+
 StatusNotifierPixmap drawn(QSvgRenderer& renderer, int size, const QColor& color)
 {
     QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
@@ -63,13 +70,13 @@ StatusIcon::StatusIcon(const std::string& symbolName, const QColor& color)
 
 QString StatusIcon::themeName() const
 {
-    return QIcon::hasThemeIcon(name_) ? name_ : QString();
+    return isInstalled(name_) ? name_ : QString();
 }
 
 StatusNotifierPixmaps StatusIcon::pixmaps() const
 {
     StatusNotifierPixmaps pixmaps;
-    if (name_.isEmpty() || QIcon::hasThemeIcon(name_)) return pixmaps;
+    if (name_.isEmpty() || isInstalled(name_)) return pixmaps;
     QSvgRenderer renderer(QString(":/larkspan/tray/%1.svg").arg(name_));
     for (const int size : pixmapSizes) pixmaps << drawn(renderer, size, color_);
     return pixmaps;
@@ -77,7 +84,7 @@ StatusNotifierPixmaps StatusIcon::pixmaps() const
 
 bool StatusIcon::looksLike(const StatusIcon& other) const
 {
-    return name_ == other.name_ && (color_ == other.color_ || QIcon::hasThemeIcon(name_));
+    return name_ == other.name_ && (color_ == other.color_ || isInstalled(name_));
 }
 
 }  // namespace larkspan::adapters

@@ -1,7 +1,6 @@
 #include "adapters/tray/StatusNotifierItem.h"
 
 #include <QGuiApplication>
-#include <QIcon>
 #include <QImage>
 #include <QPalette>
 
@@ -18,17 +17,16 @@ using platform::MenuRow;
 /// A desktop that has the program's icons installed, or lacks them.
 class StatusNotifierItemTest : public TrayTest {
 protected:
-    ~StatusNotifierItemTest() override
+    StatusNotifierItemTest()
     {
-        QIcon::setThemeName({});
-        usePalette(Qt::white, Qt::black);
+        // Whatever is installed on this machine.
+        qputenv("XDG_DATA_HOME", "/nowhere");
+        qputenv("XDG_DATA_DIRS", "/nowhere");
     }
 
-    static void installIcons()
-    {
-        QIcon::setThemeSearchPaths({LARKSPAN_ICONS, "/usr/share/icons"});
-        QIcon::setThemeName("hicolor");
-    }
+    ~StatusNotifierItemTest() override { usePalette(Qt::white, Qt::black); }
+
+    static void installIcons() { qputenv("XDG_DATA_DIRS", "/nowhere:" LARKSPAN_DATA); }
 
     static void usePalette(const QColor& window, const QColor& text)
     {
