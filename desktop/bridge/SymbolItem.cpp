@@ -49,6 +49,7 @@ void SymbolItem::paint(QPainter* painter)
 {
     if (name_.isEmpty()) return;
     renderer(name_).render(painter, boundingRect());
+    if (!color_.isValid()) return;
     painter->setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter->fillRect(boundingRect(), color_);
 }

@@ -7,8 +7,8 @@
 
 namespace larkspan::bridge {
 
-/// A symbol by its name in the symbol table, tinted with `color` and sharp at every scale. Decoration: whoever shows it
-/// names what it means.
+/// A symbol by its name in the symbol table, sharp at every scale and tinted with `color`, or as it was drawn where no
+/// colour is given. Decoration: whoever shows it names what it means.
 class SymbolItem : public QQuickPaintedItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(Symbol)

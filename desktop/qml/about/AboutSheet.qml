@@ -9,13 +9,11 @@ Sheet {
     title: qsTr("About Kestrune")
     preferredWidth: Theme.aboutWidth
 
-    Image {
+    Symbol {
         anchors.horizontalCenter: parent.horizontalCenter
         width: Theme.aboutIconSize
         height: Theme.aboutIconSize
-        sourceSize.width: Math.round(width * Screen.devicePixelRatio)
-        source: "qrc:/larkspan/symbols/application-icon.svg"
-        Accessible.ignored: true
+        name: "application-icon"
     }
     Column {
         width: parent.width

@@ -1,3 +1,4 @@
+#include <QImage>
 #include <QQuickItem>
 #include <QTest>
 
@@ -46,6 +47,19 @@ TEST_F(AboutOnScreen, IsADialogWithTheProgramsVersionAndWords)
         {"Kestrune", "Version 1.2 (34)", "A focused companion for monitoring your Kestrune status pages."}) {
         EXPECT_TRUE(shows(QString::fromLatin1(text))) << text;
     }
+}
+
+TEST_F(AboutOnScreen, ShowsTheProgramsIconInItsOwnColours)
+{
+    QImage icon;
+    visit([&](QQuickItem& item) {
+        if (item.property("name") != QStringLiteral("application-icon")) return;
+        icon = window().grabWindow().copy(item.mapRectToScene(item.boundingRect()).toRect());
+    });
+    ASSERT_FALSE(icon.isNull());
+    // Below the lighter wing, inside the tile.
+    EXPECT_EQ(icon.pixelColor(icon.width() / 5, icon.height() * 17 / 20), QColor(0x1a, 0x5b, 0xbd));
+    EXPECT_NE(icon.pixelColor(0, 0), QColor(0x1a, 0x5b, 0xbd)) << "its corners are round";
 }
 
 TEST_F(AboutOnScreen, HasThreeLinksWithNameAndDescription)
