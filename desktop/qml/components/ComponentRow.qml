@@ -15,8 +15,7 @@ CardRow {
     topPadding: row.isHeading ? gap : 0
     implicitHeight: row.isHeading ? heading.implicitHeight + gap + Theme.unit
         : Math.max(Theme.rowHeight, words.implicitHeight + 2 * Theme.unit)
-    // Qt 6.4 lets no row be anything but a list item, so that the words of a heading stand for it.
-    Accessible.ignored: row.isHeading
+    Accessible.role: row.isHeading ? Accessible.Heading : Accessible.ListItem
 
     Rectangle {
         z: -2
@@ -49,9 +48,7 @@ CardRow {
             font.weight: Font.DemiBold
             color: Theme.secondary
             maximumLineCount: 1
-            Accessible.role: Accessible.Heading
-            Accessible.focusable: true
-            Accessible.focused: delegate.Accessible.focused
+            Accessible.ignored: true
         }
         Symbol {
             id: mark

@@ -9,7 +9,7 @@ CardRow {
     required property monitorRow row
     // What is open in it; null for a row that was never opened.
     property MonitorMetricsBridge metrics
-    signal toggled
+    signal disclosed
     signal commanded(button: string)
 
     name: row.title
@@ -23,7 +23,6 @@ CardRow {
     }
 
     contentItem: Column {
-        z: 1
         spacing: Theme.unit + Theme.halfUnit
 
         Item {
@@ -79,7 +78,7 @@ CardRow {
                     ink: Theme.secondary
                     iconSize: Theme.smallIconSize
                     isBusy: delegate.row.isLoading
-                    onClicked: delegate.toggled()
+                    onClicked: delegate.disclosed()
                 }
                 ToolbarButton {
                     activeFocusOnTab: delegate.ListView.isCurrentItem || activeFocus

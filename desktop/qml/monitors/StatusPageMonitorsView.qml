@@ -17,7 +17,7 @@ ContentArea {
         onPulled: view.monitors.refresh()
         delegate: MonitorRow {
             metrics: view.monitors.metricsOf(row.id)
-            onToggled: view.monitors.toggleMetrics(row.id)
+            onDisclosed: view.monitors.toggleMetrics(row.id)
             onCommanded: button => view.monitors.press(row.id, button)
             onClicked: view.monitors.open(row.id)
         }

@@ -42,8 +42,7 @@ protected:
 
     bool hasRing(const QString& row) const
     {
-        const auto* const background = item(Role::ListItem, row).property("background").value<QQuickItem*>();
-        const auto* const tint = background->childItems().constFirst();
+        const auto* const tint = item(Role::ListItem, row).childItems().constFirst();
         return tint->property("border").value<QObject*>()->property("width").toInt() > 0;
     }
 };
