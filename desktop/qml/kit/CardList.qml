@@ -37,7 +37,7 @@ ListView {
     Accessible.role: Accessible.List
     Accessible.name: name
 
-    onSelectedRowChanged: if (selectedRow >= 0) currentIndex = selectedRow
+    onSelectedRowChanged: if (selectedRow >= 0) moveTo(selectedRow)
     onDragEnded: if (verticalOvershoot < -Theme.pullDistance) list.pulled()
 
     // What stands above the rows may grow and push them down; a list at its top stays there.
@@ -109,15 +109,29 @@ ListView {
             [Qt.Key_PageDown]: Math.min(count - 1, currentIndex + page)
         }[key]
         if (target === undefined) return false
-        currentIndex = target
+        moveTo(target)
         return true
+    }
+    // However far away the row is: what the list does by itself ends where it guessed the row to be.
+    function moveTo(row: int) {
+        currentIndex = row
+        // What stands above or below the rows is shown as far as that leaves the row in sight.
+        if (row === 0) {
+            positionViewAtBeginning()
+            contentY = originY - topMargin
+        }
+        if (row === count - 1) {
+            positionViewAtEnd()
+            contentY = Math.max(originY - topMargin, originY + contentHeight + bottomMargin - height)
+        }
+        positionViewAtIndex(row, ListView.Contain)
     }
 
     TypeAhead {
         id: typeAhead
         rows: list.rows
         currentRow: list.currentIndex
-        onMeant: row => list.currentIndex = row
+        onMeant: row => list.moveTo(row)
         onActivated: list.press(list.currentItem as CardRow)
     }
 }
