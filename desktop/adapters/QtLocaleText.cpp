@@ -7,11 +7,13 @@ namespace larkspan::adapters {
 
 namespace {
 
+// Locales part words by blanks of many kinds, of which \s means the plain ones only and \h the others.
+
 // Qt's long format carries the day of the week, its short one may leave open which number is the month.
 QString withoutWeekday(QString format)
 {
-    static const QRegularExpression weekday(QStringLiteral("d{3,4}[\\s,،፣⹁]*"));
-    static const QRegularExpression separatorAtTheEnd(QStringLiteral("[\\s,،-]+$"));
+    static const QRegularExpression weekday(QStringLiteral("d{3,4}[\\s\\h,،፣⹁]*"));
+    static const QRegularExpression separatorAtTheEnd(QStringLiteral("[\\s\\h,،-]+$"));
     return format.remove(weekday).remove(separatorAtTheEnd).trimmed();
 }
 
@@ -19,7 +21,7 @@ QString withoutWeekday(QString format)
 QString dayAndMonth(const QString& dateFormat)
 {
     static const QRegularExpression piece(QStringLiteral("'[^']*'|d{1,2}|M+|."));
-    static const QRegularExpression apart(QStringLiteral("^[\\s,،፣⹁'(y]"));
+    static const QRegularExpression apart(QStringLiteral("^[\\s\\h,،፣⹁'(y]"));
     QString format;
     qsizetype end = 0;
     bool isRightBehind = false;
@@ -37,19 +39,19 @@ QString dayAndMonth(const QString& dateFormat)
 // A date goes before a time of day as it goes behind a day of the week.
 QString separatorOf(const QString& longFormat)
 {
-    static const QRegularExpression behindWeekday(QStringLiteral("^d{3,4}([,،፣⹁]?)\\s"));
+    static const QRegularExpression behindWeekday(QStringLiteral("^d{3,4}([,،፣⹁]?)[\\s\\h]"));
     return behindWeekday.match(longFormat).captured(1) + u' ';
 }
 
 QDateTime inTheZone(support::Time moment)
 {
-    return QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count(), Qt::LocalTime);
+    return QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count());
 }
 
 // Some scripts write a word behind the number, which their format of a date has too.
 QString yearText(const QString& dateFormat, int year)
 {
-    static const QRegularExpression yearAndWord(QStringLiteral("y+([^\\s\\w',/-]|[년年])?"));
+    static const QRegularExpression yearAndWord(QStringLiteral("y+([^\\s\\h\\w',/-]|[년年])?"));
     return QString::number(year) + yearAndWord.match(dateFormat).captured(1);
 }
 
