@@ -12,6 +12,8 @@ namespace larkspan::model {
 
 namespace {
 
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
 std::string_view problem(simdjson::error_code error)
 {
     switch (error) {
@@ -32,15 +34,20 @@ public:
         // The parser reads ahead, and copies what has no room behind it for that.
         const bool hasRoom = body.capacity() - body.size() >= simdjson::SIMDJSON_PADDING;
         std::string_view text = body;
-        if (text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);
-        if (const auto error = parser_.parse(text.data(), text.size(), !hasRoom).get(root_)) {
-            throw DecodingError(DecodingError::Kind::dataCorrupted, "", problem(error));
-        }
+        if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
+        // Some releases of the parser skip one themselves.
+        if (text.starts_with(byteOrderMark)) fail(simdjson::TAPE_ERROR);
+        if (const auto error = parser_.parse(text.data(), text.size(), !hasRoom).get(root_)) fail(error);
     }
 
     simdjson::dom::element root() const { return root_; }
 
 private:
+    [[noreturn]] static void fail(simdjson::error_code error)
+    {
+        throw DecodingError(DecodingError::Kind::dataCorrupted, "", problem(error));
+    }
+
     simdjson::dom::parser parser_;
     simdjson::dom::element root_;
 };
