@@ -25,6 +25,15 @@ class Keyring:
         subprocess.run(["secret-tool", "store", "--label", "Kestrune API key", *ITEM],
                        input=key, env=self._session.surroundings, check=True)
 
+    def store_what_is_no_text(self, secret: bytes) -> None:
+        """As another program may; `secret-tool` refuses to."""
+        properties = {
+            "org.freedesktop.Secret.Item.Label": "another program's",
+            "org.freedesktop.Secret.Item.Attributes": dbus.Dictionary(dict(zip(ITEM[::2], ITEM[1::2])), signature="ss"),
+        }
+        self._call("org.freedesktop.Secret.Collection", "CreateItem", "a{sv}(oayays)b", (properties, self._secret(secret), True),
+                   path=COLLECTION)
+
     def lookup(self) -> bytes:
         return subprocess.run(["secret-tool", "lookup", *ITEM],
                               capture_output=True, env=self._session.surroundings, check=False).stdout
@@ -40,13 +49,15 @@ class Keyring:
 
     def unlock(self) -> None:
         """As the keyring's own manager would, without a prompt."""
-        _, session = self._call("org.freedesktop.Secret.Service", "OpenSession", "sv", ("plain", dbus.String("", variant_level=1)))
-        secret = dbus.Struct((session, dbus.ByteArray(b""), dbus.ByteArray(PASSWORD.encode()), "text/plain"), signature="oayays")
         self._call("org.gnome.keyring.InternalUnsupportedGuiltRiddenInterface", "UnlockWithMasterPassword", "o(oayays)",
-                   (dbus.ObjectPath(COLLECTION), secret))
+                   (dbus.ObjectPath(COLLECTION), self._secret(PASSWORD.encode())))
 
-    def _call(self, interface: str, method: str, signature: str, arguments: tuple):
-        return self._session.bus.call_blocking(SECRETS, "/org/freedesktop/secrets", interface, method, signature, arguments)
+    def _secret(self, content: bytes) -> dbus.Struct:
+        _, session = self._call("org.freedesktop.Secret.Service", "OpenSession", "sv", ("plain", dbus.String("", variant_level=1)))
+        return dbus.Struct((session, dbus.ByteArray(b""), dbus.ByteArray(content), "text/plain"), signature="oayays")
+
+    def _call(self, interface: str, method: str, signature: str, arguments: tuple, path: str = "/org/freedesktop/secrets"):
+        return self._session.bus.call_blocking(SECRETS, path, interface, method, signature, arguments)
 
 
 @contextmanager

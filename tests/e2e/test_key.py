@@ -42,7 +42,7 @@ def test_a_key_that_cannot_stand_in_a_header_is_never_sent(key, start, the_keyri
 
 
 def test_a_key_that_is_not_text_is_no_key(start, the_keyring, the_service):
-    the_keyring.store(b"\xff\xfe\xfd")
+    the_keyring.store_what_is_no_text(b"\xff\xfe\xfd")
     screen = start().screen
     screen.wait_for(MISSING)
     assert the_service.requests() == []
