@@ -10,7 +10,8 @@ FocusScope {
     property alias text: area.text
     signal edited(text: string)
 
-    implicitHeight: Math.min(Theme.textBoxMostHeight * Theme.scale, Math.max(Theme.textBoxHeight * Theme.scale, area.implicitHeight))
+    implicitHeight: Math.min(Theme.textBoxMostHeight * Theme.scale,
+        Math.max(Theme.textBoxHeight * Theme.scale, area.implicitHeight + 2 * Theme.focusWidth))
 
     EntryBackground {
         anchors.fill: parent
@@ -19,14 +20,13 @@ FocusScope {
     Flickable {
         anchors.fill: parent
         anchors.margins: Theme.focusWidth
-        contentWidth: width
-        contentHeight: area.implicitHeight
         boundsBehavior: Flickable.StopAtBounds
         clip: true
         T.TextArea.flickable: T.TextArea {
             id: area
             focus: true
             padding: Theme.unit
+            implicitHeight: contentHeight + topPadding + bottomPadding
             wrapMode: TextEdit.Wrap
             textFormat: TextEdit.PlainText
             selectByMouse: true

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "KitWindow.h"
 
 namespace larkspan {
@@ -173,6 +175,28 @@ TEST_F(BoxOfText, TakesLinesWhetherOrNotShiftIsHeld)
     press(Qt::Key_C);
     press(Qt::Key_Enter, Qt::ShiftModifier);
     EXPECT_EQ(property("typed").toString(), QStringLiteral("a\nb\nc\n"));
+}
+
+TEST_F(BoxOfText, GrowsWithItsLinesAndScrollsBeyondThat)
+{
+    const auto& box = item(QStringLiteral("box"));
+    const auto parts = box.childItems();
+    const auto* const view
+        = *std::ranges::find_if(parts, [](const auto* part) { return part->inherits("QQuickFlickable"); });
+    const auto length = [view] { return view->property("contentHeight").toReal(); };
+    const auto lowest = box.height();
+
+    for (int line = 0; line < 7; ++line) press(Qt::Key_Return);
+    EXPECT_GT(box.height(), lowest);
+    EXPECT_LE(length(), view->height()) << "there is nothing to scroll yet";
+
+    for (int line = 0; line < 30; ++line) press(Qt::Key_Return);
+    const auto most = box.height();
+    press(Qt::Key_Return);
+    EXPECT_DOUBLE_EQ(box.height(), most);
+    EXPECT_GT(length(), view->height());
+    EXPECT_DOUBLE_EQ(view->property("contentY").toReal(), length() - view->height())
+        << "the line with the cursor is seen";
 }
 
 TEST_F(BoxOfText, ALineEndWithShiftTakesThePlaceOfWhatIsSelected)
