@@ -1,5 +1,6 @@
 #include "presentation/ComponentSelection.h"
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -87,6 +88,22 @@ void ComponentSelection::chooseComponent(const std::string& id)
     support::start(ports_.main, fetchMonitors(shared_from_this(), id));
 }
 
+void ComponentSelection::chooseMonitor(const std::string& id)
+{
+    if (id.empty() || isOffered(id)) selectedMonitorID = id;
+}
+
+const std::vector<ComponentMonitor>& ComponentSelection::offeredMonitors() const
+{
+    static const std::vector<ComponentMonitor> none;
+    return selectedComponentID->empty() ? none : *componentMonitors;
+}
+
+bool ComponentSelection::isOffered(const std::string& monitorID) const
+{
+    return std::ranges::find(offeredMonitors(), monitorID, &ComponentMonitor::id) != offeredMonitors().end();
+}
+
 void ComponentSelection::forgetMonitors()
 {
     selectedMonitorID = {};
@@ -101,6 +118,8 @@ Task<void> ComponentSelection::fetchMonitors(std::shared_ptr<ComponentSelection>
         auto fetching = self->ports_.monitors.fetchComponentMonitors(std::move(ids));
         std::vector<ComponentMonitor> fetched = co_await std::move(fetching);
         self->componentMonitors = std::move(fetched);
+        // What is sent is what is seen: a choice that came with another list goes with it.
+        if (!self->isOffered(*self->selectedMonitorID)) self->selectedMonitorID = {};
     } catch (...) {
         self->tell("Could not load monitors for this component: ", std::current_exception());
     }
@@ -124,7 +143,7 @@ std::vector<Choice> ComponentSelection::componentChoices() const
 
 std::vector<Choice> ComponentSelection::monitorChoices(std::string nameOfNone) const
 {
-    return choicesOf(std::move(nameOfNone), *componentMonitors);
+    return choicesOf(std::move(nameOfNone), offeredMonitors());
 }
 
 }  // namespace larkspan::presentation

@@ -50,7 +50,8 @@ public:
 
     void chooseGroup(const std::string& id);
     void chooseComponent(const std::string& id);
-    void chooseMonitor(const std::string& id) { selectedMonitorID = id; }
+    /// Nothing where it is not offered any more.
+    void chooseMonitor(const std::string& id);
 
     /// The entries of the pickers; the first of each stands for no selection.
     std::vector<Choice> groupChoices() const;
@@ -59,7 +60,7 @@ public:
 
     bool showsComponentPicker() const { return !selectedComponentGroupID->empty(); }
     bool isComponentPickerEnabled() const { return !*isLoadingComponents && !offeredComponents_.empty(); }
-    bool showsMonitorPicker() const { return !*isLoadingMonitors && !componentMonitors->empty(); }
+    bool showsMonitorPicker() const { return !*isLoadingMonitors && !offeredMonitors().empty(); }
 
 private:
     static support::Task<void> fetchChoices(std::shared_ptr<ComponentSelection> self);
@@ -68,6 +69,9 @@ private:
     void offer(Components fetchedComponents, ComponentGroups fetchedGroups);
     void offerComponentsOfGroup();
     void forgetMonitors();
+    /// None without a component, whatever came late.
+    const std::vector<model::ComponentMonitor>& offeredMonitors() const;
+    bool isOffered(const std::string& monitorID) const;
     void tell(std::string words, const std::exception_ptr& failure) const;
 
     const Ports ports_;

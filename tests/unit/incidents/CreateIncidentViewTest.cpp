@@ -121,6 +121,26 @@ TEST_F(FormOfAnIncident, SendsTheComponentAndTheMonitorButNotTheGroup)
         R"({"title":"Down","status_page_id":"p","component_id":"api","monitor_id":"m1","notify_subscribers":true})");
 }
 
+TEST_F(FormOfAnIncident, IsNotSentWithAMonitorOfTheComponentThatWasChosenBefore)
+{
+    const platform::HttpResponse ofAPI{200, apiMonitorsBody};
+    const platform::HttpResponse ofCron{200, R"({"monitors": [{"id": "m9", "name": "Cron", "component_id": "cron"}]})"};
+    transport.forget(apiMonitorsURL);
+    transport.forget(cronMonitorsURL);
+    titled("Down");
+    choose("back", "api");
+    choose("back", "cron");
+    transport.answer(ofAPI);
+    run();
+    form->selection->chooseMonitor("m1");
+    transport.answer(ofCron);
+    run();
+    EXPECT_FALSE(form->isSaveEnabled()) << "one of its own is to be chosen";
+    form->selection->chooseMonitor("m9");
+    EXPECT_EQ(saved(),
+        R"({"title":"Down","status_page_id":"p","component_id":"cron","monitor_id":"m9","notify_subscribers":true})");
+}
+
 class RefusedIncident : public FormOfAnIncident, public testing::WithParamInterface<fakes::Refusal> {};
 
 TEST_P(RefusedIncident, IsAnAlertOverAFormThatKeepsAllThatWasTypedAndChosen)
@@ -157,7 +177,7 @@ TEST_F(FormOfAnIncident, TellsItsObserversOfItsTextItsSelectionAndItsRequests)
     const auto subscriptions = form->observe([&changes] { ++changes; });
     form->title = "Down";
     EXPECT_EQ(changes, 1);
-    form->selection->chooseMonitor("m");
+    form->selection->isLoadingMonitors = true;
     EXPECT_EQ(changes, 2);
     form->action->dismissAlert();
     EXPECT_EQ(changes, 3);

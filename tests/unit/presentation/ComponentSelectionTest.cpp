@@ -233,6 +233,58 @@ TEST_F(SelectionOfComponents, TakesMonitorsThatComeLateAlsoAfterTheUserMovedOn)
     EXPECT_EQ(monitorIds(), "of cron ");
 }
 
+TEST_F(SelectionOfComponents, TakesTheChoiceOfAMonitorBackWhereAListLandsThatLacksIt)
+{
+    transport.forget(apiMonitorsURL);
+    transport.forget(cronMonitorsURL);
+    loaded();
+    choose("back", "api");
+    choose("back", "cron");
+    answerMonitor("of api");
+    selection->chooseMonitor("of api");
+    EXPECT_EQ(*selection->selectedMonitorID, "of api");
+    answerMonitor("of cron");
+    EXPECT_EQ(*selection->selectedMonitorID, "");
+    EXPECT_EQ(selection->monitorChoices("Any"), (Choices{{"", "Any"}, {"of cron", "n"}}));
+}
+
+TEST_F(SelectionOfComponents, KeepsTheChosenMonitorWhereAListLandsThatHasIt)
+{
+    transport.forget(apiMonitorsURL);
+    transport.forget(cronMonitorsURL);
+    loaded();
+    choose("back", "api");
+    choose("back", "cron");
+    answerMonitor("shared");
+    selection->chooseMonitor("shared");
+    answerMonitor("shared");
+    EXPECT_EQ(*selection->selectedMonitorID, "shared");
+}
+
+TEST_F(SelectionOfComponents, WithoutAComponentOffersNoMonitorAndHasNoneChosen)
+{
+    transport.forget(apiMonitorsURL);
+    loaded();
+    choose("back", "api");
+    choose("", "");
+    answerMonitor("late");
+    EXPECT_EQ(monitorIds(), "late ");
+    EXPECT_FALSE(selection->showsMonitorPicker());
+    selection->chooseMonitor("late");
+    EXPECT_EQ(*selection->selectedMonitorID, "");
+}
+
+TEST_F(SelectionOfComponents, HasNoMonitorChosenThatIsNotOffered)
+{
+    loaded();
+    choose("back", "api");
+    selection->chooseMonitor("m1");
+    selection->chooseMonitor("of another component");
+    EXPECT_EQ(*selection->selectedMonitorID, "m1");
+    selection->chooseMonitor("");
+    EXPECT_EQ(*selection->selectedMonitorID, "");
+}
+
 TEST_F(SelectionOfComponents, ThatIsGoneStillEndsItsRequests)
 {
     transport.forget(apiMonitorsURL);
