@@ -23,6 +23,11 @@ public:
         return std::ranges::any_of(items_, [](const auto& item) { return item.get().isShown(); });
     }
 
+    void followShown(std::function<void()> changed) override
+    {
+        for (auto& item : items_) item.get().followShown(changed);
+    }
+
     void show(std::function<void(const platform::MenuRow& row)> perform) override
     {
         for (auto& item : items_) item.get().show(perform);

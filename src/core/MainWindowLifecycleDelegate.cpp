@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "support/WhileAlive.h"
+
 namespace larkspan::core {
 
 namespace {
@@ -15,7 +17,7 @@ void bringForward(platform::Window& window)
 }  // namespace
 
 MainWindowLifecycleDelegate::MainWindowLifecycleDelegate(
-    platform::WindowSystem& windows, const platform::StatusItem& statusItem, platform::Executor& main)
+    platform::WindowSystem& windows, platform::StatusItem& statusItem, platform::Executor& main)
     : windows_(windows)
     , statusItem_(statusItem)
     , main_(main)
@@ -24,9 +26,8 @@ MainWindowLifecycleDelegate::MainWindowLifecycleDelegate(
 
 void MainWindowLifecycleDelegate::applicationDidFinishLaunching()
 {
-    main_.post([weak = weak_from_this()] {
-        if (const auto self = weak.lock()) self->adoptDashboardWindow();
-    });
+    main_.post(support::whileAlive(weak_from_this(), &MainWindowLifecycleDelegate::adoptDashboardWindow));
+    statusItem_.followShown(support::whileAlive(weak_from_this(), &MainWindowLifecycleDelegate::bringBackIfStranded));
 }
 
 void MainWindowLifecycleDelegate::applicationDidBecomeActive()
@@ -49,7 +50,14 @@ bool MainWindowLifecycleDelegate::windowShouldClose()
 void MainWindowLifecycleDelegate::windowDidNotMiniaturize()
 {
     const auto window = dashboardWindow_.lock();
-    if (window && statusItem_.isShown()) window->hide();
+    if (!window || !statusItem_.isShown()) return;
+    window->hide();
+    isHidden_ = true;
+}
+
+void MainWindowLifecycleDelegate::bringBackIfStranded()
+{
+    if (isHidden_ && !statusItem_.isShown()) bringDashboardWindowForward();
 }
 
 void MainWindowLifecycleDelegate::adoptDashboardWindow()
@@ -67,6 +75,7 @@ void MainWindowLifecycleDelegate::bringDashboardWindowForward()
 {
     adoptDashboardWindow();
     if (const auto window = dashboardWindow_.lock()) bringForward(*window);
+    isHidden_ = false;
 }
 
 void showDashboardWindow(platform::WindowSystem& windows, MainWindowLifecycleDelegate* delegate)

@@ -14,7 +14,7 @@ class MainWindowLifecycleDelegate final : public platform::WindowDelegate,
                                           public std::enable_shared_from_this<MainWindowLifecycleDelegate> {
 public:
     MainWindowLifecycleDelegate(
-        platform::WindowSystem& windows, const platform::StatusItem& statusItem, platform::Executor& main);
+        platform::WindowSystem& windows, platform::StatusItem& statusItem, platform::Executor& main);
 
     void applicationDidFinishLaunching();
     void applicationDidBecomeActive();
@@ -24,7 +24,7 @@ public:
 
     bool windowShouldClose() override;
 
-    /// Hides the window, unless no panel shows the item that would bring it back.
+    /// Hides the window, for as long as a panel shows the item that brings it back.
     void windowDidNotMiniaturize() override;
 
     /// Takes the first window that is visible or could be the active one, unless one is held already.
@@ -34,10 +34,13 @@ public:
     void bringDashboardWindowForward();
 
 private:
+    void bringBackIfStranded();
+
     platform::WindowSystem& windows_;
-    const platform::StatusItem& statusItem_;
+    platform::StatusItem& statusItem_;
     platform::Executor& main_;
     std::weak_ptr<platform::Window> dashboardWindow_;
+    bool isHidden_ = false;
 };
 
 /// Activates the program and brings the dashboard forward; with no `delegate`, every window that can be active.

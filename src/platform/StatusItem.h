@@ -42,6 +42,8 @@ public:
 
     /// Whether a panel shows the item just now, so that the user can get at its menu.
     virtual bool isShown() const = 0;
+    /// Calls `changed` from now on after each change of `isShown`, and no earlier callback any more.
+    virtual void followShown(std::function<void()> changed) = 0;
 
     /// Puts the item into the panel. `perform` hears of each command row that the user chooses.
     virtual void show(std::function<void(const MenuRow& row)> perform) = 0;

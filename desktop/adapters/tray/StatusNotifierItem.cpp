@@ -18,6 +18,9 @@ StatusNotifierItem::StatusNotifierItem(QDBusConnection bus, const Appearance& ap
     , menu_([this](const MenuRow& row) { perform(row); })
 {
     connect(&watcher_, &StatusNotifierWatcher::hasHostChanged, this, &StatusNotifierItem::hasHostChanged);
+    connect(&watcher_, &StatusNotifierWatcher::hasHostChanged, this, [this] {
+        if (shownChanged_) shownChanged_();
+    });
     connect(&appearance_, &Appearance::isDarkChanged, this, &StatusNotifierItem::updateIcon);
     connect(&item_, &StatusNotifierItemService::activated, this,
         [this] { perform({.kind = MenuRow::Kind::command, .action = MenuRow::Action::openDashboard}); });

@@ -4,6 +4,7 @@
 #include <QObject>
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include "adapters/Appearance.h"
@@ -26,6 +27,7 @@ public:
     bool hasHost() const { return watcher_.hasHost(); }
 
     bool isShown() const override { return hasHost(); }
+    void followShown(std::function<void()> changed) override { shownChanged_ = std::move(changed); }
     void show(std::function<void(const platform::MenuRow& row)> perform) override;
     void setButton(const Button& button) override;
     void setMenu(const std::vector<platform::MenuRow>& rows) override;
@@ -47,6 +49,7 @@ private:
     DBusMenuService menu_;
     Button button_;
     std::function<void(const platform::MenuRow& row)> perform_;
+    std::function<void()> shownChanged_;
 };
 
 }  // namespace larkspan::adapters

@@ -9,10 +9,12 @@ using platform::MenuRow;
 
 struct Place : platform::StatusItem {
     bool isShown() const override { return hasPanel; }
+    void followShown(std::function<void()> given) override { changed = std::move(given); }
     void show(std::function<void(const MenuRow& row)> given) override { perform = std::move(given); }
     void setButton(const Button& given) override { button = given; }
     void setMenu(const std::vector<MenuRow>& given) override { rows = given; }
 
+    std::function<void()> changed;
     std::function<void(const MenuRow& row)> perform;
     Button button;
     std::vector<MenuRow> rows;
@@ -27,6 +29,18 @@ TEST(StatusItems, AreShownWhereOneOfThemIs)
     EXPECT_FALSE(items.isShown());
     panel.hasPanel = true;
     EXPECT_TRUE(items.isShown());
+}
+
+TEST(StatusItems, TellWhenAnyOfThePlacesComesOrGoes)
+{
+    Place panel;
+    Place window;
+    StatusItems items({panel, window});
+    int changes = 0;
+    items.followShown([&changes] { ++changes; });
+    panel.changed();
+    window.changed();
+    EXPECT_EQ(changes, 2);
 }
 
 TEST(StatusItems, EachPlaceShowsTheSameAndPerformsItsRows)

@@ -44,8 +44,11 @@ TEST_F(WatcherTest, APanelThatReturnsSeesTheItemAgain)
     auto host = panel();
     ASSERT_TRUE(turnUntil([&] { return item.hasHost(); }));
 
+    int changes = 0;
+    item.followShown([&] { ++changes; });
     host.reset();
     EXPECT_TRUE(turnUntil([&] { return !item.hasHost(); }));
+    EXPECT_EQ(changes, 1);
     host = panel();
 
     EXPECT_TRUE(turnUntil([&] { return item.hasHost(); }));

@@ -57,6 +57,47 @@ TEST_F(WindowLifecycle, AWindowThatTheDesktopDoesNotMinimiseStaysWhereNoPanelSho
     EXPECT_EQ(window->calls, (Calls{"miniaturize"}));
 }
 
+TEST_F(WindowLifecycle, AHiddenWindowComesBackWhenThePanelGoesAway)
+{
+    const auto window = windows.addWindow();
+    delegate->applicationDidFinishLaunching();
+    main.run();
+    delegate->windowShouldClose();
+    delegate->windowDidNotMiniaturize();
+    window->calls.clear();
+    statusItem.setPanel(true);
+    EXPECT_EQ(window->calls, Calls{});
+    statusItem.setPanel(false);
+    EXPECT_EQ(window->calls, broughtForward);
+    window->calls.clear();
+    statusItem.setPanel(true);
+    statusItem.setPanel(false);
+    EXPECT_EQ(window->calls, Calls{}) << "it was brought back already";
+}
+
+TEST_F(WindowLifecycle, AWindowThatWasOnlyMinimisedStaysSoWhenThePanelGoesAway)
+{
+    const auto window = windows.addWindow();
+    delegate->applicationDidFinishLaunching();
+    main.run();
+    delegate->windowShouldClose();
+    window->calls.clear();
+    statusItem.setPanel(false);
+    EXPECT_EQ(window->calls, Calls{});
+}
+
+TEST_F(WindowLifecycle, APanelThatGoesAwayAfterTheDelegateIsGoneBringsNothingBack)
+{
+    const auto window = windows.addWindow();
+    delegate->applicationDidFinishLaunching();
+    main.run();
+    delegate->windowDidNotMiniaturize();
+    window->calls.clear();
+    delegate.reset();
+    statusItem.setPanel(false);
+    EXPECT_EQ(window->calls, Calls{});
+}
+
 TEST_F(WindowLifecycle, ClosingBeforeTheAdoptionMinimisesNothingAndOpeningTheDashboardThenAdopts)
 {
     const auto window = windows.addWindow();
