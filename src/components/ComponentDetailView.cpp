@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "api/OrderOutcome.h"
 #include "model/URL.h"
 #include "presentation/ComponentGroupsOrNone.h"
 #include "presentation/WebAddress.h"
@@ -26,7 +27,8 @@ constexpr presentation::Confirmation deletion{
 }  // namespace
 
 ComponentDetailView::ComponentDetailView(Ports ports, std::string page, Component shown, Owner owner)
-    : EditableDetail(ports.main, deletion, std::move(owner.dismiss))
+    : EditableDetail(
+          ports.main, deletion, {.dismiss = std::move(owner.dismiss), .lookAgain = std::move(owner.lookAgain)})
     , pageId(std::move(page))
     , component(*this, std::move(shown))
     , ports_(ports)
@@ -122,7 +124,8 @@ void ComponentDetailView::saveChanges()
 Task<void> ComponentDetailView::save(std::shared_ptr<ComponentDetailView> self, UpdateComponentRequest changes)
 {
     auto updating = self->ports_.api.updateComponent(self->component->id, std::move(changes));
-    const Component updated = co_await std::move(updating);
+    const Component answer = co_await std::move(updating);
+    const Component updated = api::answerAbout(self->component->id, answer);
     self->component = updated;
     self->onUpdate_(updated);
     self->closeEditor();

@@ -39,6 +39,8 @@ public:
         std::function<void(const model::Component&)> onDelete;
         /// Closes the screen.
         std::function<void()> dismiss;
+        /// Nobody knows whether an order took place: fetches the list anew.
+        std::function<void()> lookAgain = {};
     };
 
     static constexpr std::string_view title = "Component Details";

@@ -44,7 +44,8 @@ ComponentDetailView::Owner StatusPageComponentsView::ownerOf(const std::string& 
     const auto view = weak_from_this();
     return {.onUpdate = whileAlive(view, &StatusPageComponentsView::onUpdate),
         .onDelete = whileAlive(view, &StatusPageComponentsView::onDelete),
-        .dismiss = whileAlive(view, [opened](StatusPageComponentsView& self) { self.dismiss(opened); })};
+        .dismiss = whileAlive(view, [opened](StatusPageComponentsView& self) { self.dismiss(opened); }),
+        .lookAgain = whileAlive(view, [](StatusPageComponentsView& self) { self.viewModel->load(); })};
 }
 
 void StatusPageComponentsView::onUpdate(const Component& changed)

@@ -20,7 +20,8 @@ constexpr presentation::EventForm::SelectionWords selectionWords{.noMonitor = "S
 }  // namespace
 
 CreateIncidentView::CreateIncidentView(Ports ports, std::string page, Owner owner)
-    : EventForm(ports.selection, std::move(page), selectionWords, std::move(owner.dismiss))
+    : EventForm(ports.selection, std::move(page), selectionWords,
+          {.dismiss = std::move(owner.dismiss), .lookAgain = std::move(owner.lookAgain)})
     , api_(ports.api)
     , onCreated_(std::move(owner.onCreated))
 {

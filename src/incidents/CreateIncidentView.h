@@ -25,6 +25,8 @@ public:
         std::function<void(const model::Incident&)> onCreated;
         /// Closes the sheet.
         std::function<void()> dismiss;
+        /// Nobody knows whether an order took place: fetches the list anew.
+        std::function<void()> lookAgain = {};
     };
 
     CreateIncidentView(Ports ports, std::string pageId, Owner owner);

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "api/OrderOutcome.h"
 #include "support/Trimming.h"
 
 namespace larkspan::incidents {
@@ -27,7 +28,8 @@ constexpr presentation::Confirmation deletion{.title = "Delete Incident",
 }  // namespace
 
 IncidentDetailView::IncidentDetailView(Ports ports, Incident shown, Owner owner)
-    : EditableDetail(ports.main, deletion, std::move(owner.dismiss))
+    : EditableDetail(
+          ports.main, deletion, {.dismiss = std::move(owner.dismiss), .lookAgain = std::move(owner.lookAgain)})
     , incident(*this, std::move(shown))
     , message(std::make_shared<MessageView>(ports.links))
     , ports_(ports)
@@ -110,14 +112,19 @@ Task<void> IncidentDetailView::refetch(std::shared_ptr<IncidentDetailView> self)
 {
     auto fetching = self->ports_.api.fetchIncident(self->incident->id);
     const Incident fetched = co_await std::move(fetching);
-    self->onUpdate_(fetched);
+    self->take(fetched);
 }
 
 Task<void> IncidentDetailView::resolve(std::shared_ptr<IncidentDetailView> self)
 {
     auto resolving = self->ports_.api.resolveIncident(self->incident->id);
     const Incident resolved = co_await std::move(resolving);
-    self->onUpdate_(resolved);
+    self->take(resolved);
+}
+
+void IncidentDetailView::take(const Incident& answer) const
+{
+    onUpdate_(api::answerAbout(incident->id, answer));
 }
 
 Task<void> IncidentDetailView::remove()
@@ -153,7 +160,7 @@ Task<void> IncidentDetailView::save(std::shared_ptr<IncidentDetailView> self, st
 {
     auto updating = self->ports_.api.updateIncident(self->incident->id, std::move(text));
     const Incident updated = co_await std::move(updating);
-    self->onUpdate_(updated);
+    self->take(updated);
     self->closeEditor();
 }
 

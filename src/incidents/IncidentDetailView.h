@@ -39,6 +39,8 @@ public:
         std::function<void(const model::Incident&)> onUpdate;
         /// Closes the screen.
         std::function<void()> dismiss;
+        /// Nobody knows whether an order took place: fetches the list anew.
+        std::function<void()> lookAgain = {};
     };
 
     enum class DetailAction { acknowledge, resolve, escalate, delete_ };
@@ -86,6 +88,8 @@ private:
     static support::Task<void> escalate(std::shared_ptr<IncidentDetailView> self);
     static support::Task<void> deleteIncident(std::shared_ptr<IncidentDetailView> self);
     static support::Task<void> refetch(std::shared_ptr<IncidentDetailView> self);
+    /// Hands on what an order has made of the incident.
+    void take(const model::Incident& answer) const;
     static support::Task<void> save(std::shared_ptr<IncidentDetailView> self, std::string text);
 
     const Ports ports_;

@@ -1,5 +1,7 @@
 #include "incidents/StatusPageIncidentsView.h"
 
+#include <utility>
+
 #include "presentation/RowsOf.h"
 #include "support/WhileAlive.h"
 
@@ -7,6 +9,7 @@ namespace larkspan::incidents {
 
 using model::Incident;
 using presentation::Tone;
+using support::Task;
 using support::whileAlive;
 
 StatusPageIncidentsView::StatusPageIncidentsView(Ports ports, const std::string& pageID)
@@ -39,7 +42,10 @@ IncidentDetailView::Owner StatusPageIncidentsView::ownerOf(const std::string& op
 {
     const auto view = weak_from_this();
     return {.onUpdate = whileAlive(view, &StatusPageIncidentsView::takeBack),
-        .dismiss = whileAlive(view, [opened](StatusPageIncidentsView& self) { self.dismiss(opened); })};
+        .dismiss = whileAlive(view, [opened](StatusPageIncidentsView& self) { self.dismiss(opened); }),
+        .lookAgain = whileAlive(view, [opened](StatusPageIncidentsView& self) {
+            support::start(self.ports_.main, lookAgain(self.shared_from_this(), opened));
+        })};
 }
 
 void StatusPageIncidentsView::takeBack(const Incident& changed)
@@ -47,6 +53,15 @@ void StatusPageIncidentsView::takeBack(const Incident& changed)
     if (!presentedIncident.isOf(changed.id)) return loadIfInSight();
     presentedIncident.update(changed);
     detail()->show(changed);
+}
+
+Task<void> StatusPageIncidentsView::lookAgain(std::shared_ptr<StatusPageIncidentsView> self, std::string id)
+{
+    auto loading = self->viewModel->loading();
+    co_await std::move(loading);
+    const auto* const found = self->viewModel->incidents.find(id);
+    // The detail covers the list, so what took place is seen there.
+    if (found && self->presentedIncident.isOf(id)) self->takeBack(*found);
 }
 
 void StatusPageIncidentsView::dismiss(const std::string& id)
@@ -81,7 +96,8 @@ CreateIncidentView::Owner StatusPageIncidentsView::ownerOfForm()
                 [](StatusPageIncidentsView& self, const Incident& created) {
                     self.viewModel->incidents.insertFirst(created);
                 }),
-        .dismiss = whileAlive(view, [](StatusPageIncidentsView& self) { self.showCreateIncident.close(); })};
+        .dismiss = whileAlive(view, [](StatusPageIncidentsView& self) { self.showCreateIncident.close(); }),
+        .lookAgain = whileAlive(view, [](StatusPageIncidentsView& self) { self.viewModel->load(); })};
 }
 
 bool StatusPageIncidentsView::hasUnsavedText() const

@@ -13,6 +13,7 @@
 #include "presentation/ListScreen.h"
 #include "presentation/PresentedRecord.h"
 #include "presentation/PresentedSheet.h"
+#include "support/Task.h"
 
 namespace larkspan::incidents {
 
@@ -52,6 +53,7 @@ public:
 private:
     presentation::FetchedRecords& fetched() const override { return *viewModel; }
 
+    static support::Task<void> lookAgain(std::shared_ptr<StatusPageIncidentsView> self, std::string id);
     IncidentDetailView::Owner ownerOf(const std::string& opened);
     CreateIncidentView::Owner ownerOfForm();
     void takeBack(const model::Incident& changed);

@@ -28,7 +28,8 @@ api::Ids idsOf(const std::string& id)
 }  // namespace
 
 CreateMaintenanceView::CreateMaintenanceView(Ports ports, std::string page, Owner owner)
-    : EventForm(ports.selection, std::move(page), selectionWords, std::move(owner.dismiss))
+    : EventForm(ports.selection, std::move(page), selectionWords,
+          {.dismiss = std::move(owner.dismiss), .lookAgain = std::move(owner.lookAgain)})
     , scheduledFor(std::make_shared<DateTimePicker>(
           DateTimePicker::Ports{ports.clock, ports.selection.locale}, ports.clock.now()))
     , scheduledUntil(std::make_shared<DateTimePicker>(

@@ -28,6 +28,8 @@ public:
         std::function<void(const model::Maintenance&)> onCreated;
         /// Closes the sheet.
         std::function<void()> dismiss;
+        /// Nobody knows whether an order took place: fetches the list anew.
+        std::function<void()> lookAgain = {};
     };
 
     CreateMaintenanceView(Ports ports, std::string pageId, Owner owner);

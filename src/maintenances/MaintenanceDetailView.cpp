@@ -3,6 +3,7 @@
 #include <chrono>
 #include <utility>
 
+#include "api/OrderOutcome.h"
 #include "support/Trimming.h"
 
 namespace larkspan::maintenances {
@@ -26,7 +27,8 @@ constexpr presentation::Confirmation deletion{.title = "Delete Maintenance",
 }  // namespace
 
 MaintenanceDetailView::MaintenanceDetailView(Ports ports, Maintenance shown, Owner owner)
-    : EditableDetail(ports.main, deletion, std::move(owner.dismiss))
+    : EditableDetail(
+          ports.main, deletion, {.dismiss = std::move(owner.dismiss), .lookAgain = std::move(owner.lookAgain)})
     , currentMaintenance(*this, std::move(shown))
     , editedScheduledFor(
           std::make_shared<DateTimePicker>(DateTimePicker::Ports{ports.clock, ports.locale}, ports.clock.now()))
@@ -102,7 +104,8 @@ void MaintenanceDetailView::completeMaintenance()
 Task<void> MaintenanceDetailView::update(std::shared_ptr<MaintenanceDetailView> self, MaintenanceChanges changes)
 {
     auto updating = self->ports_.api.updateMaintenance(self->currentMaintenance->id, std::move(changes));
-    const Maintenance updated = co_await std::move(updating);
+    const Maintenance answer = co_await std::move(updating);
+    const Maintenance updated = api::answerAbout(self->currentMaintenance->id, answer);
     self->currentMaintenance = updated;
     self->onUpdate_(updated);
 }

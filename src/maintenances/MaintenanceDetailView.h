@@ -41,6 +41,8 @@ public:
         std::function<void(const model::Maintenance&)> onDelete;
         /// Closes the screen.
         std::function<void()> dismiss;
+        /// Nobody knows whether an order took place: fetches the list anew.
+        std::function<void()> lookAgain = {};
     };
 
     MaintenanceDetailView(Ports ports, model::Maintenance maintenance, Owner owner);

@@ -41,7 +41,8 @@ MaintenanceDetailView::Owner StatusPageMaintenancesView::ownerOf(const std::stri
                     self.viewModel->maintenances.replace(updated);
                 }),
         .onDelete = whileAlive(view, &StatusPageMaintenancesView::onDelete),
-        .dismiss = whileAlive(view, [opened](StatusPageMaintenancesView& self) { self.dismiss(opened); })};
+        .dismiss = whileAlive(view, [opened](StatusPageMaintenancesView& self) { self.dismiss(opened); }),
+        .lookAgain = whileAlive(view, [](StatusPageMaintenancesView& self) { self.viewModel->load(); })};
 }
 
 void StatusPageMaintenancesView::onDelete(const Maintenance& deleted)
@@ -74,7 +75,8 @@ CreateMaintenanceView::Owner StatusPageMaintenancesView::ownerOfForm()
                 [](StatusPageMaintenancesView& self, const Maintenance& created) {
                     self.viewModel->maintenances.insertFirst(created);
                 }),
-        .dismiss = whileAlive(view, [](StatusPageMaintenancesView& self) { self.showCreateSheet.close(); })};
+        .dismiss = whileAlive(view, [](StatusPageMaintenancesView& self) { self.showCreateSheet.close(); }),
+        .lookAgain = whileAlive(view, [](StatusPageMaintenancesView& self) { self.viewModel->load(); })};
 }
 
 bool StatusPageMaintenancesView::hasUnsavedText() const

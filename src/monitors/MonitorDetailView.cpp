@@ -18,9 +18,9 @@ using support::Task;
 
 MonitorDetailView::MonitorDetailView(Ports ports, Monitor monitor, Owner owner)
     : currentMonitor(*this, std::move(monitor))
-    , action(std::make_shared<presentation::RunningAction>(ports.main))
+    , action(std::make_shared<presentation::RunningAction>(ports.main, std::move(owner.lookAgain)))
     , ports_(ports)
-    , owner_(std::move(owner))
+    , onUpdate_(std::move(owner.onUpdate))
 {
 }
 
@@ -105,7 +105,7 @@ Task<void> MonitorDetailView::carryOut(std::shared_ptr<MonitorDetailView> self, 
     const auto refreshed = std::ranges::find(fetched, id, &Monitor::id);
     if (refreshed == fetched.end()) co_return;
     self->currentMonitor = *refreshed;
-    self->owner_.onUpdate(*refreshed);
+    self->onUpdate_(*refreshed);
 }
 
 void MonitorDetailView::openURL() const

@@ -34,6 +34,8 @@ public:
 
     struct Owner {
         std::function<void(const model::Monitor&)> onUpdate;
+        /// Nobody knows whether an order took place: fetches the list anew.
+        std::function<void()> lookAgain = {};
     };
 
     enum class DetailAction { pauseResume, checkNow };
@@ -70,7 +72,7 @@ private:
     static support::Task<void> carryOut(std::shared_ptr<MonitorDetailView> self, DetailAction wanted);
 
     const Ports ports_;
-    const Owner owner_;
+    const std::function<void(const model::Monitor&)> onUpdate_;
 };
 
 }  // namespace larkspan::monitors

@@ -10,6 +10,7 @@
 namespace larkspan::monitors {
 
 using model::Monitor;
+using support::whileAlive;
 
 StatusPageMonitorsView::StatusPageMonitorsView(Ports ports, model::StatusPage opened)
     : ListScreen(ports.credentials,
@@ -72,10 +73,12 @@ void StatusPageMonitorsView::openMonitor(const std::string& id)
     const auto* const opened = viewModel->monitors.find(id);
     if (!opened) return;
     const MonitorDetailView::Ports ports{ports_.main, ports_.api, ports_.locale, ports_.links};
-    MonitorDetailView::Owner owner{
-        .onUpdate = support::whileAlive(weak_from_this(), [](StatusPageMonitorsView& self, const Monitor& refreshed) {
-            self.viewModel->monitors.replace(refreshed);
-        })};
+    const auto view = weak_from_this();
+    MonitorDetailView::Owner owner{.onUpdate = whileAlive(view,
+                                       [](StatusPageMonitorsView& self, const Monitor& refreshed) {
+                                           self.viewModel->monitors.replace(refreshed);
+                                       }),
+        .lookAgain = whileAlive(view, [](StatusPageMonitorsView& self) { self.viewModel->load(); })};
     presentedMonitor.open(*opened, std::make_shared<MonitorDetailView>(ports, *opened, std::move(owner)));
 }
 

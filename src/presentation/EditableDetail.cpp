@@ -4,8 +4,8 @@
 
 namespace larkspan::presentation {
 
-EditableDetail::EditableDetail(platform::Executor& main, Confirmation deletion, std::function<void()> dismiss)
-    : GuardedScreen(main, std::move(dismiss))
+EditableDetail::EditableDetail(platform::Executor& main, Confirmation deletion, GuardedScreen::Owner owner)
+    : GuardedScreen(main, std::move(owner))
     , deleteConfirmation(deletion)
 {
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string_view>
 
 #include "presentation/Confirmation.h"
@@ -34,7 +33,7 @@ public:
     void deleteRecord();
 
 protected:
-    EditableDetail(platform::Executor& main, Confirmation deletion, std::function<void()> dismiss);
+    EditableDetail(platform::Executor& main, Confirmation deletion, GuardedScreen::Owner owner);
 
     /// What was edited is the service's now.
     void closeEditor();

@@ -7,8 +7,8 @@
 namespace larkspan::presentation {
 
 EventForm::EventForm(
-    ComponentSelection::Ports ports, std::string page, SelectionWords words, std::function<void()> dismiss)
-    : GuardedScreen(ports.main, std::move(dismiss))
+    ComponentSelection::Ports ports, std::string page, SelectionWords words, GuardedScreen::Owner owner)
+    : GuardedScreen(ports.main, std::move(owner))
     , pageId(std::move(page))
     , selection(std::make_shared<ComponentSelection>(
           ports, pageId, words.failure, [alerts = action](std::string failure) { alerts->alert = std::move(failure); }))

@@ -52,8 +52,7 @@ public:
     bool isCloseEnabled() const override { return isIdle(); }
 
 protected:
-    /// `dismiss` closes the sheet.
-    EventForm(ComponentSelection::Ports ports, std::string pageId, SelectionWords words, std::function<void()> dismiss);
+    EventForm(ComponentSelection::Ports ports, std::string pageId, SelectionWords words, GuardedScreen::Owner owner);
 
     /// What has been filled in is worth a request.
     virtual bool canBeSent() const;

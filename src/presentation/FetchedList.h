@@ -34,11 +34,13 @@ public:
     /// The failure of the last load; null if there was none.
     support::Published<std::exception_ptr> error{*this};
 
-    void load() override
+    void load() override { support::start(main_, loading()); }
+    /// Begins to load at once; the task ends with the load and never throws.
+    support::Task<void> loading()
     {
         isLoading = true;
         error = nullptr;
-        support::start(main_, fetchRecords(this->shared_from_this()));
+        return fetchRecords(this->shared_from_this());
     }
 
     Content content() const override { return contentOf(!records->empty(), *isLoading, *error != nullptr); }

@@ -4,9 +4,9 @@
 
 namespace larkspan::presentation {
 
-GuardedScreen::GuardedScreen(platform::Executor& main, std::function<void()> dismiss)
-    : action(std::make_shared<RunningAction>(main))
-    , dismiss_(std::move(dismiss))
+GuardedScreen::GuardedScreen(platform::Executor& main, Owner owner)
+    : action(std::make_shared<RunningAction>(main, std::move(owner.lookAgain)))
+    , dismiss_(std::move(owner.dismiss))
 {
 }
 

@@ -39,8 +39,14 @@ public:
     void discardChanges();
 
 protected:
-    /// `dismiss` closes the screen.
-    GuardedScreen(platform::Executor& main, std::function<void()> dismiss);
+    struct Owner {
+        /// Closes the screen.
+        std::function<void()> dismiss;
+        /// Nobody knows whether an order took place: fetches anew what the screen was opened from.
+        std::function<void()> lookAgain;
+    };
+
+    GuardedScreen(platform::Executor& main, Owner owner);
 
     void dismiss();
 

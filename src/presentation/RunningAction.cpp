@@ -3,11 +3,18 @@
 #include <exception>
 #include <utility>
 
+#include "api/OrderOutcome.h"
 #include "support/LocalizedError.h"
 
 namespace larkspan::presentation {
 
 using support::Task;
+
+RunningAction::RunningAction(platform::Executor& main, std::function<void()> lookAgain)
+    : main_(main)
+    , lookAgain_(std::move(lookAgain))
+{
+}
 
 void RunningAction::run(Task<void> work)
 {
@@ -27,6 +34,7 @@ Task<void> RunningAction::carryOut(std::shared_ptr<RunningAction> self, Task<voi
     }
     if (failure) self->alert = support::localizedDescription(failure);
     self->isInProgress = false;
+    if (failure && self->lookAgain_ && api::mayHaveTakenPlace(failure)) self->lookAgain_();
 }
 
 }  // namespace larkspan::presentation

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -13,10 +14,8 @@ namespace larkspan::presentation {
 /// it fails. Main thread only; a running action outlives the screen that began it.
 class RunningAction final : public support::Observable, public std::enable_shared_from_this<RunningAction> {
 public:
-    explicit RunningAction(platform::Executor& main)
-        : main_(main)
-    {
-    }
+    /// `lookAgain` is called where an action has failed of which nobody knows whether it took place.
+    explicit RunningAction(platform::Executor& main, std::function<void()> lookAgain = {});
 
     support::Published<bool> isInProgress{*this, false};
     /// The words of the alert; empty while there is none.
@@ -31,6 +30,7 @@ private:
     static support::Task<void> carryOut(std::shared_ptr<RunningAction> self, support::Task<void> work);
 
     platform::Executor& main_;
+    const std::function<void()> lookAgain_;
 };
 
 }  // namespace larkspan::presentation

@@ -286,3 +286,20 @@ TEST_F(OpenedComponent, WhoseListIsGoneEndsItsRequestForNobody)
 }  // namespace
 
 }  // namespace larkspan::components
+TEST_F(OpenedComponent, WhoseEditHasAnAnswerThatSaysNothingKeepsTheTextAndLoadsTheListAnew)
+{
+    for (const auto* const body : {"", "{}", R"({"id": "2", "name": "New"})"}) {
+        transport.requests.clear();
+        save();
+        serveComponents({R"({"id": "1", "name": "New"})", componentRecord("2")});
+        answer(body);
+        EXPECT_TRUE(*view->detail()->isEditing) << body;
+        EXPECT_EQ(*view->detail()->editedName, "New");
+        EXPECT_EQ(view->detail()->component->id, "1");
+        EXPECT_NE(*view->detail()->action->alert, "");
+        EXPECT_EQ(shown(), (Words{"[Group a]", "[Group b]", "[Ungrouped]", "New", "Component 2"})) << body;
+        EXPECT_EQ(transport.requests.size(), 3u) << "the order, and the list with its groups once";
+        view->detail()->close();
+    }
+}
+

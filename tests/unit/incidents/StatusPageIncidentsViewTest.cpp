@@ -159,6 +159,51 @@ TEST_F(OpenedIncident, WhoseScreenIsGoneEndsItsRequestForNobody)
     EXPECT_NO_FATAL_FAILURE(run());
 }
 
+TEST_F(OpenedIncident, WhoseUpdateHasAnAnswerThatSaysNothingKeepsTheTextAndShowsWhatTookPlace)
+{
+    for (const auto& body : {std::string(), std::string("{}"), record("2")}) {
+        transport.requests.clear();
+        serve({record("1"), record("2")});
+        transport.script(recordURL + "1", 200, body);
+        view->detail()->beginEditing();
+        view->detail()->editMessage = "We look";
+        view->detail()->saveUpdate();
+        serve({record("1", R"(, "message": "We look")"), record("2")});
+        run();
+        EXPECT_TRUE(*view->detail()->isEditing) << body;
+        EXPECT_EQ(*view->detail()->editMessage, "We look");
+        EXPECT_NE(*view->detail()->action->alert, "");
+        EXPECT_EQ(view->detail()->description(), "We look");
+        EXPECT_EQ((*view->presentedIncident)->id, "1");
+        EXPECT_EQ(transport.requests.size(), 2u) << "the order, and the list once";
+        view->detail()->close();
+    }
+}
+
+TEST_F(OpenedIncident, WhoseAcknowledgementIsAnsweredWithAnotherRecordIsNotReplacedByThat)
+{
+    transport.script(feature + "1/acknowledge", 200, "{}");
+    transport.script(recordURL + "1", 200, record("2"));
+    view->detail()->press("acknowledge");
+    run();
+    EXPECT_EQ(view->detail()->incident->id, "1");
+    EXPECT_EQ(*view->detail()->action->alert, "Received an invalid response from the server.");
+}
+
+TEST_F(OpenedIncident, WhoseOrderGotLostAndWhichIsGoneFromTheListStaysForItsText)
+{
+    view->detail()->beginEditing();
+    view->detail()->editMessage = "We look";
+    view->detail()->saveUpdate();
+    run();
+    serve({record("2")});
+    transport.answer(platform::URLError::Code::timedOut);
+    run();
+    EXPECT_EQ(ids(), Words{"2"});
+    ASSERT_NE(view->detail(), nullptr);
+    EXPECT_EQ(*view->detail()->editMessage, "We look");
+}
+
 TEST_F(OpenedIncident, WithATypedUpdateIsWhatLeavingTheScreenWouldLose)
 {
     EXPECT_FALSE(view->hasUnsavedText());

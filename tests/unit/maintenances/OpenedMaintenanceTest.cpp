@@ -140,6 +140,23 @@ TEST_F(OpenedMaintenance, ThatEndsItsDeletionBehindAnotherLosesItsRowAndLeavesTh
     EXPECT_EQ(transport.requests.size(), 0u);
 }
 
+TEST_F(OpenedMaintenance, WhoseEditHasAnAnswerThatSaysNothingKeepsTheTextAndLoadsTheListAnew)
+{
+    for (const auto& body : {std::string(), std::string("{}"), record("2")}) {
+        transport.requests.clear();
+        transport.script(urlOf("1"), 200, body);
+        serve({changed, record("2")});
+        edit("Changed");
+        EXPECT_TRUE(*view->detail()->isEditing) << body;
+        EXPECT_EQ(*view->detail()->editedTitle, "Changed");
+        EXPECT_EQ(view->detail()->currentMaintenance->id, "1");
+        EXPECT_NE(*view->detail()->action->alert, "");
+        EXPECT_EQ(firstTitle(), "Changed");
+        EXPECT_EQ(transport.requests.size(), 2u) << "the order, and the list once";
+        view->detail()->close();
+    }
+}
+
 TEST_F(OpenedMaintenance, WhoseScreenIsGoneEndsItsRequestsForNobody)
 {
     view->detail()->deleteRecord();

@@ -41,6 +41,21 @@ TEST_F(MonitorsOfAPage, RaiseNoAlertWhenAReloadFails)
     EXPECT_EQ(view->alert(), "");
 }
 
+TEST_F(MonitorsOfAPage, AreLoadedAnewBehindOneOfWhichNobodyKnowsWhetherItWasPaused)
+{
+    serve({record("1")});
+    appear();
+    open("1");
+    view->detail()->press("pauseResume");
+    run();
+    serve({record("1", R"("status_page_id": "p", "enabled": false)")});
+    transport.answer(platform::URLError::Code::timedOut);
+    run();
+    EXPECT_EQ(view->rows().front().status, "Paused");
+    EXPECT_EQ(*view->detail()->action->alert, "The request timed out.");
+    EXPECT_EQ(transport.requests.size(), 2u) << "the order, and the list once";
+}
+
 TEST_F(MonitorsOfAPage, ARowKeepsItsMetricsForAsLongAsItsMonitorIsInTheList)
 {
     serve({record("1"), record("2")});

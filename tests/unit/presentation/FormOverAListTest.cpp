@@ -90,6 +90,42 @@ TYPED_TEST(FormOverAList, StaysUpWhenTheServiceRefuses)
     EXPECT_EQ(this->ids(), Words{"1"});
 }
 
+TYPED_TEST(FormOverAList, WhoseAnswerSaysNothingKeepsTheWordsAndShowsTheListAnewBehindIt)
+{
+    for (const auto* const body : {"", "{}", R"({"id": [1], "title": "New"})"}) {
+        this->transport.requests.clear();
+        this->transport.forget(this->listURL);
+        this->save();
+        this->serve({this->record("taken"), this->record("1")});
+        this->answer(201, body);
+        EXPECT_TRUE(this->isFormUp()) << body;
+        EXPECT_EQ(*this->view->form()->title, "New");
+        EXPECT_NE(*this->view->form()->action->alert, "");
+        EXPECT_EQ(this->ids(), (Words{"taken", "1"})) << body;
+        EXPECT_EQ(this->transport.requests.size(), 2u) << "the order, and the list once";
+    }
+}
+
+TYPED_TEST(FormOverAList, WhoseAnswerIsLostShowsTheListAnewBehindIt)
+{
+    this->save();
+    this->serve({this->record("taken"), this->record("1")});
+    this->transport.answer(platform::URLError::Code::networkConnectionLost);
+    this->run();
+    EXPECT_TRUE(this->isFormUp());
+    EXPECT_EQ(this->ids(), (Words{"taken", "1"}));
+}
+
+TYPED_TEST(FormOverAList, ThatIsRefusedOrNeverSentFetchesNothing)
+{
+    this->save();
+    this->answer(409);
+    this->save();
+    this->transport.answer(platform::URLError::Code::cannotConnectToHost);
+    this->run();
+    EXPECT_EQ(this->transport.requests.size(), 2u);
+}
+
 TYPED_TEST(FormOverAList, WhoseScreenIsGoneEndsItsRequestForNobody)
 {
     this->save();
