@@ -8,6 +8,7 @@
 #include "bridge/ComponentDetailBridge.h"
 #include "bridge/ListBridge.h"
 #include "bridge/RowListModel.h"
+#include "bridge/values/AlertValue.h"
 #include "bridge/values/ComponentRowValue.h"
 #include "components/StatusPageComponentsView.h"
 
@@ -19,7 +20,7 @@ class ComponentListBridge : public larkspan::bridge::ListBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
-    Q_PROPERTY(QString alert READ alert NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::AlertValue alert READ alert NOTIFY changed)
     /// The component that is open; null while there is none.
     Q_PROPERTY(larkspan::bridge::ComponentDetailBridge* detail READ detail NOTIFY changed)
 
@@ -28,7 +29,7 @@ public:
         QObject* parent = nullptr);
 
     ListModel* rows() override { return &rows_; }
-    QString alert() const { return words(view_->alert()); }
+    AlertValue alert() const { return {view_->alertNumber(), words(view_->alert())}; }
     ComponentDetailBridge* detail() const { return detail_.get(); }
 
     Q_INVOKABLE void dismissAlert() { view_->dismissAlert(); }

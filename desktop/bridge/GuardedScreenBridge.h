@@ -7,6 +7,7 @@
 
 #include "bridge/ScreenBridge.h"
 #include "bridge/Words.h"
+#include "bridge/values/AlertValue.h"
 #include "bridge/values/ConfirmationValue.h"
 #include "presentation/GuardedScreen.h"
 
@@ -21,7 +22,7 @@ class GuardedScreenBridge : public larkspan::bridge::ScreenBridge {
     Q_PROPERTY(bool isSaveEnabled READ isSaveEnabled NOTIFY changed)
     Q_PROPERTY(bool isCloseEnabled READ isCloseEnabled NOTIFY changed)
     Q_PROPERTY(bool isBusy READ isBusy NOTIFY changed)
-    Q_PROPERTY(QString alert READ alert NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::AlertValue alert READ alert NOTIFY changed)
     Q_PROPERTY(bool showsDiscardConfirmation READ showsDiscardConfirmation NOTIFY changed)
     Q_PROPERTY(larkspan::bridge::ConfirmationValue discardConfirmation READ discardConfirmation CONSTANT)
 
@@ -29,7 +30,7 @@ public:
     bool isSaveEnabled() const { return screen_->isSaveEnabled(); }
     bool isCloseEnabled() const { return screen_->isCloseEnabled(); }
     bool isBusy() const { return !screen_->isIdle(); }
-    QString alert() const { return words(*screen_->action->alert); }
+    AlertValue alert() const { return {screen_->action->alertNumber(), words(*screen_->action->alert)}; }
     bool showsDiscardConfirmation() const { return *screen_->showDiscardConfirmation; }
     ConfirmationValue discardConfirmation() const { return ConfirmationValue::of(presentation::discardConfirmation); }
 

@@ -9,6 +9,7 @@
 #include "bridge/ScreenBridge.h"
 #include "bridge/Words.h"
 #include "bridge/values/ActionButtonValue.h"
+#include "bridge/values/AlertValue.h"
 #include "bridge/values/FactValue.h"
 #include "bridge/values/PillValue.h"
 #include "monitors/MonitorDetailView.h"
@@ -28,7 +29,7 @@ class MonitorDetailBridge : public ScreenBridge {
     Q_PROPERTY(larkspan::bridge::FactValue lastCheck MEMBER lastCheck_ NOTIFY changed)
     Q_PROPERTY(QList<larkspan::bridge::ActionButtonValue> buttons MEMBER buttons_ NOTIFY changed)
     Q_PROPERTY(bool isBusy READ isBusy NOTIFY changed)
-    Q_PROPERTY(QString alert READ alert NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::AlertValue alert READ alert NOTIFY changed)
 
 public:
     MonitorDetailBridge(
@@ -37,7 +38,7 @@ public:
     QString title() const { return words(monitors::MonitorDetailView::title); }
     QString name() const { return words(view_->currentMonitor->name); }
     bool isBusy() const { return *view_->action->isInProgress; }
-    QString alert() const { return words(*view_->action->alert); }
+    AlertValue alert() const { return {view_->action->alertNumber(), words(*view_->action->alert)}; }
 
     Q_INVOKABLE void press(const QString& button) { view_->press(button.toStdString()); }
     Q_INVOKABLE void openURL() { view_->openURL(); }

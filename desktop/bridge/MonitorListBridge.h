@@ -12,6 +12,7 @@
 #include "bridge/MonitorDetailBridge.h"
 #include "bridge/MonitorMetricsBridge.h"
 #include "bridge/RowListModel.h"
+#include "bridge/values/AlertValue.h"
 #include "bridge/values/MonitorRowValue.h"
 #include "monitors/StatusPageMonitorsView.h"
 
@@ -23,7 +24,7 @@ class MonitorListBridge : public larkspan::bridge::ListBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
-    Q_PROPERTY(QString alert READ alert NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::AlertValue alert READ alert NOTIFY changed)
     /// The monitor that is open; null while there is none.
     Q_PROPERTY(larkspan::bridge::MonitorDetailBridge* detail READ detail NOTIFY changed)
 
@@ -32,7 +33,7 @@ public:
         QObject* parent = nullptr);
 
     ListModel* rows() override { return &rows_; }
-    QString alert() const { return words(view_->alert()); }
+    AlertValue alert() const { return {view_->alertNumber(), words(view_->alert())}; }
     MonitorDetailBridge* detail() const { return detail_.get(); }
 
     Q_INVOKABLE void toggleMetrics(const QString& id) { view_->toggleMetrics(id.toStdString()); }

@@ -162,7 +162,7 @@ void saving(Detail& view)
 void refusedEdit(Detail& view)
 {
     view.beginEditing();
-    view.action->alert = "Server returned HTTP status code 422.";
+    view.action->raiseAlert("Server returned HTTP status code 422.");
 }
 
 void aboutToDiscard(Detail& view)

@@ -23,7 +23,8 @@ inline constexpr auto failed = [](auto& list) {
 inline constexpr auto working = [](auto& screen) { screen.action->isInProgress = true; };
 
 /// The service has refused a request of the screen.
-inline constexpr auto refused = [](auto& screen) { screen.action->alert = "Server returned HTTP status code 409."; };
+inline constexpr auto refused
+    = [](auto& screen) { screen.action->raiseAlert("Server returned HTTP status code 409."); };
 
 inline constexpr auto aboutToDelete = [](auto& detail) { detail.confirmDelete(); };
 

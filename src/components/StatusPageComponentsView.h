@@ -38,7 +38,9 @@ public:
 
     /// The words of the alert; empty while there is none.
     std::string alert() const;
-    void dismissAlert() { viewModel->showErrorAlert = false; }
+    /// Tells the alerts apart, also two that say the same.
+    int alertNumber() const { return viewModel->alertNumber(); }
+    void dismissAlert() { viewModel->dismissAlert(); }
 
     /// Opens the component of that id; nothing if it has gone meanwhile.
     void openComponent(const std::string& id);

@@ -10,6 +10,7 @@
 #include "model/Component.h"
 #include "model/ComponentGroup.h"
 #include "platform/Executor.h"
+#include "presentation/AlertSequence.h"
 #include "presentation/FetchedRecords.h"
 #include "presentation/RecordList.h"
 #include "support/Observable.h"
@@ -34,6 +35,10 @@ public:
     support::Published<bool> showErrorAlert{*this, false};
     support::Published<std::optional<std::string>> errorMessage{*this};
 
+    void dismissAlert() { alerts_.dismiss(); }
+    /// Tells the alerts apart, also two that say the same.
+    int alertNumber() const { return alerts_.number(); }
+
     void loadComponents() { load(); }
     void load() override;
 
@@ -45,8 +50,11 @@ private:
     static support::Task<void> fetch(std::shared_ptr<StatusPageComponentsViewModel> self);
     void fail(const std::exception_ptr& failure);
 
+    void showAlert(std::optional<std::string> words);
+
     platform::Executor& main_;
     api::ComponentEndpoints& api_;
+    presentation::AlertSequence alerts_;
 };
 
 }  // namespace larkspan::components

@@ -59,7 +59,9 @@ public:
 
     /// The words of the alert; empty while there is none.
     std::string alert() const;
-    void dismissAlert() { viewModel->showErrorAlert = false; }
+    /// Tells the alerts apart, also two that say the same.
+    int alertNumber() const { return viewModel->alertNumber(); }
+    void dismissAlert() { viewModel->dismissAlert(); }
 
     /// Opens the monitor of that row; nothing if it has gone meanwhile.
     void openMonitor(const std::string& id);

@@ -18,6 +18,7 @@ StatusPageMonitorsViewModel::StatusPageMonitorsViewModel(
     : FetchedList(main, [&api, page] { return presentation::recordsOfPage(api.fetchMonitors(), page); })
     , pageId(std::move(page))
     , api_(api)
+    , alerts_([this](std::optional<std::string> words) { showAlert(std::move(words)); })
 {
 }
 
@@ -40,6 +41,13 @@ Task<void> StatusPageMonitorsViewModel::checkMonitor(Monitor monitor)
     return perform(self(), std::move(monitor.id), std::move(action));
 }
 
+void StatusPageMonitorsViewModel::showAlert(std::optional<std::string> words)
+{
+    const bool isUp = words.has_value();
+    if (isUp) errorMessage = std::move(words);
+    showErrorAlert = isUp;
+}
+
 Task<void> StatusPageMonitorsViewModel::perform(
     std::shared_ptr<StatusPageMonitorsViewModel> self, std::string id, Task<void> action)
 {
@@ -48,8 +56,7 @@ Task<void> StatusPageMonitorsViewModel::perform(
         auto refreshing = refreshMonitor(self, id);
         co_await std::move(refreshing);
     } catch (...) {
-        self->errorMessage = support::localizedDescription(std::current_exception());
-        self->showErrorAlert = true;
+        self->alerts_.raise(support::localizedDescription(std::current_exception()));
     }
     self->setPerforming(id, false);
 }

@@ -7,6 +7,7 @@
 
 #include "api/MonitorEndpoints.h"
 #include "model/Monitor.h"
+#include "presentation/AlertSequence.h"
 #include "presentation/FetchedList.h"
 #include "support/Observable.h"
 #include "support/Task.h"
@@ -29,6 +30,10 @@ public:
     /// The text of the alert; it stays when the alert has gone.
     support::Published<std::optional<std::string>> errorMessage{*this};
 
+    void dismissAlert() { alerts_.dismiss(); }
+    /// Tells the alerts apart, also two that say the same.
+    int alertNumber() const { return alerts_.number(); }
+
     void loadMonitors() { load(); }
 
     /// Pauses the monitor or, if that record says that it is paused, resumes it; then fetches its row anew. It never
@@ -46,7 +51,10 @@ private:
     std::shared_ptr<StatusPageMonitorsViewModel> self();
     void setPerforming(const std::string& id, bool isPerforming);
 
+    void showAlert(std::optional<std::string> words);
+
     api::MonitorEndpoints& api_;
+    presentation::AlertSequence alerts_;
 };
 
 }  // namespace larkspan::monitors

@@ -10,8 +10,8 @@ EventForm::EventForm(
     ComponentSelection::Ports ports, std::string page, SelectionWords words, GuardedScreen::Owner owner)
     : GuardedScreen(ports.main, std::move(owner))
     , pageId(std::move(page))
-    , selection(std::make_shared<ComponentSelection>(
-          ports, pageId, words.failure, [alerts = action](std::string failure) { alerts->alert = std::move(failure); }))
+    , selection(std::make_shared<ComponentSelection>(ports, pageId, words.failure,
+          [alerts = action](std::string failure) { alerts->raiseAlert(std::move(failure)); }))
     , words_(words)
 {
 }

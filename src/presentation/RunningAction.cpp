@@ -1,6 +1,8 @@
 #include "presentation/RunningAction.h"
 
 #include <exception>
+#include <optional>
+#include <string>
 #include <utility>
 
 #include "api/OrderOutcome.h"
@@ -13,6 +15,7 @@ using support::Task;
 RunningAction::RunningAction(platform::Executor& main, std::function<void()> lookAgain)
     : main_(main)
     , lookAgain_(std::move(lookAgain))
+    , alerts_([this](std::optional<std::string> words) { alert = std::move(words).value_or(""); })
 {
 }
 
@@ -20,7 +23,7 @@ void RunningAction::run(Task<void> work)
 {
     if (*isInProgress) return;
     isInProgress = true;
-    alert = {};
+    alerts_.withdraw();
     support::start(main_, carryOut(shared_from_this(), std::move(work)));
 }
 
@@ -32,7 +35,7 @@ Task<void> RunningAction::carryOut(std::shared_ptr<RunningAction> self, Task<voi
     } catch (...) {
         failure = std::current_exception();
     }
-    if (failure) self->alert = support::localizedDescription(failure);
+    if (failure) self->alerts_.raise(support::localizedDescription(failure));
     self->isInProgress = false;
     if (failure && self->lookAgain_ && api::mayHaveTakenPlace(failure)) self->lookAgain_();
 }

@@ -3,8 +3,10 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "platform/Executor.h"
+#include "presentation/AlertSequence.h"
 #include "support/Observable.h"
 #include "support/Task.h"
 
@@ -24,13 +26,18 @@ public:
     /// Runs `work` on the main thread; whatever it throws becomes the alert. While another runs, it is dropped.
     void run(support::Task<void> work);
 
-    void dismissAlert() { alert = {}; }
+    /// A failure that is not an action's own comes up like one.
+    void raiseAlert(std::string words) { alerts_.raise(std::move(words)); }
+    void dismissAlert() { alerts_.dismiss(); }
+    /// Tells the alerts apart, also two that say the same.
+    int alertNumber() const { return alerts_.number(); }
 
 private:
     static support::Task<void> carryOut(std::shared_ptr<RunningAction> self, support::Task<void> work);
 
     platform::Executor& main_;
     const std::function<void()> lookAgain_;
+    AlertSequence alerts_;
 };
 
 }  // namespace larkspan::presentation

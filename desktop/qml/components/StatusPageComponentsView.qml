@@ -20,11 +20,8 @@ ContentArea {
         }
     }
 
-    PopupLoader {
-        isShown: view.components.alert !== ""
+    AlertLoader {
+        alert: view.components.alert
         onDismissed: view.components.dismissAlert()
-        sourceComponent: ErrorAlert {
-            text: view.components.alert
-        }
     }
 }

@@ -7,17 +7,22 @@ import Larkspan
 Loader {
     id: loader
     required property bool isShown
+    // Tells one reason to be seen from the next, which may come before the popup of the one before has been let go.
+    property int occasion: 0
     // It has closed, in whatever way.
     signal dismissed
 
     // A popup opens over a window, so it waits until its maker is in one.
     active: isShown && T.Overlay.overlay !== null
-    onLoaded: {
+    onLoaded: open()
+    onOccasionChanged: if (item && !(item as T.Popup).opened) open()
+    onItemChanged: if (!item) focusBefore.giveBack()
+
+    function open() {
         focusBefore.remember(Window.activeFocusItem)
         const popup = item as T.Popup
         popup.open()
     }
-    onItemChanged: if (!item) focusBefore.giveBack()
 
     Connections {
         target: loader.item

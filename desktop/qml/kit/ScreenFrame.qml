@@ -11,7 +11,7 @@ FocusScope {
     property alias placeholder: area.placeholder
     property bool isBusy: false
     property alias busyText: overlay.text
-    property string alert
+    property alert alert
     property alias status: header.status
     property alias canGoBack: header.canGoBack
     property alias leading: header.leading
@@ -41,11 +41,8 @@ FocusScope {
         id: overlay
         visible: frame.isBusy
     }
-    PopupLoader {
-        isShown: frame.alert !== ""
+    AlertLoader {
+        alert: frame.alert
         onDismissed: frame.alertDismissed()
-        sourceComponent: ErrorAlert {
-            text: frame.alert
-        }
     }
 }

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Templates as T
 import Larkspan
+import Larkspan.Bridge
 
 // A panel over the dimmed window: a bar with its title, then content that scrolls where the window is small.
 // It keeps the focus while it is up, takes Escape, and gives the focus back.
@@ -14,7 +15,7 @@ ModalDialog {
     property bool closesByItself: true
     property bool isBusy: false
     property string busyText
-    property string alert
+    property alert alert
     signal closeRequested
     signal alertDismissed
 
@@ -52,12 +53,9 @@ ModalDialog {
             visible: sheet.isBusy
             text: sheet.busyText
         }
-        PopupLoader {
-            isShown: sheet.alert !== ""
+        AlertLoader {
+            alert: sheet.alert
             onDismissed: sheet.alertDismissed()
-            sourceComponent: ErrorAlert {
-                text: sheet.alert
-            }
         }
     }
 }

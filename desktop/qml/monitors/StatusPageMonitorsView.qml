@@ -23,12 +23,8 @@ ContentArea {
         }
     }
 
-    PopupLoader {
-        isShown: view.monitors.alert !== ""
-        sourceComponent: ErrorAlert {
-            text: view.monitors.alert
-            // While it fades another may be raised, which is not to go with it.
-            onAboutToHide: view.monitors.dismissAlert()
-        }
+    AlertLoader {
+        alert: view.monitors.alert
+        onDismissed: view.monitors.dismissAlert()
     }
 }

@@ -177,6 +177,26 @@ TEST_F(MonitorsOnScreen, ARefusedActionIsAnAlertAndGivesTheKeyboardBack)
     EXPECT_EQ(focused(), QStringLiteral("Check Now"));
 }
 
+TEST_F(MonitorsOnScreen, TwoRefusedActionsAreTwoAlertsAndALaterOneIsToldToo)
+{
+    const auto refuse = [this] {
+        transport.answer(HttpResponse{.status = 409, .body = ""});
+        settle();
+    };
+    choose("Check Now");
+    choose("Resume");
+    refuse();
+    refuse();
+    EXPECT_TRUE(asks("Error"));
+    press(Qt::Key_Return);
+    EXPECT_TRUE(asks("Error")) << "the second one's";
+    press(Qt::Key_Return);
+    EXPECT_FALSE(asks("Error"));
+    choose("Check Now");
+    refuse();
+    EXPECT_TRUE(asks("Error"));
+}
+
 TEST_F(MonitorsOnScreen, MetricsOpenBelowTheRowAndCloseToTheCompactLine)
 {
     transport.script(metricsURL, 200, day);

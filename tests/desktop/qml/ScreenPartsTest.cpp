@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "KitWindow.h"
+#include "bridge/values/AlertValue.h"
 
 namespace larkspan {
 
@@ -57,18 +58,24 @@ class AlertOfAScreen : public testing::Test, public KitWindow {
 protected:
     AlertOfAScreen()
         : KitWindow(QStringLiteral(R"(
-            property string failure: ""
+            property alert failure
+            property alert next
             property int dismissals: 0
             ScreenFrame {
                 anchors.fill: parent
                 title: "Screen"
                 alert: window.failure
-                onAlertDismissed: { window.dismissals += 1; window.failure = "" }
+                onAlertDismissed: { window.dismissals += 1; window.failure = window.next }
                 CommandButton { objectName: "before"; text: "Before"; focus: true }
             })"))
     {
         item(QStringLiteral("before")).forceActiveFocus(Qt::TabFocusReason);
-        setProperty("failure", QStringLiteral("Server returned HTTP status code 409."));
+        show("failure", 1, "Server returned HTTP status code 409.");
+    }
+
+    void show(const char* property, int number, const char* text)
+    {
+        setProperty(property, QVariant::fromValue(bridge::AlertValue{number, QString::fromUtf8(text)}));
     }
 
     QStringList dialogs() const
@@ -90,9 +97,25 @@ TEST_F(AlertOfAScreen, ReturnAndEscapeDismissItOnceAndGiveTheFocusBack)
 {
     press(Qt::Key_Return);
     EXPECT_EQ(property("dismissals").toInt(), 1);
-    setProperty("failure", QStringLiteral("Again."));
+    show("failure", 2, "Again.");
     press(Qt::Key_Escape);
     EXPECT_EQ(property("dismissals").toInt(), 2);
+    EXPECT_TRUE(dialogs().isEmpty());
+    EXPECT_TRUE(item(QStringLiteral("before")).hasActiveFocus());
+}
+
+TEST_F(AlertOfAScreen, ThatIsReadIsFollowedByTheNextAlsoWhereThatSaysTheSame)
+{
+    for (const auto* const text : {"Server returned HTTP status code 500.", "Server returned HTTP status code 500."}) {
+        show("next", property("dismissals").toInt() + 2, text);
+        press(Qt::Key_Return);
+        EXPECT_EQ(dialogs(), QStringList{"Error"});
+        EXPECT_TRUE(namesOf(QAccessible::queryAccessibleInterface(&window()), QAccessible::StaticText)
+                .contains(QString::fromUtf8(text)));
+    }
+    show("next", 0, "");
+    press(Qt::Key_Return);
+    EXPECT_EQ(property("dismissals").toInt(), 3);
     EXPECT_TRUE(dialogs().isEmpty());
     EXPECT_TRUE(item(QStringLiteral("before")).hasActiveFocus());
 }

@@ -115,6 +115,25 @@ TEST_F(ListOfComponents, WhoseAlertIsDismissedShowsNoComponents)
     EXPECT_EQ(view->content(), Content::failure) << "only a refresh brings it back";
 }
 
+TEST_F(ListOfComponents, WhoseLoadsFailBesideEachOtherHasAnAlertForEach)
+{
+    transport.forget(listURL);
+    view->appear();
+    view->refresh();
+    run();
+    transport.answer(HttpResponse{500, ""});
+    run();
+    transport.answer(HttpResponse{502, ""});
+    run();
+    EXPECT_EQ(view->alert(), "Server returned HTTP status code 500.");
+    const int first = view->alertNumber();
+    view->dismissAlert();
+    EXPECT_EQ(view->alert(), "Server returned HTTP status code 502.");
+    EXPECT_NE(view->alertNumber(), first);
+    view->dismissAlert();
+    EXPECT_EQ(view->alert(), "");
+}
+
 TEST_F(ListOfComponents, WhoseFailureHasNoWordsHasThemFromTheScreen)
 {
     view->viewModel->showErrorAlert = true;
@@ -271,21 +290,6 @@ TEST_F(OpenedComponent, ThatEndsItsDeletionBehindAnotherLeavesThatOneAlone)
     EXPECT_EQ(shown(), (Words{"[Group a]", "[Group b]", "[Ungrouped]", "Component 2"}));
 }
 
-TEST_F(OpenedComponent, WhoseListIsGoneEndsItsRequestForNobody)
-{
-    save();
-    const std::weak_ptr<StatusPageComponentsView> list = view;
-    const std::weak_ptr<ComponentDetailView> detail = view->detail();
-    view.reset();
-    EXPECT_TRUE(list.expired());
-    EXPECT_FALSE(detail.expired());
-    answer(R"({"id": "1", "name": "New"})");
-    EXPECT_TRUE(detail.expired());
-}
-
-}  // namespace
-
-}  // namespace larkspan::components
 TEST_F(OpenedComponent, WhoseEditHasAnAnswerThatSaysNothingKeepsTheTextAndLoadsTheListAnew)
 {
     for (const auto* const body : {"", "{}", R"({"id": "2", "name": "New"})"}) {
@@ -303,3 +307,18 @@ TEST_F(OpenedComponent, WhoseEditHasAnAnswerThatSaysNothingKeepsTheTextAndLoadsT
     }
 }
 
+TEST_F(OpenedComponent, WhoseListIsGoneEndsItsRequestForNobody)
+{
+    save();
+    const std::weak_ptr<StatusPageComponentsView> list = view;
+    const std::weak_ptr<ComponentDetailView> detail = view->detail();
+    view.reset();
+    EXPECT_TRUE(list.expired());
+    EXPECT_FALSE(detail.expired());
+    answer(R"({"id": "1", "name": "New"})");
+    EXPECT_TRUE(detail.expired());
+}
+
+}  // namespace
+
+}  // namespace larkspan::components

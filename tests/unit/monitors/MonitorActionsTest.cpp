@@ -162,6 +162,24 @@ TEST_F(ActionInTheList, PatchesNothingButItsOwnRow)
     EXPECT_EQ(view->rows()[2].status, "Operational");
 }
 
+TEST_F(ActionInTheList, RefusedWhileTheAlertOfAnotherIsUpIsToldAfterThat)
+{
+    view->press("1", "checkNow");
+    view->press("3", "checkNow");
+    run();
+    transport.answer(HttpResponse{409, ""});
+    run();
+    const int first = view->alertNumber();
+    transport.answer(HttpResponse{409, ""});
+    run();
+    EXPECT_EQ(view->alertNumber(), first);
+    view->dismissAlert();
+    EXPECT_EQ(view->alert(), "Server returned HTTP status code 409.");
+    EXPECT_NE(view->alertNumber(), first);
+    view->dismissAlert();
+    EXPECT_EQ(view->alert(), "");
+}
+
 class RefusedInTheList : public ActionInTheList,
                          public testing::WithParamInterface<std::tuple<const char*, fakes::Refusal>> {};
 

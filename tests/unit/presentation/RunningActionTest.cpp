@@ -65,6 +65,18 @@ TEST_F(ActionOfAScreen, ThatFailsEndsInAnAlertWithTheErrorsWords)
     EXPECT_EQ(*action->alert, "");
 }
 
+TEST_F(ActionOfAScreen, ThatFailsWhileAnAlertIsUpIsToldAfterThat)
+{
+    action->run(failing());
+    action->raiseAlert("Could not load components.");
+    main.run();
+    EXPECT_EQ(*action->alert, "Could not load components.");
+    const int first = action->alertNumber();
+    action->dismissAlert();
+    EXPECT_EQ(*action->alert, "Server returned HTTP status code 409.");
+    EXPECT_NE(action->alertNumber(), first);
+}
+
 TEST_F(ActionOfAScreen, BeginsWithoutTheAlertOfTheOneBefore)
 {
     action->run(failing());
