@@ -49,11 +49,9 @@ public:
     /// Of `presentedComponent`; null without one.
     const std::shared_ptr<ComponentDetailView>& detail() const { return presentedComponent.screen(); }
 
-    /// Leaving the screen would lose what has been typed.
-    bool hasUnsavedText() const { return detail() && detail()->hasUnsavedText(); }
-
 private:
     presentation::FetchedRecords& fetched() const override { return *viewModel; }
+    std::vector<std::shared_ptr<presentation::GuardedScreen>> inFront() const override { return {detail()}; }
 
     ComponentDetailView::Owner ownerOf(const std::string& opened);
     void onUpdate(const model::Component& changed);

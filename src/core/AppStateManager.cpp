@@ -107,6 +107,7 @@ Task<APIKeyVerificationResult> AppStateManager::verify(std::shared_ptr<AppStateM
 
 void AppStateManager::publish(AccountLists lists)
 {
+    ++publishedLists_;
     statusPages = std::move(lists.statusPages);
     incidents = std::move(lists.incidents);
     maintenances = std::move(lists.maintenances);
@@ -145,6 +146,7 @@ void AppStateManager::updateOverallStatus()
 
 void AppStateManager::clearAccountData()
 {
+    ++publishedLists_;
     statusPages = {};
     incidents = {};
     maintenances = {};

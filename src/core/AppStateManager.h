@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
 #include <exception>
 #include <functional>
 #include <memory>
@@ -89,6 +90,9 @@ public:
 
     Interval refreshInterval() const { return refreshInterval_; }
 
+    /// How often the lists have landed, so that one which came again is told from one that stayed.
+    std::size_t publishedLists() const { return publishedLists_; }
+
     /// Polls at `interval`, or at the shortest one allowed, counted from now. Forgotten when the program ends.
     void setRefreshInterval(Interval interval);
 
@@ -140,6 +144,7 @@ private:
     InProcessNotifications inProcessNotifications_;
 
     platform::StatusItem* statusItem_ = nullptr;
+    std::size_t publishedLists_ = 0;
     std::weak_ptr<MainWindowLifecycleDelegate> windowRules_;
     std::shared_ptr<UpdaterController> updaterController_;
     std::unique_ptr<platform::Timer> timestampTimer_;

@@ -100,9 +100,4 @@ CreateIncidentView::Owner StatusPageIncidentsView::ownerOfForm()
         .lookAgain = whileAlive(view, [](StatusPageIncidentsView& self) { self.viewModel->load(); })};
 }
 
-bool StatusPageIncidentsView::hasUnsavedText() const
-{
-    return (detail() && detail()->hasUnsavedText()) || (form() && form()->hasUnsavedText());
-}
-
 }  // namespace larkspan::incidents

@@ -47,15 +47,13 @@ public:
     /// What the sheet shows; null while it is down.
     const std::shared_ptr<CreateIncidentView>& form() const { return showCreateIncident.screen(); }
 
-    /// Leaving the screen would lose what has been typed.
-    bool hasUnsavedText() const;
-
 private:
     presentation::FetchedRecords& fetched() const override { return *viewModel; }
+    std::vector<std::shared_ptr<presentation::GuardedScreen>> inFront() const override { return {detail(), form()}; }
 
-    static support::Task<void> lookAgain(std::shared_ptr<StatusPageIncidentsView> self, std::string id);
     IncidentDetailView::Owner ownerOf(const std::string& opened);
     CreateIncidentView::Owner ownerOfForm();
+    static support::Task<void> lookAgain(std::shared_ptr<StatusPageIncidentsView> self, std::string id);
     void takeBack(const model::Incident& changed);
     void dismiss(const std::string& id);
     void loadIfInSight();

@@ -79,9 +79,4 @@ CreateMaintenanceView::Owner StatusPageMaintenancesView::ownerOfForm()
         .lookAgain = whileAlive(view, [](StatusPageMaintenancesView& self) { self.viewModel->load(); })};
 }
 
-bool StatusPageMaintenancesView::hasUnsavedText() const
-{
-    return (detail() && detail()->hasUnsavedText()) || (form() && form()->hasUnsavedText());
-}
-
 }  // namespace larkspan::maintenances

@@ -47,11 +47,9 @@ public:
     /// What the sheet shows; null while it is down.
     const std::shared_ptr<CreateMaintenanceView>& form() const { return showCreateSheet.screen(); }
 
-    /// Leaving the screen would lose what has been typed.
-    bool hasUnsavedText() const;
-
 private:
     presentation::FetchedRecords& fetched() const override { return *viewModel; }
+    std::vector<std::shared_ptr<presentation::GuardedScreen>> inFront() const override { return {detail(), form()}; }
 
     MaintenanceDetailView::Owner ownerOf(const std::string& opened);
     CreateMaintenanceView::Owner ownerOfForm();

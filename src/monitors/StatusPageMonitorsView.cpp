@@ -63,6 +63,11 @@ void StatusPageMonitorsView::press(const std::string& id, std::string_view butto
     if (button == MonitorRow::checkNow) support::start(ports_.main, viewModel->checkMonitor(*monitor));
 }
 
+bool StatusPageMonitorsView::isHeld() const
+{
+    return !viewModel->performingActions->empty() || (detail() && *detail()->action->isInProgress);
+}
+
 std::string StatusPageMonitorsView::alert() const
 {
     return *viewModel->showErrorAlert ? viewModel->errorMessage->value_or("") : "";

@@ -69,6 +69,8 @@ public:
     /// Of `presentedMonitor`; null without one.
     const std::shared_ptr<MonitorDetailView>& detail() const { return presentedMonitor.screen(); }
 
+    bool isHeld() const override;
+
 private:
     presentation::FetchedRecords& fetched() const override { return *viewModel; }
     void forgetRowsThatLeft();

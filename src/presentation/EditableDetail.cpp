@@ -32,6 +32,7 @@ void EditableDetail::closeEditor()
 {
     showDiscardConfirmation = false;
     isEditing = false;
+    letGo();
 }
 
 void EditableDetail::leave()

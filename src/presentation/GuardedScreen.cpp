@@ -30,10 +30,30 @@ void GuardedScreen::requestClose()
         close();
 }
 
+bool GuardedScreen::asksBefore(std::function<void()> leave)
+{
+    if (!hasUnsavedText()) return false;
+    leaveFor_ = std::move(leave);
+    showDiscardConfirmation = true;
+    return true;
+}
+
+void GuardedScreen::keepEditing()
+{
+    leaveFor_ = nullptr;
+    showDiscardConfirmation = false;
+}
+
 void GuardedScreen::dismiss()
 {
     isDismissed_ = true;
     dismiss_();
+    letGo();
+}
+
+void GuardedScreen::letGo()
+{
+    if (const auto leave = std::exchange(leaveFor_, nullptr)) leave();
 }
 
 void GuardedScreen::discardChanges()
@@ -41,7 +61,11 @@ void GuardedScreen::discardChanges()
     // A save that ended meanwhile took the question back, and left what is in sight now.
     if (!*showDiscardConfirmation) return;
     showDiscardConfirmation = false;
-    close();
+    // What takes the whole screen away needs it not closed, which it may refuse while a request runs.
+    if (leaveFor_)
+        letGo();
+    else
+        close();
 }
 
 }  // namespace larkspan::presentation

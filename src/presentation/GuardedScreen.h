@@ -28,13 +28,18 @@ public:
 
     /// Leaving would lose what has been typed.
     virtual bool hasUnsavedText() const = 0;
+    /// The screen is not to go by itself: something would be lost with it, or an order has not ended.
+    bool isHeld() const { return hasUnsavedText() || !isIdle(); }
+    /// Something is wanted that takes this screen away. Where text would be lost it asks, and does `leave` once the
+    /// user has confirmed that or the service has the text; without text it does nothing, which is false.
+    bool asksBefore(std::function<void()> leave);
     /// Also while a request runs, unless the screen has to show how that ends.
     virtual bool isCloseEnabled() const { return true; }
     /// Leaves without a question. Pressed again before the screen has gone, it does nothing.
     void close();
     /// Escape, the way back or a press outside: closes, but asks first where text would be lost.
     void requestClose();
-    void keepEditing() { showDiscardConfirmation = false; }
+    void keepEditing();
     /// The user confirmed the loss.
     void discardChanges();
 
@@ -49,6 +54,8 @@ protected:
     GuardedScreen(platform::Executor& main, Owner owner);
 
     void dismiss();
+    /// Nothing would be lost any more: does what was wanted meanwhile.
+    void letGo();
 
     /// `screen` as its requests hold it.
     template <typename Screen>
@@ -62,6 +69,8 @@ private:
     virtual void leave() { dismiss(); }
 
     const std::function<void()> dismiss_;
+    // What the question that is up is about; nothing while it is about this screen alone.
+    std::function<void()> leaveFor_;
     bool isDismissed_ = false;
 };
 

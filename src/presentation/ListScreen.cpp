@@ -1,5 +1,6 @@
 #include "presentation/ListScreen.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace larkspan::presentation {
@@ -19,6 +20,21 @@ void ListScreen::refresh()
 {
     credentials_.allowPromptAgain();
     fetched().load();
+}
+
+bool ListScreen::hasUnsavedText() const
+{
+    return std::ranges::any_of(inFront(), [](const auto& screen) { return screen && screen->hasUnsavedText(); });
+}
+
+bool ListScreen::isHeld() const
+{
+    return std::ranges::any_of(inFront(), [](const auto& screen) { return screen && screen->isHeld(); });
+}
+
+bool ListScreen::asksBefore(const std::function<void()>& leave)
+{
+    return std::ranges::any_of(inFront(), [&leave](const auto& screen) { return screen && screen->asksBefore(leave); });
 }
 
 Placeholder ListScreen::placeholder() const

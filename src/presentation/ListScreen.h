@@ -1,10 +1,13 @@
 #pragma once
 
 #include <functional>
+#include <memory>
+#include <vector>
 
 #include "platform/CredentialStore.h"
 #include "presentation/Content.h"
 #include "presentation/FetchedRecords.h"
+#include "presentation/GuardedScreen.h"
 #include "support/Observable.h"
 
 namespace larkspan::presentation {
@@ -27,12 +30,21 @@ public:
     /// What stands in place of the list; all empty while there is one.
     Placeholder placeholder() const;
 
+    /// Leaving the list would lose what has been typed in front of it.
+    bool hasUnsavedText() const;
+    /// The list is not to go by itself: something would be lost with it, or an order has not ended.
+    virtual bool isHeld() const;
+    /// As `GuardedScreen` has it, for what stands in front of the list.
+    bool asksBefore(const std::function<void()>& leave);
+
 protected:
     ListScreen(platform::CredentialStore& credentials, Placeholders placeholders);
 
 private:
     /// The screen's own view model.
     virtual FetchedRecords& fetched() const = 0;
+    /// The screens in which one types; null for one that is not there.
+    virtual std::vector<std::shared_ptr<GuardedScreen>> inFront() const { return {}; }
 
     platform::CredentialStore& credentials_;
     const Placeholders placeholders_;

@@ -5,6 +5,7 @@
 
 #include "presentation/CompactRelativeTimeFormatter.h"
 #include "presentation/RowsOf.h"
+#include "support/WhileAlive.h"
 
 namespace larkspan::workspace {
 
@@ -98,7 +99,17 @@ const model::StatusPage* Dashboard::selectedPage() const
 
 void Dashboard::openPage(const std::string& id)
 {
-    if (*openedPage && ((*openedPage)->page->id == id || (*openedPage)->hasUnsavedText())) return;
+    if (*openedPage && (*openedPage)->page->id == id) return;
+    if (!asksBefore(support::whileAlive(weak_from_this(), [id](Dashboard& self) { self.showPage(id); }))) showPage(id);
+}
+
+bool Dashboard::asksBefore(const std::function<void()>& leave)
+{
+    return *openedPage && (*openedPage)->asksBefore(leave);
+}
+
+void Dashboard::showPage(const std::string& id)
+{
     selectedPageId = id;
     const auto* const page = selectedPage();
     openedPage = page ? std::make_shared<StatusPageDetailView>(portsOfPage(), *page) : nullptr;
@@ -117,13 +128,16 @@ void Dashboard::closePage()
 
 void Dashboard::followOpenedPage()
 {
+    const auto lists = state().publishedLists();
+    const bool isOfNewLists = std::exchange(followedLists_, lists) != lists;
     if (!*openedPage) return;
     const auto* const page = selectedPage();
-    if (!page) {
-        closePage();
-    } else if (*page != *(*openedPage)->page) {
-        (*openedPage)->page = *page;
+    if (page) {
+        if (*page != *(*openedPage)->page) (*openedPage)->page = *page;
+        return;
     }
+    // One list without it may be the service's slip, and is no reason to lose what is typed or how an order ends.
+    if (isOfNewLists && !(*openedPage)->isHeld()) closePage();
 }
 
 void Dashboard::openSettings()

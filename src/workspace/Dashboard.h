@@ -3,6 +3,7 @@
 #include <array>
 #include <chrono>
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -35,7 +36,7 @@ namespace larkspan::workspace {
 
 /// The dashboard: which of its states shows, and every word in it. It owns no data; all comes from the account's state.
 /// Main thread only.
-class Dashboard final : public support::Observable {
+class Dashboard final : public support::Observable, public std::enable_shared_from_this<Dashboard> {
 public:
     struct Ports {
         platform::Executor& main;
@@ -84,8 +85,8 @@ public:
     void refresh() { ports_.appState->refreshNow(); }
     void chooseRefreshInterval(std::chrono::seconds interval);
 
-    /// Selects the page and opens it, if the account has it. One that is open already stays as it is, and so does one
-    /// in which something is typed that would be lost: the user is led back to that instead.
+    /// Selects the page and opens it, if the account has it. One that is open already stays as it is; where something
+    /// is typed in another that would be lost, the user is asked first.
     void openPage(const std::string& id);
     /// The user has gone back to the list.
     void closePage();
@@ -100,12 +101,15 @@ private:
     const core::AppStateManager& state() const { return *ports_.appState; }
     const model::StatusPage* selectedPage() const;
     StatusPageDetailView::Ports portsOfPage() const;
+    bool asksBefore(const std::function<void()>& leave);
+    void showPage(const std::string& id);
     /// Takes over what the account's list has made of the opened page.
     void followOpenedPage();
 
     Ports ports_;
     std::unique_ptr<platform::Timer> tick_;
     support::Subscription openStatusPage_;
+    std::size_t followedLists_ = 0;
     const presentation::AfterChanges accountChanges_;
 };
 

@@ -101,13 +101,22 @@ void StatusPageDetailView::selectPrevious()
 
 void StatusPageDetailView::refresh()
 {
+    if (auto* const shown = list())
+        shown->refresh();
+    else
+        ports_.appState->refreshNow();
+}
+
+presentation::ListScreen* StatusPageDetailView::list() const
+{
     switch (*selectedTab) {
-    case Tab::overview: return ports_.appState->refreshNow();
-    case Tab::incidents: return incidents_->refresh();
-    case Tab::monitors: return monitors_->refresh();
-    case Tab::components: return components_->refresh();
-    case Tab::maintenances: return maintenances_->refresh();
+    case Tab::overview: break;
+    case Tab::incidents: return incidents_.get();
+    case Tab::monitors: return monitors_.get();
+    case Tab::components: return components_.get();
+    case Tab::maintenances: return maintenances_.get();
     }
+    return nullptr;
 }
 
 StatusPageOverviewView StatusPageDetailView::overview() const
@@ -115,10 +124,14 @@ StatusPageOverviewView StatusPageDetailView::overview() const
     return StatusPageOverviewView::of(*page, *ports_.appState, ports_.locale, ports_.clock.now());
 }
 
-bool StatusPageDetailView::hasUnsavedText() const
+bool StatusPageDetailView::isHeld() const
 {
-    return (incidents_ && incidents_->hasUnsavedText()) || (components_ && components_->hasUnsavedText())
-        || (maintenances_ && maintenances_->hasUnsavedText());
+    return list() && list()->isHeld();
+}
+
+bool StatusPageDetailView::asksBefore(const std::function<void()>& leave)
+{
+    return list() && list()->asksBefore(leave);
 }
 
 void StatusPageDetailView::openPublicURL() const

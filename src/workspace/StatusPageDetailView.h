@@ -70,13 +70,17 @@ public:
     /// The screen of the tab "Maintenances"; null while another is selected.
     const std::shared_ptr<maintenances::StatusPageMaintenancesView>& maintenances() const { return maintenances_; }
 
-    /// Leaving the page would lose what has been typed in one of its screens.
-    bool hasUnsavedText() const;
+    /// The page is not to go by itself: something would be lost with it, or an order has not ended.
+    bool isHeld() const;
+    /// As `GuardedScreen` has it, for what is open in the page.
+    bool asksBefore(const std::function<void()>& leave);
 
     /// Opens the page as the public sees it; what is no web address is not opened.
     void openPublicURL() const;
 
 private:
+    /// The screen of the selected tab; null for the overview.
+    presentation::ListScreen* list() const;
     void leave();
     void enter(Tab tab);
     void enterIncidents();

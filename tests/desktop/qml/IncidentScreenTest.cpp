@@ -220,6 +220,25 @@ TEST_F(IncidentsOnScreen, EscapeInTheFormAsksBeforeTypedTextIsLostAndElseClosesI
     EXPECT_FALSE(asks("New Incident"));
 }
 
+TEST_F(IncidentsOnScreen, AFormWithTypedTextStaysWhereACycleLacksItsPageAndAsksBeforeTheMenuLeadsToAnother)
+{
+    openForm();
+    type("Title", "Mail");
+    transport.script(pagesURL, 200, R"({"data": null})");
+    refresh();
+    settle();
+    EXPECT_TRUE(asks("New Incident"));
+    servePages({"b"}, {});
+    refresh();
+    state->openStatusPage("b");
+    settle();
+    EXPECT_TRUE(asks("Discard Changes?"));
+    choose("Discard");
+    EXPECT_TRUE(names(Role::Dialog).isEmpty());
+    EXPECT_EQ((*dashboard->openedPage)->page->id, "b");
+    EXPECT_TRUE(shows(QStringLiteral("Current Status")));
+}
+
 TEST_F(IncidentsOnScreen, OneHasItsButtonsInARowOrWithoutRoomForItBelowEachOtherWithAddUpdateOnTop)
 {
     openFirst();

@@ -204,18 +204,23 @@ TEST_F(MaintenancesOnScreen, ALinkOfAMessageIsOpenedAfterItsHostWasShown)
     EXPECT_EQ(links.opened, Sent{"https://plan.example/x"});
 }
 
-TEST_F(MaintenancesOnScreen, APageThatIsGoneTakesItsMaintenanceWithItInMidRequest)
+TEST_F(MaintenancesOnScreen, APageThatIsGoneTakesItsMaintenanceWithItOnceTheOrderHasEnded)
 {
+    const auto loseThePage = [this] {
+        servePages({}, {});
+        refresh();
+        settle();
+    };
     openFirst();
     choose("Start Maintenance");
-    servePages({}, {});
-    refresh();
-    settle();
-    EXPECT_TRUE(shows("No Status Pages"));
-    EXPECT_FALSE(shows("Timeline"));
+    loseThePage();
+    EXPECT_TRUE(shows("Timeline"));
     transport.answer(HttpResponse{.status = 200, .body = work("1", "Upgrade")});
     settle();
+    EXPECT_TRUE(shows("Timeline"));
+    loseThePage();
     EXPECT_TRUE(shows("No Status Pages"));
+    EXPECT_FALSE(shows("Timeline"));
 }
 
 TEST_F(MaintenancesOnScreen, TheFormSendsWhatWasTypedAndTheNewOneStandsFirst)

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "fakes/Account.h"
 #include "fakes/FakeLinkOpener.h"
@@ -24,10 +26,32 @@ protected:
 
     const StatusPageDetailView* opened() const { return dashboard->openedPage->get(); }
 
+    /// The page "a", and in it the form of an incident with a title.
+    std::shared_ptr<incidents::CreateIncidentView> writeIncident()
+    {
+        dashboard->openPage("a");
+        auto& page = **dashboard->openedPage;
+        page.select(Tab::incidents);
+        page.incidents()->openCreateIncident();
+        const auto form = page.incidents()->form();
+        form->title = "Mail is down";
+        run();
+        return form;
+    }
+
+    /// One cycle after which the account has only these pages.
+    void cycleWith(const std::vector<std::string>& pages)
+    {
+        servePages(pages, {});
+        refresh();
+    }
+
+    static constexpr auto incidentsOfA = "https://service.example/user/api/v1/incidents?status_page_id=a";
+
     api::APIKeyStore keys{client, credentials};
     fakes::FakeLocaleText locale;
     fakes::FakeLinkOpener links;
-    std::unique_ptr<Dashboard> dashboard = std::make_unique<Dashboard>(
+    std::shared_ptr<Dashboard> dashboard = std::make_shared<Dashboard>(
         Dashboard::Ports{main, timers, clock, credentials, keys, state, locale, links, api});
 };
 
@@ -50,25 +74,75 @@ TEST_F(PageOfTheDashboard, OpensFromTheMenu)
     EXPECT_EQ(opened()->page->id, "b");
 }
 
-TEST_F(PageOfTheDashboard, AskedForFromTheMenuDoesNotTakeThePlaceOfOneInWhichTextIsTyped)
+TEST_F(PageOfTheDashboard, AskedForFromTheMenuWhileTextIsTypedInAnotherComesOnceTheUserAgreesToLoseThat)
 {
-    dashboard->openPage("a");
-    auto& page = **dashboard->openedPage;
-    for (const auto tab : {Tab::incidents, Tab::maintenances}) {
-        page.select(tab);
-        EXPECT_FALSE(page.hasUnsavedText());
-        if (tab == Tab::incidents) {
-            page.incidents()->openCreateIncident();
-            page.incidents()->form()->title = "Mail is down";
-        } else {
-            page.maintenances()->openCreateMaintenance();
-            page.maintenances()->form()->title = "New certificates";
-        }
-        EXPECT_TRUE(page.hasUnsavedText());
-        state->openStatusPage("b");
-        EXPECT_EQ(opened()->page->id, "a");
+    const auto form = writeIncident();
+    state->openStatusPage("b");
+    EXPECT_TRUE(*form->showDiscardConfirmation);
+    EXPECT_EQ(opened()->page->id, "a");
+    EXPECT_EQ(*dashboard->selectedPageId, "a");
+    form->discardChanges();
+    ASSERT_NE(opened(), nullptr);
+    EXPECT_EQ(opened()->page->id, "b");
+    EXPECT_EQ(*dashboard->selectedPageId, "b");
+}
+
+TEST_F(PageOfTheDashboard, AskedForFromTheMenuIsForgottenWhereTheUserGoesOnTyping)
+{
+    const auto form = writeIncident();
+    state->openStatusPage("b");
+    form->keepEditing();
+    EXPECT_FALSE(*form->showDiscardConfirmation);
+    EXPECT_EQ(*form->title, "Mail is down");
+    form->requestClose();
+    form->discardChanges();
+    EXPECT_EQ(opened()->page->id, "a") << "that question was about the form alone";
+    EXPECT_FALSE(*(*dashboard->openedPage)->incidents()->showCreateIncident);
+}
+
+TEST_F(PageOfTheDashboard, AskedForFromTheMenuComesByItselfWhenTheServiceHasTakenTheTextMeanwhile)
+{
+    transport.forget(incidentsURL);
+    const auto form = writeIncident();
+    form->save();
+    run();
+    state->openStatusPage("b");
+    EXPECT_TRUE(*form->showDiscardConfirmation);
+    EXPECT_EQ(opened()->page->id, "a");
+    while (!transport.pending.empty()) {
+        transport.answer(platform::HttpResponse{201, incident("9", "Mail is down")});
+        run();
     }
-    page.select(Tab::overview);
+    EXPECT_EQ(opened()->page->id, "b");
+}
+
+TEST_F(PageOfTheDashboard, AskedForFromTheMenuWhileAnEditorIsOpenInAnotherAsksThere)
+{
+    transport.script(
+        "https://service.example/user/api/components?status_page_id=a", 200, R"([{"id": "1", "name": "API"}])");
+    dashboard->openPage("a");
+    (*dashboard->openedPage)->select(Tab::components);
+    run();
+    const auto components = (*dashboard->openedPage)->components();
+    components->openComponent("1");
+    components->detail()->beginEditing();
+    components->detail()->editedName = "Gateway";
+    state->openStatusPage("b");
+    EXPECT_TRUE(*components->detail()->showDiscardConfirmation);
+    components->detail()->discardChanges();
+    EXPECT_EQ(opened()->page->id, "b");
+}
+
+TEST_F(PageOfTheDashboard, AskedForFromTheMenuWhileAnOrderWithoutTextRunsComesAtOnce)
+{
+    transport.script(incidentsOfA, 200, "[" + incident("1", "Down") + "]");
+    dashboard->openPage("a");
+    (*dashboard->openedPage)->select(Tab::incidents);
+    run();
+    const auto list = (*dashboard->openedPage)->incidents();
+    list->openIncident("1");
+    list->detail()->press("escalate");
+    run();
     state->openStatusPage("b");
     EXPECT_EQ(opened()->page->id, "b");
 }
@@ -133,6 +207,92 @@ TEST_F(PageOfTheDashboard, ThatIsGoneFromTheAccountCloses)
     EXPECT_EQ(opened(), nullptr) << "nor does it come back by itself";
 }
 
+TEST_F(PageOfTheDashboard, InWhichTextIsTypedStaysWhereACycleLacksItAndCanStillBeSaved)
+{
+    transport.script(incidentsOfA, 200, "[]");
+    const auto form = writeIncident();
+    transport.script(pagesURL, 200, R"({"data": null})");
+    refresh();
+    ASSERT_NE(opened(), nullptr);
+    EXPECT_EQ(opened()->page->name, "a");
+    EXPECT_EQ(*form->title, "Mail is down");
+    transport.requests.clear();
+    transport.script(incidentsURL, 201, incident("9", "Mail is down"));
+    form->save();
+    run();
+    EXPECT_EQ(sent(), std::vector<std::string>{"POST /user/api/v1/incidents"});
+    EXPECT_FALSE(*(*dashboard->openedPage)->incidents()->showCreateIncident);
+    EXPECT_NE(opened(), nullptr);
+}
+
+TEST_F(PageOfTheDashboard, ThatStayedForItsTextGoesWithTheNextCycleAndNoEarlier)
+{
+    const auto form = writeIncident();
+    cycleWith({"b"});
+    form->close();
+    state->isReachable = false;
+    run();
+    EXPECT_NE(opened(), nullptr) << "no list has landed since";
+    transport.script(pagesURL, 500, "");
+    refresh();
+    EXPECT_NE(opened(), nullptr) << "nor now";
+    cycleWith({"b"});
+    EXPECT_EQ(opened(), nullptr);
+}
+
+TEST_F(PageOfTheDashboard, ThatStayedForItsTextAndIsListedAgainStays)
+{
+    const auto form = writeIncident();
+    cycleWith({"b"});
+    form->close();
+    cycleWith({"a", "b"});
+    EXPECT_NE(opened(), nullptr);
+}
+
+TEST_F(PageOfTheDashboard, InWhichAnOrderRunsStaysUntilThatHasEnded)
+{
+    transport.script(incidentsOfA, 200, "[" + incident("1", "Down") + "]");
+    dashboard->openPage("a");
+    (*dashboard->openedPage)->select(Tab::incidents);
+    run();
+    const auto list = (*dashboard->openedPage)->incidents();
+    list->openIncident("1");
+    list->detail()->press("escalate");
+    run();
+    cycleWith({"b"});
+    ASSERT_NE(opened(), nullptr);
+    transport.answer(platform::HttpResponse{409, ""});
+    run();
+    EXPECT_EQ(*list->detail()->action->alert, "Server returned HTTP status code 409.");
+    cycleWith({"b"});
+    EXPECT_EQ(opened(), nullptr);
+}
+
+TEST_F(PageOfTheDashboard, InWhichAMonitorIsPausedStaysUntilThatHasEnded)
+{
+    transport.script("https://service.example/user/api/v1/monitors", 200,
+        R"([{"id": "1", "name": "API", "type": "http", "status_page_id": "a"}])");
+    dashboard->openPage("a");
+    (*dashboard->openedPage)->select(Tab::monitors);
+    run();
+    const auto list = (*dashboard->openedPage)->monitors();
+    list->press("1", monitors::MonitorRow::pauseResume);
+    run();
+    cycleWith({"b"});
+    EXPECT_NE(opened(), nullptr);
+    list->openMonitor("1");
+    transport.answer(platform::HttpResponse{200, ""});
+    run();
+    list->detail()->press(monitors::MonitorRow::checkNow);
+    run();
+    cycleWith({"b"});
+    EXPECT_NE(opened(), nullptr) << "the opened monitor's own order";
+    transport.answer(platform::HttpResponse{200, ""});
+    run();
+    cycleWith({"b"});
+    EXPECT_EQ(opened(), nullptr);
+}
+
 TEST_F(PageOfTheDashboard, StaysOpenWhenARefreshFails)
 {
     dashboard->openPage("a");
@@ -155,6 +315,14 @@ TEST_F(PageOfTheDashboard, OfADashboardThatWentInTheMiddleOfAChangeHarmsNothing)
     state->isLoading = true;
     dashboard.reset();
     run();
+}
+
+TEST_F(PageOfTheDashboard, OfADashboardThatWentWhileItAskedHarmsNothing)
+{
+    const auto form = writeIncident();
+    state->openStatusPage("b");
+    dashboard.reset();
+    EXPECT_NO_FATAL_FAILURE(form->discardChanges());
 }
 
 }  // namespace
