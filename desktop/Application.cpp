@@ -42,6 +42,7 @@ Application::Application(adapters::MainExecutor& main, ServiceAccess service)
 {
     auto dashboard = std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{
         main_, timers_, clock_, service_.credentials, keys_, app_->appState(), locale_, links_, api_});
+    app_->appState()->guardQuitting(dashboard);
     window_ = std::make_unique<MainWindow>(
         MainWindow::Content{std::move(dashboard), updates_, about_, app_->showingAbout, *app_, menu_}, main_);
     windows_.add(window_->window());
@@ -54,7 +55,7 @@ Application::Application(adapters::MainExecutor& main, ServiceAccess service)
     showAppearance();
     connect(&tray_, &adapters::StatusNotifierItem::activationTokenProvided, this,
         [this](const QString& token) { windows_.setActivationToken(token); });
-    connect(window_.get(), &MainWindow::quitRequested, this, &Application::quit);
+    connect(window_.get(), &MainWindow::quitRequested, this, [this] { app_->quitApp(); });
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state == Qt::ApplicationActive) app_->windowLifecycleDelegate().applicationDidBecomeActive();
     });

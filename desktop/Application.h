@@ -54,7 +54,7 @@ public:
     void reopen(const QString& activationToken);
 
     /// Ends the program, also in mid-request.
-    void quit() { app_->quitApp(); }
+    void quit() { app_->terminate(); }
 
 private:
     void showAppearance();

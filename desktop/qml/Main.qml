@@ -59,6 +59,8 @@ Window {
     }
 
     Shortcut {
+        // Also while a sheet or a dialog is up.
+        context: Qt.ApplicationShortcut
         sequences: ["Ctrl+Q"]
         onActivated: window.quitRequested()
     }

@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/APIKeyVerification.h"
@@ -15,6 +16,7 @@
 #include "core/InProcessNotifications.h"
 #include "core/MainWindowLifecycleDelegate.h"
 #include "core/OverallStatus.h"
+#include "core/QuitGuard.h"
 #include "core/UpdaterController.h"
 #include "model/Incident.h"
 #include "model/Maintenance.h"
@@ -88,10 +90,10 @@ public:
     /// Starts or restarts the poll; its first cycle comes one interval from now.
     void startPollTimer();
 
-    Interval refreshInterval() const { return refreshInterval_; }
-
     /// How often the lists have landed, so that one which came again is told from one that stayed.
     std::size_t publishedLists() const { return publishedLists_; }
+
+    Interval refreshInterval() const { return refreshInterval_; }
 
     /// Polls at `interval`, or at the shortest one allowed, counted from now. Forgotten when the program ends.
     void setRefreshInterval(Interval interval);
@@ -113,7 +115,9 @@ public:
     void openStatusPage(const std::string& id);
     void openIncident(const std::string& id);
     void checkForUpdates();
+    /// Ends the program. Where something would be lost with it the user is asked first, in the window.
     void quitApp();
+    void guardQuitting(std::weak_ptr<QuitGuard> guard) { quitGuard_ = std::move(guard); }
 
     /// Present once the item is set up.
     const std::shared_ptr<UpdaterController>& updaterController() const { return updaterController_; }
@@ -140,12 +144,13 @@ private:
     Interval refreshInterval_{60.0};
     std::unique_ptr<platform::Timer> pollTimer_;
     bool isFetching_ = false;
+    std::size_t publishedLists_ = 0;
     ChangeNotifications changeNotifications_;
     InProcessNotifications inProcessNotifications_;
 
     platform::StatusItem* statusItem_ = nullptr;
-    std::size_t publishedLists_ = 0;
     std::weak_ptr<MainWindowLifecycleDelegate> windowRules_;
+    std::weak_ptr<QuitGuard> quitGuard_;
     std::shared_ptr<UpdaterController> updaterController_;
     std::unique_ptr<platform::Timer> timestampTimer_;
     support::Subscription menuBarCancellable_;

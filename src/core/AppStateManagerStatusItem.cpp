@@ -99,6 +99,9 @@ void AppStateManager::checkForUpdates()
 
 void AppStateManager::quitApp()
 {
+    const auto guard = quitGuard_.lock();
+    if (guard && guard->asksBeforeQuitting([&windows = ports_.windows] { windows.terminate(); }))
+        return openDashboard();
     ports_.windows.terminate();
 }
 

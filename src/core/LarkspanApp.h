@@ -24,8 +24,10 @@ public:
 
     void showDashboardWindow() { core::showDashboardWindow(windows_, windowLifecycleDelegate_.get()); }
 
-    /// Ends the program. Nothing is saved: there is nothing to save.
+    /// The user wants the program to end: it asks where something would be lost.
     void quitApp() { appState_->quitApp(); }
+    /// Ends the program. Nothing is saved: there is nothing to save.
+    void terminate() { windows_.terminate(); }
 
 private:
     static support::Task<void> startUp(

@@ -13,6 +13,7 @@
 #include "api/APIKeyStore.h"
 #include "api/KestruneAPI.h"
 #include "core/AppStateManager.h"
+#include "core/QuitGuard.h"
 #include "platform/Clock.h"
 #include "platform/CredentialStore.h"
 #include "platform/Executor.h"
@@ -36,7 +37,9 @@ namespace larkspan::workspace {
 
 /// The dashboard: which of its states shows, and every word in it. It owns no data; all comes from the account's state.
 /// Main thread only.
-class Dashboard final : public support::Observable, public std::enable_shared_from_this<Dashboard> {
+class Dashboard final : public support::Observable,
+                        public core::QuitGuard,
+                        public std::enable_shared_from_this<Dashboard> {
 public:
     struct Ports {
         platform::Executor& main;
@@ -90,6 +93,8 @@ public:
     void openPage(const std::string& id);
     /// The user has gone back to the list.
     void closePage();
+
+    bool asksBeforeQuitting(std::function<void()> quit) override { return asksBefore(quit); }
 
     void openSettings();
     /// The sheet has closed, in whatever way; a key that was saved takes effect now.

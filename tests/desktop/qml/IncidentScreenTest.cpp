@@ -239,6 +239,37 @@ TEST_F(IncidentsOnScreen, AFormWithTypedTextStaysWhereACycleLacksItsPageAndAsksB
     EXPECT_TRUE(shows(QStringLiteral("Current Status")));
 }
 
+TEST_F(IncidentsOnScreen, CtrlQInAFormWithTypedTextAsksFirstAndDiscardEndsTheProgram)
+{
+    QObject::connect(&mainWindow, &MainWindow::quitRequested, &mainWindow, [this] { state->quitApp(); });
+    state->guardQuitting(dashboard);
+    openForm();
+    type("Title", "Mail");
+    press(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_TRUE(asks("Discard Changes?"));
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(asks("Discard Changes?"));
+    EXPECT_TRUE(asks("New Incident"));
+    EXPECT_EQ(windows.terminations, 0);
+    press(Qt::Key_Q, Qt::ControlModifier);
+    choose("Discard");
+    EXPECT_EQ(windows.terminations, 1);
+}
+
+TEST_F(IncidentsOnScreen, CtrlQInAnEditorWithTypedTextAsksFirst)
+{
+    QObject::connect(&mainWindow, &MainWindow::quitRequested, &mainWindow, [this] { state->quitApp(); });
+    state->guardQuitting(dashboard);
+    openFirst();
+    choose("Add Update");
+    press(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_EQ(windows.terminations, 1) << "nothing is typed yet";
+    (*dashboard->openedPage)->incidents()->detail()->editMessage = "We look";
+    press(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_TRUE(asks("Discard Changes?"));
+    EXPECT_EQ(windows.terminations, 1);
+}
+
 TEST_F(IncidentsOnScreen, OneHasItsButtonsInARowOrWithoutRoomForItBelowEachOtherWithAddUpdateOnTop)
 {
     openFirst();

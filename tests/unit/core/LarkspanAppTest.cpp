@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 
 #include "api/KeychainHelper.h"
@@ -76,6 +77,21 @@ TEST_F(App, QuittingAsksTheDesktopToTerminateAndSavesNothing)
     app.quitApp();
     EXPECT_EQ(windows.terminations, 1);
     EXPECT_TRUE(transport.requests.empty());
+}
+
+class TypedText final : public QuitGuard {
+public:
+    bool asksBeforeQuitting(std::function<void()>) override { return true; }
+};
+
+TEST_F(App, ToldToEndByTheSessionOrASignalAsksNobody)
+{
+    const auto text = std::make_shared<TypedText>();
+    app.appState()->guardQuitting(text);
+    app.quitApp();
+    EXPECT_EQ(windows.terminations, 0);
+    app.terminate();
+    EXPECT_EQ(windows.terminations, 1);
 }
 
 TEST_F(App, TheAboutBoxIsDownAtFirstAndItsRaisingIsAnnounced)
