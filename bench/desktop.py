@@ -17,7 +17,7 @@ from pathlib import Path
 
 from measurement import ROOT, SCROLLED_ROWS, Unable, output_of
 
-sys.path.append(str(ROOT / "tests/e2e"))
+sys.path.insert(0, str(ROOT / "tests/e2e"))
 
 import display
 import keyring

@@ -8,7 +8,7 @@ import tempfile
 
 from measurement import ROOT, SCROLLED_ROWS, Unable, measurement, program
 
-sys.path.append(str(ROOT / "tests/e2e"))
+sys.path.insert(0, str(ROOT / "tests/e2e"))
 
 import world
 

@@ -115,6 +115,11 @@ def block(code: str, opening: int) -> str:
     return code[opening:]
 
 
+def modules_of_ours_are_found_first(path: str, text: str) -> Iterator[Breach]:
+    for match in re.finditer(r"^[^#\n]*sys\.path(\.(append|extend)\(|\s*\+=)", text, re.MULTILINE):
+        yield Breach(line_of(text, match.start()), "a package that is installed may have a module's name, so ours goes first: sys.path.insert(0, ...)")
+
+
 def files_stay_readable(path: str, text: str) -> Iterator[Breach]:
     lines = text.count("\n")
     if lines > 400:
@@ -135,6 +140,7 @@ RULES: list[tuple[str, Check]] = [
     (r"^desktop/qml/(?!kit/).*\.qml$", screens_show_text_through_the_kit),
     (r"^desktop/.*\.qml$", controls_are_the_kits),
     (r"^desktop/qml/kit/.*\.qml$", the_kit_shows_plain_text),
+    (r"^(?!tools/lint/).*\.py$", modules_of_ours_are_found_first),
     (r"\.(h|cpp|qml|py)$", files_stay_readable),
 ]
 

@@ -28,6 +28,8 @@ BROKEN = [
     ("desktop/qml/dashboard/A.qml", "    Text {\n", "through the kit"),
     ("desktop/qml/kit/A.qml", "import QtQuick.Controls as C\n", "stock controls"),
     ("desktop/qml/kit/Label.qml", "Text {\n    text: name\n}\n", "textFormat"),
+    ("bench/a.py", 'import sys\nsys.path.append("tests")\n', "ours goes first"),
+    ("bench/a.py", 'sys.path += ["tests"]\n', "ours goes first"),
     ("src/core/A.cpp", "\n" * 401, "more than one file holds"),
     ("src/core/StringUtils.cpp", "", "named after what it is"),
 ]
@@ -46,6 +48,7 @@ KEPT = [
     ("desktop/qml/kit/Theme.qml", 'readonly property color window: "#f4f5f7"\n'),
     ("desktop/qml/kit/Pill.qml", 'color: "transparent"\n'),
     ("desktop/qml/dashboard/A.qml", "import QtQuick.Templates as T\nT.ItemDelegate {\n    Label {\n"),
+    ("bench/a.py", 'sys.path.insert(0, "tests")\n'),
     ("desktop/qml/kit/Label.qml", "Text {\n    textFormat: Text.PlainText\n    text: name\n}\n"),
 ]
 
