@@ -6,6 +6,7 @@
 
 #include "model/DataResponse.h"
 #include "model/Decoding.h"
+#include "model/NumbersOutOfRange.h"
 #include "model/ResultRecords.h"
 
 namespace larkspan::model {
@@ -26,6 +27,16 @@ std::string_view problem(simdjson::error_code error)
     }
 }
 
+/// What a number out of range fails with is not the same in all releases of the parser.
+bool isAboutANumber(simdjson::error_code error)
+{
+    static const auto tooLong = [] {
+        simdjson::dom::parser parser;
+        return parser.parse(std::string(30, '9')).error();
+    }();
+    return error == simdjson::NUMBER_ERROR || error == tooLong;
+}
+
 /// A body as it was parsed; everything that is read from it lives as long as this.
 class Document {
 public:
@@ -37,12 +48,20 @@ public:
         if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
         // Some releases of the parser skip one themselves.
         if (text.starts_with(byteOrderMark)) fail(simdjson::TAPE_ERROR);
-        if (const auto error = parser_.parse(text.data(), text.size(), !hasRoom).get(root_)) fail(error);
+        auto error = parse(text, !hasRoom);
+        if (isAboutANumber(error)) error = parse(withNumbersInRange(text, simdjson::SIMDJSON_PADDING), false);
+        if (error) fail(error);
     }
 
     simdjson::dom::element root() const { return root_; }
 
 private:
+    /// What is parsed does not refer to `text`.
+    simdjson::error_code parse(std::string_view text, bool isToBeCopied)
+    {
+        return parser_.parse(text.data(), text.size(), isToBeCopied).get(root_);
+    }
+
     [[noreturn]] static void fail(simdjson::error_code error)
     {
         throw DecodingError(DecodingError::Kind::dataCorrupted, "", problem(error));

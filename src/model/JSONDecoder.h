@@ -26,9 +26,10 @@ Result decodeBare(const std::string& body, support::Time now);
 /// Reads the service's answers. Safe to share between threads; `clock` must outlive it.
 ///
 /// A wire key counts for the key name that it converts to (`created_at` for `createdAt`); of several that convert alike
-/// the first counts. Unknown keys are ignored. A byte order mark is skipped. A number beyond a double or, without
-/// fraction, beyond 64 bits makes the body unreadable, as does nesting deeper than 1024: the parser reads every value
-/// before anybody asks for one, so that holds in unknown keys too.
+/// the first counts. Unknown keys are ignored. A byte order mark is skipped. A number beyond a double, or an integer
+/// beyond 64 bits, fails the field that it is in and no other, except that such an integer is good enough for a double.
+/// Nesting deeper than 1024 makes the body unreadable, in unknown keys too: the parser reads every value before anybody
+/// asks for one.
 class JSONDecoder {
 public:
     explicit JSONDecoder(const platform::Clock& clock);

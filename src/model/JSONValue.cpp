@@ -6,6 +6,7 @@
 
 #include "model/KeyConversion.h"
 #include "model/LegibleText.h"
+#include "model/NumbersOutOfRange.h"
 
 namespace larkspan::model {
 
@@ -49,6 +50,7 @@ double JSONValue::number() const
 {
     double number = 0;
     if (element_.get(number) != simdjson::SUCCESS) failMismatch("a number");
+    if (number == outOfRange) failCorrupted("Not a 64-bit number", "");
     return number;
 }
 

@@ -4,6 +4,7 @@
 
 #include "model/Decoded.h"
 #include "model/EmptyResponse.h"
+#include "model/MonitorMetricsResponse.h"
 #include "model/StatusPage.h"
 #include "support/Utf8.h"
 
@@ -70,10 +71,113 @@ INSTANTIATE_TEST_SUITE_P(Encoding, UnreadableBody,
 INSTANTIATE_TEST_SUITE_P(Extremes, UnreadableBody,
     testing::Values(UnreadableRow{"ten thousand lists deep", repeated("[", 10'000) + repeated("]", 10'000), tooDeep},
         UnreadableRow{
-            "ten thousand objects deep", repeated(R"({"data":)", 10'000) + '1' + repeated("}", 10'000), tooDeep},
-        UnreadableRow{"a number beyond a double", "[1e400]", badNumber},
-        UnreadableRow{"an integer beyond 64 bits", R"({"more":123456789012345678901234567890})", badNumber},
-        UnreadableRow{"a million digits", '[' + std::string(1'000'000, '9') + ']', badNumber}));
+            "ten thousand objects deep", repeated(R"({"data":)", 10'000) + '1' + repeated("}", 10'000), tooDeep}));
+
+INSTANTIATE_TEST_SUITE_P(Numbers, UnreadableBody,
+    testing::Values(UnreadableRow{"a sign alone", R"({"more":-})", badNumber},
+        UnreadableRow{"a zero before a number out of range", R"({"more":01e400})", badNumber},
+        UnreadableRow{"nothing behind the point of one", R"({"more":1.e400})", badNumber},
+        UnreadableRow{"two numbers in one", R"({"more":1e400-1e400})", badNumber}));
+
+MonitorMetricsWindow windowOf(const std::string& keys)
+{
+    return decoded<MonitorMetricsResponse>(R"({"metrics":{"m":{)" + keys + "}}}").metrics.at("m");
+}
+
+struct RangeRow {
+    std::string name;
+    std::string number;
+};
+
+void PrintTo(const RangeRow& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+class NumberOutOfRange : public testing::TestWithParam<RangeRow> {
+protected:
+    const std::string number = GetParam().number;
+};
+
+TEST_P(NumberOutOfRange, InAKeyThatNobodyAsksForIsIgnored)
+{
+    EXPECT_EQ(decoded<Pages>(R"([{"id":"p1","more":)" + number + R"(,"name":"A"}])"),
+        (Pages{StatusPage{.id = "p1", .name = "A"}}));
+    decoded<EmptyResponse>(R"({"more":[)" + number + "]}");
+}
+
+TEST_P(NumberOutOfRange, FailsTheTextThatItStandsFor)
+{
+    EXPECT_EQ(failureOf<Pages>(R"({"data":[{"id":"p1","name":)" + number + "}]}"),
+        typeMismatch("data[0].name", "a string", "a number"));
+    EXPECT_EQ(failureOf<Pages>(R"({"data":[{"id":"p1","name":"A","slug":)" + number + "}]}"),
+        typeMismatch("data[0].slug", "a string", "a number"));
+}
+
+TEST_P(NumberOutOfRange, FailsTheIntegerThatItIsTooLargeFor)
+{
+    const auto failure = failureOf<Pages>(
+        R"({"data":[{"id":"p1","name":"A","metrics":[{"period":"1d","incidents":)" + number + "}]}]}");
+    EXPECT_EQ(failure.path, "data[0].metrics[0].incidents");
+    EXPECT_TRUE(failure.description.starts_with("data[0].metrics[0].incidents: Not a 64-bit ")) << failure.description;
+}
+
+TEST_P(NumberOutOfRange, IsNoList)
+{
+    EXPECT_EQ(failureOf<Pages>(R"({"data":)" + number + "}"), typeMismatch("data", "a list", "a number"));
+    EXPECT_EQ(failureOf<Pages>(number).kind, DecodingError::Kind::typeMismatch);
+}
+
+TEST_P(NumberOutOfRange, InATextIsText)
+{
+    // Behind an escaped backslash and an escaped quote.
+    const auto body = R"([{"id":"p1","more":)" + number + R"(,"name":"\\\" )" + number + R"( \\"}])";
+    const bool isKept = decoded<Pages>(body).at(0).name == "\\\" " + number + " \\";
+    EXPECT_TRUE(isKept);
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, NumberOutOfRange,
+    testing::Values(RangeRow{"beyond a double", "1e400"}, RangeRow{"just beyond a double", "9e308"},
+        RangeRow{"far below", "-1.5E+99999999999999999999"},
+        RangeRow{"beyond 64 bits", "123456789012345678901234567890"},
+        RangeRow{"just beyond 64 bits", "18446744073709551616"}, RangeRow{"just below 64 bits", "-9223372036854775809"},
+        RangeRow{"many digits and a negative exponent", '1' + std::string(500, '0') + "e-100"},
+        RangeRow{"a million digits", std::string(1'000'000, '9')}));
+
+TEST(ANumberOutOfRange, BeyondADoubleFailsADouble)
+{
+    EXPECT_EQ(failureOf<Pages>(R"({"data":[{"id":"p1","name":"A","metrics":[{"period":"1d","uptime":-1e400}]}]})"),
+        dataCorrupted("data[0].metrics[0].uptime", "Not a 64-bit number"));
+}
+
+TEST(ANumberOutOfRange, OfAnIntegerIsGoodForADouble)
+{
+    const auto window = windowOf(R"("avg_ms":123456789012345678901234567890,"apdex":1e400)");
+    EXPECT_EQ(window, MonitorMetricsWindow{.avgMs = 123456789012345678901234567890.0});
+}
+
+TEST(ANumberOutOfRange, SpoilsNoOtherFigureOfAMonitor)
+{
+    const auto window = windowOf(
+        R"("avg_ms":1e400,"uptime_percentage":99.5,"uptime_trend":-1e999,"latency":[1,18446744073709551616],"state":"up")");
+    EXPECT_EQ(window, (MonitorMetricsWindow{.uptimePercentage = 99.5, .state = "up"}));
+}
+
+TEST(ANumberOutOfRange, BelowTheLeastDoubleIsZero)
+{
+    const auto pages = decoded<Pages>(
+        R"([{"id":"p1","more":1e400,"name":"A","metrics":[{"period":"1d","uptime":1e-400},{"period":"7d","uptime":5e-324}]}])");
+    EXPECT_EQ(pages.at(0).metrics->at(0).uptime, 0.0);
+    EXPECT_EQ(pages.at(0).metrics->at(1).uptime, 5e-324);
+}
+
+TEST(ANumberOutOfRange, LeavesTheLargestThatFit)
+{
+    const auto window = windowOf(
+        R"("more":1e400,"avg_ms":1.7976931348623157e308,"latency":[9223372036854775807,-9223372036854775808])");
+    EXPECT_EQ(window.avgMs, 1.7976931348623157e308);
+    EXPECT_EQ(window.latency, (std::vector<std::int64_t>{INT64_MAX, INT64_MIN}));
+}
 
 TEST(HostileBody, AMillionOpenBracketsFailAtOnce)
 {
