@@ -66,7 +66,7 @@ void checkRows(std::string_view source)
     for (const auto& row : content.rows) {
         checkText(row.text, isValid);
         for (const auto& cell : row.cells) checkText(cell, isValid);
-        require(row.cells.empty() || row.cells.size() <= content.tables.at(row.table).longestTexts.size());
+        require(row.cells.empty() || row.cells.size() <= content.tables.at(row.table).widestTexts.size());
         require(!row.continuesPrevious || (row.label.empty() && row.gap == 0));
     }
 }

@@ -26,6 +26,13 @@ ConfirmationValue MessageBridge::linkConfirmation() const
     return confirmation;
 }
 
+QList<qreal> MessageBridge::columnWidths(int row, const QFont& font)
+{
+    const auto place = static_cast<std::size_t>(row);
+    if (row < 0 || place >= rows_.rows().size() || !rows_.rows()[place].columns) return {};
+    return columns_.widthsOf(rows_.rows()[place].columns, font);
+}
+
 void MessageBridge::follow(int row, int cell, const QString& href)
 {
     const auto& shown = rows_.rows().at(static_cast<std::size_t>(row)).row;

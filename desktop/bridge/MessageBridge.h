@@ -1,11 +1,14 @@
 #pragma once
 
+#include <QFont>
+#include <QList>
 #include <QtQml/qqmlregistration.h>
 
 #include <memory>
 #include <optional>
 #include <string>
 
+#include "bridge/MeasuredColumns.h"
 #include "bridge/RowListModel.h"
 #include "bridge/ScreenBridge.h"
 #include "bridge/values/ConfirmationValue.h"
@@ -36,6 +39,8 @@ public:
 
     /// The user pressed the link of that name, an href of the text at `row` or of the cell `cell` in it; -1 for none.
     Q_INVOKABLE void follow(int row, int cell, const QString& href);
+    /// How wide the columns of the table at `row` are as they are drawn in `font`.
+    Q_INVOKABLE QList<qreal> columnWidths(int row, const QFont& font);
     Q_INVOKABLE void openLink() { view_->openLink(); }
     Q_INVOKABLE void cancelLink() { view_->cancelLink(); }
 
@@ -43,6 +48,7 @@ private:
     std::shared_ptr<incidents::MessageView> view_;
     std::optional<std::string> source_;
     RowListModel<MarkdownRowValue> rows_;
+    MeasuredColumns columns_;
 };
 
 }  // namespace larkspan::bridge

@@ -13,7 +13,7 @@ struct MessageEntry {
     std::string id{};
     std::string title{};
     incidents::MarkdownRow row{.kind = incidents::MarkdownRow::Kind::paragraph};
-    /// What a table's rows have in common.
+    /// What a table's rows have in common, so that each of them has changed where that has.
     std::shared_ptr<const incidents::MarkdownColumns> columns{};
 
     static std::vector<MessageEntry> entriesOf(incidents::MarkdownRows rows);

@@ -22,9 +22,7 @@ MarkdownRowValue MarkdownRowValue::of(const MessageEntry& entry)
     value.cells = valuesOf<MarkdownTextValue>(row.cells);
     value.gap = row.gap;
     value.table = static_cast<int>(row.table);
-    if (entry.columns) {
-        for (const auto& longest : entry.columns->longestTexts) value.columns << words(longest);
-    }
+    if (entry.columns) value.columns = static_cast<int>(entry.columns->widestTexts.size());
     return value;
 }
 

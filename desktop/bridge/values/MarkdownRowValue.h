@@ -3,7 +3,6 @@
 #include <QList>
 #include <QObject>
 #include <QString>
-#include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
 #include "bridge/MessageEntry.h"
@@ -27,8 +26,8 @@ struct MarkdownRowValue {
     Q_PROPERTY(QList<larkspan::bridge::MarkdownTextValue> cells MEMBER cells)
     /// Of a table's rows: which of the message's tables it is of.
     Q_PROPERTY(int table MEMBER table)
-    /// For each column of the table, its longest text.
-    Q_PROPERTY(QStringList columns MEMBER columns)
+    /// How many the table has.
+    Q_PROPERTY(int columns MEMBER columns)
     Q_PROPERTY(int gap MEMBER gap)
 
 public:
@@ -45,7 +44,7 @@ public:
     MarkdownTextValue text{};
     QList<MarkdownTextValue> cells{};
     int table = 0;
-    QStringList columns{};
+    int columns = 0;
     int gap = 0;
 
     static MarkdownRowValue of(const MessageEntry& entry);

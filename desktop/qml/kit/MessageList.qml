@@ -7,11 +7,15 @@ CardList {
     id: list
     required property MessageBridge message
 
+    // One for headers and rows, so that they stand in line; the widest that either has.
+    readonly property font columnFont: Qt.font({pointSize: Theme.subheadline, weight: Font.DemiBold})
+
     name: qsTr("Description")
     rows: message.rows
     widest: Theme.columnWidth * Theme.scale
     delegate: MessageRow {
         offsets: tableOffsets
+        columnWidths: row.isTable ? list.message.columnWidths(index, list.columnFont) : []
         onFollowed: (cell, href) => list.message.follow(index, cell, href)
     }
 

@@ -8,6 +8,7 @@ CardRow {
     id: delegate
     required property markdownRow row
     required property TableOffsets offsets
+    property list<real> columnWidths
     property int nextLink: 0
     signal followed(cell: int, href: string)
 
@@ -68,6 +69,7 @@ CardRow {
             width: parent.width
             row: delegate.row
             offsets: delegate.offsets
+            widths: delegate.columnWidths
             onFollowed: (cell, href) => delegate.followed(cell, href)
         }
     }

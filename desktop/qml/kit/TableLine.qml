@@ -8,6 +8,8 @@ Flickable {
     id: line
     required property markdownRow row
     required property TableOffsets offsets
+    // Of each column, as its widest text is drawn.
+    required property list<real> widths
     signal followed(cell: int, href: string)
 
     height: cells.implicitHeight
@@ -44,18 +46,10 @@ Flickable {
             Item {
                 id: cell
                 required property int index
-                required property string modelData
 
-                width: Math.ceil(Math.min(metrics.advanceWidth, Theme.columnMostWidth * Theme.scale)) + Theme.unit
+                width: Math.ceil(Math.min(line.widths[index] ?? 0, Theme.columnMostWidth * Theme.scale)) + Theme.unit
                 height: text.height
 
-                TextMetrics {
-                    id: metrics
-                    // One for headers and rows, so that they stand in line; the widest that either has.
-                    font.pointSize: Theme.subheadline
-                    font.weight: Font.DemiBold
-                    text: cell.modelData
-                }
                 MessageText {
                     id: text
                     property markdownText none

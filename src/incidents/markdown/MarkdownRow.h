@@ -41,8 +41,8 @@ struct MarkdownRow {
 
 /// What the rows of a table have in common.
 struct MarkdownColumns {
-    /// For each column, the plain text of its longest cell: the measure of its width.
-    std::vector<std::string> longestTexts;
+    /// For each column, the plain texts of those cells that may be its widest: it is as wide as one of them is drawn.
+    std::vector<std::vector<std::string>> widestTexts;
 
     bool operator==(const MarkdownColumns&) const = default;
 };

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <span>
 
+#include "incidents/markdown/WidestTexts.h"
+
 namespace larkspan::incidents {
 
 namespace {
@@ -20,8 +22,9 @@ public:
     ColumnsWriter(MarkdownRows& content, std::size_t columns)
         : content_(content)
         , table_(content.tables.size())
+        , widest_(columns)
     {
-        content_.tables.push_back({std::vector<std::string>(columns)});
+        content_.tables.emplace_back();
     }
 
     /// A cell that is too long for one item goes on in the row below.
@@ -37,6 +40,12 @@ public:
         for (std::size_t line = 0; line < height; ++line) addLine(kind, columns, line, line == 0 ? gap : 0);
     }
 
+    /// Behind the last row.
+    void addColumns()
+    {
+        for (const auto& column : widest_) content_.tables[table_].widestTexts.push_back(column.texts());
+    }
+
     void addDivider() { content_.rows.push_back({.kind = Kind::tableDivider, .table = table_, .gap = gapOfRows}); }
 
 private:
@@ -48,14 +57,14 @@ private:
             if (line >= columns[column].size()) continue;
             row.cells.resize(column + 1);
             row.cells[column] = std::move(columns[column][line]);
-            auto& longest = content_.tables[table_].longestTexts[column];
-            if (row.cells[column].plain.size() > longest.size()) longest = row.cells[column].plain;
+            widest_[column].add(row.cells[column].plain);
         }
         content_.rows.push_back(std::move(row));
     }
 
     MarkdownRows& content_;
     std::size_t table_;
+    std::vector<WidestTexts> widest_;
 };
 
 Cells behind(Cells cells, std::size_t count)
@@ -80,6 +89,7 @@ void appendTable(MarkdownRows& content, const MarkdownTable& table, int gap)
         writer.add(Kind::tableHeader, headers.first(columns), gap + tablePadding);
         writer.addDivider();
         for (const auto& row : rows) writer.add(Kind::tableRow, upTo(row, columns), gapOfRows);
+        writer.addColumns();
 
         // Only rows that have more to show go on, or many short rows would be repeated for each of many columns.
         headers = headers.subspan(columns);

@@ -152,6 +152,17 @@ TEST_F(TablesOnScreen, AreScrolledSidewaysByTheArrowsUpToTheirEnds)
     EXPECT_EQ(names(Role::ListItem).size(), 1) << "it is the way back";
 }
 
+TEST_F(MessageOnScreen, AColumnIsAsWideAsItsWidestTextIsDrawnInWhateverScript)
+{
+    for (const auto* const other : {"инцидент в сети", "iiiiiiiiiiiiiiiiiiiiiiiiii", "語語語"}) {
+        const QString longer = QStringLiteral("an old WARNING there");
+        open("a|\\n---\\n" + std::string(other) + "|\\n" + longer.toStdString() + "|\\n");
+        const auto& cell = item(Role::StaticText, longer);
+        EXPECT_EQ(cell.property("lineCount").toInt(), 1) << other;
+        press(Qt::Key_Escape);
+    }
+}
+
 }  // namespace
 
 }  // namespace larkspan

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "incidents/markdown/StatusMarkdownContent.h"
+#include "incidents/markdown/WidestTexts.h"
 
 namespace larkspan::incidents {
 
@@ -53,14 +54,30 @@ TEST(TableRows, KeepTheirEmptyCells)
     EXPECT_EQ(rowsOf("a|b|c\n---\n1||3\n|").rows.at(3).cells, std::vector{plain("")});
 }
 
-TEST(TableRows, KnowTheLongestTextOfEachColumn)
+TEST(TableRows, KnowTheTextsOfEachColumnThatMayBeItsWidest)
 {
     const auto content = rowsOf("a|header\n---\n**long**|1\n\nb|c\n---\n");
     ASSERT_EQ(content.tables.size(), 2u);
-    EXPECT_EQ(content.tables[0].longestTexts, (Texts{"long", "header"}));
-    EXPECT_EQ(content.tables[1].longestTexts, (Texts{"b", "c"}));
+    EXPECT_EQ(content.tables[0].widestTexts, (std::vector<Texts>{{"long", "a"}, {"header", "1"}}));
+    EXPECT_EQ(content.tables[1].widestTexts, (std::vector<Texts>{{"b"}, {"c"}}));
     EXPECT_EQ(content.rows.at(2).table, 0u);
     EXPECT_EQ(content.rows.at(3).table, 1u);
+}
+
+TEST(TableRows, TakeATextOfFewBytesForWiderThanALongerOneOfMany)
+{
+    const auto content = rowsOf("a|\n---\nинцидент|\nan incident long ago|\n");
+    EXPECT_EQ(content.tables[0].widestTexts.at(0).front(), "an incident long ago");
+}
+
+TEST(TableRows, KeepNoMoreTextsOfAColumnThanAreMeasuredAtOnce)
+{
+    std::string table = "a|b\n---\n";
+    for (int row = 0; row < 1'000; ++row) table += "same|" + std::string(static_cast<std::size_t>(row), 'x') + '\n';
+    const auto widest = rowsOf(table).tables[0].widestTexts;
+    EXPECT_EQ(widest[0], (Texts{"same", "a"}));
+    EXPECT_EQ(widest[1].size(), WidestTexts::most);
+    EXPECT_EQ(widest[1].front(), std::string(999, 'x'));
 }
 
 TEST(TableRows, ContinueALongCellInTheRowBelow)
@@ -78,8 +95,8 @@ TEST(TableRows, OfManyColumnsGoOnBelowAsATableOfTheirOwn)
 {
     const auto content = rowsOf(cells(65, "a") + "---\n" + cells(70, "1") + cells(2, "2"));
     ASSERT_EQ(content.tables.size(), 2u);
-    EXPECT_EQ(content.tables[0].longestTexts.size(), 64u);
-    EXPECT_EQ(content.tables[1].longestTexts, Texts{"a"});
+    EXPECT_EQ(content.tables[0].widestTexts.size(), 64u);
+    EXPECT_EQ(content.tables[1].widestTexts, (std::vector<Texts>{{"a", "1"}}));
     ASSERT_EQ(content.rows.size(), 7u);
     EXPECT_EQ(content.rows[2].cells.size(), 64u);
     EXPECT_EQ(content.rows[3].cells.size(), 2u);
