@@ -18,6 +18,7 @@ struct IncidentRowValue {
     Q_PROPERTY(QString id MEMBER id)
     Q_PROPERTY(QString title MEMBER title)
     Q_PROPERTY(int tone MEMBER tone)
+    Q_PROPERTY(bool hasSeverity MEMBER hasSeverity)
     Q_PROPERTY(larkspan::bridge::PillValue severity MEMBER severity)
     Q_PROPERTY(QString date MEMBER date)
     Q_PROPERTY(larkspan::bridge::PillValue status MEMBER status)
@@ -28,14 +29,15 @@ public:
     QString id{};
     QString title{};
     int tone = Tone::Gray;
-    /// Without a text where the incident has none.
+    /// One that is present may be a word without letters.
+    bool hasSeverity = false;
     PillValue severity{};
     QString date{};
     PillValue status{};
 
     static IncidentRowValue of(const Row& row)
     {
-        return {words(row.id), words(row.title), toneOf(row.tone),
+        return {words(row.id), words(row.title), toneOf(row.tone), row.severity.has_value(),
             row.severity ? PillValue::of(*row.severity) : PillValue(), words(row.date), PillValue::of(row.status)};
     }
 

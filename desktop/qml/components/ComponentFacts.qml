@@ -28,7 +28,6 @@ Column {
             id: status
             anchors.right: parent.right
             anchors.baseline: name.baseline
-            visible: facts.detail.status.text !== ""
             width: Math.min(implicitWidth, parent.width * 0.4)
             pill: facts.detail.status
             pointSize: Theme.subheadline

@@ -87,7 +87,7 @@ CardRow {
             id: pill
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            visible: delegate.row.status.text !== ""
+            visible: !delegate.row.isHeading
             width: Math.min(implicitWidth, parent.width / 2)
             pill: delegate.row.status
             weight: Font.Medium

@@ -15,7 +15,7 @@ RecordRow {
 
     Pill {
         id: severity
-        visible: delegate.row.severity.text !== ""
+        visible: delegate.row.hasSeverity
         pill: delegate.row.severity
         pointSize: Theme.caption2
         isBold: true

@@ -315,6 +315,25 @@ TEST_F(IncidentsOnScreen, OfTenThousandOnlyThoseInSightCostAnItem)
     EXPECT_GT(names(Role::ListItem).size(), 5);
 }
 
+TEST_F(IncidentsOnScreen, ASeverityThatIsPresentButEmptyHasABadgeInTheRowAsInTheDetail)
+{
+    const auto pills = [this] {
+        int count = 0;
+        visit([&count](QQuickItem& each) {
+            if (each.isVisible() && each.property("pill").isValid() && each.property("symbolWidth").isValid()) ++count;
+        });
+        return count;
+    };
+    serve({incident("1", "Login errors")});
+    press(Qt::Key_F5);
+    EXPECT_EQ(pills(), 1);
+    serve({incident("1", "Login errors", R"(, "severity_name": "")")});
+    press(Qt::Key_F5);
+    EXPECT_EQ(pills(), 2);
+    openFirst();
+    EXPECT_EQ(pills(), 2);
+}
+
 }  // namespace
 
 }  // namespace larkspan
