@@ -6,8 +6,9 @@ import Larkspan.Bridge
 Rectangle {
     id: shape
     required property metricBadge badge
+    readonly property real wordsWidth: width - icon.width - content.spacing - 2 * Theme.unit
 
-    implicitWidth: content.implicitWidth + 2 * Theme.unit
+    implicitWidth: icon.width + content.spacing + Math.max(value.implicitWidth, label.implicitWidth) + 2 * Theme.unit
     implicitHeight: content.implicitHeight + 2 * Theme.narrowGap
     radius: Theme.controlRadius
     color: Qt.alpha(Theme.toneColor(badge.tone), Theme.metricOpacity)
@@ -18,6 +19,7 @@ Rectangle {
         spacing: shape.badge.isTrend ? Theme.halfUnit : Theme.narrowGap
 
         Symbol {
+            id: icon
             anchors.verticalCenter: parent.verticalCenter
             width: Theme.smallIconSize
             height: width
@@ -28,12 +30,16 @@ Rectangle {
             spacing: Theme.hairline
 
             Label {
+                id: value
+                width: Math.min(implicitWidth, shape.wordsWidth)
                 text: shape.badge.value
                 font.pointSize: Theme.caption
                 font.weight: Font.Bold
                 color: Theme.toneColor(shape.badge.tone)
             }
             Label {
+                id: label
+                width: Math.min(implicitWidth, shape.wordsWidth)
                 text: shape.badge.label
                 font.pointSize: Theme.caption2
                 color: Theme.secondary

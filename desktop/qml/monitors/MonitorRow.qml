@@ -90,6 +90,7 @@ CardRow {
         }
 
         Flow {
+            id: badges
             visible: delegate.row.badges.length > 0
             width: parent.width
             spacing: Theme.unit
@@ -98,6 +99,7 @@ CardRow {
                 model: delegate.row.badges
                 MetricBadge {
                     required property metricBadge modelData
+                    width: Math.min(implicitWidth, badges.width)
                     badge: modelData
                 }
             }

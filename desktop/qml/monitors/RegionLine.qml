@@ -30,6 +30,7 @@ Item {
     Label {
         id: average
         anchors.right: parent.right
+        width: Math.min(implicitWidth, line.width / 2)
         text: line.row.average
         font.pointSize: Theme.caption
         color: Theme.secondary
