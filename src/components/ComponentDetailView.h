@@ -19,6 +19,7 @@
 #include "presentation/Choice.h"
 #include "presentation/EditableDetail.h"
 #include "presentation/Fact.h"
+#include "presentation/InPart.h"
 #include "support/Observable.h"
 #include "support/Task.h"
 
@@ -75,7 +76,10 @@ public:
     /// The rows of the group "Details", which may be there without any.
     std::vector<presentation::Fact> details() const;
     /// Empty for none.
-    std::string description() const { return component->description.value_or(""); }
+    std::string description() const
+    {
+        return presentation::inPart(component->description.value_or(""), presentation::mostOfAText);
+    }
     /// Opens the component's address; what is no web address is not opened.
     void openURL() const;
 

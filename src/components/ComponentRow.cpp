@@ -5,6 +5,8 @@
 #include <utility>
 
 #include "components/ComponentStatus.h"
+#include "presentation/InPart.h"
+#include "presentation/RowId.h"
 
 namespace larkspan::components {
 
@@ -13,7 +15,12 @@ using model::ComponentGroup;
 
 namespace {
 
-using Members = std::vector<const Component*>;
+struct Member {
+    const Component& component;
+    std::string rowId;
+};
+
+using Members = std::vector<Member>;
 
 class Sections {
 public:
@@ -22,7 +29,11 @@ public:
     void add(std::string id, std::string title, const Members& members)
     {
         append({.id = std::move(id), .title = std::move(title), .isHeading = true});
-        for (const auto* component : members) append(ComponentRow::of(*component));
+        for (const auto& member : members) {
+            auto row = ComponentRow::of(member.component);
+            row.id = member.rowId;
+            append(std::move(row));
+        }
     }
 
     void addUnlessEmpty(std::string id, std::string title, const Members& members)
@@ -53,7 +64,7 @@ ComponentRow ComponentRow::of(const Component& component)
         .title = component.name,
         .symbol = std::string(componentStatusIcon(component.status)),
         .tone = componentStatusColor(component.status),
-        .description = component.description.value_or(""),
+        .description = presentation::inPart(component.description.value_or(""), presentation::mostOfARowsText),
         .status = componentStatusPill(component.status)};
 }
 
@@ -65,13 +76,15 @@ std::vector<ComponentRow> componentRows(
     for (const auto& group : groups) grouped.try_emplace(group.id);
     Members ungrouped;
     Members others;
+    presentation::RowIds ids;
     for (const auto& component : components) {
+        Member member{component, ids.next(component.id)};
         if (!component.groupId) {
-            ungrouped.push_back(&component);
+            ungrouped.push_back(std::move(member));
         } else if (const auto group = grouped.find(*component.groupId); group != grouped.end()) {
-            group->second.push_back(&component);
+            group->second.push_back(std::move(member));
         } else {
-            others.push_back(&component);
+            others.push_back(std::move(member));
         }
     }
     Sections sections(components.size() + groups.size() + 2);

@@ -12,7 +12,7 @@ namespace larkspan::components {
 
 /// A line in the list of a page's components: one of them, or the heading of a section.
 struct ComponentRow {
-    /// Of the component; a heading's is its own.
+    /// Of the component's row; a heading's is its own.
     std::string id{};
     std::string title{};
     bool isHeading = false;

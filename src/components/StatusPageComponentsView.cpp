@@ -34,7 +34,7 @@ void StatusPageComponentsView::openComponent(const std::string& id)
     const auto* const opened = viewModel->components.find(id);
     if (!opened) return;
     const ComponentDetailView::Ports ports{ports_.main, ports_.api, ports_.links};
-    auto detail = std::make_shared<ComponentDetailView>(ports, viewModel->pageId, *opened, ownerOf(id));
+    auto detail = std::make_shared<ComponentDetailView>(ports, viewModel->pageId, *opened, ownerOf(opened->id));
     detail->appear();
     presentedComponent.open(*opened, std::move(detail));
 }

@@ -35,7 +35,7 @@ void StatusPageIncidentsView::openIncident(const std::string& id)
     const auto* const opened = viewModel->incidents.find(id);
     if (!opened) return;
     const IncidentDetailView::Ports ports{ports_.main, ports_.api, ports_.clock, ports_.locale, ports_.links};
-    presentedIncident.open(*opened, std::make_shared<IncidentDetailView>(ports, *opened, ownerOf(id)));
+    presentedIncident.open(*opened, std::make_shared<IncidentDetailView>(ports, *opened, ownerOf(opened->id)));
 }
 
 IncidentDetailView::Owner StatusPageIncidentsView::ownerOf(const std::string& opened)

@@ -30,7 +30,7 @@ void StatusPageMaintenancesView::openMaintenance(const std::string& id)
     const auto* const opened = viewModel->maintenances.find(id);
     if (!opened) return;
     const MaintenanceDetailView::Ports ports{ports_.main, ports_.api, ports_.clock, ports_.locale, ports_.links};
-    presentedMaintenance.open(*opened, std::make_shared<MaintenanceDetailView>(ports, *opened, ownerOf(id)));
+    presentedMaintenance.open(*opened, std::make_shared<MaintenanceDetailView>(ports, *opened, ownerOf(opened->id)));
 }
 
 MaintenanceDetailView::Owner StatusPageMaintenancesView::ownerOf(const std::string& opened)

@@ -1,23 +1,13 @@
 #include "model/LegibleText.h"
 
+#include "support/Utf8.h"
+
 namespace larkspan::model {
-
-namespace {
-
-bool isContinuation(char byte)
-{
-    return (static_cast<unsigned char>(byte) & 0xC0u) == 0x80u;
-}
-
-}  // namespace
 
 std::string legible(std::string_view text, std::size_t limit)
 {
     const bool isCut = text.size() > limit;
-    if (isCut) {
-        while (limit > 0 && isContinuation(text[limit])) --limit;
-        text = text.substr(0, limit);
-    }
+    text = support::beginningOf(text, limit);
     std::string answer;
     for (const char byte : text) {
         const bool isControl = static_cast<unsigned char>(byte) < 0x20 || byte == 0x7F;

@@ -27,8 +27,8 @@ StatusPageMonitorsView::StatusPageMonitorsView(Ports ports, model::StatusPage op
 
 std::vector<MonitorRow> StatusPageMonitorsView::rows() const
 {
-    return presentation::rowsOf(*viewModel->monitors, [this](const Monitor& monitor) {
-        const auto view = rowViews_->find(monitor.id);
+    return presentation::rowsOf(*viewModel->monitors, [this](const Monitor& monitor, const std::string& rowId) {
+        const auto view = rowViews_->find(rowId);
         return MonitorRow::of(monitor, view == rowViews_->end() ? nullptr : view->second.get(),
             viewModel->performingActions->contains(monitor.id));
     });
@@ -36,8 +36,9 @@ std::vector<MonitorRow> StatusPageMonitorsView::rows() const
 
 void StatusPageMonitorsView::forgetRowsThatLeft()
 {
-    std::set<std::string_view> listed;
-    for (const auto& monitor : *viewModel->monitors) listed.insert(monitor.id);
+    presentation::RowIds ids;
+    std::set<std::string, std::less<>> listed;
+    for (const auto& monitor : *viewModel->monitors) listed.insert(ids.next(monitor.id));
     auto kept = *rowViews_;
     const auto left = std::erase_if(kept, [&listed](const auto& row) { return !listed.contains(row.first); });
     if (left > 0) rowViews_ = std::move(kept);
@@ -45,11 +46,12 @@ void StatusPageMonitorsView::forgetRowsThatLeft()
 
 void StatusPageMonitorsView::toggleMetrics(const std::string& id)
 {
-    if (!viewModel->monitors.find(id)) return;
+    const auto* const monitor = viewModel->monitors.find(id);
+    if (!monitor) return;
     if (!rowViews_->contains(id)) {
         auto views = *rowViews_;
         const MonitorRowView::Ports ports{ports_.main, ports_.api, ports_.locale};
-        views.emplace(id, std::make_shared<MonitorRowView>(ports, id));
+        views.emplace(id, std::make_shared<MonitorRowView>(ports, monitor->id));
         rowViews_ = std::move(views);
     }
     rowViews_->find(id)->second->toggleMetrics();
@@ -58,7 +60,7 @@ void StatusPageMonitorsView::toggleMetrics(const std::string& id)
 void StatusPageMonitorsView::press(const std::string& id, std::string_view button)
 {
     const auto* const monitor = viewModel->monitors.find(id);
-    if (!monitor || viewModel->performingActions->contains(id)) return;
+    if (!monitor || viewModel->performingActions->contains(monitor->id)) return;
     if (button == MonitorRow::pauseResume) support::start(ports_.main, viewModel->togglePause(*monitor));
     if (button == MonitorRow::checkNow) support::start(ports_.main, viewModel->checkMonitor(*monitor));
 }

@@ -36,7 +36,7 @@ public:
         platform::LinkOpener& links;
     };
 
-    /// By the monitor's id; a row that was never opened has none.
+    /// By the row's id; a row that was never opened has none.
     using RowViews = std::map<std::string, std::shared_ptr<MonitorRowView>, std::less<>>;
 
     StatusPageMonitorsView(Ports ports, model::StatusPage page);

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "presentation/RowId.h"
 #include "support/Observable.h"
 
 namespace larkspan::presentation {
@@ -22,12 +23,8 @@ public:
 
     using support::Published<Records>::operator=;
 
-    /// The first of that id; null if there is none.
-    const Record* find(const std::string& id) const
-    {
-        const auto found = std::ranges::find(**this, id, &Record::id);
-        return found == (*this)->end() ? nullptr : &*found;
-    }
+    /// The one that is shown in the row of that id, which is its own if it is alone with it; null if there is none.
+    const Record* find(const std::string& rowId) const { return recordOfRow(**this, rowId); }
 
     /// Puts a record that was just made at the head, where it stands until the next load.
     void insertFirst(Record created)

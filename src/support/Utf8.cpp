@@ -73,6 +73,14 @@ bool isValidUtf8(std::string_view bytes)
     return simdjson::validate_utf8(bytes);
 }
 
+std::string_view beginningOf(std::string_view text, std::size_t most)
+{
+    if (text.size() <= most) return text;
+    const auto isContinuation = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0u) == 0x80u; };
+    while (most > 0 && isContinuation(text[most])) --most;
+    return text.substr(0, most);
+}
+
 void appendCharacter(std::string& text, char32_t code)
 {
     const std::uint32_t bits = isScalarValue(code) ? code : U'\uFFFD';

@@ -23,6 +23,9 @@ Utf8Character firstCharacter(std::string_view bytes);
 /// `bytes` is not empty.
 Utf8Character lastCharacter(std::string_view bytes);
 
+/// As much of well-formed `text` as has room in so many bytes, up to the end of a character.
+std::string_view beginningOf(std::string_view text, std::size_t most);
+
 /// Writes `code` behind `text`; a surrogate and what lies past U+10FFFF becomes U+FFFD.
 void appendCharacter(std::string& text, char32_t code);
 

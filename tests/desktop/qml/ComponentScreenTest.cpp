@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
+
 #include "ComponentsOnScreen.h"
 
 namespace larkspan {
@@ -189,6 +191,33 @@ TEST_F(ComponentsOnScreen, OfFiveThousandInThreeHundredGroupsOnlyThoseInSightCos
     item(Role::List, QStringLiteral("Components")).forceActiveFocus(Qt::TabFocusReason);
     press(Qt::Key_End);
     EXPECT_TRUE(names(Role::ListItem).contains(QStringLiteral("component 4799"))) << "the last of the last group";
+}
+
+TEST_F(ComponentsOnScreen, WithAnEmptyStatusHaveTheirPillAndHeadingsHaveNone)
+{
+    const auto pills = [this] {
+        int count = 0;
+        visit([&count](QQuickItem& each) {
+            if (each.isVisible() && each.property("pill").isValid() && each.property("symbolWidth").isValid()) ++count;
+        });
+        return count;
+    };
+    serve({component("1", "REST API", R"(, "monitor_state": "")")});
+    enterAgain();
+    EXPECT_EQ(pills(), 1);
+    open();
+    EXPECT_EQ(pills(), 1);
+}
+
+TEST_F(ComponentsOnScreen, AMegabyteOfDescriptionWithoutAPlaceToBreakIsShownInPart)
+{
+    serve({component("1", "REST API", R"(, "description": ")" + std::string(1'000'000, 'x') + '"')});
+    QElapsedTimer timer;
+    timer.start();
+    enterAgain();
+    open();
+    EXPECT_LT(timer.elapsed(), 2'000);
+    EXPECT_TRUE(shows(QString(20'000, u'x') + u'…'));
 }
 
 }  // namespace

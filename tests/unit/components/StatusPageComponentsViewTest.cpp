@@ -319,6 +319,28 @@ TEST_F(OpenedComponent, WhoseListIsGoneEndsItsRequestForNobody)
     EXPECT_TRUE(detail.expired());
 }
 
+TEST_F(ListOfComponents, OfTwoWithOneIdEachRowOpensItsOwn)
+{
+    serveComponents({componentRecord("1"), componentRecord("1", inGroup("a"))});
+    appear();
+    ASSERT_EQ(shown(), (Words{"[Group a]", "Component 1", "[Group b]", "[Ungrouped]", "Component 1"}));
+    open(view->rows().at(1).id);
+    EXPECT_EQ((*view->presentedComponent)->groupId, "a");
+    view->closeComponent();
+    open(view->rows().at(4).id);
+    EXPECT_EQ((*view->presentedComponent)->groupId, std::nullopt);
+}
+
+TEST_F(ListOfComponents, ADescriptionBeyondAllBoundsIsShownInPart)
+{
+    const std::string description(1'000'000, 'x');
+    serveComponents({componentRecord("1", R"(, "description": ")" + description + '"')});
+    appear();
+    EXPECT_EQ(view->rows().back().description, std::string(2'000, 'x') + "…");
+    open("1");
+    EXPECT_EQ(view->detail()->description(), std::string(20'000, 'x') + "…");
+}
+
 }  // namespace
 
 }  // namespace larkspan::components

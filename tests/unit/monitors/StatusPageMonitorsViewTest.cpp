@@ -212,6 +212,26 @@ TEST_F(MonitorsOfAPage, TellTheirObserversOfLoadsActionsAndRowsThatOpen)
     EXPECT_EQ(changes, 0);
 }
 
+TEST_F(MonitorsOfAPage, OfTwoWithOneIdEachRowOpensItsOwn)
+{
+    serve({record("1"), record("1", R"("status_page_id": "p", "state": "down")")});
+    transport.script(metricsURL("1"), 200, R"({"metrics": {"1": {"avg_ms": 5}}})");
+    appear();
+    const auto second = view->rows().back().id;
+    view->openMonitor(second);
+    EXPECT_EQ((*view->presentedMonitor)->status, model::MonitorStatus::down);
+    view->closeMonitor();
+
+    view->toggleMetrics(second);
+    run();
+    EXPECT_FALSE(view->rows().front().isOpen);
+    EXPECT_TRUE(view->rows().back().isOpen);
+    EXPECT_EQ(transport.requests.back().url, metricsURL("1"));
+    view->refresh();
+    run();
+    EXPECT_TRUE(view->rows().back().isOpen);
+}
+
 }  // namespace
 
 }  // namespace larkspan::monitors

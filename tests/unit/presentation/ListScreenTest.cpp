@@ -114,6 +114,19 @@ TYPED_TEST(RecordsOnAPage, TellTheirObserversOfLoadsAndOfWhatStandsInFront)
     EXPECT_EQ(changes, before + 1);
 }
 
+TYPED_TEST(RecordsOnAPage, WithOneIdHaveRowsThatAreToldApart)
+{
+    this->serve({this->record("1"), this->record("2"), this->record("1")});
+    this->appear();
+    const auto ids = this->ids();
+    ASSERT_EQ(ids.size(), 3u);
+    EXPECT_EQ(ids[0], "1");
+    EXPECT_EQ(ids[1], "2");
+    EXPECT_NE(ids[2], ids[0]);
+    const auto* const third = &this->view->viewModel->records->at(2);
+    EXPECT_EQ(this->view->viewModel->records.find(ids[2]), third);
+}
+
 }  // namespace
 
 }  // namespace larkspan::presentation
