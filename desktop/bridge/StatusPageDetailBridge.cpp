@@ -39,6 +39,7 @@ void StatusPageDetailBridge::readState()
     quiet_ = MarkerValue::of(overview.quiet);
     about_ = words(overview.about);
     uptime_ = valuesOf<FactValue>(overview.uptime);
+    moreUptime_ = words(overview.moreUptime);
     incidents_.follow(view_->incidents(), updates_);
     monitors_.follow(view_->monitors(), updates_);
     components_.follow(view_->components(), updates_);

@@ -36,6 +36,7 @@ class StatusPageDetailBridge : public ScreenBridge {
     Q_PROPERTY(larkspan::bridge::MarkerValue quiet MEMBER quiet_ NOTIFY changed)
     Q_PROPERTY(QString about MEMBER about_ NOTIFY changed)
     Q_PROPERTY(QList<larkspan::bridge::FactValue> uptime MEMBER uptime_ NOTIFY changed)
+    Q_PROPERTY(QString moreUptime MEMBER moreUptime_ NOTIFY changed)
     /// The screen of the tab "Incidents"; null while another is selected.
     Q_PROPERTY(larkspan::bridge::IncidentListBridge* incidents READ incidents NOTIFY changed)
     /// The screen of the tab "Monitors"; null while another is selected.
@@ -76,6 +77,7 @@ private:
     MarkerValue quiet_;
     QString about_;
     QList<FactValue> uptime_;
+    QString moreUptime_;
     ChildScreen<IncidentListBridge, incidents::StatusPageIncidentsView> incidents_;
     ChildScreen<MonitorListBridge, monitors::StatusPageMonitorsView> monitors_;
     ChildScreen<ComponentListBridge, components::StatusPageComponentsView> components_;

@@ -17,6 +17,8 @@ struct Fact {
     std::string caption{};
     /// Before the label; empty for none.
     std::string symbol{};
+    /// What the text stands for, in full; empty where it says all.
+    std::string explanation{};
     /// The label is in small letters, so that the text has the line.
     bool hasSmallLabel = false;
 

@@ -2,13 +2,12 @@
 
 #include <string>
 
-#include "platform/LocaleText.h"
 #include "support/Time.h"
 
 namespace larkspan::presentation {
 
-/// A date as it is named seen from `now`: "Today", "Yesterday", "Tomorrow", else the date. What counts is the user's
-/// calendar and not the hours between.
-std::string relativeDate(const platform::LocaleText& locale, support::Time date, support::Time now);
+/// How far a moment is from `now`, in the largest unit that fills: "5 minutes ago", "1 day ago", "in 2 hours". The
+/// number is cut, never rounded; within a second it is "now".
+std::string relativeDate(support::Time date, support::Time now);
 
 }  // namespace larkspan::presentation

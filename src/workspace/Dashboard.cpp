@@ -19,11 +19,17 @@ using presentation::Tone;
 Dashboard::Dashboard(Ports ports)
     : currentTime(*this, ports.clock.now())
     , ports_(std::move(ports))
-    , tick_(ports_.timers.every(10s, [this] { currentTime = ports_.clock.now(); }))
+    , tick_(ports_.timers.every(10s, [this] { tick(); }))
     , openStatusPage_(ports_.appState->inProcessNotifications().observe(
           core::InProcessNotifications::openStatusPage, [this](const std::string& id) { openPage(id); }))
     , accountChanges_(ports_.main, *ports_.appState, [this] { followOpenedPage(); })
 {
+}
+
+void Dashboard::tick()
+{
+    currentTime = ports_.clock.now();
+    if (*openedPage) (*openedPage)->currentTime = ports_.clock.now();
 }
 
 support::Subscriptions Dashboard::observe(const std::function<void()>& observer)
@@ -59,9 +65,9 @@ std::vector<StatusPageRow> Dashboard::rows() const
 std::optional<std::size_t> Dashboard::selectedRow() const
 {
     const auto& pages = *state().statusPages;
-    const auto selected = std::ranges::find(pages, *selectedPageId, &model::StatusPage::id);
-    if (selected == pages.end()) return std::nullopt;
-    return static_cast<std::size_t>(selected - pages.begin());
+    const auto* const selected = *selectedPageId ? presentation::recordOfRow(pages, **selectedPageId) : nullptr;
+    if (!selected) return std::nullopt;
+    return static_cast<std::size_t>(selected - pages.data());
 }
 
 bool Dashboard::showsRefreshFailure() const
@@ -99,7 +105,7 @@ const model::StatusPage* Dashboard::selectedPage() const
 
 void Dashboard::openPage(const std::string& id)
 {
-    if (*openedPage && (*openedPage)->page->id == id) return;
+    if (*openedPage && *selectedPageId == id) return;
     if (!asksBefore(support::whileAlive(weak_from_this(), [id](Dashboard& self) { self.showPage(id); }))) showPage(id);
 }
 

@@ -108,6 +108,8 @@ private:
     StatusPageDetailView::Ports portsOfPage() const;
     bool asksBefore(const std::function<void()>& leave);
     void showPage(const std::string& id);
+    /// Time goes on, for what shows a distance from now.
+    void tick();
     /// Takes over what the account's list has made of the opened page.
     void followOpenedPage();
 

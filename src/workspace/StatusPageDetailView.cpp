@@ -9,6 +9,7 @@ namespace larkspan::workspace {
 
 StatusPageDetailView::StatusPageDetailView(Ports ports, model::StatusPage opened)
     : page(*this, std::move(opened))
+    , currentTime(*this, ports.clock.now())
     , ports_(std::move(ports))
 {
 }

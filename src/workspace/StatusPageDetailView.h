@@ -19,6 +19,7 @@
 #include "platform/LocaleText.h"
 #include "presentation/EventListPorts.h"
 #include "support/Observable.h"
+#include "support/Time.h"
 #include "workspace/StatusPageOverviewView.h"
 
 namespace larkspan::workspace {
@@ -46,6 +47,8 @@ public:
 
     /// The record as the dashboard last handed it in.
     support::Published<model::StatusPage> page;
+    /// When the page was last told that time goes on, which moves the distances in its overview.
+    support::Published<support::Time> currentTime;
     support::Published<Tab> selectedTab{*this, Tab::overview};
 
     /// Calls `observer` before anything changes that the page shows, the account's state included.

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <ranges>
 #include <utility>
 
 #include "core/OverallStatus.h"
+#include "presentation/InPart.h"
 #include "presentation/NumberText.h"
 #include "presentation/RelativeDate.h"
 #include "presentation/StatusPagePresentation.h"
@@ -39,7 +41,9 @@ std::vector<Fact> informationOf(const model::StatusPage& page, const platform::L
             .destination = presentation::isWebAddress(page.url->text()) ? page.url->text() : ""});
     }
     if (page.updatedAt) {
-        facts.push_back({.label = "Last Updated", .text = presentation::relativeDate(locale, *page.updatedAt, now)});
+        facts.push_back({.label = "Last Updated",
+            .text = presentation::relativeDate(*page.updatedAt, now),
+            .explanation = locale.dateOnly(*page.updatedAt) + ", " + locale.timeOnly(*page.updatedAt)});
     }
     if (page.createdAt) facts.push_back({.label = "Created", .text = locale.dateOnly(*page.createdAt)});
     return facts;
@@ -97,13 +101,17 @@ StatusPageOverviewView StatusPageOverviewView::of(const model::StatusPage& page,
 {
     StatusPageOverviewView view{.status = statusOf(page),
         .information = informationOf(page, locale, now),
-        .about = page.description.value_or("")};
+        .about = presentation::inPart(page.description.value_or(""), presentation::mostOfAText)};
     addRows(activeIncidents(page, state), view.activity);
     addRows(activeMaintenances(page, state), view.activity);
     if (view.activity.empty()) {
         view.quiet = {.symbol = "checkmark.circle", .text = "No active incidents or maintenance"};
     }
-    if (page.metrics) std::ranges::transform(*page.metrics, std::back_inserter(view.uptime), uptimeOf);
+    if (page.metrics) {
+        std::ranges::transform(
+            std::views::take(*page.metrics, presentation::mostLines), std::back_inserter(view.uptime), uptimeOf);
+        view.moreUptime = presentation::moreText(page.metrics->size());
+    }
     return view;
 }
 

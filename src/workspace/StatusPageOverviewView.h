@@ -27,6 +27,8 @@ struct StatusPageOverviewView {
     std::string about{};
     /// The group "Uptime"; empty where the page has no figures.
     std::vector<presentation::Fact> uptime{};
+    /// Below the figures: how many more there are; empty for none.
+    std::string moreUptime{};
 
     static StatusPageOverviewView of(const model::StatusPage& page, const core::AppStateManager& state,
         const platform::LocaleText& locale, support::Time now);

@@ -20,6 +20,7 @@ struct FactValue {
     Q_PROPERTY(bool isLink MEMBER isLink)
     Q_PROPERTY(QString caption MEMBER caption)
     Q_PROPERTY(QString symbol MEMBER symbol)
+    Q_PROPERTY(QString explanation MEMBER explanation)
     Q_PROPERTY(bool hasSmallLabel MEMBER hasSmallLabel)
 
 public:
@@ -29,12 +30,13 @@ public:
     bool isLink = false;
     QString caption{};
     QString symbol{};
+    QString explanation{};
     bool hasSmallLabel = false;
 
     static FactValue of(const presentation::Fact& fact)
     {
         return {words(fact.label), words(fact.text), toneOf(fact.tone), !fact.destination.empty(), words(fact.caption),
-            words(fact.symbol), fact.hasSmallLabel};
+            words(fact.symbol), words(fact.explanation), fact.hasSmallLabel};
     }
 
     bool operator==(const FactValue&) const = default;

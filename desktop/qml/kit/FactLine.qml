@@ -46,6 +46,16 @@ Item {
             text: line.fact.text
             font.weight: line.fact.tone === Tone.Secondary ? Font.Normal : Font.Medium
             color: Theme.toneColor(line.fact.tone)
+            Accessible.description: line.fact.explanation
+
+            HoverHandler {
+                id: pointer
+                enabled: line.fact.explanation !== ""
+            }
+            KitToolTip {
+                text: line.fact.explanation
+                visible: pointer.hovered
+            }
         }
         Label {
             id: caption

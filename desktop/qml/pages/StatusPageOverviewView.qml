@@ -25,11 +25,12 @@ CardList {
             title: qsTr("Status Page")
 
             Repeater {
-                model: overview.page.information
+                // By their number, so that a line and the focus in it stay where its text goes on by itself.
+                model: overview.page.information.length
                 FactLine {
-                    required property fact modelData
+                    required property int index
                     width: parent.width
-                    fact: modelData
+                    fact: overview.page.information[index]
                     onFollowed: overview.page.openPublicURL()
                 }
             }
@@ -76,6 +77,12 @@ CardList {
                     width: parent.width
                     fact: modelData
                 }
+            Label {
+                visible: text !== ""
+                width: parent.width
+                text: overview.page.moreUptime
+                color: Theme.secondary
+            }
             }
         }
     }

@@ -49,13 +49,32 @@ protected:
 TEST_F(PageOnScreen, ShowsEveryBlockOfItsOverviewInItsExactWords)
 {
     for (const auto* const text :
-        {"Acme Cloud", "Down", "Current Status", "Status Page", "Public URL", "Last Updated", "2024-03-02", "Created",
+        {"Acme Cloud", "Down", "Current Status", "Status Page", "Public URL", "Last Updated", "2 years ago", "Created",
             "2024-03-01", "Current Activity", "Login errors", "Active Incident", "About This Status Page",
             "We host <b>mail</b>.", "Uptime", "Last 24 Hours", "99.95%", "1 incident", "Last 7 Days", "Unavailable"}) {
         EXPECT_TRUE(shows(QString::fromUtf8(text))) << text;
     }
     EXPECT_EQ(names(Role::Link), QStringList{"status.acme.example"});
     EXPECT_EQ(selectedTab(), QStringLiteral("Overview"));
+}
+
+TEST_F(PageOnScreen, ItsLastUpdateIsADistanceThatGoesOnAndIsToldInFull)
+{
+    const auto updated = [this](const char* words) {
+        QString found;
+        for (const auto& thing : things()) {
+            if (thing.name == QString::fromUtf8(words)) found = thing.description;
+        }
+        return found;
+    };
+    EXPECT_EQ(updated("2 years ago"), QStringLiteral("2024-03-02, 09:30"));
+    auto& line = item(Role::Link, QStringLiteral("status.acme.example"));
+    line.forceActiveFocus(Qt::TabFocusReason);
+    clock.time += std::chrono::days(400);
+    timers.advance(std::chrono::seconds(10));
+    settle();
+    EXPECT_EQ(updated("3 years ago"), QStringLiteral("2024-03-02, 09:30"));
+    EXPECT_EQ(focused(), QStringLiteral("status.acme.example"));
 }
 
 TEST_F(PageOnScreen, ItsPublicURLOpensInTheBrowser)

@@ -13,6 +13,7 @@ namespace larkspan::workspace {
 
 namespace {
 
+using namespace std::chrono_literals;
 using Tab = StatusPageDetailView::Tab;
 
 /// The dashboard of an account with pages "a" and "b".
@@ -376,6 +377,37 @@ TEST_F(QuittingTheProgram, EndsItWhereTheDashboardHasGone)
     dashboard.reset();
     state->quitApp();
     EXPECT_EQ(windows.terminations, 1);
+}
+
+TEST_F(PageOfTheDashboard, IsToldEveryTenSecondsThatTimeGoesOnAndItsLastUpdateAges)
+{
+    transport.script(pagesURL, 200, R"([{"id": "a", "name": "a", "updated_at": "2026-11-20T09:00:00Z"}])");
+    refresh();
+    clock.time = std::chrono::sys_days{2026y / 11 / 20} + 9h + 5min;
+    dashboard->openPage("a");
+    const auto age = [this] { return opened()->overview().information.at(0).text; };
+    EXPECT_EQ(age(), "5 minutes ago");
+    int notices = 0;
+    const auto subscription = (*dashboard->openedPage)->objectWillChange([&notices] { ++notices; });
+    clock.time += 1h;
+    timers.advance(10s);
+    EXPECT_EQ(notices, 1);
+    EXPECT_EQ(age(), "1 hour ago");
+}
+
+TEST_F(PageOfTheDashboard, OfTwoPagesWithOneIdIsThatOfItsRow)
+{
+    transport.script(pagesURL, 200, R"([{"id": "a", "name": "first"}, {"id": "a", "name": "second"}])");
+    refresh();
+    for (const std::size_t row : {0u, 1u}) {
+        dashboard->openPage(dashboard->rows().at(row).id);
+        ASSERT_NE(opened(), nullptr);
+        EXPECT_EQ(opened()->page->name, row == 0 ? "first" : "second");
+        EXPECT_EQ(opened()->page->id, "a");
+        EXPECT_EQ(dashboard->selectedRow(), row);
+    }
+    refresh();
+    EXPECT_EQ(opened()->page->name, "second");
 }
 
 }  // namespace

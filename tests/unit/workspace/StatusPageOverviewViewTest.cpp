@@ -8,7 +8,6 @@
 
 #include "fakes/Account.h"
 #include "fakes/FakeLocaleText.h"
-#include "presentation/RelativeDate.h"
 
 namespace larkspan::workspace {
 
@@ -106,7 +105,9 @@ TEST_F(Overview, TellsURLUpdateAndCreationInTheirOrder)
         (std::vector<Fact>{{.label = "Public URL",
                                .text = "status.acme.example",
                                .destination = "https://status.acme.example/page?x=1"},
-            {.label = "Last Updated", .text = presentation::relativeDate(locale, now - 1h, now)},
+            {.label = "Last Updated",
+                .text = "1 hour ago",
+                .explanation = locale.dateOnly(now - 1h) + ", " + locale.timeOnly(now - 1h)},
             {.label = "Created", .text = locale.dateOnly(now - 24h * 400)}}));
 }
 
@@ -228,6 +229,22 @@ TEST_F(Overview, AShareBeyondAllBoundsIsWrittenWhole)
     EXPECT_EQ(text.size(), 306u);
     EXPECT_TRUE(text.starts_with("-1000000000000000052504760255204420248704")) << text;
     EXPECT_TRUE(text.ends_with(".00%"));
+}
+
+TEST_F(Overview, OfManyFiguresListsTheFirstAndSaysHowManyMoreThereAre)
+{
+    page.metrics = std::vector<model::StatusPageMetric>(100, {"24h", 99.9, 1});
+    EXPECT_EQ(view().uptime.size(), 100u);
+    EXPECT_EQ(view().moreUptime, "");
+    page.metrics->resize(20'000, {"7d", 99.9, 1});
+    EXPECT_EQ(view().uptime.size(), 100u);
+    EXPECT_EQ(view().moreUptime, "and 19900 more");
+}
+
+TEST_F(Overview, ADescriptionBeyondAllBoundsIsShownInPart)
+{
+    page.description = std::string(1'000'000, 'x');
+    EXPECT_EQ(view().about, std::string(20'000, 'x') + "…");
 }
 
 TEST_F(Overview, ListsTheFiguresInTheirOrder)
