@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QList>
+#include <QString>
 #include <QtQml/qqmlregistration.h>
 
 #include <memory>
 
 #include "bridge/ScreenBridge.h"
+#include "bridge/Words.h"
 #include "bridge/values/LatencyGraphValue.h"
 #include "bridge/values/MarkerValue.h"
 #include "bridge/values/MetricRowValue.h"
@@ -26,12 +28,14 @@ class MonitorMetricsBridge : public ScreenBridge {
     Q_PROPERTY(larkspan::bridge::LatencyGraphValue graph MEMBER graph_ NOTIFY changed)
     Q_PROPERTY(QList<larkspan::bridge::MetricRowValue> figures MEMBER figures_ NOTIFY changed)
     Q_PROPERTY(QList<larkspan::bridge::RegionRowValue> regions MEMBER regions_ NOTIFY changed)
+    Q_PROPERTY(QString moreRegions READ moreRegions NOTIFY changed)
 
 public:
     MonitorMetricsBridge(
         std::shared_ptr<monitors::MonitorRowView> view, const ScreenUpdates& updates, QObject* parent = nullptr);
 
     bool showsPanel() const { return view_->showsPanel(); }
+    QString moreRegions() const { return words(view_->moreRegions()); }
     bool offersRetry() const { return view_->offersRetry(); }
 
     Q_INVOKABLE void retry() { view_->retry(); }

@@ -89,4 +89,9 @@ std::vector<RegionRow> MonitorRowView::regions() const
     return metrics->has_value() ? regionRows(**metrics) : std::vector<RegionRow>{};
 }
 
+std::string MonitorRowView::moreRegions() const
+{
+    return metrics->has_value() ? monitors::moreRegions(**metrics) : "";
+}
+
 }  // namespace larkspan::monitors

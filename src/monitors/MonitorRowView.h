@@ -61,6 +61,8 @@ public:
     /// The panel's figures and regions; empty without metrics.
     std::vector<MetricRow> figures() const;
     std::vector<RegionRow> regions() const;
+    /// Below the regions: how many more there are; empty for none.
+    std::string moreRegions() const;
 
 private:
     void load();

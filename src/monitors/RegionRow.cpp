@@ -1,6 +1,9 @@
 #include "monitors/RegionRow.h"
 
+#include <ranges>
+
 #include "monitors/MonitorColors.h"
+#include "presentation/InPart.h"
 #include "presentation/NumberText.h"
 
 namespace larkspan::monitors {
@@ -9,13 +12,17 @@ std::vector<RegionRow> regionRows(const model::MonitorMetricsWindow& metrics)
 {
     std::vector<RegionRow> rows;
     if (!metrics.regionStates) return rows;
-    rows.reserve(metrics.regionStates->size());
-    for (const auto& region : *metrics.regionStates) {
+    for (const auto& region : std::views::take(*metrics.regionStates, presentation::mostLines)) {
         rows.push_back({.name = region.regionName.value_or(region.regionId),
             .average = presentation::fixedText(region.avgMs, 0) + "ms",
             .tone = regionStatusColor(region.status)});
     }
     return rows;
+}
+
+std::string moreRegions(const model::MonitorMetricsWindow& metrics)
+{
+    return presentation::moreText(metrics.regionStates ? metrics.regionStates->size() : 0);
 }
 
 }  // namespace larkspan::monitors

@@ -19,7 +19,10 @@ struct RegionRow {
     bool operator==(const RegionRow&) const = default;
 };
 
-/// In the order of the window.
+/// In the order of the window, as many as a panel shows.
 std::vector<RegionRow> regionRows(const model::MonitorMetricsWindow& metrics);
+
+/// How many more there are; empty for none.
+std::string moreRegions(const model::MonitorMetricsWindow& metrics);
 
 }  // namespace larkspan::monitors

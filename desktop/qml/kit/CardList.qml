@@ -34,6 +34,8 @@ ListView {
     keyNavigationEnabled: true
     boundsBehavior: Flickable.DragOverBounds
     highlightMoveDuration: Theme.quick
+    // At its own pace it would grow with a row of many points for as long as that takes, and be painted all the while.
+    highlightResizeDuration: 0
     Accessible.role: Accessible.List
     Accessible.name: name
 

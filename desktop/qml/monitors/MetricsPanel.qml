@@ -51,4 +51,11 @@ Column {
             row: modelData
         }
     }
+    Label {
+        visible: text !== ""
+        width: parent.width
+        text: panel.metrics.moreRegions
+        font.pointSize: Theme.caption
+        color: Theme.secondary
+    }
 }

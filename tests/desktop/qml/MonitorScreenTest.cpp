@@ -1,3 +1,4 @@
+#include <QElapsedTimer>
 #include <QQuickItem>
 #include <QTest>
 
@@ -386,6 +387,58 @@ TEST_F(MonitorsOnScreen, OfTwoThousandOnlyThoseInSightCostAnItem)
     press(Qt::Key_F5);
     EXPECT_LT(names(Role::ListItem).size(), 40);
     EXPECT_GT(names(Role::ListItem).size(), 3);
+}
+
+TEST_F(MonitorsOnScreen, ABadgeIsNeverWiderThanItsRow)
+{
+    const std::string trend(300, 'w');
+    transport.script(metricsURL, 200,
+        R"({"metrics": {"1": {"avg_ms": 1e300, "uptime_percentage": -1e300, "response_time_trend": ")" + trend
+            + R"("}}})");
+    choose("Show latency graph");
+    choose("Hide latency graph");
+    const auto& row = item(Role::ListItem, QStringLiteral("Gateway"));
+    int badges = 0;
+    visit([&](QQuickItem& each) {
+        if (!each.isVisible() || !each.property("badge").isValid()) return;
+        ++badges;
+        const auto left = each.mapToItem(&row, {0, 0}).x();
+        EXPECT_GE(left, 0);
+        EXPECT_LE(left + each.width(), row.width());
+        for (auto* const label : each.findChildren<QQuickItem*>()) {
+            EXPECT_LE(label->mapToItem(&each, {label->width(), 0}).x(), each.width() + 0.5);
+        }
+    });
+    EXPECT_EQ(badges, 3);
+}
+
+TEST_F(MonitorsOnScreen, ARowThatOpensIsHighlightedInItsWholeHeightAtOnce)
+{
+    transport.script(metricsURL, 200, day);
+    choose("Show latency graph");
+    const auto* const highlight = list().property("highlightItem").value<QQuickItem*>();
+    const auto* const current = list().property("currentItem").value<QQuickItem*>();
+    ASSERT_TRUE(highlight && current);
+    EXPECT_EQ(highlight->height(), current->height());
+}
+
+TEST_F(MonitorsOnScreen, OfTwentyThousandRegionsThePanelShowsTheFirstAndSaysHowManyMoreThereAre)
+{
+    std::string regions;
+    for (int number = 0; number < 20'000; ++number) {
+        regions += (number == 0 ? "" : ",") + std::string(R"({"region_id": "region )") + std::to_string(number)
+            + R"(", "status": "up", "avg_ms": 1e300})";
+    }
+    transport.script(metricsURL, 200, R"({"metrics": {"1": {"region_states": [)" + regions + "]}}}");
+    QElapsedTimer timer;
+    timer.start();
+    choose("Show latency graph");
+    EXPECT_LT(timer.elapsed(), 2'000);
+    EXPECT_TRUE(shows(QStringLiteral("region 99")));
+    EXPECT_FALSE(shows(QStringLiteral("region 100")));
+    EXPECT_TRUE(shows(QStringLiteral("and 19900 more")));
+    const auto& name = item(Role::StaticText, QStringLiteral("region 99"));
+    EXPECT_GT(name.width(), 0) << "the figure leaves the name its place";
 }
 
 }  // namespace

@@ -29,7 +29,15 @@ TEST(RegionRows, ARegionWithoutANameShowsItsId)
 TEST(RegionRows, AreNoneWhereTheWindowHasNone)
 {
     EXPECT_EQ(regionRows({}), Rows{});
+    EXPECT_EQ(moreRegions({}), "");
     EXPECT_EQ(regionRows({.regionStates = std::vector<RegionState>{}}), Rows{});
+}
+
+TEST(RegionRows, OfManyAreTheFirstAndSayHowManyMoreThereAre)
+{
+    const model::MonitorMetricsWindow metrics{.regionStates = std::vector<RegionState>(20'000)};
+    EXPECT_EQ(regionRows(metrics).size(), 100u);
+    EXPECT_EQ(moreRegions(metrics), "and 19900 more");
 }
 
 }  // namespace
