@@ -51,6 +51,8 @@ private:
     void reorder(std::vector<std::size_t>& places);
     void sortAtOnce(std::vector<std::size_t>& places);
     void insertAndPatch(std::vector<Row>& wanted, const std::vector<std::size_t>& places);
+    void insert(std::vector<Row>& wanted, std::size_t from, std::size_t end);
+    void patch(std::vector<Row>& wanted, std::size_t from, std::size_t end);
 
     std::vector<Row> rows_;
 };
@@ -60,6 +62,12 @@ void RowListModel<Value>::update(std::vector<Row> wanted)
 {
     if (wanted == rows_) return;
     auto places = wantedPlaces(idsOf(rows_), idsOf(wanted));
+    if (isCheaperAnew(places, wanted.size())) {
+        beginResetModel();
+        rows_ = std::move(wanted);
+        endResetModel();
+        return;
+    }
     removeVanished(places);
 
     std::vector<std::size_t> kept{};
@@ -102,7 +110,8 @@ template <typename Value>
 void RowListModel<Value>::reorder(std::vector<std::size_t>& places)
 {
     auto isInRun = longestRun(places);
-    if (std::ranges::count(isInRun, false) > mostSingleMoves) {
+    const auto moves = static_cast<std::size_t>(std::ranges::count(isInRun, false));
+    if (moves > mostSingleMoves || moves * places.size() > mostRowsMoved) {
         sortAtOnce(places);
         return;
     }
@@ -148,22 +157,36 @@ void RowListModel<Value>::insertAndPatch(std::vector<Row>& wanted, const std::ve
 {
     std::size_t held = 0;
     for (std::size_t at = 0; at < wanted.size();) {
-        const auto row = static_cast<int>(at);
-        if (held < places.size() && places[held] == at) {
-            if (rows_[at] != wanted[at]) {
-                rows_[at] = std::move(wanted[at]);
-                emit dataChanged(index(row), index(row));
-            }
+        const auto from = at;
+        while (held < places.size() && places[held] == at) {
             ++held;
             ++at;
-            continue;
         }
+        patch(wanted, from, at);
         const auto end = held < places.size() ? places[held] : wanted.size();
-        beginInsertRows({}, row, static_cast<int>(end) - 1);
-        rows_.insert(rows_.begin() + row, std::make_move_iterator(wanted.begin() + row),
-            std::make_move_iterator(wanted.begin() + static_cast<std::ptrdiff_t>(end)));
-        endInsertRows();
+        if (at < end) insert(wanted, at, end);
         at = end;
+    }
+}
+
+template <typename Value>
+void RowListModel<Value>::insert(std::vector<Row>& wanted, std::size_t from, std::size_t end)
+{
+    const auto first = static_cast<std::ptrdiff_t>(from);
+    beginInsertRows({}, static_cast<int>(from), static_cast<int>(end) - 1);
+    rows_.insert(rows_.begin() + first, std::make_move_iterator(wanted.begin() + first),
+        std::make_move_iterator(wanted.begin() + static_cast<std::ptrdiff_t>(end)));
+    endInsertRows();
+}
+
+template <typename Value>
+void RowListModel<Value>::patch(std::vector<Row>& wanted, std::size_t from, std::size_t end)
+{
+    for (auto at = from; at < end;) {
+        const auto first = at;
+        for (; at < end && rows_[at] != wanted[at]; ++at) rows_[at] = std::move(wanted[at]);
+        if (at > first) emit dataChanged(index(static_cast<int>(first)), index(static_cast<int>(at) - 1));
+        if (at == first) ++at;
     }
 }
 

@@ -27,6 +27,27 @@ std::vector<std::optional<std::size_t>> wantedPlaces(
     return places;
 }
 
+bool isCheaperAnew(const std::vector<std::optional<std::size_t>>& places, std::size_t wanted)
+{
+    constexpr std::size_t mostRuns = 200;
+
+    std::size_t runs = 0;
+    std::vector<bool> isHeld(wanted, false);
+    bool wasKept = true;
+    for (const auto& place : places) {
+        if (place) isHeld[*place] = true;
+        if (wasKept && !place) ++runs;
+        wasKept = place.has_value();
+    }
+    bool wasHeld = true;
+    for (const bool held : isHeld) {
+        if (wasHeld && !held) ++runs;
+        wasHeld = held;
+    }
+    const bool isLong = runs > 2 && runs * std::max(places.size(), wanted) > mostRowsMoved;
+    return runs > mostRuns || isLong;
+}
+
 std::vector<bool> longestRun(const std::vector<std::size_t>& places)
 {
     constexpr auto none = static_cast<std::size_t>(-1);

@@ -20,7 +20,13 @@ std::vector<bool> longestRun(const std::vector<std::size_t>& places);
 std::ptrdiff_t placeInRun(const std::vector<std::size_t>& places, const std::vector<bool>& isInRun, std::size_t place);
 
 /// A list that changes its whole order at once is cheaper to lay out anew than to move row by row.
-inline constexpr std::ptrdiff_t mostSingleMoves = 100;
+inline constexpr std::size_t mostSingleMoves = 100;
+
+/// Each run of rows that comes, goes or moves takes all rows behind it along.
+inline constexpr std::size_t mostRowsMoved = 2'000'000;
+
+/// Whether so many runs of rows come and go, in lists so long, that the list is cheaper to show anew than to patch.
+bool isCheaperAnew(const std::vector<std::optional<std::size_t>>& places, std::size_t wanted);
 
 /// Takes the element at `from` to before the one at `to`.
 template <typename Elements>

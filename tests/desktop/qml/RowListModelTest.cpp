@@ -180,6 +180,57 @@ TEST(RowListOfTenThousand, IsPatchedAndTurnedRoundInAMomentWithoutAReset)
     EXPECT_TRUE(resets.empty());
 }
 
+TEST_F(RowList, ManyRunsThatComeAndGoAreOneReset)
+{
+    show(numbered(1'000));
+    std::vector<std::string> even;
+    for (const auto& id : numbered(1'000)) {
+        if ((id.back() - '0') % 2 == 0) even.push_back(id);
+    }
+    show(even);
+    EXPECT_EQ(resets.size(), 1);
+    EXPECT_TRUE(removals.empty());
+    show(numbered(1'000));
+    EXPECT_EQ(resets.size(), 2);
+}
+
+TEST_F(RowList, ChangedRowsNextToEachOtherAreToldTogether)
+{
+    show(numbered(10));
+    auto rows = rowsOf(numbered(10));
+    for (const std::size_t row : {2u, 3u, 4u, 7u}) rows[row].status.text = "Down";
+    model.update(rows);
+    ASSERT_EQ(changes.size(), 2);
+    EXPECT_EQ(changes[0][0].toModelIndex().row(), 2);
+    EXPECT_EQ(changes[0][1].toModelIndex().row(), 4);
+    EXPECT_EQ(changes[1][1].toModelIndex().row(), 7);
+}
+
+TEST(RowListOfAHundredThousand, IsPatchedInAMomentWhateverChanged)
+{
+    Rows model;
+    auto ids = numbered(100'000);
+    model.update(rowsOf(ids));
+    auto shuffled = ids;
+    std::ranges::shuffle(shuffled, std::mt19937(3));
+    auto moved = shuffled;
+    std::rotate(moved.begin(), moved.begin() + 50, moved.end());
+    std::vector<std::string> thinned;
+    for (std::size_t at = 0; at < ids.size(); at += 3) thinned.push_back(ids[at]);
+    std::vector<std::string> spread(ids);
+    for (std::size_t at = 0; at < spread.size(); at += 1'000) spread[at] += " new";
+
+    for (const auto& wanted : {shuffled, moved, thinned, ids, spread}) {
+        auto rows = rowsOf(wanted);
+        QElapsedTimer timer;
+        timer.start();
+        model.update(std::move(rows));
+        EXPECT_LT(timer.elapsed(), 400) << "a quarter of it on a machine that does nothing else";
+        EXPECT_EQ(model.rowCount(), static_cast<int>(wanted.size()));
+        EXPECT_EQ(valueAt(model, 1).id.toStdString(), wanted[1]);
+    }
+}
+
 }  // namespace
 
 }  // namespace larkspan::bridge
