@@ -77,12 +77,12 @@ CardList {
                     width: parent.width
                     fact: modelData
                 }
+            }
             Label {
                 visible: text !== ""
                 width: parent.width
                 text: overview.page.moreUptime
                 color: Theme.secondary
-            }
             }
         }
     }
