@@ -114,13 +114,12 @@ void FreedesktopNotificationCenter::send(const Notice& notice, BodyMarkup markup
         QStringList(), hintsOf(text), expiresAsTheServerSees};
 
     sending_.insert(identifier);
-    whenAnswered(
-        this, call("Notify", arguments), [this, identifier = identifier, gone = serversGone_](const auto& answer) {
-            sending_.erase(identifier);
-            const QDBusPendingReply<uint> serverId = answer;
-            if (!serverId.isError() && gone == serversGone_) remember(identifier, serverId.value());
-            sendWaiting();
-        });
+    whenAnswered(this, call("Notify", arguments), [this, sent = identifier, gone = serversGone_](const auto& answer) {
+        sending_.erase(sent);
+        const QDBusPendingReply<uint> serverId = answer;
+        if (!serverId.isError() && gone == serversGone_) remember(sent, serverId.value());
+        sendWaiting();
+    });
 }
 
 void FreedesktopNotificationCenter::remember(const std::string& identifier, uint serverId)

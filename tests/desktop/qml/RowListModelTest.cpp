@@ -225,7 +225,7 @@ TEST(RowListOfAHundredThousand, IsPatchedInAMomentWhateverChanged)
         QElapsedTimer timer;
         timer.start();
         model.update(std::move(rows));
-        EXPECT_LT(timer.elapsed(), 400) << "a quarter of it on a machine that does nothing else";
+        EXPECT_LT(timer.elapsed(), 3'000) << "a thirtieth of it on an idle machine; a row at a time it was 48 seconds";
         EXPECT_EQ(model.rowCount(), static_cast<int>(wanted.size()));
         EXPECT_EQ(valueAt(model, 1).id.toStdString(), wanted[1]);
     }
