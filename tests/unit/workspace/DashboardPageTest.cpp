@@ -1,13 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
-#include <vector>
 
-#include "fakes/Account.h"
-#include "fakes/FakeLinkOpener.h"
-#include "fakes/FakeLocaleText.h"
-#include "workspace/Dashboard.h"
+#include "PageOfTheDashboard.h"
 
 namespace larkspan::workspace {
 
@@ -15,46 +10,6 @@ namespace {
 
 using namespace std::chrono_literals;
 using Tab = StatusPageDetailView::Tab;
-
-/// The dashboard of an account with pages "a" and "b".
-class PageOfTheDashboard : public testing::Test, public fakes::Account {
-protected:
-    PageOfTheDashboard()
-    {
-        servePages({"a", "b"}, {});
-        refresh();
-    }
-
-    const StatusPageDetailView* opened() const { return dashboard->openedPage->get(); }
-
-    /// The page "a", and in it the form of an incident with a title.
-    std::shared_ptr<incidents::CreateIncidentView> writeIncident()
-    {
-        dashboard->openPage("a");
-        auto& page = **dashboard->openedPage;
-        page.select(Tab::incidents);
-        page.incidents()->openCreateIncident();
-        const auto form = page.incidents()->form();
-        form->title = "Mail is down";
-        run();
-        return form;
-    }
-
-    /// One cycle after which the account has only these pages.
-    void cycleWith(const std::vector<std::string>& pages)
-    {
-        servePages(pages, {});
-        refresh();
-    }
-
-    static constexpr auto incidentsOfA = "https://service.example/user/api/v1/incidents?status_page_id=a";
-
-    api::APIKeyStore keys{client, credentials};
-    fakes::FakeLocaleText locale;
-    fakes::FakeLinkOpener links;
-    std::shared_ptr<Dashboard> dashboard = std::make_shared<Dashboard>(
-        Dashboard::Ports{main, timers, clock, credentials, keys, state, locale, links, api});
-};
 
 TEST_F(PageOfTheDashboard, OpensFromItsRowAndClosesOnTheWayBack)
 {
@@ -324,59 +279,6 @@ TEST_F(PageOfTheDashboard, OfADashboardThatWentWhileItAskedHarmsNothing)
     state->openStatusPage("b");
     dashboard.reset();
     EXPECT_NO_FATAL_FAILURE(form->discardChanges());
-}
-
-class QuittingTheProgram : public PageOfTheDashboard {
-protected:
-    QuittingTheProgram() { state->guardQuitting(dashboard); }
-};
-
-TEST_F(QuittingTheProgram, EndsItWhereNothingWouldBeLost)
-{
-    dashboard->openPage("a");
-    state->quitApp();
-    EXPECT_EQ(windows.terminations, 1);
-}
-
-TEST_F(QuittingTheProgram, WithTypedTextAsksInTheWindowFirst)
-{
-    const auto window = windows.addWindow();
-    const auto form = writeIncident();
-    state->quitApp();
-    EXPECT_EQ(windows.terminations, 0);
-    EXPECT_TRUE(*form->showDiscardConfirmation);
-    EXPECT_EQ(window->calls, (std::vector<std::string>{"deminiaturize", "makeKeyAndOrderFront"}));
-    form->discardChanges();
-    EXPECT_EQ(windows.terminations, 1);
-}
-
-TEST_F(QuittingTheProgram, IsForgottenWhereTheUserGoesOnTyping)
-{
-    const auto form = writeIncident();
-    state->quitApp();
-    form->keepEditing();
-    form->requestClose();
-    form->discardChanges();
-    EXPECT_EQ(windows.terminations, 0);
-}
-
-TEST_F(QuittingTheProgram, EndsItByItselfWhenTheServiceHasTakenTheTextMeanwhile)
-{
-    const auto form = writeIncident();
-    transport.script(incidentsURL, 201, incident("9", "Mail is down"));
-    form->save();
-    state->quitApp();
-    EXPECT_EQ(windows.terminations, 0);
-    run();
-    EXPECT_EQ(windows.terminations, 1);
-}
-
-TEST_F(QuittingTheProgram, EndsItWhereTheDashboardHasGone)
-{
-    writeIncident();
-    dashboard.reset();
-    state->quitApp();
-    EXPECT_EQ(windows.terminations, 1);
 }
 
 TEST_F(PageOfTheDashboard, IsToldEveryTenSecondsThatTimeGoesOnAndItsLastUpdateAges)
