@@ -58,10 +58,14 @@ Window {
         given: ({ dashboard: window.dashboard, about: window.about, updates: window.updates })
     }
 
+    HeldKeys {
+        window: window
+    }
     Shortcut {
         // Also while a sheet or a dialog is up.
         context: Qt.ApplicationShortcut
         sequences: ["Ctrl+Q"]
+        autoRepeat: false
         onActivated: window.quitRequested()
     }
 }

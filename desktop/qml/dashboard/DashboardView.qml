@@ -76,6 +76,7 @@ ScreenFrame {
 
     Shortcut {
         sequences: ["F5", "Ctrl+R"]
+        autoRepeat: false
         enabled: view.visible && view.dashboard.isRefreshEnabled
         onActivated: view.dashboard.refresh()
     }

@@ -95,6 +95,7 @@ ScreenFrame {
 
     Shortcut {
         sequences: ["F5", "Ctrl+R"]
+        autoRepeat: false
         enabled: view.visible
         onActivated: view.page.refresh()
     }

@@ -120,6 +120,16 @@ TEST_F(MonitorsOnScreen, TwoRefusedActionsAreTwoAlertsAndALaterOneIsToldToo)
     EXPECT_TRUE(asks("Error"));
 }
 
+TEST_F(MonitorsOnScreen, OneIsPausedOnceHoweverLongTheKeyIsHeld)
+{
+    transport.script(pauseURL, 200, "");
+    transport.script(resumeURL, 200, "");
+    serve({monitor("1", "Gateway", paused), monitor("2", "Mail")});
+    item(Role::Button, QStringLiteral("Pause")).forceActiveFocus(Qt::TabFocusReason);
+    hold(Qt::Key_Return);
+    EXPECT_EQ(sent(), (Lines{"POST " + pauseURL, "GET " + listURL}));
+}
+
 TEST_F(MonitorsOnScreen, APressBesideTheButtonsOpensNothing)
 {
     auto& row = item(Role::ListItem, QStringLiteral("Gateway"));

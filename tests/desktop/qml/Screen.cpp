@@ -18,6 +18,14 @@ void collect(QAccessibleInterface* interface, std::vector<Screen::Thing>& things
     for (int child = 0; child < interface->childCount(); ++child) collect(interface->child(child), things);
 }
 
+/// What the key types.
+QString textOf(Qt::Key key)
+{
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) return QStringLiteral("\r");
+    if (key >= Qt::Key_Space && key <= Qt::Key_AsciiTilde) return QString(QChar(key)).toLower();
+    return {};
+}
+
 void visitBelow(QQuickItem& item, const std::function<void(QQuickItem&)>& look)
 {
     look(item);
@@ -78,6 +86,22 @@ QQuickItem& Screen::item(QAccessible::Role role, const QString& name) const
 void Screen::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     QTest::keyClick(&window(), key, modifiers);
+    settle();
+}
+
+void Screen::hold(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QTest::keyPress(&window(), key, modifiers);
+    settle();
+    for (int count = 0; count < 5; ++count) repeat(key, modifiers);
+    QTest::keyRelease(&window(), key, modifiers);
+    settle();
+}
+
+void Screen::repeat(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    const auto text = modifiers == Qt::NoModifier ? textOf(key) : QString();
+    for (const bool isPressed : {false, true}) QTest::simulateEvent(&window(), isPressed, key, modifiers, text, true);
     settle();
 }
 

@@ -39,6 +39,10 @@ public:
     QQuickItem& item(QAccessible::Role role, const QString& name) const;
 
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    /// Holds the key down so long that it is repeated five times.
+    void hold(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    /// One repeat of a key that was pressed before: as a keyboard does, it is let go and pressed again.
+    void repeat(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
     /// Every item of the window, popups included.
     void visit(const std::function<void(QQuickItem&)>& look) const;
