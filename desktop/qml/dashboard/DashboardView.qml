@@ -8,6 +8,7 @@ ScreenFrame {
     required property MenuBridge menu
 
     title: dashboard.windowTitle
+    isTitleDispensable: true
     status: dashboard.status
     showsContent: dashboard.showsList
     placeholder: dashboard.placeholder

@@ -7,6 +7,8 @@ import Larkspan.Bridge
 Rectangle {
     id: bar
     required property string title
+    // It goes where there is no room for all of it: half of such a title helps nobody, and it stands elsewhere, too.
+    property bool isTitleDispensable: false
     property bool canGoBack: false
     property marker status
     signal wentBack
@@ -40,15 +42,26 @@ Rectangle {
     }
 
     Label {
-        anchors.verticalCenter: parent.verticalCenter
-        // Half the program's name helps nobody, and the window's frame has it too; a record's name stands nowhere else.
-        visible: bar.canGoBack || implicitWidth <= room
+        id: caption
         readonly property real room: Math.max(0, bar.freeRight - bar.freeLeft)
+
+        anchors.verticalCenter: parent.verticalCenter
+        visible: !bar.isTitleDispensable || implicitWidth <= room
         width: Math.min(implicitWidth, room)
         x: Math.round(Math.max(bar.freeLeft, Math.min((bar.width - width) / 2, bar.freeRight - width)))
-        text: bar.title
+        text: bar.title.replace(/[\n\v\f\r\u0085\u2028\u2029]+/g, " ")
+        maximumLineCount: 1
         font.weight: Font.DemiBold
         Accessible.role: Accessible.Heading
+        Accessible.name: bar.title
+
+        HoverHandler {
+            id: pointer
+        }
+        KitToolTip {
+            text: bar.title
+            visible: pointer.hovered && (caption.truncated || caption.text !== bar.title)
+        }
     }
 
     Row {

@@ -6,7 +6,8 @@ T.ToolTip {
     id: tip
     x: parent ? Math.round((parent.width - implicitWidth) / 2) : 0
     y: parent ? parent.height + Theme.halfUnit : 0
-    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitWidth: Math.min(implicitContentWidth + leftPadding + rightPadding, Theme.sheetWidth * Theme.scale,
+        T.Overlay.overlay ? T.Overlay.overlay.width - 2 * Theme.unit : Infinity)
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     margins: Theme.unit
     padding: Theme.unit
@@ -19,6 +20,7 @@ T.ToolTip {
         text: tip.text
         font.pointSize: Theme.caption
         color: Theme.card
+        wrapMode: Text.Wrap
         Accessible.ignored: true
     }
     background: Rectangle {

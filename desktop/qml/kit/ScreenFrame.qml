@@ -13,6 +13,7 @@ FocusScope {
     property alias busyText: overlay.text
     property alert alert
     property alias status: header.status
+    property alias isTitleDispensable: header.isTitleDispensable
     property alias canGoBack: header.canGoBack
     property alias leading: header.leading
     property alias trailing: header.trailing

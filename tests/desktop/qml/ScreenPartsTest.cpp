@@ -157,6 +157,80 @@ TEST_F(TitleInOneLine, HasItsHeightWhateverTheTitle)
     }
 }
 
+/// Of a screen without a way back.
+class TitleOfAScreen : public testing::Test, public KitWindow {
+protected:
+    TitleOfAScreen()
+        : KitWindow(QStringLiteral(R"(
+            property string words
+            property bool isDispensable: false
+            ScreenFrame {
+                objectName: "screen"
+                anchors.fill: parent
+                title: window.words
+                isTitleDispensable: window.isDispensable
+                leading: CommandButton { text: "Close" }
+                trailing: CommandButton { text: "Edit" }
+            })"))
+    {
+        setProperty("words", QStringLiteral("A title that is far too long for the header\nof a window of this width, "
+                                            "whatever the font in which it is written"));
+    }
+
+    const QQuickItem* title() const
+    {
+        const auto all = item(QStringLiteral("screen")).findChildren<QQuickItem*>();
+        const auto found = std::ranges::find_if(all, [this](const auto* each) {
+            auto* const access = QAccessible::queryAccessibleInterface(const_cast<QQuickItem*>(each));
+            return access && access->role() == QAccessible::Heading
+                && access->text(QAccessible::Name) == property("words").toString();
+        });
+        return found == all.end() ? nullptr : *found;
+    }
+
+    /// The tool tip that is up.
+    QString tip() const
+    {
+        for (const auto* each : window().findChildren<QObject*>()) {
+            if (each->inherits("QQuickToolTip") && each->property("visible").toBool()) {
+                return each->property("text").toString();
+            }
+        }
+        return {};
+    }
+};
+
+TEST_F(TitleOfAScreen, ThatHasNoRoomIsCutOnOneLineAndNamedWhole)
+{
+    ASSERT_NE(title(), nullptr);
+    EXPECT_TRUE(title()->isVisible());
+    EXPECT_TRUE(title()->property("truncated").toBool());
+    EXPECT_EQ(title()->property("lineCount").toInt(), 1);
+    EXPECT_GT(title()->width(), 200);
+}
+
+TEST_F(TitleOfAScreen, IsToldWholeByItsToolTipWhereItIsCut)
+{
+    QTest::mouseMove(&window(), title()->mapToScene({20, 10}).toPoint());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return tip() == property("words").toString(); }, 3'000));
+}
+
+TEST_F(TitleOfAScreen, KeepsOneLineWhateverLineFeedsItHolds)
+{
+    setProperty("words", QStringLiteral("one\r\ntwo\u2028three"));
+    EXPECT_EQ(title()->property("lineCount").toInt(), 1);
+    EXPECT_FALSE(title()->property("truncated").toBool());
+    EXPECT_EQ(title()->property("text").toString(), QStringLiteral("one two three"));
+}
+
+TEST_F(TitleOfAScreen, ThatStandsElsewhereTooGoesWhereThereIsNoRoom)
+{
+    setProperty("isDispensable", true);
+    EXPECT_FALSE(title()->isVisible());
+    setProperty("words", QStringLiteral("Short"));
+    EXPECT_TRUE(title()->isVisible());
+}
+
 /// A box and its neighbours; `typed` is what the box last said of its text.
 class BoxOfText : public testing::Test, public KitWindow {
 protected:
