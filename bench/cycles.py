@@ -12,6 +12,8 @@ from measurement import measurement, output_of, program
 SIZES = (10, 1_000, 10_000)
 # No turn of the main thread may last longer than this, in milliseconds: a frame of a display of 120 Hz.
 LONGEST_TURN = 8
+# Nor, with the largest body that is accepted, longer than this.
+LONGEST_TURN_EVER = 100
 INCIDENTS = 10_000
 REPETITIONS = {10: 2_001, 1_000: 101, 10_000: 21}
 BASE = 1_000
@@ -32,9 +34,11 @@ def measure_turns(build):
     """How long a cycle with many incidents holds up the main thread, beside what may be; and, for the comparison, what
     the client's own thread does meanwhile."""
     bench = program(build, "larkspan-bench-turns")
+    largest = float(output_of([program(build, "larkspan-bench-largest")]).stdout)
     longest, client = map(float, output_of([bench, str(INCIDENTS), "21"]).stdout.split())
     return [measurement("turn_10000_incidents", longest, "ms", LONGEST_TURN, 1),
-            measurement("client_10000_incidents", client, "ms", longest)]
+            measurement("client_10000_incidents", client, "ms", longest),
+            measurement("turn_largest_body", largest, "ms", LONGEST_TURN_EVER, 1)]
 
 
 def beside_base(name, unit, values):

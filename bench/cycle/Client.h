@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 #include <utility>
 
 #include "PreparedTransport.h"
@@ -34,6 +35,12 @@ public:
     {
         api::KeychainHelper::saveAPIKey(store_, key);
         state_->setupStatusItem({});
+    }
+
+    /// What the service answers at that path of its older base, whatever the account holds.
+    void prepare(const std::string& path, std::string body)
+    {
+        transport_.prepare("https://kestrune.example/user/api/v1/" + path, std::move(body));
     }
 
     core::AppStateManager& state() { return *state_; }

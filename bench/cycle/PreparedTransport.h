@@ -2,6 +2,7 @@
 
 #include <map>
 #include <string>
+#include <utility>
 
 #include "inprocess/Redirection.h"
 #include "platform/Executor.h"
@@ -29,6 +30,12 @@ public:
         }
         executor_.post(
             [complete = std::move(complete), answer = known->second]() mutable { complete(std::move(answer)); });
+    }
+
+    /// Answers that URL by `body` from now on.
+    void prepare(const std::string& url, std::string body)
+    {
+        answers_.insert_or_assign(url, platform::HttpResponse{200, std::move(body)});
     }
 
 private:

@@ -6,17 +6,15 @@
 //                                                   thread and all of the client's thread, per cycle
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
-#include <deque>
 #include <memory>
 #include <stdexcept>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "Arguments.h"
 #include "Client.h"
+#include "TimedExecutor.h"
 #include "account/Seed.h"
 #include "bridge/DashboardBridge.h"
 #include "fakes/FakeLinkOpener.h"
@@ -27,38 +25,7 @@
 namespace {
 
 using namespace larkspan;
-using Milliseconds = std::chrono::duration<double, std::milli>;
-
-/// Runs what is posted in turns of its own, and takes the time of each.
-class TimedExecutor final : public platform::Executor {
-public:
-    void post(support::UniqueFunction<void()> work) override { queue_.push_back(std::move(work)); }
-
-    /// Runs what waits; false if nothing did.
-    bool turn()
-    {
-        if (queue_.empty()) return false;
-        auto work = std::exchange(queue_, {});
-        for (auto& piece : work) {
-            const auto begin = std::chrono::steady_clock::now();
-            piece();
-            piece = {};
-            const Milliseconds taken = std::chrono::steady_clock::now() - begin;
-            longest_ = std::max(longest_, taken);
-            all_ += taken;
-        }
-        return true;
-    }
-
-    void restart() { longest_ = all_ = {}; }
-    double longest() const { return longest_.count(); }
-    double all() const { return all_.count(); }
-
-private:
-    std::deque<support::UniqueFunction<void()>> queue_;
-    Milliseconds longest_{};
-    Milliseconds all_{};
-};
+using bench::TimedExecutor;
 
 simulator::Account accountWith(std::size_t incidents)
 {

@@ -9,6 +9,9 @@
 
 namespace larkspan::adapters {
 
+/// In bytes, of a body that the program takes.
+inline constexpr std::size_t largestBodyTaken = 64 * 1024 * 1024;
+
 /// What a transport holds its requests to; the defaults are the program's.
 struct TransportSettings {
     /// The authorities that vouch for the service, and no others.
@@ -18,7 +21,7 @@ struct TransportSettings {
     std::chrono::milliseconds idleTimeout = std::chrono::seconds(30);
 
     /// The most bytes that a body may have once it is unpacked.
-    std::size_t largestBody = 64 * 1024 * 1024;
+    std::size_t largestBody = largestBodyTaken;
 
     /// How long a read waits for the connection of another one before it gets a connection of its own.
     std::chrono::milliseconds patience{500};
