@@ -173,8 +173,9 @@ protected:
                 trailing: CommandButton { text: "Edit" }
             })"))
     {
-        setProperty("words", QStringLiteral("A title that is far too long for the header\nof a window of this width, "
-                                            "whatever the font in which it is written"));
+        setProperty("words",
+            QStringLiteral("A title that is far too long for the header\nof a window of this width, "
+                           "whatever the font in which it is written"));
     }
 
     const QQuickItem* title() const
