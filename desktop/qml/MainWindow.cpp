@@ -5,6 +5,7 @@
 
 #include <utility>
 
+#include "bridge/ItemAccess.h"
 #include "bridge/SecretAccess.h"
 
 Q_IMPORT_QML_PLUGIN(LarkspanPlugin)
@@ -24,6 +25,7 @@ MainWindow::MainWindow(Content content, platform::Executor& main)
     , updates_(std::move(content.updates), screenUpdates_)
 {
     bridge::hideSecretsFromAccessibility();
+    bridge::tellAccessibilityWhatIsOutOfReach();
     // A text stands for itself: with mnemonics, "Save & Verify" is pressed by Alt and the space bar.
     qt_set_sequence_auto_mnemonic(false);
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));

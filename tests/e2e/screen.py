@@ -1,17 +1,23 @@
 """The program's window as a screen reader has it."""
 
+import os
+import subprocess
+import time
 from typing import Callable, Iterator, NamedTuple
 
 import dbus
 
 from patience import eventually
+from processes import running
 from session import Session
 
 ACCESSIBLE = "org.a11y.atspi.Accessible"
 ACTION = "org.a11y.atspi.Action"
+EVENT = "org.a11y.atspi.Event.Object"
 TEXT = "org.a11y.atspi.Text"
+REGISTRY = "/org/a11y/atspi/registry"
 ROOT = "/org/a11y/atspi/accessible/root"
-FOCUSED, SHOWING, VISIBLE = 12, 25, 30
+ENABLED, FOCUSED, SENSITIVE, SHOWING, VISIBLE = 8, 12, 24, 25, 30
 
 
 class Thing(NamedTuple):
@@ -30,8 +36,37 @@ def is_seen(thing: Thing) -> bool:
     return thing.is_in(SHOWING) and thing.is_in(VISIBLE)
 
 
+class Changes:
+    """What is told on the accessibility bus of one thing's state."""
+
+    def __init__(self, address: str, path: str, state: str) -> None:
+        self._told = f'string "{state}"'
+        rule = f"type='signal',interface='{EVENT}',member='StateChanged',path='{path}'"
+        self._monitor = running("dbus-monitor", "--address", address, rule, stdout=subprocess.PIPE, bufsize=0)
+
+    def __enter__(self) -> "Changes":
+        self._process = self._monitor.__enter__()
+        os.set_blocking(self._process.stdout.fileno(), False)
+        self._text = b""
+        # It has said what it is called itself once it listens.
+        eventually(lambda: "NameAcquired" in self._read(), "nobody listens")
+        return self
+
+    def __exit__(self, *error) -> None:
+        self._monitor.__exit__(*error)
+
+    def count(self) -> int:
+        return self._read().count(self._told)
+
+    def _read(self) -> str:
+        while more := self._process.stdout.read(4096):
+            self._text += more
+        return self._text.decode()
+
+
 class Screen:
     def __init__(self, session: Session, process_id: int) -> None:
+        self._address = session.accessibility_address()
         self._bus = session.accessibility_bus()
         self._process_id = process_id
 
@@ -79,6 +114,21 @@ class Screen:
 
     def button(self, name: str) -> Thing:
         return self._find(lambda thing: thing.role == "push button" and thing.name == name, f"button \"{name}\"")
+
+    def disabled(self, role: str = "push button") -> list[str]:
+        """The names of those of a role that show but cannot be pressed."""
+        return [thing.name for thing in self.things()
+                if thing.role == role and not (thing.is_in(ENABLED) and thing.is_in(SENSITIVE))]
+
+    def wait_for_disabled(self, names: list[str], role: str = "push button") -> None:
+        eventually(lambda: self.disabled(role) == names, lambda: f"disabled are {self.disabled(role)}; this shows: {self.texts()}")
+
+    def changes_of(self, name: str, state: str) -> "Changes":
+        """From now on, how often the button of that name is told to have changed in that state."""
+        # Qt tells only what somebody has asked for.
+        self._call("org.a11y.atspi.Registry", REGISTRY, "org.a11y.atspi.Registry", "RegisterEvent", "s", ("object:state-changed",))
+        time.sleep(1)
+        return Changes(self._address, self.button(name).path, state)
 
     def place(self, name: str) -> tuple[int, int, int, int]:
         """Where it is on the display: left, top, width and height."""

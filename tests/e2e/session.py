@@ -40,9 +40,11 @@ class Session:
     def has(self, name: str) -> bool:
         return bool(self.bus.name_has_owner(name))
 
+    def accessibility_address(self) -> str:
+        return str(self.bus.call_blocking("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", "", ()))
+
     def accessibility_bus(self) -> dbus.bus.BusConnection:
-        address = self.bus.call_blocking("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", "", ())
-        connection = dbus.bus.BusConnection(str(address))
+        connection = dbus.bus.BusConnection(self.accessibility_address())
         connection.set_exit_on_disconnect(False)
         return connection
 

@@ -99,7 +99,8 @@ def test_delete_takes_the_key_out_of_the_keyring_and_the_pages_off_the_window(sh
     sheet.wait_until_gone("API key saved")
     eventually(lambda: the_keyring.lookup() == b"", "the key is still in the keyring")
 
-    sheet.wait_for("No Status Pages")
+    # Behind the sheet, so it does not show yet.
+    eventually(lambda: "No Status Pages" in sheet.everything_said(), "the pages are still in the window")
 
     sheet.press("Done")
     sheet.wait_for(MISSING)

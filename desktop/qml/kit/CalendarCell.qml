@@ -16,7 +16,7 @@ Item {
     Accessible.selectable: true
     Accessible.selected: day.isChosen
     Accessible.focusable: true
-    Accessible.onPressAction: triggered()
+    Accessible.onPressAction: if (enabled) triggered()
 
     Rectangle {
         anchors.centerIn: parent

@@ -16,7 +16,7 @@ Item {
     activeFocusOnTab: true
     Accessible.name: text
     Accessible.focusable: activeFocusOnTab
-    Accessible.onPressAction: clicked()
+    Accessible.onPressAction: if (enabled) clicked()
     Keys.onSpacePressed: clicked()
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()

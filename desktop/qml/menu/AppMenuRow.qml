@@ -15,13 +15,14 @@ Item {
     // A row that waits to be used again is not drawn, but a screen reader would still meet it.
     ListView.onPooled: visible = false
     ListView.onReused: visible = true
+    enabled: row.isCommand
     implicitHeight: row.isSeparator ? Theme.unit + Theme.hairline : Theme.menuRowHeight
     Accessible.role: row.isSeparator ? Accessible.Separator : Accessible.MenuItem
     Accessible.name: row.title
     Accessible.description: row.help
     Accessible.focusable: row.isCommand
     Accessible.focused: isLit
-    Accessible.onPressAction: if (row.isCommand) triggered()
+    Accessible.onPressAction: if (enabled) triggered()
 
     Rectangle {
         visible: delegate.row.isSeparator
@@ -80,11 +81,9 @@ Item {
 
     HoverHandler {
         id: pointer
-        enabled: delegate.row.isCommand
         onHoveredChanged: if (hovered) delegate.entered()
     }
     TapHandler {
-        enabled: delegate.row.isCommand
         onTapped: delegate.triggered()
     }
     KitToolTip {

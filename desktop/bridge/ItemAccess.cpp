@@ -1,0 +1,126 @@
+#include "bridge/ItemAccess.h"
+
+#include <QAccessible>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+
+namespace larkspan::bridge {
+
+namespace {
+
+/// What all popups of the window stand in, each as a child; null while there is none.
+const QQuickItem* overlayOf(const QQuickWindow& window)
+{
+    const auto layers = window.contentItem()->childItems();
+    const auto overlay = std::ranges::find_if(layers, [](const auto* item) { return item->inherits("QQuickOverlay"); });
+    return overlay != layers.end() && (*overlay)->isVisible() ? *overlay : nullptr;
+}
+
+bool isModal(const QQuickItem& layer)
+{
+    // A popup owns the item that it shows.
+    return layer.isVisible() && layer.parent() && layer.parent()->property("modal").toBool();
+}
+
+/// Whether something modal is up that the item does not stand in, nor over.
+bool isCovered(const QQuickItem& item)
+{
+    const auto* const overlay = item.window() ? overlayOf(*item.window()) : nullptr;
+    if (!overlay) return false;
+    auto layers = overlay->childItems();
+    std::ranges::stable_sort(layers, {}, &QQuickItem::z);
+    std::ranges::reverse(layers);
+    const auto decisive = std::ranges::find_if(
+        layers, [&item](const auto* layer) { return layer == &item || layer->isAncestorOf(&item) || isModal(*layer); });
+    return decisive != layers.end() && *decisive != &item && !(*decisive)->isAncestorOf(&item);
+}
+
+/// Qt's own account of an item, completed.
+class ItemAccess final : public QAccessibleInterface {
+public:
+    /// `plain` is Qt's own, which Qt keeps and deletes together with the item, as this one.
+    ItemAccess(QQuickItem& item, QAccessibleInterface& plain)
+        : item_(item)
+        , plain_(plain)
+        , isToldByQt_(plain.state().disabled)
+        , news_(QObject::connect(&item, &QQuickItem::enabledChanged, &item, [this] { tellWhetherEnabled(); }))
+    {
+    }
+    ItemAccess(const ItemAccess&) = delete;
+    ItemAccess& operator=(const ItemAccess&) = delete;
+    ~ItemAccess() override { QObject::disconnect(news_); }
+
+    QAccessible::State state() const override
+    {
+        auto state = plain_.state();
+        if (!item_.isEnabled()) state.disabled = true;
+        if (isCovered(item_)) state.offscreen = true;
+        return state;
+    }
+
+    bool isValid() const override { return plain_.isValid(); }
+    QObject* object() const override { return &item_; }
+    QWindow* window() const override { return plain_.window(); }
+    QList<QPair<QAccessibleInterface*, QAccessible::Relation>> relations(QAccessible::Relation match) const override
+    {
+        return plain_.relations(match);
+    }
+    QAccessibleInterface* focusChild() const override { return plain_.focusChild(); }
+    QAccessibleInterface* childAt(int x, int y) const override { return plain_.childAt(x, y); }
+    QAccessibleInterface* parent() const override { return plain_.parent(); }
+    QAccessibleInterface* child(int index) const override { return plain_.child(index); }
+    int childCount() const override { return plain_.childCount(); }
+    int indexOfChild(const QAccessibleInterface* child) const override { return plain_.indexOfChild(child); }
+    QString text(QAccessible::Text kind) const override { return plain_.text(kind); }
+    void setText(QAccessible::Text kind, const QString& text) override { plain_.setText(kind, text); }
+    QRect rect() const override { return plain_.rect(); }
+    QAccessible::Role role() const override { return plain_.role(); }
+    QColor foregroundColor() const override { return plain_.foregroundColor(); }
+    QColor backgroundColor() const override { return plain_.backgroundColor(); }
+    void virtual_hook(int id, void* data) override { plain_.virtual_hook(id, data); }
+    void* interface_cast(QAccessible::InterfaceType type) override { return plain_.interface_cast(type); }
+
+private:
+    void tellWhetherEnabled()
+    {
+        // Qt 6.8 tells of it by itself.
+        if (!item_.isEnabled()) isToldByQt_ = plain_.state().disabled;
+        // One that is on its way out leaves its window first.
+        if (isToldByQt_ || !item_.window()) return;
+        QAccessible::State changed;
+        changed.disabled = true;
+        QAccessibleStateChangeEvent event(&item_, changed);
+        QAccessible::updateAccessibility(&event);
+    }
+
+    QQuickItem& item_;
+    QAccessibleInterface& plain_;
+    bool isToldByQt_;
+    QMetaObject::Connection news_;
+};
+
+/// What Qt is asked for its own account of.
+const QObject* declined = nullptr;
+
+QAccessibleInterface* accessOf(const QString& className, QObject* object)
+{
+    // Asked for each class that the object has, from its own down to `QObject`.
+    if (!object || object == declined || className != QLatin1String(object->metaObject()->className())) return nullptr;
+    auto* const item = qobject_cast<QQuickItem*>(object);
+    if (!item) return nullptr;
+    const QScopedValueRollback<const QObject*> declining(declined, object);
+    auto* const plain = QAccessible::queryAccessibleInterface(object);
+    return plain ? new ItemAccess(*item, *plain) : nullptr;
+}
+
+}  // namespace
+
+void tellAccessibilityWhatIsOutOfReach()
+{
+    QAccessible::installFactory(accessOf);
+}
+
+}  // namespace larkspan::bridge

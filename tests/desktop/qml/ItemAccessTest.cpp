@@ -1,0 +1,111 @@
+#include <QAccessible>
+
+#include <gtest/gtest.h>
+
+#include "KitWindow.h"
+#include "bridge/ItemAccess.h"
+
+namespace larkspan {
+
+namespace {
+
+/// A window with a button, and over it a sheet with one and an alert.
+class WhatAScreenReaderIsTold : public testing::Test, public KitWindow {
+protected:
+    WhatAScreenReaderIsTold()
+        : KitWindow(QStringLiteral(R"(
+            property bool isEnabled: true
+            property bool showsSheet: false
+            property bool showsAlert: false
+            property bool showsMenu: false
+            ScreenFrame {
+                anchors.fill: parent
+                title: "Screen"
+                Item {
+                    enabled: window.isEnabled
+                    CommandButton { objectName: "below"; text: "Below"; focus: true }
+                    Label { objectName: "words"; y: 100; text: "Words" }
+                }
+            }
+            PopupLoader {
+                isShown: window.showsSheet
+                onDismissed: window.showsSheet = false
+                sourceComponent: Sheet {
+                    title: "Sheet"
+                    CommandButton { objectName: "inSheet"; text: "In the sheet"; focus: true }
+                }
+            }
+            PopupLoader {
+                isShown: window.showsAlert
+                onDismissed: window.showsAlert = false
+                sourceComponent: ErrorAlert { objectName: "alert"; text: "It failed." }
+            }
+            KitMenu {
+                visible: window.showsMenu
+                KitMenuItem { objectName: "choice"; text: "Choice" }
+            })"))
+    {
+        bridge::tellAccessibilityWhatIsOutOfReach();
+    }
+
+    QAccessible::State stateOf(const char* name) const
+    {
+        return QAccessible::queryAccessibleInterface(&item(QString::fromLatin1(name)))->state();
+    }
+    bool isDisabled(const char* name) const { return stateOf(name).disabled; }
+    bool shows(const char* name) const { return !stateOf(name).offscreen && !stateOf(name).invisible; }
+};
+
+TEST_F(WhatAScreenReaderIsTold, AnItemIsDisabledWhileItOrWhatItStandsInIs)
+{
+    EXPECT_FALSE(isDisabled("below"));
+    setProperty("isEnabled", false);
+    EXPECT_TRUE(isDisabled("below"));
+    EXPECT_TRUE(isDisabled("words"));
+    setProperty("isEnabled", true);
+    EXPECT_FALSE(isDisabled("below"));
+}
+
+TEST_F(WhatAScreenReaderIsTold, WhatASheetCoversDoesNotShowUntilItIsGone)
+{
+    EXPECT_TRUE(shows("below"));
+    setProperty("showsSheet", true);
+    EXPECT_FALSE(shows("below"));
+    EXPECT_FALSE(shows("words"));
+    EXPECT_TRUE(shows("inSheet"));
+    setProperty("showsSheet", false);
+    EXPECT_TRUE(shows("below"));
+}
+
+TEST_F(WhatAScreenReaderIsTold, AnAlertCoversTheSheetBeneathIt)
+{
+    setProperty("showsSheet", true);
+    setProperty("showsAlert", true);
+    EXPECT_FALSE(shows("below"));
+    EXPECT_FALSE(shows("inSheet"));
+    setProperty("showsAlert", false);
+    EXPECT_TRUE(shows("inSheet"));
+}
+
+TEST_F(WhatAScreenReaderIsTold, AMenuOverASheetCoversNothing)
+{
+    setProperty("showsSheet", true);
+    setProperty("showsMenu", true);
+    EXPECT_TRUE(shows("choice"));
+    EXPECT_TRUE(shows("inSheet"));
+    EXPECT_FALSE(shows("below"));
+}
+
+TEST_F(WhatAScreenReaderIsTold, AnItemHasTheRoleTheNameTheActionsAndTheParentThatQtGivesIt)
+{
+    auto* const access = QAccessible::queryAccessibleInterface(&item(QStringLiteral("below")));
+    EXPECT_EQ(access->role(), QAccessible::Button);
+    EXPECT_EQ(access->text(QAccessible::Name), QStringLiteral("Below"));
+    EXPECT_TRUE(access->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
+    ASSERT_NE(access->parent(), nullptr);
+    EXPECT_EQ(access->parent()->child(access->parent()->indexOfChild(access)), access);
+}
+
+}  // namespace
+
+}  // namespace larkspan
