@@ -19,9 +19,16 @@ int ListModel::rowMeantBy(const QString& letters, int current) const
     const int start = std::max(current, -1) + (isOneLetter || current < 0 ? 1 : 0);
     for (int step = 0; step < count; ++step) {
         const int row = (start + step) % count;
-        if (titleOf(row).startsWith(wanted, Qt::CaseInsensitive)) return row;
+        if (!isHeading(row) && titleOf(row).startsWith(wanted, Qt::CaseInsensitive)) return row;
     }
     return -1;
+}
+
+int ListModel::stopFrom(int row, int direction) const
+{
+    const int count = rowCount();
+    while (row >= 0 && row < count && isHeading(row)) row += direction;
+    return row >= 0 && row < count ? row : -1;
 }
 
 }  // namespace larkspan::bridge

@@ -23,8 +23,13 @@ public:
     /// and the same one again, goes on from the row behind. The answer is -1 if there is none.
     Q_INVOKABLE int rowMeantBy(const QString& letters, int current) const;
 
+    /// The row, from `row` on in that direction, 1 or -1, at which the keyboard stops: headings are passed by. The
+    /// answer is -1 if there is none.
+    Q_INVOKABLE int stopFrom(int row, int direction) const;
+
 protected:
     virtual QString titleOf(int row) const = 0;
+    virtual bool isHeading(int row) const = 0;
 };
 
 }  // namespace larkspan::bridge

@@ -1,5 +1,6 @@
 #include "bridge/MessageBridge.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace larkspan::bridge {
@@ -17,6 +18,13 @@ void MessageBridge::show(const std::string& source)
     if (source_ == source) return;
     source_ = source;
     rows_.update(MessageEntry::entriesOf(incidents::MessageView::rowsOf(source)));
+    emit changed();
+}
+
+bool MessageBridge::takesKeys() const
+{
+    return std::ranges::any_of(rows_.rows(),
+        [](const MessageEntry& entry) { return !entry.row.text.links.empty() || !entry.row.cells.empty(); });
 }
 
 ConfirmationValue MessageBridge::linkConfirmation() const

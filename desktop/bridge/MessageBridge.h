@@ -23,6 +23,8 @@ class MessageBridge : public ScreenBridge {
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
     Q_PROPERTY(larkspan::bridge::ListModel* rows READ rows CONSTANT)
+    /// Whether there is a row in which a key does something: a link to open, a table to scroll.
+    Q_PROPERTY(bool takesKeys READ takesKeys NOTIFY changed)
     Q_PROPERTY(bool asksAboutLink READ asksAboutLink NOTIFY changed)
     Q_PROPERTY(larkspan::bridge::ConfirmationValue linkConfirmation READ linkConfirmation NOTIFY changed)
 
@@ -34,6 +36,7 @@ public:
     void show(const std::string& source);
 
     ListModel* rows() { return &rows_; }
+    bool takesKeys() const;
     bool asksAboutLink() const { return view_->linkInQuestion->has_value(); }
     ConfirmationValue linkConfirmation() const;
 

@@ -42,6 +42,14 @@ public:
 
 protected:
     QString titleOf(int row) const override { return words(rows_[static_cast<std::size_t>(row)].title); }
+    bool isHeading(int row) const override
+    {
+        if constexpr (requires(const Row& each) { each.isHeading; }) {
+            return rows_[static_cast<std::size_t>(row)].isHeading;
+        } else {
+            return false;
+        }
+    }
 
 private:
     static std::vector<std::string_view> idsOf(const std::vector<Row>& rows);

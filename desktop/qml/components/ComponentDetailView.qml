@@ -43,7 +43,7 @@ EditableDetailFrame {
         name: view.detail.title
         widest: Theme.columnWidth * Theme.scale
         focus: true
-        activeFocusOnTab: isScrollable && !view.isEditing
+        takesFocus: !view.isEditing
 
         Loader {
             width: parent.width

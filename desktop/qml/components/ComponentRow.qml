@@ -11,6 +11,7 @@ CardRow {
     name: row.title
     description: row.status.text
     isPressable: !row.isHeading
+    isStop: !row.isHeading
     hasDivider: row.followsComponent && !row.isHeading
     topPadding: row.isHeading ? gap : 0
     implicitHeight: row.isHeading ? heading.implicitHeight + gap + Theme.unit

@@ -97,7 +97,6 @@ Column {
             return false
         }
         Keys.onPressed: event => {
-            InputHand.isKeyboard = true
             event.accepted = !(event.modifiers & (Qt.AltModifier | Qt.ControlModifier)) && take(event)
         }
 

@@ -28,7 +28,7 @@ Item {
         border.color: Theme.accentOnCard
 
         FocusRing {
-            isShown: cell.activeFocus && InputHand.isKeyboard
+            holder: cell
         }
     }
     Label {
@@ -46,7 +46,6 @@ Item {
     TapHandler {
         id: tap
         onTapped: {
-            InputHand.isKeyboard = false
             cell.triggered()
             cell.forceActiveFocus(Qt.MouseFocusReason)
         }

@@ -1,5 +1,6 @@
 import QtQuick
 import Larkspan
+import Larkspan.Bridge
 
 // A row of a `CardList`: a list item for screen readers, with the ring of the keyboard and the line above it. What stands in it is read in the order in which it is written down.
 Item {
@@ -10,6 +11,8 @@ Item {
     property string description
     // Rows that only tell are met by the keyboard and the screen reader, and nothing happens when they are pressed.
     property bool isPressable: true
+    // What only parts the rows is passed by.
+    property bool isStop: true
     property bool hasDivider: true
     // What stands in the row, as wide as its padding leaves.
     required property Item contentItem
@@ -18,6 +21,9 @@ Item {
     property real leftPadding: 2 * Theme.unit - Theme.halfUnit
     property real rightPadding: leftPadding
     readonly property real implicitContentHeight: contentItem.implicitHeight
+    // How far the ring stands inside the row.
+    property real ringTop: Theme.halfUnit
+    property real ringBottom: Theme.halfUnit
     signal clicked
 
     width: ListView.view ? ListView.view.width - ListView.view.leftMargin - ListView.view.rightMargin : implicitWidth
@@ -30,21 +36,24 @@ Item {
         Accessible.ignored = false
     }
     // The current row has the focus within its list; a blank may belong to what is typed, so the list has the keys first.
+    activeFocusOnTab: isStop && ListView.isCurrentItem || activeFocus
     Keys.forwardTo: ListView.view ? [ListView.view] : []
     Accessible.role: Accessible.ListItem
     Accessible.name: name
     Accessible.description: description
-    Accessible.focusable: true
+    Accessible.focusable: isStop
     Accessible.onPressAction: clicked()
-    Accessible.focused: ListView.isCurrentItem && ListView.view.activeFocus
+    Accessible.focused: activeFocus
 
     Rectangle {
         z: -1
         anchors.fill: parent
         anchors.margins: Theme.halfUnit
+        anchors.topMargin: card.ringTop
+        anchors.bottomMargin: card.ringBottom
         radius: Theme.controlRadius
         color: tap.pressed ? Theme.pressed : pointer.hovered ? Theme.hover : "transparent"
-        border.width: InputHand.isKeyboard && card.Accessible.focused ? Theme.focusWidth : 0
+        border.width: InputHand.isKeyboard && card.activeFocus ? Theme.focusWidth : 0
         border.color: Theme.focus
     }
     Rectangle {

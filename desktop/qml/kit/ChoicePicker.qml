@@ -51,7 +51,7 @@ Pressable {
         color: Theme.secondary
     }
     FocusRing {
-        isShown: picker.visualFocus
+        holder: picker
         anchors.leftMargin: -Theme.unit
         anchors.rightMargin: -Theme.unit
     }

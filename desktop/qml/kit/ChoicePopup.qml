@@ -54,7 +54,6 @@ T.Popup {
         Keys.onEnterPressed: popup.choose(currentIndex)
         Keys.onSpacePressed: popup.choose(currentIndex)
         Keys.onPressed: event => {
-            InputHand.isKeyboard = true
             event.accepted = true
             if (event.key === Qt.Key_Home) currentIndex = 0
             else if (event.key === Qt.Key_End) currentIndex = count - 1

@@ -69,6 +69,6 @@ T.Button {
                 ColorAnimation { duration: Theme.quick }
             }
         }
-        FocusRing { isShown: button.visualFocus }
+        FocusRing { holder: button }
     }
 }

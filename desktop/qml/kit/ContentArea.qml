@@ -16,7 +16,8 @@ FocusScope {
         id: middle
         anchors.fill: parent
         visible: area.showsContent
-        focus: true
+        // What is hidden would keep the keyboard otherwise, and Tab would not lead away from it.
+        focus: area.showsContent
     }
 
     // Scrolls where a long sentence meets a small window.
@@ -38,6 +39,9 @@ FocusScope {
             onSettingsRequested: area.settingsRequested()
         }
 
+        Scrolling {
+            flickable: instead
+        }
         T.ScrollBar.vertical: SlimScrollBar {}
     }
 }

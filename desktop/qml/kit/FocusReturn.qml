@@ -1,22 +1,19 @@
 import QtQuick
-import QtQuick.Templates as T
 import Larkspan
 
-// Remembers who had the focus when something came up over it, and gives it back: with its ring if it had one.
+// Remembers who had the focus when something came up over it, and gives it back.
 QtObject {
     id: memory
     property Item holder: null
-    property int reason: Qt.OtherFocusReason
 
     function remember(item: Item) {
         // A row may have made room for another one by then, or not be the current one any more; its list knows.
         memory.holder = item instanceof CardRow ? item.ListView.view : item
-        memory.reason = item instanceof T.Control ? item["focusReason"] : Qt.OtherFocusReason
     }
 
     function giveBack() {
         const item = memory.holder
         memory.holder = null
-        if (item && item.visible && item.enabled) item.forceActiveFocus(memory.reason)
+        if (item && item.visible && item.enabled) item.forceActiveFocus(Qt.OtherFocusReason)
     }
 }

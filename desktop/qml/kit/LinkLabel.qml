@@ -1,5 +1,6 @@
 import QtQuick
 import Larkspan
+import Larkspan.Bridge
 
 // A text that leads out of the program.
 Pressable {
@@ -13,8 +14,8 @@ Pressable {
         anchors.fill: parent
         text: link.text
         color: Theme.accentOnCard
-        font.underline: link.hovered || link.visualFocus
+        font.underline: link.hovered || link.activeFocus && InputHand.isKeyboard
         Accessible.ignored: true
     }
-    FocusRing { isShown: link.visualFocus }
+    FocusRing { holder: link }
 }

@@ -66,6 +66,6 @@ T.Button {
         Behavior on color {
             ColorAnimation { duration: Theme.quick }
         }
-        FocusRing { isShown: row.visualFocus }
+        FocusRing { holder: row }
     }
 }

@@ -15,10 +15,6 @@ ModalDialog {
 
     contentItem: FocusScope {
         focus: true
-        Keys.onPressed: event => {
-            InputHand.isKeyboard = true
-            event.accepted = false
-        }
         Accessible.role: Accessible.Dialog
         Accessible.name: dialog.title
         Accessible.description: dialog.text

@@ -12,6 +12,7 @@ CardList {
 
     name: qsTr("Description")
     rows: message.rows
+    walksRows: message.takesKeys
     widest: Theme.columnWidth * Theme.scale
     delegate: MessageRow {
         offsets: tableOffsets

@@ -17,6 +17,9 @@ CardRow {
     hasDivider: false
     topPadding: row.gap + (index === 0 ? 2 * Theme.unit : 0)
     bottomPadding: index === ListView.view.count - 1 ? 2 * Theme.unit : 0
+    // Around the text, of which a row is no taller.
+    ringTop: topPadding - Theme.focusWidth
+    ringBottom: bottomPadding - Theme.focusWidth
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     onClicked: {
         if (row.text.linkCount === 0) return

@@ -10,7 +10,6 @@ Item {
     property real wordWidth: 0
     readonly property alias hovered: pointer.hovered
     readonly property alias down: tap.pressed
-    readonly property bool visualFocus: activeFocus && InputHand.isKeyboard
     signal clicked
 
     activeFocusOnTab: true

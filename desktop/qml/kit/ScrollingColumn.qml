@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Templates as T
 import Larkspan
+import Larkspan.Bridge
 
 // Things one below the other, which scroll where there is no room for all. Whatever the keyboard reaches is to be seen;
 // with the focus on the column itself, the arrows, the page keys, Home and End scroll.
@@ -12,42 +13,25 @@ Flickable {
     property real widest: Infinity
     default property alias content: column.data
     property alias spacing: column.spacing
-    readonly property bool isScrollable: contentHeight > height
-    readonly property Item focusedItem: Window.activeFocusItem
+    // Where it has things to read and not only things to reach.
+    property bool takesFocus: false
+    readonly property bool isStop: takesFocus && scrolling.isScrollable
 
+    activeFocusOnTab: isStop || activeFocus
     contentHeight: column.implicitHeight + 2 * Theme.margin
     boundsBehavior: Flickable.StopAtBounds
     clip: true
     Accessible.role: Accessible.Pane
     Accessible.name: name
     Accessible.ignored: name === ""
-    Accessible.focusable: activeFocusOnTab
-    onFocusedItemChanged: reveal(focusedItem)
-    onHeightChanged: reveal(focusedItem)
+    Accessible.focusable: isStop
+    onHeightChanged: scrolling.follow()
+    Keys.onPressed: event => { event.accepted = activeFocus && scrolling.take(event) }
 
-    function reveal(item: Item) {
-        let ancestor = item
-        while (ancestor && ancestor !== column) ancestor = ancestor.parent
-        if (!ancestor || height <= 0) return
-        const top = item.mapToItem(contentItem, 0, 0).y - Theme.margin
-        const bottom = top + item.height + 2 * Theme.margin
-        if (top < contentY) contentY = Math.max(0, top)
-        else if (bottom > contentY + height) contentY = Math.min(contentHeight, bottom) - height
+    Scrolling {
+        id: scrolling
+        flickable: scroller
     }
-
-    Keys.onPressed: event => {
-        const target = {
-            [Qt.Key_Up]: contentY - Theme.rowHeight,
-            [Qt.Key_Down]: contentY + Theme.rowHeight,
-            [Qt.Key_PageUp]: contentY - height + Theme.rowHeight,
-            [Qt.Key_PageDown]: contentY + height - Theme.rowHeight,
-            [Qt.Key_Home]: 0,
-            [Qt.Key_End]: contentHeight
-        }[event.key]
-        event.accepted = activeFocus && isScrollable && target !== undefined && event.modifiers === Qt.NoModifier
-        if (event.accepted) contentY = Math.max(0, Math.min(target, contentHeight - height))
-    }
-
     Column {
         id: column
         width: Math.min(scroller.width - 2 * Theme.margin, scroller.widest)
@@ -55,13 +39,12 @@ Flickable {
         y: Theme.margin
         spacing: 2 * Theme.unit
     }
-    Rectangle {
+    FocusRing {
         parent: scroller
-        anchors.fill: parent
-        visible: scroller.activeFocus && scroller.isScrollable && InputHand.isKeyboard
-        color: "transparent"
-        border.width: Theme.focusWidth
-        border.color: Theme.focus
+        holder: scroller
+        visible: scroller.activeFocus && scroller.isStop && InputHand.isKeyboard
+        anchors.margins: 0
+        radius: 0
     }
 
     T.ScrollBar.vertical: SlimScrollBar {}

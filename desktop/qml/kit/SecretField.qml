@@ -16,6 +16,7 @@ T.TextField {
     passwordMaskDelay: 0
     inputMethodHints: Qt.ImhSensitiveData | Qt.ImhHiddenText | Qt.ImhNoAutoUppercase | Qt.ImhNoPredictiveText
     selectByMouse: true
+    clip: true
     color: Theme.text
     selectionColor: Theme.accent
     selectedTextColor: Theme.accentText

@@ -34,7 +34,7 @@ Rectangle {
         if (event.accepted && segment >= 0 && segment < segments.length) chosen(segment)
     }
 
-    FocusRing { isShown: picker.activeFocus && InputHand.isKeyboard }
+    FocusRing { holder: picker }
     Row {
         anchors.fill: parent
         anchors.margins: Theme.halfUnit

@@ -27,7 +27,6 @@ ModalDialog {
     contentItem: FocusScope {
         focus: true
         Keys.onPressed: event => {
-            InputHand.isKeyboard = true
             event.accepted = !sheet.closesByItself && event.key === Qt.Key_Escape
             if (event.accepted && !sheet.isBusy) sheet.closeRequested()
         }

@@ -11,6 +11,7 @@ T.TextField {
     leftPadding: Theme.unit + Theme.halfUnit
     rightPadding: leftPadding
     selectByMouse: true
+    clip: true
     color: Theme.text
     selectionColor: Theme.accent
     selectedTextColor: Theme.accentText

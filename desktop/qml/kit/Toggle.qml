@@ -42,9 +42,10 @@ Pressable {
                 NumberAnimation { duration: Theme.quick; easing.type: Easing.OutCubic }
             }
         }
-        FocusRing {
-            isShown: toggle.visualFocus
-            radius: height / 2
-        }
+    }
+    FocusRing {
+        holder: toggle
+        anchors.leftMargin: -Theme.unit
+        anchors.rightMargin: -Theme.unit
     }
 }

@@ -48,7 +48,7 @@ T.Button {
         Behavior on color {
             ColorAnimation { duration: Theme.quick }
         }
-        FocusRing { isShown: button.visualFocus }
+        FocusRing { holder: button }
     }
 
     KitToolTip {

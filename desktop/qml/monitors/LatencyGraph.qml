@@ -26,7 +26,6 @@ Item {
     Keys.onPressed: event => {
         // With a modifier a key belongs to the window: Alt+Left is the way back.
         event.accepted = !(event.modifiers & ~Qt.KeypadModifier) && plot.move(event.key)
-        if (event.accepted) InputHand.isKeyboard = true
     }
 
     Rectangle {
@@ -53,14 +52,13 @@ Item {
         height: parent.height
         color: Qt.alpha(Theme.secondary, Theme.ruleOpacity)
     }
-    FocusRing { isShown: view.activeFocus && InputHand.isKeyboard }
+    FocusRing { holder: view }
 
     MouseArea {
         anchors.fill: parent
         // The list below may not take a drag for its own.
         preventStealing: true
         onPressed: mouse => {
-            InputHand.isKeyboard = false
             view.forceActiveFocus(Qt.MouseFocusReason)
             plot.point(mouse.x)
         }

@@ -21,7 +21,9 @@ ScreenFrame {
         anchors.fill: parent
         widest: Theme.columnWidth * Theme.scale
         spacing: Theme.margin
+        name: view.title
         focus: true
+        takesFocus: true
 
         RecordHeader {
             width: parent.width

@@ -9,6 +9,7 @@ CardRow {
     name: row.title
     description: row.caption
     isPressable: false
+    isStop: false
 
     contentItem: Item {
         implicitHeight: words.implicitHeight

@@ -9,6 +9,17 @@ ScreenFrame {
 
     title: page.title
     canGoBack: true
+    // The overview is read, the lists of the other tabs are worked in.
+    readonly property int overviewTab: 0
+    function enter(tab: int) {
+        view.page.select(tab)
+        takeFocus()
+    }
+    function takeFocus() {
+        if (view.page.selectedTab === overviewTab) picker.forceActiveFocus(Qt.ShortcutFocusReason)
+        else screen.forceActiveFocus(Qt.ShortcutFocusReason)
+    }
+
     trailing: [
         ToolbarButton {
             visible: view.page.incidents !== null
@@ -32,19 +43,19 @@ ScreenFrame {
         name: view.page.pickerLabel
         segments: view.page.tabs
         selected: view.page.selectedTab
-        onChosen: segment => view.page.select(segment)
+        focus: true
+        onChosen: segment => InputHand.isKeyboard ? view.page.select(segment) : view.enter(segment)
     }
 
     Loader {
         id: screen
         anchors.fill: parent
         anchors.topMargin: picker.height + 2 * picker.y
-        focus: true
         sourceComponent: view.page.incidents ? incidents
             : view.page.monitors ? monitors
             : view.page.components ? components
             : view.page.maintenances ? maintenances
-            : view.page.selectedTab === 0 ? overview : null
+            : view.page.selectedTab === view.overviewTab ? overview : null
         onLoaded: item.focus = true
     }
     Component {
@@ -102,12 +113,18 @@ ScreenFrame {
     Shortcut {
         sequences: ["Ctrl+PgDown"]
         enabled: view.enabled
-        onActivated: view.page.selectNext()
+        onActivated: {
+            view.page.selectNext()
+            view.takeFocus()
+        }
     }
     Shortcut {
         sequences: ["Ctrl+PgUp"]
         enabled: view.enabled
-        onActivated: view.page.selectPrevious()
+        onActivated: {
+            view.page.selectPrevious()
+            view.takeFocus()
+        }
     }
     Instantiator {
         model: view.page.tabs.length
@@ -115,7 +132,7 @@ ScreenFrame {
             required property int index
             sequence: "Ctrl+" + (index + 1)
             enabled: view.enabled
-            onActivated: view.page.select(index)
+            onActivated: view.enter(index)
         }
     }
 }

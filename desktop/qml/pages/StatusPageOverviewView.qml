@@ -9,6 +9,7 @@ CardList {
 
     rows: page.activity
     name: qsTr("Current Activity")
+    walksRows: false
     widest: Theme.columnWidth * Theme.scale
 
     above: Column {

@@ -83,7 +83,8 @@ private:
         text.painted = item.mapRectToScene(paintedIn(item));
         text.seen = text.painted;
         bool scrollsDown = false;
-        bool scrollsAcross = scrollsItself(item);
+        text.scrollsItself = scrollsItself(item);
+        bool scrollsAcross = text.scrollsItself;
         for (const auto* each = &item; each; each = each->parentItem()) {
             if (each->property("floats").toBool()) text.floating = each;
             if (each->inherits("QQuickOverlay")) text.layer = layerIn(*each, item);

@@ -19,6 +19,8 @@ struct ShownText {
     QRectF seen{};
     /// What of it no scrolling can bring into sight, in words; empty as it should be.
     QString cut{};
+    /// A field's own, which goes under the field's frame where it is longer.
+    bool scrollsItself = false;
     /// The item that it floats in over what stands below, if it does so by design.
     const QQuickItem* floating = nullptr;
     /// The popup that it stands in, or the window itself.

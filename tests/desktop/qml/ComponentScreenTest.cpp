@@ -21,17 +21,32 @@ TEST_F(ComponentsOnScreen, AreRowsUnderTheHeadingsOfTheirSections)
     EXPECT_TRUE(names(Role::StaticText).contains(QStringLiteral("Serves all.")));
 }
 
-TEST_F(ComponentsOnScreen, AHeadingIsMetByTheKeyboardAndOpensNothing)
+TEST_F(ComponentsOnScreen, AHeadingIsPassedByWhicheverKeyGoesThroughTheRows)
 {
-    auto& list = item(Role::List, QStringLiteral("Components"));
-    list.forceActiveFocus(Qt::TabFocusReason);
-    press(Qt::Key_Home);
-    press(Qt::Key_Return);
-    EXPECT_FALSE(isOpen());
+    item(Role::List, QStringLiteral("Components")).forceActiveFocus(Qt::TabFocusReason);
+    QStringList met{focused()};
+    for (const auto key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_End, Qt::Key_Home, Qt::Key_E,
+             Qt::Key_PageDown, Qt::Key_PageUp}) {
+        press(key);
+        met << focused();
+    }
+    EXPECT_EQ(met,
+        (QStringList{"REST API", "Worker", "Site", "Old", "Site", "Old", "REST API", "REST API", "Old", "REST API"}));
+}
+
+TEST_F(ComponentsOnScreen, AHeadingInTheCurrentRowsPlaceIsPassedByToo)
+{
+    item(Role::List, QStringLiteral("Components")).forceActiveFocus(Qt::TabFocusReason);
     press(Qt::Key_Down);
-    press(Qt::Key_Space);
-    EXPECT_TRUE(isOpen());
-    EXPECT_TRUE(shows(QStringLiteral("REST API")));
+    EXPECT_EQ(focused(), QStringLiteral("Worker"));
+    serve({component("1", "REST API", inGroup("core")), component("2", "Worker", inGroup("edge"))});
+    press(Qt::Key_F5);
+    for (const auto key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+        for (int step = 0; step < 6; ++step) {
+            press(key);
+            EXPECT_NE(QAccessible::queryAccessibleInterface(window().activeFocusItem())->role(), Role::Heading);
+        }
+    }
 }
 
 TEST_F(ComponentsOnScreen, ThatCannotBeFetchedAreToldInAnAlertAndInTheBodyAndThenThereAreNone)

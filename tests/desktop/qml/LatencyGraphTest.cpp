@@ -199,7 +199,7 @@ TEST_F(LatencyGraphOnScreen, HasARingForTheKeyboardAndNoneForThePointer)
 {
     const auto hasRing = [this] {
         return std::ranges::any_of(graph().childItems(),
-            [](const QQuickItem* child) { return child->property("isShown").toBool() && child->isVisible(); });
+            [](const QQuickItem* child) { return child->property("holder").isValid() && child->isVisible(); });
     };
     press(100);
     release(100);

@@ -124,15 +124,28 @@ TEST_F(PageOnScreen, TheArrowsOfThePickerAndAClickChooseATab)
     EXPECT_EQ(selectedTab(), QStringLiteral("Components"));
 }
 
-TEST_F(PageOnScreen, TheKeyboardReachesBackPickerAndContentInTheirOrder)
+TEST_F(PageOnScreen, OpensWithTheKeyboardOnThePickerAndTabGoesDownFromThere)
 {
-    item(Role::Button, QStringLiteral("Back")).forceActiveFocus(Qt::TabFocusReason);
-    QStringList order;
-    for (int step = 0; step < 4; ++step) {
+    QStringList order{focused()};
+    for (int step = 0; step < 3; ++step) {
         press(Qt::Key_Tab);
         order << focused();
     }
-    EXPECT_EQ(order, (QStringList{"View", "Login errors", "status.acme.example", "Back"}));
+    EXPECT_EQ(order, (QStringList{"View", "Current Activity", "status.acme.example", "Back"}));
+}
+
+TEST_F(PageOnScreen, ItsOverviewIsScrolledByTheKeyboardWhereItIsLongerThanTheWindow)
+{
+    window().resize(480, 440);
+    settle();
+    press(Qt::Key_Tab);
+    const auto& list = item(Role::List, QStringLiteral("Current Activity"));
+    EXPECT_EQ(window().activeFocusItem(), &item(Role::Pane, QStringLiteral("Current Activity")));
+    const auto begin = list.property("contentY").toReal();
+    press(Qt::Key_End);
+    EXPECT_GT(list.property("contentY").toReal(), begin);
+    press(Qt::Key_Home);
+    EXPECT_EQ(list.property("contentY").toReal(), begin);
 }
 
 TEST_F(PageOnScreen, EscapeLeadsBackToItsRow)

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+namespace larkspan::bridge {
+
+/// Whether the user works with the keyboard now: what was pressed last, in whatever window, sheet or menu. The ring
+/// shows to those who do.
+class InputHand : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(bool isKeyboard READ isKeyboard NOTIFY isKeyboardChanged)
+
+public:
+    explicit InputHand(QObject* parent = nullptr);
+
+    bool isKeyboard() const { return isKeyboard_; }
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
+signals:
+    void isKeyboardChanged();
+
+private:
+    void follow(bool isKeyboard);
+
+    bool isKeyboard_ = false;
+};
+
+}  // namespace larkspan::bridge

@@ -1,0 +1,52 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// Lets the keyboard scroll something, and brings into sight what it reaches there.
+QtObject {
+    id: scrolling
+    required property Flickable flickable
+    // Where texts are selected with the pointer, what it presses stays where it is.
+    property bool followsPointer: true
+    // What stays free around what is brought into sight.
+    property real margin: Theme.margin
+    readonly property real begin: flickable.originY - flickable.topMargin
+    readonly property real end: Math.max(begin, flickable.originY + flickable.contentHeight + flickable.bottomMargin - flickable.height)
+    readonly property bool isScrollable: flickable.height > 0 && end - begin >= 1
+    readonly property Item focusedItem: flickable.Window.activeFocusItem
+
+    onFocusedItemChanged: follow()
+    function follow() {
+        if (followsPointer || InputHand.isKeyboard) reveal(focusedItem)
+    }
+    function isWithin(item: Item, whole: Item): bool {
+        let ancestor = item
+        while (ancestor && ancestor !== whole) ancestor = ancestor.parent
+        return ancestor !== null
+    }
+    function reveal(item: Item) {
+        if (flickable.height <= 0 || item instanceof ListReader || !isWithin(item, flickable.contentItem)) return
+        const free = item instanceof CardRow ? 0 : margin
+        const top = item.mapToItem(flickable.contentItem, 0, 0).y - free
+        const bottom = top + item.height + 2 * free
+        if (top < flickable.contentY) move(top)
+        else if (bottom > flickable.contentY + flickable.height) move(Math.min(top, bottom - flickable.height))
+    }
+    // Says whether the key was one of these.
+    function take(event: KeyEvent): bool {
+        const target = {
+            [Qt.Key_Up]: flickable.contentY - Theme.rowHeight,
+            [Qt.Key_Down]: flickable.contentY + Theme.rowHeight,
+            [Qt.Key_PageUp]: flickable.contentY - flickable.height + Theme.rowHeight,
+            [Qt.Key_PageDown]: flickable.contentY + flickable.height - Theme.rowHeight,
+            [Qt.Key_Home]: begin,
+            [Qt.Key_End]: end
+        }[event.key]
+        const isTaken = isScrollable && target !== undefined && event.modifiers === Qt.NoModifier
+        if (isTaken) move(target)
+        return isTaken
+    }
+    function move(place: real) {
+        flickable.contentY = Math.max(begin, Math.min(place, end))
+    }
+}
