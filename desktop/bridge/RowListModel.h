@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
-#include <numeric>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -141,10 +140,7 @@ template <typename Value>
 void RowListModel<Value>::sortAtOnce(std::vector<std::size_t>& places)
 {
     emit layoutAboutToBeChanged({}, VerticalSortHint);
-    std::vector<std::size_t> order(places.size());
-    std::iota(order.begin(), order.end(), std::size_t{0});
-    std::ranges::sort(order, {}, [&places](auto row) { return places[row]; });
-
+    const auto order = ascending(places);
     std::vector<Row> sorted{};
     sorted.reserve(order.size());
     std::vector<int> newRow(order.size());
@@ -153,7 +149,7 @@ void RowListModel<Value>::sortAtOnce(std::vector<std::size_t>& places)
         newRow[order[row]] = static_cast<int>(row);
     }
     rows_ = std::move(sorted);
-    std::ranges::sort(places);
+    places = placesInOrder(places, order);
     for (const auto& held : persistentIndexList()) {
         changePersistentIndex(held, index(newRow[static_cast<std::size_t>(held.row())]));
     }

@@ -2,27 +2,32 @@
 
 #include <algorithm>
 #include <iterator>
+#include <numeric>
 #include <unordered_map>
+#include <utility>
 
 namespace larkspan::bridge {
 
 std::vector<std::optional<std::size_t>> wantedPlaces(
     const std::vector<std::string_view>& held, const std::vector<std::string_view>& wanted)
 {
-    struct Occurrences {
-        std::vector<std::size_t> places;
-        std::size_t taken = 0;
-    };
-    std::unordered_map<std::string_view, Occurrences> byId;
-    byId.reserve(wanted.size());
-    for (std::size_t place = 0; place < wanted.size(); ++place) byId[wanted[place]].places.push_back(place);
+    constexpr auto none = static_cast<std::size_t>(-1);
+    // The first place of each id that is not taken yet, and behind each place the next of its id.
+    std::unordered_map<std::string_view, std::size_t> first;
+    std::vector<std::size_t> next(wanted.size(), none);
+    first.reserve(wanted.size());
+    for (auto place = wanted.size(); place-- > 0;) {
+        const auto [known, isNew] = first.try_emplace(wanted[place], place);
+        if (!isNew) next[place] = std::exchange(known->second, place);
+    }
 
     std::vector<std::optional<std::size_t>> places;
     places.reserve(held.size());
     for (const auto id : held) {
-        const auto found = byId.find(id);
-        const bool isWanted = found != byId.end() && found->second.taken < found->second.places.size();
-        places.push_back(isWanted ? std::optional(found->second.places[found->second.taken++]) : std::nullopt);
+        const auto found = first.find(id);
+        const bool isWanted = found != first.end() && found->second != none;
+        places.push_back(isWanted ? std::optional(found->second) : std::nullopt);
+        if (isWanted) found->second = next[found->second];
     }
     return places;
 }
@@ -66,6 +71,22 @@ std::vector<bool> longestRun(const std::vector<std::size_t>& places)
     std::vector<bool> isInRun(places.size(), false);
     for (auto at = ends.empty() ? none : ends.back(); at != none; at = before[at]) isInRun[at] = true;
     return isInRun;
+}
+
+std::vector<std::size_t> ascending(const std::vector<std::size_t>& places)
+{
+    std::vector<std::size_t> order(places.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::ranges::sort(order, {}, [&places](auto row) { return places[row]; });
+    return order;
+}
+
+std::vector<std::size_t> placesInOrder(const std::vector<std::size_t>& places, const std::vector<std::size_t>& order)
+{
+    std::vector<std::size_t> sorted;
+    sorted.reserve(order.size());
+    for (const auto element : order) sorted.push_back(places[element]);
+    return sorted;
 }
 
 std::ptrdiff_t placeInRun(const std::vector<std::size_t>& places, const std::vector<bool>& isInRun, std::size_t place)

@@ -16,6 +16,12 @@ std::vector<std::optional<std::size_t>> wantedPlaces(
 /// Marks the most places that are in ascending order already; whatever is not marked has to move.
 std::vector<bool> longestRun(const std::vector<std::size_t>& places);
 
+/// Where each element is now that comes to stand first, second and so on once `places` are in ascending order.
+std::vector<std::size_t> ascending(const std::vector<std::size_t>& places);
+
+/// `places` in that order.
+std::vector<std::size_t> placesInOrder(const std::vector<std::size_t>& places, const std::vector<std::size_t>& order);
+
 /// Where the element that is wanted at `place` goes to stand in the run: before the element that is there now.
 std::ptrdiff_t placeInRun(const std::vector<std::size_t>& places, const std::vector<bool>& isInRun, std::size_t place);
 

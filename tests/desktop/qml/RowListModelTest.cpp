@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <ctime>
 #include <random>
 #include <string>
 #include <vector>
@@ -222,10 +223,11 @@ TEST(RowListOfAHundredThousand, IsPatchedInAMomentWhateverChanged)
 
     for (const auto& wanted : {shuffled, moved, thinned, ids, spread}) {
         auto rows = rowsOf(wanted);
-        QElapsedTimer timer;
-        timer.start();
+        // Of the processor's time, since other tests run beside this one.
+        const auto begin = std::clock();
         model.update(std::move(rows));
-        EXPECT_LT(timer.elapsed(), 3'000) << "a thirtieth of it on an idle machine; a row at a time it was 48 seconds";
+        EXPECT_LT(static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC, 3.0)
+            << "a thirtieth of it with optimisation; a row at a time it was 48 seconds";
         EXPECT_EQ(model.rowCount(), static_cast<int>(wanted.size()));
         EXPECT_EQ(valueAt(model, 1).id.toStdString(), wanted[1]);
     }
