@@ -57,7 +57,6 @@ EditableDetailFrame {
             width: parent.width
             active: view.isEditing
             visible: active
-            enabled: !view.detail.isBusy
             sourceComponent: ComponentEditor {
                 detail: view.detail
             }

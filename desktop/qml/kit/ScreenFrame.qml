@@ -3,7 +3,7 @@ import Larkspan
 import Larkspan.Bridge
 
 // A screen of the window: its header, and below it what it shows or, where there is nothing to show, the placeholder.
-// While an action of it runs, nothing in it can be pressed; an action that fails ends in the alert.
+// While an action of it runs, it takes neither a press nor a key; an action that fails ends in the alert.
 FocusScope {
     id: frame
     required property string title
@@ -23,8 +23,12 @@ FocusScope {
     signal settingsRequested
     signal alertDismissed
 
+    // The overlay has the pointer; without anything beneath it that is enabled, the keyboard is the frame's.
+    Keys.onPressed: event => { event.accepted = isBusy }
+
     HeaderBar {
         id: header
+        enabled: !frame.isBusy
         width: parent.width
         z: 1
         title: frame.title
@@ -34,6 +38,7 @@ FocusScope {
         id: area
         anchors.fill: parent
         anchors.topMargin: header.height
+        enabled: !frame.isBusy
         focus: true
         onRetried: frame.retried()
         onSettingsRequested: frame.settingsRequested()

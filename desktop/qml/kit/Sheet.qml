@@ -27,8 +27,9 @@ ModalDialog {
     contentItem: FocusScope {
         focus: true
         Keys.onPressed: event => {
-            event.accepted = !sheet.closesByItself && event.key === Qt.Key_Escape
-            if (event.accepted && !sheet.isBusy) sheet.closeRequested()
+            const leads = !sheet.closesByItself && event.key === Qt.Key_Escape
+            event.accepted = leads || sheet.isBusy
+            if (leads && !sheet.isBusy) sheet.closeRequested()
         }
         Accessible.role: Accessible.Dialog
         Accessible.name: sheet.title
@@ -37,6 +38,7 @@ ModalDialog {
             id: bar
             width: parent.width
             color: "transparent"
+            enabled: !sheet.isBusy
             title: sheet.title
         }
 

@@ -40,7 +40,6 @@ EditableDetailFrame {
     Loader {
         anchors.fill: parent
         active: view.maintenance.isEditing
-        enabled: !view.maintenance.isBusy
         focus: active
         onItemChanged: if (!item) list.forceActiveFocus(Qt.OtherFocusReason)
         sourceComponent: MaintenanceEditor {

@@ -55,26 +55,22 @@ TEST_F(IncidentsClosedInMidRequest, ATabThatIsLeftWhileItLoadsFetchesAnewWhenItI
     EXPECT_EQ(names(Role::ListItem), QStringList{"Login errors"});
 }
 
-TEST_F(IncidentsClosedInMidRequest, AnIncidentThatIsLeftWhileItIsWorkedOnStaysClosedAndItsListIsFetchedAgain)
+TEST_F(IncidentsClosedInMidRequest, AnIncidentThatIsLeftByThePanelWhileItIsWorkedOnStaysClosedAndTellsNobodyOfARefusal)
 {
-    openFirst();
-    transport.script(incidentURL, 200, incident("1", "Login errors", R"(, "acknowledged_at": "x")"));
-    choose("Acknowledge");
-    press(Qt::Key_Escape);
-    EXPECT_EQ(names(Role::ListItem), (QStringList{"Login errors", "Slow checkout"}));
-    serve({incident("2", "Slow checkout")});
-    answer(200, "{}");
-    EXPECT_EQ(names(Role::ListItem), QStringList{"Slow checkout"});
-}
-
-TEST_F(IncidentsClosedInMidRequest, AnIncidentThatIsLeftWhileItIsRefusedTellsNobody)
-{
-    openFirst();
-    choose("Escalate");
-    press(Qt::Key_Escape);
-    answer(409, "");
-    EXPECT_EQ(names(Role::ListItem), (QStringList{"Login errors", "Slow checkout"}));
-    EXPECT_TRUE(names(Role::Dialog).isEmpty());
+    servePages({"a", "b"}, {});
+    refresh();
+    for (const int status : {200, 409}) {
+        state->openStatusPage("a");
+        settle();
+        press(Qt::Key_2, Qt::ControlModifier);
+        openFirst();
+        choose("Escalate");
+        state->openStatusPage("b");
+        answer(status, "");
+        EXPECT_TRUE(names(Role::Heading).contains(QStringLiteral("b")));
+        EXPECT_TRUE(names(Role::Dialog).isEmpty());
+        EXPECT_TRUE(names(Role::ProgressBar).isEmpty());
+    }
 }
 
 TEST_F(IncidentsClosedInMidRequest, AnIncidentWhosePageGoesWhileItIsWorkedOnTellsHowThatEndsAndGoesWithTheNextCycle)

@@ -199,14 +199,24 @@ TEST_F(MonitorsOnScreen, ItsURLIsLabelledInSmallLettersAndWhatElseIsKnownIsNot)
     for (const auto* const text : {"Interval", "300s"}) EXPECT_NEAR(sizeOf(text), 1, 0.001) << text;
 }
 
-TEST_F(MonitorsOnScreen, EachScreenCanBeLeftInMidRequest)
+TEST_F(MonitorsOnScreen, WhileAnActionRunsOnItsOwnScreenNoKeyLeavesIt)
+{
+    choose("Monitor Details");
+    choose("Run Check");
+    for (const auto key : {Qt::Key_Tab, Qt::Key_Return, Qt::Key_Escape}) press(key);
+    EXPECT_TRUE(shows(QStringLiteral("Monitor Details")));
+    transport.answer(HttpResponse{.status = 500, .body = ""});
+    settle();
+    press(Qt::Key_Escape);
+    EXPECT_EQ(focused(), QStringLiteral("Run Check"));
+    press(Qt::Key_Escape);
+    EXPECT_EQ(names(Role::ListItem), (QStringList{"Gateway", "Mail"}));
+}
+
+TEST_F(MonitorsOnScreen, TheListAndItsPageCanBeLeftInMidRequest)
 {
     choose("Show latency graph");
     choose("Check Now");
-    choose("Monitor Details");
-    choose("Run Check");
-    press(Qt::Key_Escape);
-    EXPECT_EQ(names(Role::ListItem), (QStringList{"Gateway", "Mail"}));
     press(Qt::Key_Escape);
     EXPECT_TRUE(names(Role::List).contains(QStringLiteral("Status Pages")));
     while (!transport.pending.empty()) {
