@@ -2,6 +2,7 @@
 
 #include <QQmlEngine>
 
+#include <algorithm>
 #include <utility>
 
 namespace larkspan::bridge {
@@ -28,9 +29,20 @@ MonitorMetricsBridge* MonitorListBridge::metricsOf(const QString& id) const
 void MonitorListBridge::readState()
 {
     ListBridge::readState();
+    closeRowsThatLeft();
     followOpenedRows();
     rows_.update(view_->rows());
     detail_.follow(view_->detail(), updates());
+}
+
+void MonitorListBridge::closeRowsThatLeft()
+{
+    const auto hasLeft
+        = [this](const monitors::MonitorRow& row) { return row.isOpen && !view_->rowViews().contains(row.id); };
+    if (std::ranges::none_of(rows_.rows(), hasLeft)) return;
+    auto rows = rows_.rows();
+    for (auto& row : rows) row.isOpen = row.isOpen && !hasLeft(row);
+    rows_.update(std::move(rows));
 }
 
 void MonitorListBridge::followOpenedRows()

@@ -52,6 +52,8 @@ private:
     };
 
     void readState() override;
+    // Before what they show goes with them.
+    void closeRowsThatLeft();
     void followOpenedRows();
 
     std::shared_ptr<monitors::StatusPageMonitorsView> view_;

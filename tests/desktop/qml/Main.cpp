@@ -1,14 +1,21 @@
 #include <QAccessible>
 #include <QGuiApplication>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
+#include "Warnings.h"
 #include "qml/Renderer.h"
 
 int main(int argc, char** argv)
 {
     testing::InitGoogleTest(&argc, argv);
+    // What Qt says of the environment would be no word about the program.
+    const QTemporaryDir runtime;
+    qputenv("XDG_RUNTIME_DIR", runtime.path().toUtf8());
+    qputenv("LC_ALL", "C.UTF-8");
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    larkspan::Warnings::watch();
     larkspan::chooseRenderer();
     const QGuiApplication application(argc, argv);
     QAccessible::setActive(true);

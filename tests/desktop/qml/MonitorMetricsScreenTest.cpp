@@ -75,6 +75,21 @@ TEST_F(MonitorsOnScreen, MetricsThatFailSayWhyInTheRowAndAreTriedAgain)
     EXPECT_TRUE(shows(QStringLiteral("Frankfurt")));
 }
 
+TEST_F(MonitorsOnScreen, OneThatLeavesTheListWhileItsMetricsAreOpenTakesThemAlong)
+{
+    transport.script(metricsURL, 200, day);
+    choose("Show latency graph");
+    serve({monitor("2", "Mail", paused)});
+    press(Qt::Key_F5);
+    EXPECT_EQ(names(Role::ListItem), QStringList{"Mail"});
+    EXPECT_FALSE(shows(QStringLiteral("Frankfurt")));
+
+    serve({monitor("1", "Gateway"), monitor("2", "Mail", paused)});
+    press(Qt::Key_F5);
+    EXPECT_EQ(names(Role::ListItem), (QStringList{"Gateway", "Mail"}));
+    EXPECT_FALSE(shows(QStringLiteral("Frankfurt"))) << "it is closed";
+}
+
 TEST_F(MonitorsOnScreen, ARowThatScrollsOutOfSightAndBackKeepsItsMetricsAndStaysOpen)
 {
     Lines many;
