@@ -32,12 +32,28 @@ void MenuBridge::show(std::function<void(const MenuRow& row)> perform)
 
 void MenuBridge::setMenu(const std::vector<MenuRow>& rows)
 {
-    std::vector<MenuEntry> entries;
-    entries.reserve(rows.size() + 2);
-    std::ranges::transform(rows, std::back_inserter(entries), MenuEntry::of);
-    entries.push_back(MenuEntry::of(MenuRow{}));
-    entries.push_back(MenuEntry::of(aboutRow()));
-    rows_.update(std::move(entries));
+    wanted_.clear();
+    wanted_.reserve(rows.size() + 2);
+    std::ranges::transform(rows, std::back_inserter(wanted_), MenuEntry::of);
+    wanted_.push_back(MenuEntry::of(MenuRow{}));
+    wanted_.push_back(MenuEntry::of(aboutRow()));
+    follow();
+}
+
+void MenuBridge::setOpen(bool isOpen)
+{
+    isOpen_ = isOpen;
+    follow();
+}
+
+void MenuBridge::follow()
+{
+    if (!isOpen_ || hasSameRows(wanted_)) rows_.update(wanted_);
+}
+
+bool MenuBridge::hasSameRows(const std::vector<MenuEntry>& entries) const
+{
+    return std::ranges::equal(rows_.rows(), entries, {}, &MenuEntry::id, &MenuEntry::id);
 }
 
 bool MenuBridge::isCommand(int place) const

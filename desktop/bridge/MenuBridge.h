@@ -6,6 +6,7 @@
 #include <functional>
 #include <vector>
 
+#include "bridge/MenuEntry.h"
 #include "bridge/RowListModel.h"
 #include "bridge/values/MenuRowValue.h"
 #include "platform/StatusItem.h"
@@ -31,6 +32,10 @@ public:
 
     ListModel* rows() { return &rows_; }
 
+    /// While it is open no row moves, so that a press meets the row that it was meant for: texts change in place, and a
+    /// menu of other rows waits until it is closed.
+    Q_INVOKABLE void setOpen(bool isOpen);
+
     /// The user picked the row at `place`; a row that is no command does nothing.
     Q_INVOKABLE void choose(int place);
     /// The place of the command with this key equivalent; -1 if there is none.
@@ -40,10 +45,14 @@ public:
 
 private:
     bool isCommand(int place) const;
+    bool hasSameRows(const std::vector<MenuEntry>& entries) const;
+    void follow();
 
     std::function<void()> showAbout_;
     std::function<void(const platform::MenuRow& row)> perform_;
+    std::vector<MenuEntry> wanted_;
     RowListModel<MenuRowValue> rows_;
+    bool isOpen_ = false;
 };
 
 }  // namespace larkspan::bridge

@@ -16,11 +16,14 @@ T.Popup {
     dim: false
     focus: true
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
+    onAboutToShow: popup.menu.setOpen(true)
     onOpened: list.currentIndex = -1
+    onClosed: popup.menu.setOpen(false)
 
+    // Before it closes, which may put another row at that place.
     function choose(place: int) {
-        popup.close()
         popup.menu.choose(place)
+        popup.close()
     }
 
     contentItem: ListView {

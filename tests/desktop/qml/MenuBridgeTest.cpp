@@ -124,6 +124,24 @@ TEST_F(WindowMenu, AChangedTextIsPatchedInPlace)
     EXPECT_EQ(inserted.count() + removed.count(), 0);
 }
 
+TEST_F(WindowMenu, WhileItIsOpenItsTextsChangeInPlaceAndOtherRowsWaitUntilItIsClosed)
+{
+    menu.show([this](const MenuRow& row) { performed.push_back(row); });
+    menu.setMenu({information("Operational"), page("a"), quit()});
+    menu.setOpen(true);
+    menu.setMenu({information("Down"), page("a"), quit()});
+    const QStringList held{"Down", "Page a", "Quit", "-", "About Kestrune"};
+    EXPECT_EQ(titles(menu), held);
+    menu.setMenu({information("Down"), information("Network Offline"), page("b"), quit()});
+    EXPECT_EQ(titles(menu), held);
+    menu.setMenu({information("Down"), page("b"), quit()});
+    EXPECT_EQ(titles(menu), held) << "as many, but another page";
+    menu.choose(1);
+    EXPECT_EQ(performed, Rows{page("a")});
+    menu.setOpen(false);
+    EXPECT_EQ(titles(menu), (QStringList{"Down", "Page b", "Quit", "-", "About Kestrune"}));
+}
+
 TEST_F(WindowMenu, AnUnchangedMenuTellsNothing)
 {
     menu.setMenu({information("Down"), quit()});

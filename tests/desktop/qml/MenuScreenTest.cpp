@@ -138,6 +138,24 @@ TEST_F(MenuOnScreen, AnOpenMenuChangesInPlace)
     EXPECT_EQ(current(), QStringLiteral("About Kestrune"));
 }
 
+TEST_F(MenuOnScreen, WhileItIsOpenNoRowMovesSoThatAPressMeetsTheRowItWasMeantFor)
+{
+    open(2);
+    const auto before = names(Role::MenuItem);
+    auto& meant = item(Role::MenuItem, QStringLiteral("page-1"));
+    const auto place = meant.mapToScene({meant.width() / 2, meant.height() / 2}).toPoint();
+    auto rows = statusItem.rows;
+    rows.erase(rows.begin(), rows.begin() + 2);
+    menu.setMenu(rows);
+    settle();
+    EXPECT_EQ(names(Role::MenuItem), before);
+    QTest::mouseClick(&window(), Qt::LeftButton, {}, place);
+    settle();
+    EXPECT_EQ(chosen, std::vector<std::string>{"page-1"});
+    press(Qt::Key_Space);
+    EXPECT_EQ(names(Role::MenuItem), before.mid(2)) << "opened again";
+}
+
 TEST_F(MenuOnScreen, ATitleThatLooksLikeMarkupOrAMnemonicIsShownLiterally)
 {
     open(1);
@@ -146,7 +164,8 @@ TEST_F(MenuOnScreen, ATitleThatLooksLikeMarkupOrAMnemonicIsShownLiterally)
     for (std::size_t place = 0; place < 4; ++place) rows[place].title = odd[static_cast<int>(place)].toStdString();
     rows[2].kind = platform::MenuRow::Kind::information;
     menu.setMenu(rows);
-    settle();
+    press(Qt::Key_Escape);
+    press(Qt::Key_Space);
     for (const auto& title : odd) EXPECT_TRUE(names(Role::MenuItem).contains(title)) << title.toStdString();
 }
 
