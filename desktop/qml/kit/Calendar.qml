@@ -3,12 +3,14 @@ import Larkspan
 import Larkspan.Bridge
 
 // The days of a month. The arrow keys choose the neighbouring day, Home and End the ends of the week, the page keys the
-// same day of the neighbouring month, with Shift of the neighbouring year; the wheel over the month looks through others.
+// same day of the neighbouring month, with Shift of the neighbouring year; the wheel over the month looks through others while the
+// calendar has the keyboard, and else scrolls what the calendar stands in.
 Column {
     id: calendar
     required property string name
     required property DateTimePickerBridge picker
     readonly property real cellWidth: width / 7
+    readonly property bool hasKeyboard: days.activeFocus || previous.activeFocus || next.activeFocus
 
     spacing: Theme.halfUnit
 
@@ -17,6 +19,7 @@ Column {
         height: Theme.controlHeight
 
         ToolbarButton {
+            id: previous
             symbol: "chevron.left"
             help: qsTr("Previous Month")
             Accessible.description: calendar.name
@@ -33,6 +36,7 @@ Column {
             horizontalAlignment: Text.AlignHCenter
         }
         ToolbarButton {
+            id: next
             anchors.right: parent.right
             symbol: "chevron.right"
             help: qsTr("Next Month")
@@ -40,6 +44,7 @@ Column {
             onClicked: calendar.picker.browseMonths(1)
         }
         WheelHandler {
+            enabled: calendar.hasKeyboard
             property real turned: 0
             onWheel: event => {
                 const notch = 120

@@ -159,6 +159,19 @@ TEST_F(PickerOnScreen, LooksThroughTheMonthsWithTheWheelOverTheirName)
     EXPECT_EQ(start(), "2026-11-20 09:00");
 }
 
+TEST_F(PickerOnScreen, WithoutTheKeyboardTheWheelOverItsCalendarScrollsTheForm)
+{
+    focus(Role::EditableText, "Start hour");
+    auto& month = item(Role::StaticText, QStringLiteral("11/2026"));
+    const auto before = month.mapToScene({0, 0}).y();
+    turnWheel(month, -1);
+    QTest::qWait(100);
+    settle();
+    EXPECT_LT(month.mapToScene({0, 0}).y(), before);
+    EXPECT_TRUE(shows("11/2026"));
+    EXPECT_FALSE(shows("12/2026"));
+}
+
 TEST_F(MaintenancesOnScreen, OnAClockOfTwelveHoursAButtonSwitchesTheHalfOfTheDay)
 {
     locale.halves = {"AM", "PM"};
