@@ -10,6 +10,7 @@
 #include "bridge/ScreenBridge.h"
 #include "bridge/Words.h"
 #include "bridge/values/CalendarDayValue.h"
+#include "presentation/ClockFace.h"
 #include "presentation/DateTimePicker.h"
 
 namespace larkspan::bridge {
@@ -28,6 +29,8 @@ class DateTimePickerBridge : public ScreenBridge {
     Q_PROPERTY(QString hour READ hour NOTIFY changed)
     Q_PROPERTY(QString minute READ minute NOTIFY changed)
     Q_PROPERTY(QString dayHalf READ dayHalf NOTIFY changed)
+    Q_PROPERTY(QString hourPattern READ hourPattern CONSTANT)
+    Q_PROPERTY(QString minutePattern READ minutePattern CONSTANT)
 
 public:
     DateTimePickerBridge(
@@ -41,6 +44,8 @@ public:
     QString hour() const { return words(picker_->hour()); }
     QString minute() const { return words(picker_->minute()); }
     QString dayHalf() const { return words(picker_->dayHalf()); }
+    QString hourPattern() const { return words(presentation::hourPattern); }
+    QString minutePattern() const { return words(presentation::minutePattern); }
 
     Q_INVOKABLE void browseMonths(int count) { picker_->browseMonths(count); }
     Q_INVOKABLE void chooseDay(int id) { picker_->chooseDay(id); }

@@ -1,6 +1,5 @@
 #include "presentation/ClockFace.h"
 
-#include <algorithm>
 #include <charconv>
 
 namespace larkspan::presentation {
@@ -12,12 +11,12 @@ std::string twoDigits(int number)
     return (number < 10 ? "0" : "") + std::to_string(number);
 }
 
-std::optional<int> numberOf(std::string_view digits)
+std::optional<int> numberOf(std::string_view digits, int largest)
 {
     int number = 0;
     const auto* const end = digits.data() + digits.size();
     const auto [at, error] = std::from_chars(digits.data(), end, number);
-    if (error != std::errc() || at != end || number < 0) return std::nullopt;
+    if (error != std::errc() || at != end || number < 0 || number > largest) return std::nullopt;
     return number;
 }
 
@@ -35,18 +34,16 @@ std::string minuteText(int minute)
 
 std::optional<int> typedHour(std::string_view digits, int before, ClockFace face)
 {
-    const auto number = numberOf(digits);
+    const auto number = numberOf(digits, 23);
     if (!number) return std::nullopt;
     const bool leavesHalfOpen = face == ClockFace::twelveHours && *number >= 1 && *number <= 12;
     if (leavesHalfOpen) return *number % 12 + before / 12 * 12;
-    return std::min(*number, 23);
+    return number;
 }
 
 std::optional<int> typedMinute(std::string_view digits)
 {
-    const auto number = numberOf(digits);
-    if (!number) return std::nullopt;
-    return std::min(*number, 59);
+    return numberOf(digits, 59);
 }
 
 bool isWholeHour(std::string_view digits)

@@ -13,8 +13,13 @@ enum class ClockFace { twelveHours, twentyFourHours };
 std::string hourText(int hour, ClockFace face);
 std::string minuteText(int minute);
 
-/// The hour that was typed; absent where there is no number. The half of the day stays that of `before` unless the
-/// number says which one it is. What is beyond the day is its last hour.
+/// What is an hour, or a minute of one, as a field takes it digit by digit; the hours are those of the whole day on
+/// either clock.
+inline constexpr const char* hourPattern = "[01]?[0-9]|2[0-3]";
+inline constexpr const char* minutePattern = "[0-5]?[0-9]";
+
+/// The hour that was typed; absent where that is none. The half of the day stays that of `before` unless the number
+/// says which one it is.
 std::optional<int> typedHour(std::string_view digits, int before, ClockFace face);
 std::optional<int> typedMinute(std::string_view digits);
 

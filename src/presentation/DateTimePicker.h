@@ -58,7 +58,7 @@ public:
     std::string minute() const;
     /// Empty where the clock has twenty-four hours.
     std::string dayHalf() const;
-    /// What is typed counts at once; what is no number counts nothing.
+    /// What is typed counts at once; what is no time counts nothing.
     void typeHour(std::string_view digits);
     void typeMinute(std::string_view digits);
     /// So much time passes, whatever the clocks show.

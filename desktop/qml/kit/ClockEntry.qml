@@ -13,6 +13,7 @@ Row {
     TimeField {
         name: qsTr("%1 hour").arg(clock.name)
         value: clock.picker.hour
+        pattern: clock.picker.hourPattern
         onTyped: digits => { if (clock.picker.typeHour(digits)) minute.forceActiveFocus(Qt.TabFocusReason) }
         onStepped: (count, isFar) => clock.picker.moveHours(isFar ? 6 * count : count)
     }
@@ -25,6 +26,7 @@ Row {
         id: minute
         name: qsTr("%1 minute").arg(clock.name)
         value: clock.picker.minute
+        pattern: clock.picker.minutePattern
         onTyped: digits => clock.picker.typeMinute(digits)
         onStepped: (count, isFar) => clock.picker.moveMinutes(isFar ? 10 * count : count)
     }

@@ -9,6 +9,8 @@ T.TextField {
     required property string name
     // As the clock shows it. What is typed stays as it is until the field is left.
     required property string value
+    // What can be typed; no other digit is taken.
+    required property string pattern
     property bool isTyping: false
     property real turned: 0
     signal typed(digits: string)
@@ -29,7 +31,7 @@ T.TextField {
     horizontalAlignment: TextInput.AlignHCenter
     verticalAlignment: TextInput.AlignVCenter
     maximumLength: 2
-    validator: RegularExpressionValidator { regularExpression: /[0-9]*/ }
+    validator: RegularExpressionValidator { regularExpression: new RegExp(field.pattern) }
     inputMethodHints: Qt.ImhDigitsOnly
     selectByMouse: true
     color: Theme.text
@@ -50,11 +52,18 @@ T.TextField {
         isTyping = false
         show()
     }
+    onPressed: isTyping = false
+    // Wherever the caret is, the first digit begins anew, and so does one for which there is no room.
+    function beginWith(digit: string) {
+        const isOpen = isTyping && length < maximumLength
+        if (digit >= "0" && digit <= "9" && !isOpen && selectedText === "") selectAll()
+    }
     Keys.onUpPressed: step(1, false)
     Keys.onDownPressed: step(-1, false)
     Keys.onPressed: event => {
         event.accepted = event.key === Qt.Key_PageUp || event.key === Qt.Key_PageDown
         if (event.accepted) step(event.key === Qt.Key_PageUp ? 1 : -1, true)
+        else beginWith(event.text)
     }
 
     WheelHandler {

@@ -172,6 +172,47 @@ TEST_F(PickerOnScreen, WithoutTheKeyboardTheWheelOverItsCalendarScrollsTheForm)
     EXPECT_FALSE(shows("12/2026"));
 }
 
+TEST_F(PickerOnScreen, TakesNoDigitThatMakesNoTime)
+{
+    type("Start hour", "25");
+    EXPECT_EQ(textOf("Start hour"), "2");
+    EXPECT_EQ(start(), "2026-11-20 02:00");
+    typeLetters("4");
+    EXPECT_EQ(textOf("Start hour"), "2");
+    typeLetters("3");
+    EXPECT_EQ(start(), "2026-11-20 23:00");
+    type("Start minute", "75");
+    EXPECT_EQ(textOf("Start minute"), "7");
+    EXPECT_EQ(start(), "2026-11-20 23:07");
+}
+
+TEST_F(PickerOnScreen, TakesWhatIsTypedAfterAPressIntoAFieldThatHasTheKeyboardAlready)
+{
+    type("Start minute", "30");
+    auto& minute = item(Role::EditableText, QStringLiteral("Start minute"));
+    for (const auto share : {0.1, 0.5, 0.9}) {
+        const QPointF place(minute.width() * share, minute.height() / 2);
+        for (const auto* const digits : {"45", "05"}) {
+            QTest::mouseClick(&window(), Qt::LeftButton, {}, minute.mapToScene(place).toPoint());
+            typeLetters(digits);
+            EXPECT_EQ(start(), std::string("2026-11-20 09:") + digits) << share;
+        }
+    }
+}
+
+TEST_F(PickerOnScreen, TakesWhatIsTypedWhereverTheCaretIs)
+{
+    focus(Role::EditableText, "Start minute");
+    for (const auto key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End}) {
+        typeLetters("30");
+        press(key);
+        typeLetters("45");
+        EXPECT_EQ(start(), "2026-11-20 09:45") << key;
+    }
+    typeLetters("123");
+    EXPECT_EQ(start(), "2026-11-20 09:03") << "after two digits another begins anew";
+}
+
 TEST_F(MaintenancesOnScreen, OnAClockOfTwelveHoursAButtonSwitchesTheHalfOfTheDay)
 {
     locale.halves = {"AM", "PM"};

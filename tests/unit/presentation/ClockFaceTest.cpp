@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <optional>
+#include <regex>
 #include <string>
 
 namespace larkspan::presentation {
@@ -48,16 +49,30 @@ TEST_P(TypedHour, IsTheOneThatTheClockWouldShow)
 INSTANTIATE_TEST_SUITE_P(EachKind, TypedHour,
     testing::Values(TypedRow{"0", 0, 0, 0}, TypedRow{"1", 1, 13, 1}, TypedRow{"11", 11, 23, 11},
         TypedRow{"12", 0, 12, 12}, TypedRow{"13", 13, 13, 13}, TypedRow{"07", 7, 19, 7}, TypedRow{"23", 23, 23, 23},
-        TypedRow{"24", 23, 23, 23}, TypedRow{"99", 23, 23, 23}, TypedRow{"", {}, {}, {}}, TypedRow{"-1", {}, {}, {}},
+        TypedRow{"24", {}, {}, {}}, TypedRow{"99", {}, {}, {}}, TypedRow{"", {}, {}, {}}, TypedRow{"-1", {}, {}, {}},
         TypedRow{"1a", {}, {}, {}}, TypedRow{"99999999999", {}, {}, {}}));
 
-TEST(TypedMinute, IsAtMostTheLastOneOfTheHour)
+TEST(TypedMinute, IsOneOfTheHour)
 {
     EXPECT_EQ(typedMinute("0"), 0);
     EXPECT_EQ(typedMinute("59"), 59);
-    EXPECT_EQ(typedMinute("60"), 59);
+    EXPECT_EQ(typedMinute("60"), std::nullopt);
     EXPECT_EQ(typedMinute(""), std::nullopt);
     EXPECT_EQ(typedMinute("x"), std::nullopt);
+}
+
+TEST(TypedField, TakesWhatIsATimeAndNothingElse)
+{
+    const std::regex hours(hourPattern);
+    const std::regex minutes(minutePattern);
+    for (int number = 0; number < 1'000; ++number) {
+        const auto digits = std::to_string(number);
+        for (const auto& each : {digits, "0" + digits}) {
+            const bool fits = each.size() <= 2;
+            EXPECT_EQ(std::regex_match(each, hours), fits && typedHour(each, 9, twentyFourHours)) << each;
+            EXPECT_EQ(std::regex_match(each, minutes), fits && typedMinute(each)) << each;
+        }
+    }
 }
 
 TEST(TypedField, IsWholeWhenNoDigitCanFollow)
