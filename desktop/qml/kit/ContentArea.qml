@@ -20,14 +20,16 @@ FocusScope {
         focus: area.showsContent
     }
 
-    // Scrolls where a long sentence meets a small window.
+    // Scrolls where a long sentence meets a small window, and is pulled down as the list would be.
     Flickable {
         id: instead
         anchors.fill: parent
         visible: !area.showsContent
         contentHeight: Math.max(height, state.height + 2 * Theme.margin)
-        boundsBehavior: Flickable.StopAtBounds
+        flickableDirection: Flickable.VerticalFlick
+        boundsBehavior: Flickable.DragOverBounds
         clip: true
+        onDragEnded: if (verticalOvershoot < -Theme.pullDistance) area.retried()
 
         PlaceholderState {
             id: state
