@@ -45,12 +45,12 @@ public:
     PillValue status() const { return PillValue::of(view_->status()); }
     bool showsDetails() const { return view_->showsDetails(); }
     QString description() const { return words(view_->description()); }
-    QString editedName() const { return words(*view_->editedName); }
+    QString editedName() const { return wholeText(*view_->editedName); }
     QList<QString> statuses() const;
     int selectedStatus() const;
-    QString editedDescription() const { return words(*view_->editedDescription); }
+    QString editedDescription() const { return wholeText(*view_->editedDescription); }
     bool showsGroupPicker() const { return view_->showsGroupPicker(); }
-    QString selectedGroup() const { return words(view_->selectedGroup()); }
+    QString selectedGroup() const { return wholeText(view_->selectedGroup()); }
     QString busyText() const { return words(components::ComponentDetailView::busyText); }
 
     Q_INVOKABLE void openURL() { view_->openURL(); }

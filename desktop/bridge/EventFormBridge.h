@@ -31,13 +31,13 @@ class EventFormBridge : public larkspan::bridge::GuardedScreenBridge {
     Q_PROPERTY(QString busyText READ busyText CONSTANT)
 
 public:
-    QString selectedGroup() const { return words(*selection().selectedComponentGroupID); }
+    QString selectedGroup() const { return wholeText(*selection().selectedComponentGroupID); }
     bool showsComponents() const { return selection().showsComponentPicker(); }
     bool isComponentPickerEnabled() const { return selection().isComponentPickerEnabled(); }
-    QString selectedComponent() const { return words(*selection().selectedComponentID); }
+    QString selectedComponent() const { return wholeText(*selection().selectedComponentID); }
     bool isLoadingMonitors() const { return *selection().isLoadingMonitors; }
     bool showsMonitors() const { return selection().showsMonitorPicker(); }
-    QString selectedMonitor() const { return words(*selection().selectedMonitorID); }
+    QString selectedMonitor() const { return wholeText(*selection().selectedMonitorID); }
     bool isLoadingComponents() const { return *selection().isLoadingComponents; }
     QString selectionHint() const { return words(form_->selectionHint()); }
     QString busyText() const { return words(presentation::EventForm::busyText); }

@@ -40,7 +40,7 @@ public:
     QString assignedTo() const { return words(view_->assignedTo()); }
     bool showsDescription() const { return view_->showsDescription(); }
     MessageBridge* message() { return &message_; }
-    QString editMessage() const { return words(*view_->editMessage); }
+    QString editMessage() const { return wholeText(*view_->editMessage); }
 
     Q_INVOKABLE void press(const QString& button) { view_->press(button.toStdString()); }
     Q_INVOKABLE void edit(const QString& text) { view_->editMessage = text.toStdString(); }

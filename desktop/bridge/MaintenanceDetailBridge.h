@@ -41,8 +41,8 @@ public:
     QString maintenanceTitle() const { return words(view_->currentMaintenance->title); }
     bool showsDescription() const { return view_->showsDescription(); }
     MessageBridge* message() { return &message_; }
-    QString editedTitle() const { return words(*view_->editedTitle); }
-    QString editedMessage() const { return words(*view_->editedMessage); }
+    QString editedTitle() const { return wholeText(*view_->editedTitle); }
+    QString editedMessage() const { return wholeText(*view_->editedMessage); }
     DateTimePickerBridge* editedScheduledFor() { return &editedScheduledFor_; }
     DateTimePickerBridge* editedScheduledUntil() { return &editedScheduledUntil_; }
 

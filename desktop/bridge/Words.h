@@ -6,9 +6,11 @@
 
 namespace larkspan::bridge {
 
-inline QString words(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
+/// A text as it is shown: of one that is longer than anybody writes the beginning, since laying it out would hold up the
+/// window.
+QString words(std::string_view text);
+
+/// A text as it is, for what is edited or comes back: an id, the content of a field.
+QString wholeText(std::string_view text);
 
 }  // namespace larkspan::bridge

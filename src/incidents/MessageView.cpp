@@ -1,12 +1,13 @@
 #include "incidents/MessageView.h"
 
 #include "incidents/markdown/StatusMarkdownContent.h"
+#include "presentation/InPart.h"
 
 namespace larkspan::incidents {
 
 MarkdownRows MessageView::rowsOf(const std::string& source)
 {
-    return StatusMarkdownContent(source).rows();
+    return StatusMarkdownContent(presentation::inPart(source, presentation::mostOfAMessage)).rows();
 }
 
 std::string MessageView::questionText() const

@@ -17,6 +17,9 @@ std::string moreText(std::size_t count);
 inline constexpr std::size_t mostOfARowsText = 2'000;
 inline constexpr std::size_t mostOfAText = 20'000;
 
+/// In bytes, for a message, which is read and laid out paragraph by paragraph.
+inline constexpr std::size_t mostOfAMessage = 128 * 1024;
+
 /// `text`, or its beginning and a sign that there is more.
 std::string inPart(std::string_view text, std::size_t most);
 

@@ -31,7 +31,7 @@ public:
 
     static ActionButtonValue of(const presentation::ActionButton& button)
     {
-        return {words(button.id), words(button.label), words(button.symbol), toneOf(button.tone), button.isProminent,
+        return {wholeText(button.id), words(button.label), words(button.symbol), toneOf(button.tone), button.isProminent,
             button.isEnabled};
     }
 

@@ -20,7 +20,7 @@ public:
     QString id{};
     QString name{};
 
-    static ChoiceValue of(const presentation::Choice& choice) { return {words(choice.id), words(choice.name)}; }
+    static ChoiceValue of(const presentation::Choice& choice) { return {wholeText(choice.id), words(choice.name)}; }
 
     bool operator==(const ChoiceValue&) const = default;
 };

@@ -40,7 +40,7 @@ public:
 
     static ComponentRowValue of(const Row& row)
     {
-        return {words(row.id), words(row.title), row.isHeading, row.followsComponent, row.precedesComponent,
+        return {wholeText(row.id), words(row.title), row.isHeading, row.followsComponent, row.precedesComponent,
             words(row.symbol), toneOf(row.tone), words(row.description), PillValue::of(row.status)};
     }
 

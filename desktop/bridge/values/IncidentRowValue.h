@@ -37,7 +37,7 @@ public:
 
     static IncidentRowValue of(const Row& row)
     {
-        return {words(row.id), words(row.title), toneOf(row.tone), row.severity.has_value(),
+        return {wholeText(row.id), words(row.title), toneOf(row.tone), row.severity.has_value(),
             row.severity ? PillValue::of(*row.severity) : PillValue(), words(row.date), PillValue::of(row.status)};
     }
 

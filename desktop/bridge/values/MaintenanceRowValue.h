@@ -29,7 +29,7 @@ public:
 
     static MaintenanceRowValue of(const Row& row)
     {
-        return {words(row.id), words(row.title), PillValue::of(row.status), words(row.date)};
+        return {wholeText(row.id), words(row.title), PillValue::of(row.status), words(row.date)};
     }
 
     bool operator==(const MaintenanceRowValue&) const = default;

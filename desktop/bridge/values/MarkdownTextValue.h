@@ -24,7 +24,7 @@ public:
 
     static MarkdownTextValue of(const incidents::MarkdownText& text)
     {
-        return {words(text.styled), words(text.plain), static_cast<int>(text.links.size())};
+        return {wholeText(text.styled), words(text.plain), static_cast<int>(text.links.size())};
     }
 
     bool operator==(const MarkdownTextValue&) const = default;

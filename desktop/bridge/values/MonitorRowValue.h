@@ -48,7 +48,7 @@ public:
 
     static MonitorRowValue of(const Row& row)
     {
-        return {words(row.id), words(row.title), words(row.statusIcon), words(row.status), toneOf(row.tone),
+        return {wholeText(row.id), words(row.title), words(row.statusIcon), words(row.status), toneOf(row.tone),
             PillValue::of(row.type), row.isOpen, row.isLoading, words(row.disclosure),
             valuesOf<MetricBadgeValue>(row.badges), valuesOf<ActionButtonValue>(row.buttons)};
     }

@@ -32,7 +32,7 @@ public:
 
     static StatusPageRowValue of(const Row& row)
     {
-        return {words(row.id), words(row.title), words(row.symbol), toneOf(row.tone), PillValue::of(row.status)};
+        return {wholeText(row.id), words(row.title), words(row.symbol), toneOf(row.tone), PillValue::of(row.status)};
     }
 
     bool operator==(const StatusPageRowValue&) const = default;

@@ -59,7 +59,7 @@ Column {
         TextBox {
             width: parent.width
             name: qsTr("Description")
-            Component.onCompleted: text = editor.detail.editedDescription
+            Component.onCompleted: show(editor.detail.editedDescription)
             onEdited: text => editor.detail.editDescription(text)
         }
     }

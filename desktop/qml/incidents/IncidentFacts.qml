@@ -49,7 +49,7 @@ Column {
             sourceComponent: TextBox {
                 name: qsTr("Update")
                 Component.onCompleted: {
-                    text = facts.incident.editMessage
+                    show(facts.incident.editMessage)
                     forceActiveFocus(Qt.OtherFocusReason)
                 }
                 onEdited: text => facts.incident.edit(text)

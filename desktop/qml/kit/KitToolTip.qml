@@ -17,7 +17,8 @@ T.ToolTip {
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
 
     contentItem: Label {
-        text: tip.text
+        // Where nobody sees it, it is not laid out.
+        text: tip.visible ? tip.text : ""
         font.pointSize: Theme.caption
         color: Theme.card
         wrapMode: Text.Wrap

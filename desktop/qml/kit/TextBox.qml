@@ -7,8 +7,15 @@ import Larkspan.Bridge
 FocusScope {
     id: box
     required property string name
-    property alias text: area.text
+    readonly property alias text: area.text
     signal edited(text: string)
+
+    // Puts that text into the box; what is typed follows it.
+    function show(text: string) {
+        area.lengthToCome = text.length
+        area.text = text
+        area.lengthToCome = 0
+    }
 
     implicitHeight: Math.min(Theme.textBoxMostHeight * Theme.scale,
         Math.max(Theme.textBoxHeight * Theme.scale, area.implicitHeight + 2 * Theme.focusWidth))
@@ -27,7 +34,9 @@ FocusScope {
             focus: true
             padding: Theme.unit
             implicitHeight: contentHeight + topPadding + bottomPadding
-            wrapMode: TextEdit.Wrap
+            // To look for a place to break takes time with the square of a text that has none.
+            property int lengthToCome: 0
+            wrapMode: Math.max(length, lengthToCome) > 20000 ? TextEdit.WrapAnywhere : TextEdit.Wrap
             textFormat: TextEdit.PlainText
             selectByMouse: true
             color: Theme.text

@@ -10,7 +10,7 @@ ScrollingColumn {
     widest: Theme.columnWidth * Theme.scale
     Component.onCompleted: {
         entry.text = maintenance.editedTitle
-        box.text = maintenance.editedMessage
+        box.show(maintenance.editedMessage)
         entry.forceActiveFocus(Qt.OtherFocusReason)
     }
 
