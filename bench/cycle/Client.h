@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "PreparedTransport.h"
 #include "account/Account.h"
@@ -37,12 +38,14 @@ public:
         state_->setupStatusItem({});
     }
 
-    /// What the service answers at that path of its older base, whatever the account holds.
+    /// What the service answers at that path, whatever the account holds.
     void prepare(const std::string& path, std::string body)
     {
-        transport_.prepare("https://kestrune.example/user/api/v1/" + path, std::move(body));
+        transport_.prepare("https://kestrune.example/user/api/" + path, std::move(body));
     }
 
+    /// What the panel's menu was last given.
+    const std::vector<platform::MenuRow>& menu() const { return statusItem_.rows; }
     core::AppStateManager& state() { return *state_; }
     api::KestruneAPI& api() { return api_; }
     const std::shared_ptr<core::AppStateManager>& sharedState() const { return state_; }

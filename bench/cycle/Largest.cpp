@@ -1,7 +1,8 @@
-// Measures how long the largest body that the client accepts, a list of as many pages as have room in it, holds up the
-// main thread: the longest single turn of its event loop, while the list comes for the first time and in another order.
+// Measures how long the largest list that the client accepts holds up the main thread: the longest single turn of its
+// event loop while so many pages as an answer may hold, of as many bytes, come for the first time, come in another
+// order, and are all down at once, with what the panel's menu takes of it.
 //
-// usage: larkspan-bench-largest [BYTES]     prints milliseconds; without a number for the limit of the client
+// usage: larkspan-bench-largest     prints milliseconds
 
 #include <algorithm>
 #include <cstdio>
@@ -9,35 +10,53 @@
 #include <stdexcept>
 #include <string>
 
-#include "Arguments.h"
 #include "Client.h"
 #include "TimedExecutor.h"
 #include "adapters/http/TransportSettings.h"
+#include "adapters/tray/DBusMenuModel.h"
 #include "bridge/DashboardBridge.h"
 #include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocaleText.h"
+#include "model/JSONValue.h"
 #include "workspace/Dashboard.h"
 
 namespace {
 
 using namespace larkspan;
 
-/// The other order is that in which every other page comes first.
-std::string pages(std::size_t bytes, bool inOtherOrder)
+constexpr auto most = model::JSONReading::mostRecords;
+
+std::string page(std::size_t number)
 {
-    const auto page = [](std::size_t number) { return R"({"id":")" + std::to_string(number) + R"(","name":""},)"; };
-    const auto count = bytes / page(1'000'000).size();
+    static const std::string name(adapters::largestBodyTaken / most - 100, 'x');
+    return R"({"id":")" + std::to_string(number) + R"(","name":")" + name + "\"},";
+}
+
+/// Every `step`-th page comes first.
+std::string pages(std::size_t step)
+{
     std::string body = "[";
-    body.reserve(bytes);
-    const std::size_t step = inOtherOrder ? 2 : 1;
+    body.reserve(adapters::largestBodyTaken);
     for (std::size_t first = 0; first < step; ++first) {
-        for (auto number = first; number < count; number += step) body += page(number);
+        for (auto number = first; number < most; number += step) body += page(number);
     }
     body.back() = ']';
     return body;
 }
 
-double longestTurn(std::size_t bytes)
+/// Says of each page that it is in that state.
+std::string overview(const std::string& code)
+{
+    std::string body = R"({"status_pages":[)";
+    for (std::size_t number = 0; number < most; ++number) {
+        body += R"({"id":")" + std::to_string(number) + R"(","name":"n","status":{"code":")" + code
+            + R"(","label":"l"}},)";
+    }
+    body.back() = ']';
+    return body + '}';
+}
+
+double longestTurn()
 {
     bench::TimedExecutor main;
     bench::TimedExecutor worker;
@@ -49,22 +68,30 @@ double longestTurn(std::size_t bytes)
         client.clock(), client.store(), keys, client.sharedState(), locale, links, client.api()});
     const bridge::ScreenUpdates updates(main);
     const bridge::DashboardBridge window(dashboard, updates);
+    adapters::DBusMenuModel panel;
 
     main.restart();
-    for (const bool inOtherOrder : {false, true}) {
-        client.prepare("status-pages", pages(bytes, inOtherOrder));
+    const auto refresh = [&](std::size_t step, const char* code) {
+        client.prepare("v1/status-pages", pages(step));
+        client.prepare("status-pages/status", overview(code));
         client.state().refreshNow();
         while (main.turn() | worker.turn()) {}
-    }
+        if (client.state().statusPages->size() != most) throw std::runtime_error("a cycle did not bring the pages");
+        main.post([&] { panel.setRows(client.menu()); });
+        main.turn();
+    };
+    refresh(1, "operational");
+    refresh(2, "operational");
+    refresh(2, "major-outage");
     return main.longest();
 }
 
 }  // namespace
 
-int main(int argc, char** argv)
+int main()
 {
     try {
-        std::printf("%.4f\n", longestTurn(argc > 1 ? larkspan::bench::number(argv[1]) : adapters::largestBodyTaken));
+        std::printf("%.4f\n", longestTurn());
     } catch (const std::runtime_error& error) {
         std::fprintf(stderr, "larkspan-bench-largest: %s\n", error.what());
         return 1;

@@ -1,33 +1,50 @@
 #include "bridge/RowOrder.h"
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 #include <numeric>
-#include <unordered_map>
-#include <utility>
+#include <tuple>
 
 namespace larkspan::bridge {
+
+namespace {
+
+/// An id at its place in a list. In the order of their hashes ids are found again in a fraction of the time that a
+/// table of them takes, which misses the cache with each.
+struct PlacedId {
+    std::size_t hash;
+    std::string_view id;
+    std::size_t place;
+
+    bool isOfSmallerId(const PlacedId& other) const { return std::tie(hash, id) < std::tie(other.hash, other.id); }
+    bool operator<(const PlacedId& other) const
+    {
+        return std::tie(hash, id, place) < std::tie(other.hash, other.id, other.place);
+    }
+};
+
+std::vector<PlacedId> sorted(const std::vector<std::string_view>& ids)
+{
+    std::vector<PlacedId> placed;
+    placed.reserve(ids.size());
+    for (const auto id : ids) placed.push_back({std::hash<std::string_view>()(id), id, placed.size()});
+    std::ranges::sort(placed, std::less<>());
+    return placed;
+}
+
+}  // namespace
 
 std::vector<std::optional<std::size_t>> wantedPlaces(
     const std::vector<std::string_view>& held, const std::vector<std::string_view>& wanted)
 {
-    constexpr auto none = static_cast<std::size_t>(-1);
-    // The first place of each id that is not taken yet, and behind each place the next of its id.
-    std::unordered_map<std::string_view, std::size_t> first;
-    std::vector<std::size_t> next(wanted.size(), none);
-    first.reserve(wanted.size());
-    for (auto place = wanted.size(); place-- > 0;) {
-        const auto [known, isNew] = first.try_emplace(wanted[place], place);
-        if (!isNew) next[place] = std::exchange(known->second, place);
-    }
-
-    std::vector<std::optional<std::size_t>> places;
-    places.reserve(held.size());
-    for (const auto id : held) {
-        const auto found = first.find(id);
-        const bool isWanted = found != first.end() && found->second != none;
-        places.push_back(isWanted ? std::optional(found->second) : std::nullopt);
-        if (isWanted) found->second = next[found->second];
+    const auto heldIds = sorted(held);
+    const auto wantedIds = sorted(wanted);
+    std::vector<std::optional<std::size_t>> places(held.size());
+    auto place = wantedIds.begin();
+    for (const auto& id : heldIds) {
+        while (place != wantedIds.end() && place->isOfSmallerId(id)) ++place;
+        if (place != wantedIds.end() && !id.isOfSmallerId(*place)) places[id.place] = (place++)->place;
     }
     return places;
 }

@@ -76,7 +76,7 @@ std::vector<ComponentRow> componentRows(
     for (const auto& group : groups) grouped.try_emplace(group.id);
     Members ungrouped;
     Members others;
-    presentation::RowIds ids;
+    presentation::RowIds ids(components);
     for (const auto& component : components) {
         Member member{component, ids.next(component.id)};
         if (!component.groupId) {

@@ -136,7 +136,8 @@ std::vector<Element> decodeList(const JSONValue& value)
     // A list that is longer than any real one is not worth its room before it is known to be good.
     constexpr std::size_t mostReserved = 16'384;
 
-    const auto elements = value.list();
+    constexpr bool hasRow = requires(Element element) { element.id; };
+    const auto elements = hasRow ? value.recordList() : value.list();
     std::vector<Element> list;
     list.reserve(std::min(elements.size(), mostReserved));
     KnownKeys keys(keyNames<Element>);
@@ -156,7 +157,7 @@ Map decodeMap(const JSONValue& value)
 {
     Map map;
     std::string buffer;
-    for (const auto [wireKey, element] : value.object()) {
+    for (const auto [wireKey, element] : value.map()) {
         const auto [place, isFirst] = map.try_emplace(std::string(fromSnakeCase(wireKey, buffer)));
         if (!isFirst) continue;
         place->second = decode<typename Map::mapped_type>(JSONValue(value, JSONValue::Member{wireKey, element}));

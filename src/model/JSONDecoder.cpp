@@ -113,6 +113,23 @@ typename Envelope::List decodeListShapes(const JSONValue& root)
     }
 }
 
+template <typename Result>
+Result read(const std::string& body, support::Time now, Result (*decodeRoot)(const JSONValue&))
+{
+    const Document document(body);
+    JSONReading reading{.now = now};
+    try {
+        auto result = decodeRoot(JSONValue(document.root(), reading));
+        // Also where it was a value that is read forgivingly.
+        reading.failIfTooLong();
+        return result;
+    } catch (const DecodingError&) {
+        // Rather than that no other shape was found either.
+        reading.failIfTooLong();
+        throw;
+    }
+}
+
 }  // namespace
 
 JSONDecoder::JSONDecoder(const platform::Clock& clock)
@@ -123,22 +140,19 @@ JSONDecoder::JSONDecoder(const platform::Clock& clock)
 template <typename Result>
 Result detail::decodeResult(const std::string& body, support::Time now)
 {
-    const Document document(body);
-    return decodeShapes<Result>(JSONValue(document.root(), now));
+    return read(body, now, decodeShapes<Result>);
 }
 
 template <typename Envelope>
 typename Envelope::List detail::decodeList(const std::string& body, support::Time now)
 {
-    const Document document(body);
-    return decodeListShapes<Envelope>(JSONValue(document.root(), now));
+    return read(body, now, decodeListShapes<Envelope>);
 }
 
 template <typename Result>
 Result detail::decodeBare(const std::string& body, support::Time now)
 {
-    const Document document(body);
-    return decode<Result>(JSONValue(document.root(), now));
+    return read(body, now, decode<Result>);
 }
 
 namespace {

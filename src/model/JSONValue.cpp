@@ -39,6 +39,15 @@ std::string written(double number)
 
 }  // namespace
 
+void JSONReading::failIfTooLong() const
+{
+    const auto fail = [](std::size_t most, const char* what) {
+        throw DecodingError(DecodingError::Kind::dataCorrupted, "", "More than " + std::to_string(most) + what);
+    };
+    if (records > mostRecords) fail(mostRecords, " records");
+    if (entries > mostEntries) fail(mostEntries, " entries");
+}
+
 bool JSONValue::boolean() const
 {
     bool truth = false;
@@ -77,7 +86,23 @@ simdjson::dom::array JSONValue::list() const
 {
     simdjson::dom::array list;
     if (element_.get(list) != simdjson::SUCCESS) failMismatch("a list");
+    count(list.size());
     return list;
+}
+
+simdjson::dom::array JSONValue::recordList() const
+{
+    const auto records = list();
+    reading_.records += records.size();
+    reading_.failIfTooLong();
+    return records;
+}
+
+simdjson::dom::object JSONValue::map() const
+{
+    const auto map = object();
+    count(map.size());
+    return map;
 }
 
 simdjson::dom::object JSONValue::object() const
@@ -85,6 +110,12 @@ simdjson::dom::object JSONValue::object() const
     simdjson::dom::object object;
     if (element_.get(object) != simdjson::SUCCESS) failMismatch("an object");
     return object;
+}
+
+void JSONValue::count(std::size_t entries) const
+{
+    reading_.entries += entries;
+    reading_.failIfTooLong();
 }
 
 void JSONValue::find(KnownKeys& keys, std::span<std::optional<Member>> found) const

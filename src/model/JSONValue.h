@@ -14,6 +14,23 @@
 
 namespace larkspan::model {
 
+/// What all values of a body that is read share.
+struct JSONReading {
+    /// What all lists and maps of a body may hold together, and how much of it may be records with a row of their own.
+    /// A screen shows at once what it gets, and each takes its time there.
+    static constexpr std::size_t mostEntries = 100'000;
+    static constexpr std::size_t mostRecords = 20'000;
+
+    /// The moment of decoding.
+    support::Time now;
+    /// In the lists and maps that have been read.
+    std::size_t entries = 0;
+    std::size_t records = 0;
+
+    /// Throws a `DecodingError` about the body as a whole.
+    void failIfTooLong() const;
+};
+
 /// A value of a parsed body and its place in it. It reads as exactly one type, strictly: no text is taken for a number,
 /// no number for a boolean. What it is not, it throws as a `DecodingError`. Lives on the stack of its reader only.
 class JSONValue {
@@ -24,10 +41,10 @@ public:
         simdjson::dom::element element;
     };
 
-    /// The root of a body that is decoded at `now`.
-    JSONValue(simdjson::dom::element root, support::Time now)
+    /// The root of a body; `reading` outlives all that is read from it.
+    JSONValue(simdjson::dom::element root, JSONReading& reading)
         : element_(root)
-        , now_(now)
+        , reading_(reading)
     {
     }
 
@@ -35,14 +52,14 @@ public:
     JSONValue(const JSONValue& parent, const Member& member)
         : element_(member.element)
         , path_(&parent.path_, member.wireKey)
-        , now_(parent.now_)
+        , reading_(parent.reading_)
     {
     }
 
     JSONValue(const JSONValue& parent, std::size_t index, simdjson::dom::element element)
         : element_(element)
         , path_(&parent.path_, index)
-        , now_(parent.now_)
+        , reading_(parent.reading_)
     {
     }
 
@@ -68,7 +85,10 @@ public:
     std::int64_t integer() const;
 
     simdjson::dom::array list() const;
-    simdjson::dom::object object() const;
+    /// A list of records with a row of their own.
+    simdjson::dom::array recordList() const;
+    /// An object whose keys are entries.
+    simdjson::dom::object map() const;
 
     /// Puts each key that converts to one of the names of `keys` at that name's place in `found`, which has as many.
     /// Where several keys convert to one name the first counts, whatever the others hold.
@@ -80,14 +100,16 @@ public:
     [[noreturn]] void failMissing(std::string_view keyName) const;
     [[noreturn]] void failCorrupted(std::string_view problem, std::string_view received) const;
 
-    support::Time now() const { return now_; }
+    support::Time now() const { return reading_.now; }
 
 private:
+    simdjson::dom::object object() const;
+    void count(std::size_t entries) const;
     [[noreturn]] void failMismatch(std::string_view wanted) const;
 
     simdjson::dom::element element_;
     CodingPath path_;
-    support::Time now_;
+    JSONReading& reading_;
 };
 
 }  // namespace larkspan::model

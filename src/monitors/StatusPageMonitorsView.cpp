@@ -1,7 +1,6 @@
 #include "monitors/StatusPageMonitorsView.h"
 
 #include <algorithm>
-#include <set>
 #include <utility>
 
 #include "presentation/RowsOf.h"
@@ -36,11 +35,10 @@ std::vector<MonitorRow> StatusPageMonitorsView::rows() const
 
 void StatusPageMonitorsView::forgetRowsThatLeft()
 {
-    presentation::RowIds ids;
-    std::set<std::string, std::less<>> listed;
-    for (const auto& monitor : *viewModel->monitors) listed.insert(ids.next(monitor.id));
+    const auto& monitors = *viewModel->monitors;
     auto kept = *rowViews_;
-    const auto left = std::erase_if(kept, [&listed](const auto& row) { return !listed.contains(row.first); });
+    const auto left
+        = std::erase_if(kept, [&monitors](const auto& row) { return !presentation::recordOfRow(monitors, row.first); });
     if (left > 0) rowViews_ = std::move(kept);
 }
 

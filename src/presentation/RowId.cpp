@@ -16,6 +16,16 @@ std::string RowIds::numbered(const std::string& id, std::size_t before)
     return before == 0 ? id : id + separator + std::to_string(before);
 }
 
+std::vector<std::size_t> RowIds::repeatedOf(std::vector<std::size_t> hashes)
+{
+    std::ranges::sort(hashes);
+    std::vector<std::size_t> repeated;
+    for (std::size_t at = 1; at < hashes.size(); ++at) {
+        if (hashes[at] == hashes[at - 1]) repeated.push_back(hashes[at]);
+    }
+    return repeated;
+}
+
 RowId RowId::of(std::string_view text)
 {
     const auto end = text.rfind(separator);

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 namespace larkspan::presentation {
 
@@ -12,13 +14,36 @@ namespace larkspan::presentation {
 /// on by the id and their number, so that each opens its own.
 class RowIds {
 public:
+    template <typename Records>
+    explicit RowIds(const Records& records)
+    {
+        std::vector<std::size_t> hashes;
+        hashes.reserve(records.size());
+        for (const auto& record : records) hashes.push_back(hash(record.id));
+        // As a rule there are none, and a table of all ids would take longer than all else that is done for a list.
+        const auto repeated = repeatedOf(std::move(hashes));
+        if (repeated.empty()) return;
+        for (const auto& record : records) {
+            if (std::ranges::binary_search(repeated, hash(record.id))) counts_.try_emplace(record.id);
+        }
+    }
+
     /// The row of the next record, in the order of the records.
-    std::string next(const std::string& id) { return numbered(id, counts_[id]++); }
+    std::string next(const std::string& id)
+    {
+        const auto repeated = counts_.find(id);
+        return repeated == counts_.end() ? id : numbered(id, repeated->second++);
+    }
 
     /// The row of the record of that id which so many of the same id stand before.
     static std::string numbered(const std::string& id, std::size_t before);
 
 private:
+    static std::size_t hash(std::string_view id) { return std::hash<std::string_view>()(id); }
+    /// In ascending order.
+    static std::vector<std::size_t> repeatedOf(std::vector<std::size_t> hashes);
+
+    /// How many came of each id that may be that of several.
     std::unordered_map<std::string, std::size_t> counts_;
 };
 

@@ -21,7 +21,7 @@ auto rowsOf(const Records& records, RowOf rowOf)
     };
     std::vector<std::invoke_result_t<decltype(make), const Record&, const std::string&>> rows;
     rows.reserve(records.size());
-    RowIds ids;
+    RowIds ids(records);
     for (const auto& record : records) {
         auto id = ids.next(record.id);
         auto& row = rows.emplace_back(make(record, id));

@@ -10,7 +10,7 @@
 namespace larkspan::adapters {
 
 /// In bytes, of a body that the program takes.
-inline constexpr std::size_t largestBodyTaken = 64 * 1024 * 1024;
+inline constexpr std::size_t largestBodyTaken = 16 * 1024 * 1024;
 
 /// What a transport holds its requests to; the defaults are the program's.
 struct TransportSettings {

@@ -38,8 +38,17 @@ private:
 void noteChange(DBusMenuModel::Change& change, int id, const MenuRow& old, const MenuRow& row)
 {
     if (old == row) return;
-    const auto before = menuRowProperties(old);
-    const auto after = menuRowProperties(row);
+    // The title is what is long, and what seldom changes.
+    const bool isTitleKept = old.title == row.title;
+    const auto propertiesOf = [isTitleKept](const MenuRow& from) {
+        return menuRowProperties({.kind = from.kind,
+            .title = isTitleKept ? std::string() : from.title,
+            .keyEquivalent = from.keyEquivalent,
+            .dot = from.dot,
+            .toolTip = from.toolTip});
+    };
+    const auto before = propertiesOf(old);
+    const auto after = propertiesOf(row);
 
     DBusMenuItem updated{id};
     for (const auto& [name, value] : after.asKeyValueRange()) {

@@ -13,7 +13,7 @@ namespace larkspan::incidents {
 
 namespace {
 
-/// The largest body that the service may send. The counters of md4c hold far more.
+/// Longer than any body that is taken. The counters of md4c hold far more.
 constexpr std::size_t longestText = 64 * 1024 * 1024;
 constexpr std::string_view replacementCharacter = "\uFFFD";
 

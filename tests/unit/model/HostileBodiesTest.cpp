@@ -202,6 +202,29 @@ TEST(HostileBody, ALargeTextArrivesWhole)
     EXPECT_EQ(decoded<Pages>(R"([{"id":"p1","name":")" + name + "\"}]").at(0).name, name);
 }
 
+std::string pagesOf(int count)
+{
+    return "[" + repeated(R"({"id":"p","name":"A"},)", count - 1) + R"({"id":"p","name":"A"}])";
+}
+
+TEST(HostileBody, HoldsAsManyRecordsAsAScreenShowsAtOnceAndNoMore)
+{
+    EXPECT_EQ(decoded<Pages>(pagesOf(20'000)).size(), 20'000u);
+    for (const auto& body : {pagesOf(20'001), R"({"data":)" + pagesOf(20'001) + "}"}) {
+        const auto failure = failureOf<Pages>(body);
+        EXPECT_EQ(failure.kind, DecodingError::Kind::dataCorrupted);
+        EXPECT_EQ(failure.description, "The server’s answer: More than 20000 records");
+    }
+}
+
+TEST(HostileBody, HoldsAHundredThousandFiguresAndNoMoreAlsoWhereTheyAreReadForgivingly)
+{
+    const auto latency = [](int count) { return R"("latency":[)" + repeated("1,", count - 1) + "1]"; };
+    EXPECT_EQ(windowOf(latency(99'999)).latency->size(), 99'999u);
+    EXPECT_EQ(failureOf<MonitorMetricsResponse>(R"({"metrics":{"m":{)" + latency(100'000) + "}}}").description,
+        "The server’s answer: More than 100000 entries");
+}
+
 TEST(HostileBody, AMillionDuplicatesOfAKeyCountAsTheFirst)
 {
     const auto body = R"([{"id":"p1")" + repeated(R"(,"name":"A","na_me":0)", 1'000'000) + "}]";

@@ -31,7 +31,7 @@ std::vector<std::string> namesBehindRowsOf(const Records& records)
 
 TEST(RowId, IsThatOfARecordThatIsAloneWithIt)
 {
-    RowIds ids;
+    RowIds ids(Records{{"1", "a"}, {"2", "b"}, {"", "c"}});
     EXPECT_EQ(ids.next("1"), "1");
     EXPECT_EQ(ids.next("2"), "2");
     EXPECT_EQ(ids.next(""), "");
@@ -45,7 +45,7 @@ TEST(RowId, LeadsToItsOwnOfSeveralRecordsWithOneId)
 
 TEST(RowId, OfARecordThatHasGoneLeadsNowhere)
 {
-    RowIds ids;
+    RowIds ids(Records{{"1", "a"}, {"1", "b"}});
     ids.next("1");
     const auto second = ids.next("1");
     EXPECT_EQ(recordOfRow(Records{{"1", "a"}}, second), nullptr);
