@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "BuildSettings.h"
+#include "adapters/TerminationSignals.h"
 #include "qml/MainWindow.h"
 #include "workspace/Dashboard.h"
 
@@ -42,6 +43,7 @@ Application::Application(adapters::MainExecutor& main, ServiceAccess service)
 {
     auto dashboard = std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{
         main_, timers_, clock_, service_.credentials, keys_, app_->appState(), locale_, links_, api_});
+    dashboard->demoKey = service_.demoKey;
     app_->appState()->guardQuitting(dashboard);
     window_ = std::make_unique<MainWindow>(
         MainWindow::Content{std::move(dashboard), updates_, about_, app_->showingAbout, *app_, menu_}, main_);
@@ -71,8 +73,12 @@ Application::~Application()
     main_.drop();
 }
 
-int Application::run()
+int Application::run(adapters::SingleInstance& instance)
 {
+    const adapters::TerminationSignals termination;
+    connect(&termination, &adapters::TerminationSignals::requested, this, &Application::quit);
+    connect(&instance, &adapters::SingleInstance::replaced, this, &Application::quit);
+    connect(&instance, &adapters::SingleInstance::activated, this, &Application::reopen);
     appearance_.catchUp();
     window_->window().show();
     app_->windowLifecycleDelegate().applicationDidFinishLaunching();

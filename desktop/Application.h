@@ -16,6 +16,7 @@
 #include "adapters/QtNetworkPathMonitor.h"
 #include "adapters/QtTimers.h"
 #include "adapters/QtWindowSystem.h"
+#include "adapters/SingleInstance.h"
 #include "adapters/StatusItems.h"
 #include "adapters/SystemClock.h"
 #include "adapters/tray/StatusNotifierItem.h"
@@ -36,6 +37,8 @@ struct ServiceAccess {
     platform::Executor& client;
     platform::HttpTransport& transport;
     platform::CredentialStore& credentials;
+    /// The key that works, where the settings are to tell it; empty where it is the user's own.
+    std::string demoKey = {};
     /// Drops what is under way and ends the client's executor. Called once, at the end.
     std::function<void()> stop;
 };
@@ -47,16 +50,15 @@ public:
     Application(adapters::MainExecutor& main, ServiceAccess service);
     ~Application() override;
 
-    /// Shows the window and runs until the program is asked to end.
-    int run();
-
-    /// The user started the program again: its window comes forward.
-    void reopen(const QString& activationToken);
-
-    /// Ends the program, also in mid-request.
-    void quit() { app_->terminate(); }
+    /// Shows the window and runs until its user, a signal or a start that has taken over `instance` asks the program to
+    /// end.
+    int run(adapters::SingleInstance& instance);
 
 private:
+    /// The user started the program again: its window comes forward.
+    void reopen(const QString& activationToken);
+    /// Ends the program, also in mid-request.
+    void quit() { app_->terminate(); }
     void showAppearance();
 
     adapters::MainExecutor& main_;

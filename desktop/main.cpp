@@ -9,7 +9,6 @@
 #include "adapters/HardenProcess.h"
 #include "adapters/MainExecutor.h"
 #include "adapters/SingleInstance.h"
-#include "adapters/TerminationSignals.h"
 #include "adapters/http/ClientLoop.h"
 #include "adapters/http/CurlTransport.h"
 #include "adapters/http/PortalProxies.h"
@@ -26,9 +25,10 @@ int main(int argc, char* argv[])
     chooseRenderer();
     const QGuiApplication qt(argc, argv);
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Kestrune"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("com.kestrune.larkspan"));
+    const auto name = QStringLiteral("com.kestrune.larkspan");
+    QGuiApplication::setDesktopFileName(name);
 
-    adapters::SingleInstance instance(QDBusConnection::sessionBus());
+    adapters::SingleInstance instance(QDBusConnection::sessionBus(), name);
     if (instance.claim(activationToken) == adapters::SingleInstance::Standing::second) return 0;
     lookUpFonts();
 
@@ -52,10 +52,5 @@ int main(int argc, char* argv[])
                     client.reset();
                 },
         });
-
-    const adapters::TerminationSignals termination;
-    QObject::connect(&termination, &adapters::TerminationSignals::requested, &application, &Application::quit);
-    QObject::connect(&instance, &adapters::SingleInstance::replaced, &application, &Application::quit);
-    QObject::connect(&instance, &adapters::SingleInstance::activated, &application, &Application::reopen);
-    return application.run();
+    return application.run(instance);
 }

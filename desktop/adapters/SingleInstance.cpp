@@ -17,9 +17,11 @@ constexpr int mostRounds = 3;
 
 }  // namespace
 
-SingleInstance::SingleInstance(QDBusConnection bus, std::chrono::milliseconds patience, QObject* parent)
+SingleInstance::SingleInstance(QDBusConnection bus, QString name, std::chrono::milliseconds patience, QObject* parent)
     : QObject(parent)
     , bus_(std::move(bus))
+    , name_(std::move(name))
+    , path_(QLatin1Char('/') + QString(name_).replace(QLatin1Char('.'), QLatin1Char('/')))
     , patience_(patience)
 {
     connect(&service_, &ApplicationService::activated, this, &SingleInstance::activated);
@@ -27,8 +29,8 @@ SingleInstance::SingleInstance(QDBusConnection bus, std::chrono::milliseconds pa
 
 SingleInstance::~SingleInstance()
 {
-    bus_.unregisterObject(objectPath);
-    bus_.unregisterService(serviceName);
+    bus_.unregisterObject(path_);
+    bus_.unregisterService(name_);
 }
 
 SingleInstance::Standing SingleInstance::claim(const QString& activationToken)
@@ -36,7 +38,7 @@ SingleInstance::Standing SingleInstance::claim(const QString& activationToken)
     if (!bus_.isConnected()) return Standing::first;
 
     // Before the name is owned, so that nobody who finds the owner finds it without the object.
-    bus_.registerObject(objectPath, &service_, QDBusConnection::ExportScriptableSlots);
+    bus_.registerObject(path_, &service_, QDBusConnection::ExportScriptableSlots);
     for (int round = 0; round < mostRounds; ++round) {
         if (ownName(false)) {
             watchForReplacement();
@@ -54,13 +56,13 @@ SingleInstance::Standing SingleInstance::claim(const QString& activationToken)
 bool SingleInstance::ownName(bool replacing)
 {
     const auto whenTaken = replacing ? BusInterface::ReplaceExistingService : BusInterface::DontQueueService;
-    const auto reply = bus_.interface()->registerService(serviceName, whenTaken, BusInterface::AllowReplacement);
+    const auto reply = bus_.interface()->registerService(name_, whenTaken, BusInterface::AllowReplacement);
     return reply.isValid() && reply.value() == BusInterface::ServiceRegistered;
 }
 
 QString SingleInstance::owner() const
 {
-    return bus_.interface()->serviceOwner(serviceName);
+    return bus_.interface()->serviceOwner(name_);
 }
 
 bool SingleInstance::activate(const QString& owner, const QString& activationToken)
@@ -71,7 +73,7 @@ bool SingleInstance::activate(const QString& owner, const QString& activationTok
         platformData.insert(ApplicationService::startupIdKey, activationToken);
     }
     // The owner's own name: a call to the well-known one could start a program.
-    auto call = QDBusMessage::createMethodCall(owner, objectPath, "org.freedesktop.Application", "Activate");
+    auto call = QDBusMessage::createMethodCall(owner, path_, "org.freedesktop.Application", "Activate");
     call << platformData;
     const auto reply = bus_.call(call, QDBus::Block, static_cast<int>(patience_.count()));
     // Any answer, a refusal too, comes from somebody who is alive; these come from the bus or from nobody.
@@ -88,7 +90,7 @@ bool SingleInstance::activate(const QString& owner, const QString& activationTok
 void SingleInstance::watchForReplacement()
 {
     connect(bus_.interface(), &BusInterface::serviceUnregistered, this, [this](const QString& name) {
-        if (name == serviceName) emit replaced();
+        if (name == name_) emit replaced();
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include <QDBusConnection>
 #include <QObject>
+#include <QString>
 
 #include <chrono>
 
@@ -24,11 +25,9 @@ public:
         second,
     };
 
-    static constexpr auto serviceName = "com.kestrune.larkspan";
-    static constexpr auto objectPath = "/com/kestrune/larkspan";
-
-    explicit SingleInstance(
-        QDBusConnection bus, std::chrono::milliseconds patience = std::chrono::seconds(5), QObject* parent = nullptr);
+    /// `name` is what the program is called on the bus; its object stands at the path of the same parts.
+    SingleInstance(QDBusConnection bus, QString name, std::chrono::milliseconds patience = std::chrono::seconds(5),
+        QObject* parent = nullptr);
     ~SingleInstance() override;
 
     /// Blocks for at most a few times `patience`; call it before anything is shown. Without a bus everyone is first.
@@ -48,6 +47,8 @@ private:
     void watchForReplacement();
 
     QDBusConnection bus_;
+    const QString name_;
+    const QString path_;
     std::chrono::milliseconds patience_;
     ApplicationService service_;
 };

@@ -29,6 +29,7 @@ class SettingsBridge : public ScreenBridge {
     Q_PROPERTY(larkspan::bridge::ConfirmationValue deleteConfirmation READ deleteConfirmation CONSTANT)
     Q_PROPERTY(larkspan::bridge::MarkerValue marker READ marker NOTIFY changed)
     Q_PROPERTY(larkspan::bridge::MarkerValue refusal READ refusal NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::MarkerValue demoHint READ demoHint CONSTANT)
     Q_PROPERTY(larkspan::bridge::MarkerValue search READ search NOTIFY changed)
 
 public:
@@ -48,6 +49,7 @@ public:
     }
     MarkerValue marker() const { return MarkerValue::of(settings_->marker()); }
     MarkerValue refusal() const { return MarkerValue::of(settings_->refusal()); }
+    MarkerValue demoHint() const { return MarkerValue::of(settings_->demoHint()); }
     MarkerValue search() const { return MarkerValue::of(settings_->search()); }
 
     Q_INVOKABLE void edit(const QString& text) { settings_->edit(text.toStdString()); }

@@ -184,6 +184,12 @@ using Kind = workspace::Settings::ValidationState::Kind;
 
 void justOpened(workspace::Settings&) {}
 
+void ofTheDemo(Stage& stage)
+{
+    stage.dashboard().demoKey = "demo";
+    settings(justOpened)(stage);
+}
+
 void looking(workspace::Settings& sheet)
 {
     // The stage's store answers at once; one that asks for a password does not.
@@ -271,6 +277,8 @@ std::vector<Scene> settingsScenes()
 {
     return {
         {"settings-no-key", settings(justOpened)},
+        {"settings-demo", ofTheDemo},
+        {"settings-demo-narrow", ofTheDemo, 480, 440},
         {"settings-looking", settings(looking)},
         {"settings-verifying", settings(verifying)},
         {"settings-refused", settings(refused)},

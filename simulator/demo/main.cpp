@@ -1,3 +1,4 @@
+#include <QDBusConnection>
 #include <QGuiApplication>
 #include <QIcon>
 
@@ -6,8 +7,8 @@
 #include "Application.h"
 #include "adapters/ActivationToken.h"
 #include "adapters/MainExecutor.h"
+#include "adapters/SingleInstance.h"
 #include "adapters/SystemClock.h"
-#include "adapters/TerminationSignals.h"
 #include "api/KeychainHelper.h"
 #include "demo/DemoAccount.h"
 #include "qml/Fonts.h"
@@ -17,12 +18,19 @@ int main(int argc, char* argv[])
 {
     using namespace larkspan;
 
+    const QString activationToken = adapters::launchActivationToken();
     chooseRenderer();
     const QGuiApplication qt(argc, argv);
-    lookUpFonts();
+    // Behind the window's own title.
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Demo"));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.kestrune.larkspan"));
     // The desktop knows the program's icon once that is installed; the demo runs without.
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/com.kestrune.larkspan.svg")));
+
+    // A name of its own, so that it runs beside the program.
+    adapters::SingleInstance instance(QDBusConnection::sessionBus(), QStringLiteral("com.kestrune.larkspan.demo"));
+    if (instance.claim(activationToken) == adapters::SingleInstance::Standing::second) return 0;
+    lookUpFonts();
 
     const adapters::SystemClock clock;
     simulator::DemoAccount account(clock, api::KeychainHelper::item, std::chrono::milliseconds(250));
@@ -33,10 +41,8 @@ int main(int argc, char* argv[])
             .client = account.executor(),
             .transport = account.transport(),
             .credentials = account.credentialStore(),
+            .demoKey = simulator::DemoAccount::key,
             .stop = [&account] { account.stop(); },
         });
-
-    const adapters::TerminationSignals termination;
-    QObject::connect(&termination, &adapters::TerminationSignals::requested, &application, &Application::quit);
-    return application.run();
+    return application.run(instance);
 }

@@ -151,7 +151,7 @@ void Dashboard::openSettings()
     if (*showingSettings) return;
     ports_.credentials.allowPromptAgain();
     const auto onApiKeyDeleted = [appState = ports_.appState] { appState->clearAccountData(); };
-    const Settings::Ports ports{ports_.main, ports_.appState, ports_.keys};
+    const Settings::Ports ports{ports_.main, ports_.appState, ports_.keys, demoKey};
     showingSettings.open(std::make_shared<Settings>(ports, onApiKeyDeleted));
 }
 

@@ -69,6 +69,8 @@ public:
     support::Published<std::shared_ptr<StatusPageDetailView>> openedPage{*this};
     /// The reference of the text after "Updated "; it ticks, so that the text ages on screen.
     support::Published<support::Time> currentTime;
+    /// The key that the demo's settings tell; empty in the program. Set before they are opened.
+    std::string demoKey;
 
     /// Calls `observer` before anything changes that the dashboard shows, the account's state included.
     [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer);

@@ -65,6 +65,12 @@ presentation::Marker Settings::refusal() const
     return validationState->kind == ValidationState::Kind::invalid ? marker() : presentation::Marker{};
 }
 
+presentation::Marker Settings::demoHint() const
+{
+    if (ports_.demoKey.empty()) return {};
+    return {.symbol = "info.circle", .text = "The API key of this demo is \"" + ports_.demoKey + "\"."};
+}
+
 presentation::Marker Settings::search() const
 {
     if (!*isLooking) return {};

@@ -24,6 +24,8 @@ public:
         platform::Executor& main;
         std::shared_ptr<core::AppStateManager> appState;
         api::APIKeyStore& keys;
+        /// The one key that works, where that is no secret; empty where it is the user's own.
+        std::string demoKey = {};
     };
 
     struct ValidationState {
@@ -62,6 +64,8 @@ public:
     presentation::Marker marker() const;
     /// Under the field: why the key was refused; all empty if it was not.
     presentation::Marker refusal() const;
+    /// Under that: which key works in the demo; all empty in the program.
+    presentation::Marker demoHint() const;
     /// In place of both, while the store is asked.
     presentation::Marker search() const;
 

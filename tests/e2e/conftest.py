@@ -45,7 +45,7 @@ def stored_key(the_keyring):
 
 @pytest.fixture
 def start(the_session, the_display):
-    """Starts the program; it ends with the test."""
+    """Starts the program, or its demo; it ends with the test."""
     from contextlib import ExitStack
     with ExitStack() as started:
-        yield lambda: started.enter_context(program.program(the_session, the_display))
+        yield lambda binary=program.BINARY: started.enter_context(program.program(the_session, the_display, binary))

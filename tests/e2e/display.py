@@ -17,7 +17,7 @@ class Display:
         return subprocess.run(command, env=os.environ | {"DISPLAY": self.name}, capture_output=True, text=True, check=False).stdout
 
     def windows(self, process_id: int) -> list[str]:
-        return self._ask("xdotool", "search", "--onlyvisible", "--pid", str(process_id), "--name", ".+").split()
+        return self._ask("xdotool", "search", "--all", "--onlyvisible", "--pid", str(process_id), "--name", ".+").split()
 
     def window(self, process_id: int) -> str:
         return eventually(lambda: self.windows(process_id), "no window came")[0]

@@ -13,11 +13,13 @@ from screen import Screen
 from session import Session
 
 BINARY = Path(os.environ["LARKSPAN_E2E_BINARIES"], "larkspan")
+DEMO = BINARY.with_name("larkspan-demo")
 
 
 class Program:
-    def __init__(self, process: subprocess.Popen, session: Session, display: Display) -> None:
+    def __init__(self, process: subprocess.Popen, binary: Path, session: Session, display: Display) -> None:
         self.process = process
+        self.binary = binary
         self.surroundings = surroundings(session)
         self.display = display
         self.screen = Screen(session, process.pid)
@@ -39,11 +41,11 @@ def surroundings(session: Session) -> dict[str, str]:
 
 
 @contextmanager
-def program(session: Session, display: Display) -> Iterator[Program]:
-    with running(str(BINARY), env=surroundings(session)) as process:
-        yield Program(process, session, display)
+def program(session: Session, display: Display, binary: Path = BINARY) -> Iterator[Program]:
+    with running(str(binary), env=surroundings(session)) as process:
+        yield Program(process, binary, session, display)
 
 
 def start_again(first: Program) -> int:
     """The exit code of a second start in the same session."""
-    return subprocess.run([str(BINARY)], env=first.surroundings, timeout=10, check=False).returncode
+    return subprocess.run([str(first.binary)], env=first.surroundings, timeout=10, check=False).returncode

@@ -80,6 +80,13 @@ Sheet {
         }
         IconLabel {
             width: parent.width
+            visible: sheet.settings.showsField && text !== ""
+            symbol: sheet.settings.demoHint.symbol
+            text: sheet.settings.demoHint.text
+            tone: sheet.settings.demoHint.tone
+        }
+        IconLabel {
+            width: parent.width
             visible: sheet.settings.showsField
             symbol: "lock.shield"
             text: qsTr("Your API key is stored securely in the Keychain.")

@@ -1,4 +1,5 @@
-// A program that does nothing but be one instance, and says what happens to it.
+// usage: larkspan_instance_probe NAME
+// A program that does nothing but be the one instance of that name, and says what happens to it.
 
 #include <QCoreApplication>
 
@@ -23,7 +24,8 @@ int main(int argc, char** argv)
 {
     const auto token = larkspan::adapters::launchActivationToken();
     const QCoreApplication application(argc, argv);
-    SingleInstance instance(QDBusConnection::sessionBus(), std::chrono::milliseconds(1500));
+    SingleInstance instance(
+        QDBusConnection::sessionBus(), QString::fromLocal8Bit(argv[argc - 1]), std::chrono::milliseconds(1500));
     if (instance.claim(token) == SingleInstance::Standing::second) {
         say("second");
         return 0;

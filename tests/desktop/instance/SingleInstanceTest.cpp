@@ -18,11 +18,14 @@ namespace {
 
 using peers::PrivateBus;
 
+const auto programName = QStringLiteral("com.kestrune.larkspan");
+
 /// Another process that starts the program.
 class Start : public peers::Peer {
 public:
-    explicit Start(const QString& busAddress, const QString& tokenVariable = {}, const QString& token = {})
-        : Peer(LARKSPAN_INSTANCE_PROBE, {}, environment(busAddress, tokenVariable, token))
+    explicit Start(const QString& busAddress, const QString& tokenVariable = {}, const QString& token = {},
+        const QString& name = programName)
+        : Peer(LARKSPAN_INSTANCE_PROBE, {name}, environment(busAddress, tokenVariable, token))
     {
     }
 
@@ -43,7 +46,7 @@ private:
 QDBusMessage callApplication(const PrivateBus& bus, const QString& method, const QVariantList& arguments)
 {
     auto call = QDBusMessage::createMethodCall(
-        SingleInstance::serviceName, SingleInstance::objectPath, "org.freedesktop.Application", method);
+        programName, QStringLiteral("/com/kestrune/larkspan"), "org.freedesktop.Application", method);
     call.setArguments(arguments);
     return bus.connect().call(call);
 }
@@ -91,6 +94,24 @@ TEST(SingleInstance, OfManyStartsAtOnceExactlyOneIsFirst)
 
     EXPECT_EQ(firsts, 1);
     EXPECT_EQ(seconds, 5);
+}
+
+TEST(SingleInstance, ProgramsOfDifferentNamesRunBesideOneAnother)
+{
+    const PrivateBus bus;
+    Start program(bus.address());
+    ASSERT_EQ(program.hear(), "first");
+    const auto otherName = programName + QStringLiteral(".other");
+
+    Start other(bus.address(), {}, {}, otherName);
+    EXPECT_EQ(other.hear(), "first");
+
+    Start otherAgain(bus.address(), {}, {}, otherName);
+    EXPECT_EQ(otherAgain.hear(), "second");
+    EXPECT_EQ(other.hear(), "activated");
+    Start programAgain(bus.address());
+    EXPECT_EQ(programAgain.hear(), "second");
+    EXPECT_EQ(program.hear(), "activated");
 }
 
 TEST(SingleInstance, AFirstThatDoesNotAnswerIsReplacedAndQuitsWhenItWakes)

@@ -20,6 +20,26 @@ TEST_F(SettingsOnScreen, WithoutAKeyEveryTextIsThereInItsWords)
     EXPECT_FALSE(shows(savedText));
 }
 
+TEST_F(SettingsOnScreen, TheDemosKeyStandsUnderTheFieldForAsLongAsThatIsThere)
+{
+    const auto hint = QStringLiteral("The API key of this demo is \"sesame\".");
+    dashboard->demoKey = "sesame";
+    open();
+    EXPECT_FALSE(shows(hint));
+    choose(deleteLabel);
+    choose(QStringLiteral("Delete"));
+    ASSERT_TRUE(hasField());
+    EXPECT_TRUE(shows(hint));
+}
+
+TEST_F(SettingsOnScreen, TheProgramTellsNoKey)
+{
+    openWithoutKey();
+    ASSERT_TRUE(hasField());
+    for (const auto& thing : things())
+        EXPECT_FALSE(thing.name.contains(QStringLiteral("demo"))) << thing.name.toStdString();
+}
+
 TEST_F(SettingsOnScreen, WithoutAKeyTheButtonsAreSaveAndDone)
 {
     openWithoutKey();

@@ -79,6 +79,14 @@ TEST_F(SettingsSheet, UntilTheStoreHasAnsweredItShowsThatItLooksAndOffersNoField
     EXPECT_TRUE(openedWithoutKey()->showsField());
 }
 
+TEST_F(SettingsSheet, TellsTheKeyOfTheDemoAndNoneInTheProgram)
+{
+    const Settings ofTheDemo(Settings::Ports{main, state, keys, "open-sesame"});
+    EXPECT_EQ(ofTheDemo.demoHint(),
+        (presentation::Marker{.symbol = "info.circle", .text = "The API key of this demo is \"open-sesame\"."}));
+    EXPECT_EQ(opened()->demoHint(), presentation::Marker{});
+}
+
 TEST_F(SettingsSheet, LooksAtTheStoreOnTheClientsThreadOnly)
 {
     const auto settings = std::make_shared<Settings>(Settings::Ports{main, state, keys});
