@@ -186,12 +186,14 @@ class RefusedInTheList : public ActionInTheList,
 TEST_P(RefusedInTheList, IsAnAlertThatLeavesTheRowAsItWasAndTakesTheBusyMark)
 {
     const auto& [action, refusal] = GetParam();
-    transport.script(actionURL("1", action), refusal.answer);
+    const std::string order = action;
+    const std::string monitor = order == "resume" ? "2" : "1";
+    transport.script(actionURL(monitor, order), refusal.answer);
     const auto before = view->rows();
-    view->press("1", std::string_view(action) == "run" ? "checkNow" : "pauseResume");
+    view->press(monitor, order == "run" ? "checkNow" : "pauseResume");
     run();
     EXPECT_EQ(view->alert(), refusal.alert);
-    EXPECT_EQ(transport.requests.size(), 1u) << "no refresh follows";
+    EXPECT_EQ(sent(), Words{"POST /user/api/monitors/" + monitor + "/" + order}) << "no refresh follows";
     EXPECT_EQ(view->rows(), before);
     view->dismissAlert();
     EXPECT_EQ(view->alert(), "");
@@ -199,7 +201,7 @@ TEST_P(RefusedInTheList, IsAnAlertThatLeavesTheRowAsItWasAndTakesTheBusyMark)
 }
 
 INSTANTIATE_TEST_SUITE_P(EachActionAndAnswer, RefusedInTheList,
-    testing::Combine(testing::Values("pause", "run"), testing::ValuesIn(fakes::refusals())));
+    testing::Combine(testing::Values("pause", "resume", "run"), testing::ValuesIn(fakes::refusals())));
 
 }  // namespace
 
