@@ -39,7 +39,7 @@ bool isCovered(const QQuickItem& item)
 }
 
 /// Qt's own account of an item, completed.
-class ItemAccess final : public QAccessibleInterface {
+class ItemAccess final : public QAccessibleInterface, public QAccessibleActionInterface {
 public:
     /// `plain` is Qt's own, which Qt keeps and deletes together with the item, as this one.
     ItemAccess(QQuickItem& item, QAccessibleInterface& plain)
@@ -81,9 +81,34 @@ public:
     QColor foregroundColor() const override { return plain_.foregroundColor(); }
     QColor backgroundColor() const override { return plain_.backgroundColor(); }
     void virtual_hook(int id, void* data) override { plain_.virtual_hook(id, data); }
-    void* interface_cast(QAccessible::InterfaceType type) override { return plain_.interface_cast(type); }
+    void* interface_cast(QAccessible::InterfaceType type) override
+    {
+        auto* const plain = plain_.interface_cast(type);
+        return plain && type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : plain;
+    }
+
+    QStringList actionNames() const override { return plain_.actionInterface()->actionNames(); }
+    QString localizedActionName(const QString& action) const override
+    {
+        return plain_.actionInterface()->localizedActionName(action);
+    }
+    QString localizedActionDescription(const QString& action) const override
+    {
+        return plain_.actionInterface()->localizedActionDescription(action);
+    }
+    QStringList keyBindingsForAction(const QString& action) const override
+    {
+        return plain_.actionInterface()->keyBindingsForAction(action);
+    }
+    void doAction(const QString& action) override
+    {
+        if (isInReach()) plain_.actionInterface()->doAction(action);
+    }
 
 private:
+    /// What neither pointer nor keyboard reaches, an assistive technology does not either.
+    bool isInReach() const { return item_.isEnabled() && !isCovered(item_); }
+
     void tellWhetherEnabled()
     {
         // Qt 6.8 tells of it by itself.

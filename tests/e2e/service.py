@@ -59,9 +59,9 @@ class Service:
     def give(self, pages: list[dict]) -> None:
         self._order("PUT", "pages", {"pages": pages})
 
-    def seed(self, name: str) -> None:
+    def seed(self, name: str, **details: str) -> None:
         """An account with all that one can have, believable and the same each time."""
-        self._order("PUT", "pages", {"seed": name})
+        self._order("PUT", "pages", {"seed": name, **details})
         self.forget()
 
     def change(self, page: str, **values: str) -> None:
@@ -74,8 +74,9 @@ class Service:
     def resolve_incident(self, incident: str) -> None:
         self._order("PATCH", f"incidents/{incident}", {"status": "resolved"})
 
-    def plan_maintenance(self, title: str, **details: str) -> None:
-        self._order("POST", "maintenances", {"title": title, **details})
+    def plan_maintenance(self, title: str, **details: str) -> str:
+        """Its id."""
+        return self._order("POST", "maintenances", {"title": title, **details})["id"]
 
     def add_component_group(self, name: str, page: str) -> str:
         """Its id."""

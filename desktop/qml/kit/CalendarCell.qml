@@ -16,7 +16,7 @@ Item {
     Accessible.selectable: true
     Accessible.selected: day.isChosen
     Accessible.focusable: true
-    Accessible.onPressAction: if (enabled) triggered()
+    Accessible.onPressAction: triggered()
 
     Rectangle {
         anchors.centerIn: parent

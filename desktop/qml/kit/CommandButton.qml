@@ -26,7 +26,7 @@ T.Button {
     opacity: enabled ? 1 : 0.5
     Accessible.name: text
     // Qt 6.4 tells assistive technologies of the action, but does nothing when they take it.
-    Accessible.onPressAction: if (enabled) clicked()
+    Accessible.onPressAction: clicked()
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
 

@@ -17,7 +17,7 @@ T.MenuItem {
     opacity: enabled ? 1 : 0.5
     Accessible.name: text
     // Qt 6.4 tells assistive technologies of the action, but does nothing when they take it.
-    Accessible.onPressAction: if (enabled) triggered()
+    Accessible.onPressAction: triggered()
 
     contentItem: Item {
         implicitWidth: caption.x + caption.implicitWidth

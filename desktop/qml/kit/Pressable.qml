@@ -15,7 +15,7 @@ Item {
     activeFocusOnTab: true
     Accessible.name: text
     Accessible.focusable: activeFocusOnTab
-    Accessible.onPressAction: if (enabled) clicked()
+    Accessible.onPressAction: clicked()
     Keys.onSpacePressed: clicked()
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()

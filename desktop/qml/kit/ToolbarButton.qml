@@ -22,7 +22,7 @@ T.Button {
     opacity: enabled ? 1 : 0.4
     Accessible.name: help
     // Qt 6.4 tells assistive technologies of the action, but does nothing when they take it.
-    Accessible.onPressAction: if (enabled) clicked()
+    Accessible.onPressAction: clicked()
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
 

@@ -22,7 +22,7 @@ Item {
     Accessible.description: row.help
     Accessible.focusable: row.isCommand
     Accessible.focused: isLit
-    Accessible.onPressAction: if (enabled) triggered()
+    Accessible.onPressAction: triggered()
 
     Rectangle {
         visible: delegate.row.isSeparator

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "KitWindow.h"
-#include "bridge/ItemAccess.h"
 
 namespace larkspan {
 
@@ -18,13 +17,17 @@ protected:
             property bool showsSheet: false
             property bool showsAlert: false
             property bool showsMenu: false
+            property var pressed: []
             ScreenFrame {
                 anchors.fill: parent
                 title: "Screen"
                 Item {
                     enabled: window.isEnabled
-                    CommandButton { objectName: "below"; text: "Below"; focus: true }
+                    CommandButton { objectName: "below"; text: "Below"; focus: true; onClicked: window.pressed.push("below") }
                     Label { objectName: "words"; y: 100; text: "Words" }
+                    ToolbarButton { objectName: "tool"; y: 120; symbol: "plus"; help: "Tool"; onClicked: window.pressed.push("tool") }
+                    Pressable { objectName: "pressable"; y: 160; text: "Pressable"; Accessible.role: Accessible.Button; onClicked: window.pressed.push("pressable") }
+                    CardRow { objectName: "row"; y: 200; width: 100; index: 0; name: "Row"; contentItem: Item {} onClicked: window.pressed.push("row") }
                 }
             }
             PopupLoader {
@@ -32,7 +35,7 @@ protected:
                 onDismissed: window.showsSheet = false
                 sourceComponent: Sheet {
                     title: "Sheet"
-                    CommandButton { objectName: "inSheet"; text: "In the sheet"; focus: true }
+                    CommandButton { objectName: "inSheet"; text: "In the sheet"; focus: true; onClicked: window.pressed.push("inSheet") }
                 }
             }
             PopupLoader {
@@ -45,12 +48,20 @@ protected:
                 KitMenuItem { objectName: "choice"; text: "Choice" }
             })"))
     {
-        bridge::tellAccessibilityWhatIsOutOfReach();
     }
 
     QAccessible::State stateOf(const char* name) const
     {
         return QAccessible::queryAccessibleInterface(&item(QString::fromLatin1(name)))->state();
+    }
+    /// All that was pressed so far, after an assistive technology has pressed this.
+    QStringList pressed(const char* name)
+    {
+        auto* const actions
+            = QAccessible::queryAccessibleInterface(&item(QString::fromLatin1(name)))->actionInterface();
+        actions->doAction(QAccessibleActionInterface::pressAction());
+        settle();
+        return property("pressed").toStringList();
     }
     bool isDisabled(const char* name) const { return stateOf(name).disabled; }
     bool shows(const char* name) const { return !stateOf(name).offscreen && !stateOf(name).invisible; }
@@ -94,6 +105,26 @@ TEST_F(WhatAScreenReaderIsTold, AMenuOverASheetCoversNothing)
     EXPECT_TRUE(shows("choice"));
     EXPECT_TRUE(shows("inSheet"));
     EXPECT_FALSE(shows("below"));
+}
+
+TEST_F(WhatAScreenReaderIsTold, PressingWhatIsDisabledDoesNothing)
+{
+    QStringList all;
+    for (const auto* const name : {"below", "tool", "pressable", "row"}) {
+        setProperty("isEnabled", false);
+        EXPECT_EQ(pressed(name), all);
+        setProperty("isEnabled", true);
+        EXPECT_EQ(pressed(name), all += QString::fromLatin1(name));
+    }
+}
+
+TEST_F(WhatAScreenReaderIsTold, PressingWhatASheetCoversDoesNothing)
+{
+    setProperty("showsSheet", true);
+    EXPECT_EQ(pressed("below"), QStringList());
+    EXPECT_EQ(pressed("inSheet"), QStringList("inSheet"));
+    setProperty("showsSheet", false);
+    EXPECT_EQ(pressed("below"), (QStringList{"inSheet", "below"}));
 }
 
 TEST_F(WhatAScreenReaderIsTold, AnItemHasTheRoleTheNameTheActionsAndTheParentThatQtGivesIt)

@@ -6,10 +6,14 @@
 
 #include <stdexcept>
 
+#include "bridge/ItemAccess.h"
+
 namespace larkspan {
 
 KitWindow::KitWindow(const QString& body)
 {
+    // As the program does, before anything asks for an item's account.
+    bridge::tellAccessibilityWhatIsOutOfReach();
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
     QQmlComponent component(&engine_);
     const auto text
