@@ -4,6 +4,7 @@
 #include <functional>
 #include <utility>
 
+#include "account/PrefixedIds.h"
 #include "account/Seed.h"
 #include "server/EventOrders.h"
 
@@ -50,7 +51,9 @@ Account readAccount(const Json& order, support::Time now)
     if (order.find("seed")) {
         const auto size = seedSize(requiredText(order, "seed"));
         if (!size) throw BadOrder("There is no such seed.");
-        return seededAccount(*size, now);
+        auto account = seededAccount(*size, now);
+        if (order.find("id_prefix")) prefixIds(account, requiredText(order, "id_prefix"));
+        return account;
     }
     const auto* list = required(order, "pages").array();
     if (!list) throw BadOrder("\"pages\" is no list.");

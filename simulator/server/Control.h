@@ -12,7 +12,8 @@ namespace larkspan::simulator {
 /// - POST /simulator/faults: a fault, as `readFaultRule` takes it; DELETE: no faults any more
 /// - GET /simulator/requests: what the service was sent: method, target, headers, body; DELETE: forget that
 /// - PUT /simulator/pages: {"seed": "small"} or {"pages": [{"id", "name", "health"}, ...]}; the
-///   incidents and maintenances known before are gone, and only a seed brings new ones
+///   incidents and maintenances known before are gone, and only a seed brings new ones; with it, {"id_prefix": "an_"}
+///   stands before the id of each record
 /// - PATCH /simulator/pages/ID: {"health": "degraded"}, {"name"}, {"status"}, {"code", "label"}
 /// - POST /simulator/incidents: {"title", "page", "message", "severity", "status"}, all but the title optional: a major
 ///   one, "active" unless told otherwise; answers 201 with {"id"}

@@ -46,6 +46,16 @@ TEST_F(ControlOrders, ReplaceThePages)
     EXPECT_EQ(Json::parse(pages().body).array()->size(), 1'000u);
 }
 
+TEST_F(ControlOrders, SeedRecordsWhoseIdsBeginAsTold)
+{
+    EXPECT_EQ(order("PUT", "pages", R"({"seed":"tiny","id_prefix":"an_"})"), 204);
+    service_.withAccount([](Account& account) {
+        EXPECT_TRUE(account.findPage("an_page-1"));
+        EXPECT_TRUE(account.findMonitor("an_1"));
+        EXPECT_FALSE(account.findMonitor("1"));
+    });
+}
+
 TEST_F(ControlOrders, ChangeOnePage)
 {
     EXPECT_EQ(order("PATCH", "pages/page-2", R"({"health":"major-outage","name":"Renamed"})"), 204);
