@@ -86,6 +86,9 @@ class Service:
         """Its id."""
         return str(self._ask("POST", "components", {"name": name, "group_id": group})["id"])
 
+    def delete_component(self, component: str) -> None:
+        self._ask("DELETE", f"components/{component}")
+
     def show_certificate(self, kind: str) -> None:
         self._order("PUT", "certificate", {"certificate": kind})
 
@@ -105,10 +108,10 @@ class Service:
     def _order(self, method: str, what: str, order: dict | None = None):
         return self._send(method, f"simulator/{what}", order)
 
-    def _ask(self, method: str, what: str, body: dict):
-        """As another client of the account would."""
+    def _ask(self, method: str, what: str, body: dict | None = None):
+        """As another client of the account would; its answer, if that says anything."""
         answer = self._send(method, f"user/api/{what}", body, {"Authorization": f"Bearer {KEY}", "X-API-KEY": KEY})
-        return answer.get("data", answer)
+        return answer.get("data", answer) if answer else None
 
     def _send(self, method: str, path: str, content: dict | None, headers: dict[str, str] | None = None):
         body = json.dumps(content).encode() if content is not None else None

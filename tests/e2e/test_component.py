@@ -109,6 +109,26 @@ def test_a_refusal_is_told_and_keeps_what_was_typed(opened, the_service, the_dis
     assert sent(the_service)[0][2]["name"] == "REST APIx"
 
 
+def test_one_that_is_deleted_elsewhere_while_it_is_edited_keeps_what_was_typed(opened, the_service, the_display):
+    opened.press("Edit")
+    opened.wait_for_focus("Name")
+    the_display.type_text("x")
+    the_service.delete_component(the_service.component)
+    opened.press("Save")
+    opened.wait_for("Server returned HTTP status code 404.")
+    opened.press("OK")
+    opened.wait_until_gone("Server returned HTTP status code 404.")
+    assert opened.shows("Cancel")
+    the_display.press_key("Escape")
+    opened.wait_for("Discard Changes?")
+    opened.press("Discard")
+    opened.wait_until_gone("Save")
+    the_display.press_key("Escape")
+    opened.wait_for_rows(["REST API", "Cache"])
+    the_display.press_key("F5")
+    opened.wait_for_rows(["Cache"])
+
+
 def test_delete_asks_first_and_leads_back_to_the_list(opened, the_service):
     opened.press("Delete Component")
     opened.press("Delete")

@@ -85,6 +85,21 @@ def test_a_refusal_is_told_and_nothing_is_fetched(page, the_service):
     expect_sent(the_service, order("pause"))
 
 
+def test_a_refused_resumption_leaves_the_row_paused(page, the_service):
+    page.press("Pause")
+    page.wait_for("Paused")
+    the_service.fail("status", path="/user/api/monitors/1/resume", code=422)
+    the_service.forget()
+    page.press("Resume")
+    page.wait_for("Server returned HTTP status code 422.")
+    page.press("OK")
+    page.wait_until_gone("Server returned HTTP status code 422.")
+    expect_sent(the_service, order("resume"))
+    assert page.shows("Paused")
+    page.wait_for_disabled([])
+    assert page.button("Resume")
+
+
 def test_metrics_are_fetched_once_and_their_samples_selected_with_the_keyboard(graph, the_service, the_display):
     assert selected(graph) == ""
     the_display.press_key("End")
