@@ -1,16 +1,12 @@
-#include <QFont>
-#include <QGuiApplication>
-#include <QQuickItem>
-
 #include <gtest/gtest.h>
 
 #include "IncidentsOnScreen.h"
+#include "Measures.h"
 
 namespace larkspan {
 
 namespace {
 
-/// Where things stand, and how large they are, in points of the screen.
 class Layout : public IncidentsOnScreen {
 protected:
     Layout()
@@ -24,48 +20,36 @@ protected:
     {
         return item(role, QString::fromUtf8(text));
     }
-
-    /// The tinted shape around a pill's word.
-    QQuickItem& pill(const char* word) const { return *label(word).parentItem()->parentItem(); }
-
-    static QFont font(const QQuickItem& label) { return label.property("font").value<QFont>(); }
-    static QRectF frame(const QQuickItem& item)
-    {
-        return item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
-    }
-
-    /// A size of the type scale.
-    static double size(double ofBase) { return QGuiApplication::font().pointSizeF() * ofBase; }
 };
 
 TEST_F(Layout, OfARowIsADotTheTitleABadgeTheDateAndAPill)
 {
     const auto& title = label("Login errors");
     EXPECT_EQ(title.height(), 22);
-    EXPECT_EQ(font(title).weight(), QFont::DemiBold);
+    EXPECT_EQ(fontOf(title).weight(), QFont::DemiBold);
 
     const auto& words = *title.parentItem();
     const auto& dot = *words.parentItem()->childItems().constFirst();
     EXPECT_EQ(dot.width(), 10);
     EXPECT_EQ(dot.height(), 10);
-    EXPECT_EQ(frame(words).left() - frame(dot).right(), 12);
-    EXPECT_EQ(frame(pill("Acknowledged")).left() - frame(words).right(), 12);
+    EXPECT_EQ(gapBeside(dot, words), 12);
+    EXPECT_EQ(gapBeside(words, shapeAround(label("Acknowledged"))), 12);
 
-    const auto& badge = pill("Critical");
-    EXPECT_EQ(frame(badge).top() - frame(title).bottom(), 2);
+    const auto& badge = shapeAround(label("Critical"));
+    EXPECT_EQ(gapBelow(title, badge), 2);
     EXPECT_EQ(badge.width() - label("Critical").width(), 8);
     EXPECT_EQ(badge.height() - label("Critical").height(), 8);
-    EXPECT_EQ(font(label("Critical")).weight(), QFont::Bold);
-    EXPECT_NEAR(font(label("Critical")).pointSizeF(), size(0.79), 0.01);
+    EXPECT_EQ(fontOf(label("Critical")).weight(), QFont::Bold);
+    EXPECT_EQ(sizeOf(label("Critical")), type::caption2);
     EXPECT_EQ(badge.property("tint").toDouble(), 0.2);
 
-    EXPECT_EQ(frame(label("2026-11-20")).left() - frame(badge).right(), 6);
-    EXPECT_NEAR(font(label("2026-11-20")).pointSizeF(), size(0.86), 0.01);
+    EXPECT_EQ(gapBeside(badge, label("2026-11-20")), 6);
+    EXPECT_EQ(sizeOf(label("2026-11-20")), type::caption);
 }
 
 TEST_F(Layout, OfAStatusPillHasEightPointsBesideItsWordAndFourAboveIt)
 {
-    const auto& status = pill("Acknowledged");
+    const auto& status = shapeAround(label("Acknowledged"));
     EXPECT_EQ(status.width() - label("Acknowledged").width(), 16);
     EXPECT_EQ(status.height() - label("Acknowledged").height(), 8);
     EXPECT_EQ(status.property("radius").toInt(), 6);
@@ -80,23 +64,23 @@ TEST_F(Layout, OfAnIncidentsHeaderIsItsLargeTitleOverPillsEightPointsApart)
         if (each.isVisible() && each.property("layoutHeight").toInt() == 38) title = &each;
     });
     EXPECT_EQ(title->height(), 38);
-    EXPECT_EQ(font(*title).weight(), QFont::Bold);
-    EXPECT_NEAR(font(*title).pointSizeF(), size(1.8), 0.01);
+    EXPECT_EQ(fontOf(*title).weight(), QFont::Bold);
+    EXPECT_EQ(sizeOf(*title), type::title);
 
-    const auto& severity = pill("Critical");
+    const auto& severity = shapeAround(label("Critical"));
     EXPECT_EQ(severity.width() - label("Critical").width(), 20);
     EXPECT_EQ(severity.height() - label("Critical").height(), 10);
-    EXPECT_NEAR(font(label("Critical")).pointSizeF(), size(0.93), 0.01);
-    EXPECT_EQ(frame(severity).left() - frame(pill("Acknowledged")).right(), 8);
+    EXPECT_EQ(sizeOf(label("Critical")), type::subheadline);
+    EXPECT_EQ(gapBeside(shapeAround(label("Acknowledged")), severity), 8);
 }
 
 TEST_F(Layout, OfATimelineHasRowsEightPointsApartAndGroupsTwenty)
 {
     openFirst();
-    EXPECT_EQ(frame(label("Updated")).top() - frame(label("Created")).bottom(), 8);
-    EXPECT_NEAR(font(label("Created")).pointSizeF(), size(0.93), 0.01);
+    EXPECT_EQ(gapBelow(label("Created"), label("Updated")), 8);
+    EXPECT_EQ(sizeOf(label("Created")), type::subheadline);
     const auto& group = *label("Timeline", Role::Heading).parentItem()->parentItem();
-    EXPECT_EQ(frame(group).top() - frame(pill("Critical")).bottom(), 20);
+    EXPECT_EQ(gapBelow(shapeAround(label("Critical")), group), 20);
 }
 
 TEST_F(Layout, OfAPageIsAPickerTwelvePointsFromTheHeaderAndItsContentTwelveBelow)
@@ -104,7 +88,7 @@ TEST_F(Layout, OfAPageIsAPickerTwelvePointsFromTheHeaderAndItsContentTwelveBelow
     const auto& picker = item(Role::PageTabList, QStringLiteral("View"));
     const auto& screen = item(Role::List, QStringLiteral("Incidents"));
     EXPECT_EQ(picker.mapToItem(picker.parentItem(), {0, 0}).y(), 12);
-    EXPECT_EQ(frame(screen).top() - frame(picker).bottom(), 12);
+    EXPECT_EQ(gapBelow(picker, screen), 12);
     EXPECT_EQ(picker.width(), 560);
     window().resize(480, 440);
     settle();
@@ -117,16 +101,12 @@ TEST_F(Layout, OfAPlaceholderIsASymbolOfFortyPointsAndWhatFollowsSixteenApart)
     press(Qt::Key_F5);
     const auto& title = label("No Incidents", Role::Heading);
     const auto& text = label("All systems are running smoothly.");
-    EXPECT_EQ(font(title).weight(), QFont::Bold);
-    EXPECT_NEAR(font(title).pointSizeF(), size(1.2), 0.01);
-    EXPECT_EQ(frame(text).top() - frame(title).bottom(), 16);
-    const QQuickItem* symbol = nullptr;
-    for (const auto* each : title.parentItem()->childItems()) {
-        if (each->isVisible() && each->property("name").toString() == QStringLiteral("checkmark.shield")) symbol = each;
-    }
-    ASSERT_TRUE(symbol);
-    EXPECT_EQ(symbol->width(), 40);
-    EXPECT_EQ(frame(title).top() - frame(*symbol).bottom(), 16);
+    EXPECT_EQ(fontOf(title).weight(), QFont::Bold);
+    EXPECT_EQ(sizeOf(title), type::title3);
+    EXPECT_EQ(gapBelow(title, text), 16);
+    const auto& symbol = partOf(*title.parentItem(), "name", QStringLiteral("checkmark.shield"));
+    EXPECT_EQ(symbol.width(), 40);
+    EXPECT_EQ(gapBelow(symbol, title), 16);
 }
 
 }  // namespace

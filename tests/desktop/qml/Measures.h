@@ -1,0 +1,78 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QQuickItem>
+#include <QRectF>
+
+#include <string>
+#include <vector>
+
+#include "Screen.h"
+
+namespace larkspan {
+
+/// Where things stand, and how large they are, in points of the window.
+QRectF frameOf(const QQuickItem& item);
+double gapBeside(const QQuickItem& left, const QQuickItem& right);
+double gapBelow(const QQuickItem& upper, const QQuickItem& lower);
+
+/// What of the item's place is painted in another colour than its left upper corner.
+QRectF inkOf(const QQuickItem& item);
+
+QFont fontOf(const QQuickItem& text);
+/// The size of its font, as a part of the desktop's.
+double sizeOf(const QQuickItem& text);
+QColor colorOf(const QQuickItem& item);
+
+/// What is seen below `root` and has that property with that value, such as a symbol's `name`; in the order of
+/// painting.
+std::vector<QQuickItem*> partsOf(const QQuickItem& root, const char* property, const QVariant& value);
+/// The first of those; fails the test if there is none.
+QQuickItem& partOf(const QQuickItem& root, const char* property, const QVariant& value);
+
+/// The tinted shape around the word of a pill or a badge.
+const QQuickItem& shapeAround(const QQuickItem& word);
+
+/// How much wider and higher a pill is than its word, and how strong its tint.
+struct PillMeasures {
+    double beside;
+    double aboveAndBelow;
+    double size;
+    int weight;
+    double tint;
+
+    static PillMeasures of(const QQuickItem& word);
+
+    bool operator==(const PillMeasures&) const = default;
+    friend std::ostream& operator<<(std::ostream& out, const PillMeasures& pill);
+};
+
+/// The sizes of the type scale.
+namespace type {
+
+inline constexpr double title = 1.8;
+inline constexpr double title2 = 1.45;
+inline constexpr double title3 = 1.2;
+inline constexpr double body = 1;
+inline constexpr double subheadline = 0.93;
+inline constexpr double caption = 0.86;
+inline constexpr double caption2 = 0.79;
+
+}  // namespace type
+
+/// The colours of the light theme.
+namespace light {
+
+inline const QColor primary{"#1d2127"};
+inline const QColor secondary{"#5a6068"};
+inline const QColor green{"#17703b"};
+inline const QColor orange{"#964a00"};
+inline const QColor yellow{"#705700"};
+inline const QColor red{"#b32823"};
+inline const QColor blue{"#1a5bbd"};
+inline const QColor gray{"#5a6068"};
+
+}  // namespace light
+
+}  // namespace larkspan
