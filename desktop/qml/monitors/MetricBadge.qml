@@ -2,13 +2,16 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// One figure on a tint of its own colour: its icon, and beside it the figure over its name.
+// One figure on a tint of its own colour: its icon, and beside it the figure over its name; a trend is a word, and has its
+// name beside it.
 Rectangle {
     id: shape
     required property metricBadge badge
-    readonly property real wordsWidth: width - icon.width - content.spacing - 2 * Theme.unit
+    readonly property real frameWidth: icon.width + content.spacing + 2 * Theme.unit
+    readonly property real besideValue: badge.isTrend ? words.columnSpacing + label.implicitWidth : 0
+    readonly property real roomForWords: width - frameWidth
 
-    implicitWidth: icon.width + content.spacing + Math.max(value.implicitWidth, label.implicitWidth) + 2 * Theme.unit
+    implicitWidth: frameWidth + Math.max(value.implicitWidth + besideValue, label.implicitWidth)
     implicitHeight: content.implicitHeight + 2 * Theme.narrowGap
     radius: Theme.controlRadius
     color: Qt.alpha(Theme.toneColor(badge.tone), Theme.metricOpacity)
@@ -26,12 +29,16 @@ Rectangle {
             name: shape.badge.icon
             color: Theme.toneColor(shape.badge.tone)
         }
-        Column {
-            spacing: Theme.hairline
+        Grid {
+            id: words
+            columns: shape.badge.isTrend ? 2 : 1
+            columnSpacing: Theme.halfUnit
+            rowSpacing: Theme.hairline
+            verticalItemAlignment: Grid.AlignVCenter
 
             Label {
                 id: value
-                width: Math.min(implicitWidth, shape.wordsWidth)
+                width: Math.min(implicitWidth, Math.max(0, shape.roomForWords - shape.besideValue))
                 text: shape.badge.value
                 font.pointSize: Theme.caption
                 font.weight: Font.Bold
@@ -39,7 +46,7 @@ Rectangle {
             }
             Label {
                 id: label
-                width: Math.min(implicitWidth, shape.wordsWidth)
+                width: Math.min(implicitWidth, shape.roomForWords)
                 text: shape.badge.label
                 font.pointSize: Theme.caption2
                 color: Theme.secondary

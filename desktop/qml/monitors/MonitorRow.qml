@@ -61,7 +61,7 @@ CardRow {
                 id: trailing
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
-                spacing: Theme.halfUnit
+                spacing: Theme.rowGap
 
                 Pill {
                     anchors.verticalCenter: parent.verticalCenter
