@@ -36,7 +36,7 @@ Rectangle {
             id: indicator
             anchors.horizontalCenter: parent.horizontalCenter
             y: 3 * Theme.unit
-            width: 2 * Theme.iconSize
+            width: 1.5 * implicitWidth
             height: width
             name: overlay.text !== "" ? overlay.text : qsTr("In progress")
         }
