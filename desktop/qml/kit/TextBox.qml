@@ -20,9 +20,20 @@ FocusScope {
     implicitHeight: Math.min(Theme.textBoxMostHeight * Theme.scale,
         Math.max(Theme.textBoxHeight * Theme.scale, area.implicitHeight + 2 * Theme.focusWidth))
 
-    EntryBackground {
+    Rectangle {
         anchors.fill: parent
-        isFocused: area.activeFocus
+        radius: Theme.boxRadius
+        color: Theme.window
+        border.width: Theme.hairline
+        border.color: Qt.alpha(Theme.secondary, Theme.outlineOpacity)
+    }
+    Rectangle {
+        anchors.fill: parent
+        visible: area.activeFocus
+        radius: Theme.boxRadius
+        color: "transparent"
+        border.width: Theme.focusWidth
+        border.color: Theme.focus
     }
     Flickable {
         anchors.fill: parent
@@ -32,7 +43,7 @@ FocusScope {
         T.TextArea.flickable: T.TextArea {
             id: area
             focus: true
-            padding: Theme.unit
+            padding: Theme.halfUnit - Theme.focusWidth
             implicitHeight: contentHeight + topPadding + bottomPadding
             // To look for a place to break takes time with the square of a text that has none.
             property int lengthToCome: 0

@@ -37,6 +37,7 @@ QtObject {
     readonly property real areaOpacity: 0.10
     readonly property real ruleOpacity: 0.55
     readonly property real metricOpacity: 0.12
+    readonly property real outlineOpacity: hasHighContrast ? 1 : 0.3
     readonly property color track: Qt.alpha(text, 0.25)
 
     readonly property real base: Application.font.pointSize > 0 ? Application.font.pointSize : 10
@@ -54,6 +55,7 @@ QtObject {
     readonly property int halfUnit: 4
     readonly property int margin: 20
     readonly property int cardRadius: 12
+    readonly property int boxRadius: 10
     readonly property int controlRadius: 8
     readonly property int pillRadius: 6
     readonly property int hairline: 1
