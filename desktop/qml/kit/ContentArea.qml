@@ -8,6 +8,7 @@ FocusScope {
     id: area
     property bool showsContent: true
     property placeholder placeholder
+    property alias hasBoldTitle: state.hasBoldTitle
     default property alias content: middle.data
     signal retried
     signal settingsRequested

@@ -6,6 +6,7 @@ import Larkspan.Bridge
 Column {
     id: state
     required property placeholder placeholder
+    property bool hasBoldTitle: true
     signal retried
     signal settingsRequested
 
@@ -32,7 +33,7 @@ Column {
         text: state.placeholder.title
         horizontalAlignment: Text.AlignHCenter
         font.pointSize: Theme.title3
-        font.weight: Font.Bold
+        font.weight: state.hasBoldTitle ? Font.Bold : Font.Normal
         wrapMode: Text.Wrap
         Accessible.role: Accessible.Heading
     }

@@ -8,6 +8,7 @@ ContentArea {
 
     showsContent: maintenances.showsList
     placeholder: maintenances.placeholder
+    hasBoldTitle: false
     onRetried: maintenances.refresh()
 
     CardList {
