@@ -15,10 +15,17 @@ class MeasuredColumns {
 public:
     using Columns = std::shared_ptr<const incidents::MarkdownColumns>;
 
-    QList<qreal> widthsOf(const Columns& columns, const QFont& font);
+    struct Fonts {
+        QFont ofHeaders;
+        QFont ofCells;
+
+        bool operator==(const Fonts&) const = default;
+    };
+
+    QList<qreal> widthsOf(const Columns& columns, const Fonts& fonts);
 
 private:
-    QFont font_;
+    Fonts fonts_;
     // Held, so that none comes to stand where another was measured.
     std::map<Columns, QList<qreal>> widths_;
 };

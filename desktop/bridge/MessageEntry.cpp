@@ -13,7 +13,7 @@ std::vector<MessageEntry> MessageEntry::entriesOf(incidents::MarkdownRows rows)
     std::vector<MessageEntry> entries;
     entries.reserve(rows.rows.size());
     for (auto& row : rows.rows) {
-        auto columns = row.cells.empty() ? nullptr : tables.at(row.table);
+        auto columns = row.isOfTable() ? tables.at(row.table) : nullptr;
         auto title = row.text.plain;
         entries.push_back({.id = std::to_string(entries.size()),
             .title = std::move(title),

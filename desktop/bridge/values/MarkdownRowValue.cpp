@@ -14,9 +14,10 @@ MarkdownRowValue MarkdownRowValue::of(const MessageEntry& entry)
     value.isHeading = row.kind == Kind::title || row.kind == Kind::headline;
     value.isQuote = row.kind == Kind::quote;
     value.isItem = row.kind == Kind::bulletItem || row.kind == Kind::numberedItem;
-    value.isTable = row.kind == Kind::tableHeader || row.kind == Kind::tableRow;
+    value.isTable = row.isOfTable();
     value.isTableHeader = row.kind == Kind::tableHeader;
     value.isDivider = row.kind == Kind::tableDivider;
+    value.continuesPrevious = row.continuesPrevious;
     value.label = words(row.label);
     value.text = MarkdownTextValue::of(row.text);
     value.cells = valuesOf<MarkdownTextValue>(row.cells);

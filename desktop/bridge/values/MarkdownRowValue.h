@@ -18,9 +18,11 @@ struct MarkdownRowValue {
     Q_PROPERTY(bool isHeading MEMBER isHeading)
     Q_PROPERTY(bool isQuote MEMBER isQuote)
     Q_PROPERTY(bool isItem MEMBER isItem)
+    /// Also its divider.
     Q_PROPERTY(bool isTable MEMBER isTable)
     Q_PROPERTY(bool isTableHeader MEMBER isTableHeader)
     Q_PROPERTY(bool isDivider MEMBER isDivider)
+    Q_PROPERTY(bool continuesPrevious MEMBER continuesPrevious)
     Q_PROPERTY(QString label MEMBER label)
     Q_PROPERTY(larkspan::bridge::MarkdownTextValue text MEMBER text)
     Q_PROPERTY(QList<larkspan::bridge::MarkdownTextValue> cells MEMBER cells)
@@ -40,6 +42,7 @@ public:
     bool isTable = false;
     bool isTableHeader = false;
     bool isDivider = false;
+    bool continuesPrevious = false;
     QString label{};
     MarkdownTextValue text{};
     QList<MarkdownTextValue> cells{};

@@ -7,8 +7,11 @@ CardList {
     id: list
     required property MessageBridge message
 
-    // One for headers and rows, so that they stand in line; the widest that either has.
-    readonly property font columnFont: Qt.font({pointSize: Theme.subheadline, weight: Font.DemiBold})
+    readonly property real digitWidth: {
+        let widest = 0
+        for (const digit of "0123456789") widest = Math.max(widest, bodyMetrics.advanceWidth(digit))
+        return widest
+    }
 
     name: qsTr("Description")
     rows: message.rows
@@ -16,10 +19,24 @@ CardList {
     widest: Theme.columnWidth * Theme.scale
     delegate: MessageRow {
         offsets: tableOffsets
-        columnWidths: row.isTable ? list.message.columnWidths(index, list.columnFont) : []
+        columnWidths: row.isTable ? list.message.columnWidths(index, headerMetrics.font, cellMetrics.font) : []
+        digitWidth: list.digitWidth
         onFollowed: (cell, href) => list.message.follow(index, cell, href)
     }
 
+    FontMetrics {
+        id: bodyMetrics
+        font.pointSize: Theme.body
+    }
+    FontMetrics {
+        id: headerMetrics
+        font.pointSize: Theme.caption
+        font.weight: Font.DemiBold
+    }
+    FontMetrics {
+        id: cellMetrics
+        font.pointSize: Theme.subheadline
+    }
     TableOffsets {
         id: tableOffsets
     }

@@ -9,6 +9,7 @@ CardRow {
     required property markdownRow row
     required property TableOffsets offsets
     property list<real> columnWidths
+    required property real digitWidth
     property int nextLink: 0
     signal followed(cell: int, href: string)
 
@@ -16,7 +17,7 @@ CardRow {
     isPressable: false
     hasDivider: false
     topPadding: row.gap + (index === 0 ? 2 * Theme.unit : 0)
-    bottomPadding: index === ListView.view.count - 1 ? 2 * Theme.unit : 0
+    bottomPadding: index === ListView.view.count - 1 ? 2 * Theme.unit + (row.isTable ? Theme.tablePadding : 0) : 0
     // Around the text, of which a row is no taller.
     ringTop: topPadding - Theme.focusWidth
     ringBottom: bottomPadding - Theme.focusWidth
@@ -35,35 +36,31 @@ CardRow {
     }
 
     contentItem: Item {
-        implicitHeight: delegate.row.isDivider ? Theme.hairline : delegate.row.isTable ? table.height : text.height
+        implicitHeight: delegate.row.isTable ? table.height : text.height
 
-        Rectangle {
-            visible: delegate.row.isDivider
-            width: parent.width
-            height: Theme.hairline
-            color: Theme.line
-        }
         Rectangle {
             visible: delegate.row.isQuote
             width: Theme.quoteBarWidth
             height: parent.height
             color: Theme.secondary
         }
-        Label {
+        ItemMark {
             id: mark
-            visible: text !== ""
+            visible: delegate.row.isItem
+            isSeen: !delegate.row.continuesPrevious
             text: delegate.row.label
-            color: Theme.secondary
+            digitWidth: delegate.digitWidth
         }
         MessageText {
             id: text
-            visible: !delegate.row.isTable && !delegate.row.isDivider
-            x: delegate.row.isQuote ? Theme.quoteBarWidth + Theme.quoteGap : delegate.row.isItem ? Math.max(mark.implicitWidth, Theme.itemIndent) + Theme.itemGap : 0
+            visible: !delegate.row.isTable
+            x: delegate.row.isQuote ? Theme.quoteBarWidth + Theme.quoteGap : delegate.row.isItem ? mark.width + Theme.itemGap : 0
             width: parent.width - x
             words: delegate.row.text
             color: delegate.row.isQuote ? Theme.secondary : Theme.text
             font.pointSize: delegate.row.isTitle ? Theme.title3 : Theme.body
             font.weight: delegate.row.isHeading ? Font.DemiBold : Font.Normal
+            horizontalAlignment: delegate.row.isQuote || delegate.row.isItem ? TextEdit.AlignLeft : undefined
             onFollowed: href => delegate.followed(-1, href)
         }
         TableLine {

@@ -2,18 +2,23 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A row of a table, whose columns are as wide as their longest text; what has no room is reached by scrolling sideways,
-// in all rows of the table at once.
+// A row of a table, or the divider below its headers. The columns are as wide as their longest text; what has no room is
+// reached by scrolling sideways, in all rows of the table at once.
 Flickable {
     id: line
     required property markdownRow row
     required property TableOffsets offsets
     // Of each column, as its widest text is drawn.
     required property list<real> widths
+    readonly property real tableWidth: {
+        let sum = 0
+        for (let column = 0; column < row.columns; ++column) sum += widthOf(column) + (column > 0 ? cells.spacing : 0)
+        return sum
+    }
     signal followed(cell: int, href: string)
 
-    height: cells.implicitHeight
-    contentWidth: cells.implicitWidth
+    height: row.isDivider ? Theme.hairline : cells.implicitHeight
+    contentWidth: tableWidth
     boundsBehavior: Flickable.StopAtBounds
     flickableDirection: Flickable.HorizontalFlick
     clip: true
@@ -21,6 +26,9 @@ Flickable {
     onRowChanged: follow(row.table)
     onContentWidthChanged: follow(row.table)
 
+    function widthOf(column: int): real {
+        return Math.ceil(Math.min(widths[column] ?? 0, Theme.columnMostWidth * Theme.scale))
+    }
     function follow(table: int) {
         if (table === row.table && !moving) contentX = Math.max(0, Math.min(offsets.placeOf(table), contentWidth - width))
     }
@@ -36,18 +44,24 @@ Flickable {
         function onMoved(table) { line.follow(table) }
     }
 
+    Rectangle {
+        visible: line.row.isDivider
+        width: line.tableWidth
+        height: Theme.hairline
+        color: Theme.line
+    }
     Row {
         id: cells
         spacing: 2 * Theme.unit
 
         Repeater {
-            model: line.row.columns
+            model: line.row.isDivider ? 0 : line.row.columns
 
             Item {
                 id: cell
                 required property int index
 
-                width: Math.ceil(Math.min(line.widths[index] ?? 0, Theme.columnMostWidth * Theme.scale)) + Theme.unit
+                width: line.widthOf(index)
                 height: text.height
 
                 MessageText {

@@ -84,6 +84,7 @@ QtObject {
     readonly property int quoteBarWidth: 3
     readonly property int quoteGap: 10
     readonly property int itemGap: 7
+    readonly property int tablePadding: 2
     readonly property int tightGap: 3
     readonly property int narrowGap: 6
     readonly property int wideGap: 10
@@ -97,7 +98,6 @@ QtObject {
     readonly property int timeFieldWidth: Math.round(44 * scale)
     readonly property int toggleWidth: Math.round(36 * scale)
     readonly property int toggleHeight: Math.round(20 * scale)
-    readonly property int itemIndent: Math.round(8 * scale)
     readonly property int columnMostWidth: 240
     readonly property int textBoxHeight: 100
     readonly property int textBoxMostHeight: 220

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -9,7 +10,7 @@
 namespace larkspan::incidents {
 
 /// One row of a message on screen, small enough to be made when it scrolls into view. A long text goes on in the rows
-/// below, which then have no label and no gap.
+/// below, which then have no gap.
 struct MarkdownRow {
     enum class Kind {
         title,  ///< a heading of level 1
@@ -24,7 +25,7 @@ struct MarkdownRow {
     };
 
     Kind kind;
-    /// Of an item: its bullet or number.
+    /// Of an item: its bullet or number, which only its first row shows; the others are indented by it.
     std::string label = {};
     /// Of all rows but a table's.
     MarkdownText text = {};
@@ -36,13 +37,22 @@ struct MarkdownRow {
     /// In points, to the row above.
     int gap = 0;
 
+    bool isOfTable() const { return kind == Kind::tableHeader || kind == Kind::tableDivider || kind == Kind::tableRow; }
+
     bool operator==(const MarkdownRow&) const = default;
 };
 
 /// What the rows of a table have in common.
 struct MarkdownColumns {
-    /// For each column, the plain texts of those cells that may be its widest: it is as wide as one of them is drawn.
-    std::vector<std::vector<std::string>> widestTexts;
+    struct Text {
+        std::string styled;
+        bool isHeader = false;
+
+        auto operator<=>(const Text&) const = default;
+    };
+
+    /// For each column, the texts of those cells that may be its widest: it is as wide as one of them is drawn.
+    std::vector<std::vector<Text>> widestTexts;
 
     bool operator==(const MarkdownColumns&) const = default;
 };

@@ -63,12 +63,11 @@ private:
     {
         bool isFirst = true;
         for (auto& piece : MarkdownText::piecesOf(inlineMarkdownText(std::move(text)))) {
-            MarkdownRow row{.kind = kind, .text = std::move(piece), .continuesPrevious = !isFirst};
-            if (isFirst) {
-                row.label = label;
-                row.gap = gap;
-            }
-            content_.rows.push_back(std::move(row));
+            content_.rows.push_back({.kind = kind,
+                .label = label,
+                .text = std::move(piece),
+                .continuesPrevious = !isFirst,
+                .gap = isFirst ? gap : 0});
             isFirst = false;
         }
     }

@@ -57,7 +57,7 @@ private:
             if (line >= columns[column].size()) continue;
             row.cells.resize(column + 1);
             row.cells[column] = std::move(columns[column][line]);
-            widest_[column].add(row.cells[column].plain);
+            widest_[column].add(row.cells[column], kind == Kind::tableHeader);
         }
         content_.rows.push_back(std::move(row));
     }

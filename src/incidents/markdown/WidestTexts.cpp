@@ -38,17 +38,17 @@ std::size_t roughWidth(std::string_view text)
     return width;
 }
 
-void WidestTexts::add(const std::string& text)
+void WidestTexts::add(const MarkdownText& text, bool isHeader)
 {
-    const auto width = roughWidth(text);
+    const auto width = roughWidth(text.plain);
     if (texts_.size() == most && width <= texts_.begin()->first) return;
-    texts_.emplace(width, text);
+    texts_.emplace(width, Text{.styled = text.styled, .isHeader = isHeader});
     if (texts_.size() > most) texts_.erase(texts_.begin());
 }
 
-std::vector<std::string> WidestTexts::texts() const
+std::vector<WidestTexts::Text> WidestTexts::texts() const
 {
-    std::vector<std::string> found;
+    std::vector<Text> found;
     found.reserve(texts_.size());
     for (auto each = texts_.rbegin(); each != texts_.rend(); ++each) found.push_back(each->second);
     return found;

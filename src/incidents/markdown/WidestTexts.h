@@ -2,10 +2,11 @@
 
 #include <cstddef>
 #include <set>
-#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
+
+#include "incidents/markdown/MarkdownRow.h"
 
 namespace larkspan::incidents {
 
@@ -15,13 +16,15 @@ class WidestTexts {
 public:
     static constexpr std::size_t most = 32;
 
-    void add(const std::string& text);
+    using Text = MarkdownColumns::Text;
+
+    void add(const MarkdownText& text, bool isHeader);
 
     /// The widest first.
-    std::vector<std::string> texts() const;
+    std::vector<Text> texts() const;
 
 private:
-    std::set<std::pair<std::size_t, std::string>> texts_;
+    std::set<std::pair<std::size_t, Text>> texts_;
 };
 
 /// In quarters of a wide character, such as "語".

@@ -73,7 +73,7 @@ TEST(StatusMarkdownContent, ShowsQuotesAsBlocksOfTheirOwn)
             {.kind = Kind::quote, .gap = 10}}));
 }
 
-TEST(StatusMarkdownContent, ContinuesALongTextInRowsWithoutLabelAndGap)
+TEST(StatusMarkdownContent, ContinuesALongTextInRowsOfItsKindAndLabelWithoutAGap)
 {
     const std::string text(2'000, 'a');
     for (const auto& [prefix, kind, label] : {std::tuple{"", Kind::paragraph, ""}, {"# ", Kind::title, ""},
@@ -85,7 +85,7 @@ TEST(StatusMarkdownContent, ContinuesALongTextInRowsWithoutLabelAndGap)
         EXPECT_EQ(rows[1].gap, 10);
         EXPECT_FALSE(rows[1].continuesPrevious);
         EXPECT_EQ(rows[1].text.plain, text);
-        EXPECT_EQ(rows[2], (MarkdownRow{.kind = kind, .text = plain("b"), .continuesPrevious = true}));
+        EXPECT_EQ(rows[2], (MarkdownRow{.kind = kind, .label = label, .text = plain("b"), .continuesPrevious = true}));
     }
 }
 

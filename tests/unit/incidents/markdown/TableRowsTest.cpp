@@ -9,7 +9,7 @@ namespace {
 
 using Kind = MarkdownRow::Kind;
 using Rows = std::vector<MarkdownRow>;
-using Texts = std::vector<std::string>;
+using Texts = std::vector<MarkdownColumns::Text>;
 
 MarkdownRows rowsOf(std::string source)
 {
@@ -58,8 +58,9 @@ TEST(TableRows, KnowTheTextsOfEachColumnThatMayBeItsWidest)
 {
     const auto content = rowsOf("a|header\n---\n**long**|1\n\nb|c\n---\n");
     ASSERT_EQ(content.tables.size(), 2u);
-    EXPECT_EQ(content.tables[0].widestTexts, (std::vector<Texts>{{"long", "a"}, {"header", "1"}}));
-    EXPECT_EQ(content.tables[1].widestTexts, (std::vector<Texts>{{"b"}, {"c"}}));
+    EXPECT_EQ(
+        content.tables[0].widestTexts, (std::vector<Texts>{{{"<b>long</b>"}, {"a", true}}, {{"header", true}, {"1"}}}));
+    EXPECT_EQ(content.tables[1].widestTexts, (std::vector<Texts>{{{"b", true}}, {{"c", true}}}));
     EXPECT_EQ(content.rows.at(2).table, 0u);
     EXPECT_EQ(content.rows.at(3).table, 1u);
 }
@@ -67,7 +68,7 @@ TEST(TableRows, KnowTheTextsOfEachColumnThatMayBeItsWidest)
 TEST(TableRows, TakeATextOfFewBytesForWiderThanALongerOneOfMany)
 {
     const auto content = rowsOf("a|\n---\nинцидент|\nan incident long ago|\n");
-    EXPECT_EQ(content.tables[0].widestTexts.at(0).front(), "an incident long ago");
+    EXPECT_EQ(content.tables[0].widestTexts.at(0).front().styled, "an incident long ago");
 }
 
 TEST(TableRows, KeepNoMoreTextsOfAColumnThanAreMeasuredAtOnce)
@@ -75,9 +76,9 @@ TEST(TableRows, KeepNoMoreTextsOfAColumnThanAreMeasuredAtOnce)
     std::string table = "a|b\n---\n";
     for (int row = 0; row < 1'000; ++row) table += "same|" + std::string(static_cast<std::size_t>(row), 'x') + '\n';
     const auto widest = rowsOf(table).tables[0].widestTexts;
-    EXPECT_EQ(widest[0], (Texts{"same", "a"}));
+    EXPECT_EQ(widest[0], (Texts{{"same"}, {"a", true}}));
     EXPECT_EQ(widest[1].size(), WidestTexts::most);
-    EXPECT_EQ(widest[1].front(), std::string(999, 'x'));
+    EXPECT_EQ(widest[1].front().styled.size(), 999 + 3 * 4u) << "with the places at which it may break";
 }
 
 TEST(TableRows, ContinueALongCellInTheRowBelow)
@@ -96,7 +97,7 @@ TEST(TableRows, OfManyColumnsGoOnBelowAsATableOfTheirOwn)
     const auto content = rowsOf(cells(65, "a") + "---\n" + cells(70, "1") + cells(2, "2"));
     ASSERT_EQ(content.tables.size(), 2u);
     EXPECT_EQ(content.tables[0].widestTexts.size(), 64u);
-    EXPECT_EQ(content.tables[1].widestTexts, (std::vector<Texts>{{"a", "1"}}));
+    EXPECT_EQ(content.tables[1].widestTexts, (std::vector<Texts>{{{"a", true}, {"1"}}}));
     ASSERT_EQ(content.rows.size(), 7u);
     EXPECT_EQ(content.rows[2].cells.size(), 64u);
     EXPECT_EQ(content.rows[3].cells.size(), 2u);
