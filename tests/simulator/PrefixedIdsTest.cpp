@@ -18,16 +18,17 @@ TEST(PrefixedIds, StandWhereverOneRecordNamesAnother)
     auto account = seededAccount(3, now);
     prefixIds(account, "an_");
     for (const auto& page : account.statusPages) EXPECT_TRUE(page.id.starts_with("an_page-")) << page.id;
-    for (const auto& incident : account.incidents) EXPECT_TRUE(account.findPage(*incident.statusPageId));
-    for (const auto& maintenance : account.maintenances) EXPECT_TRUE(account.findPage(*maintenance.statusPageId));
+    for (const auto& incident : account.incidents) EXPECT_TRUE(account.findPage(incident.statusPageId.value_or("")));
+    for (const auto& maintenance : account.maintenances)
+        EXPECT_TRUE(account.findPage(maintenance.statusPageId.value_or("")));
     for (const auto& group : account.componentGroups) EXPECT_TRUE(account.findPage(group.statusPageId));
     for (const auto& component : account.components) {
-        EXPECT_TRUE(account.findPage(*component.statusPageId));
+        EXPECT_TRUE(account.findPage(component.statusPageId.value_or("")));
         EXPECT_TRUE(!component.groupId || account.findComponentGroup(*component.groupId));
     }
     for (const auto& monitor : account.monitors) {
-        EXPECT_TRUE(account.findPage(*monitor.statusPageId));
-        EXPECT_TRUE(account.findComponent(*monitor.componentId));
+        EXPECT_TRUE(account.findPage(monitor.statusPageId.value_or("")));
+        EXPECT_TRUE(account.findComponent(monitor.componentId.value_or("")));
     }
 }
 
