@@ -2,6 +2,7 @@ import pytest
 
 import display
 import keyring
+import opening
 import program
 import service
 import session
@@ -49,3 +50,37 @@ def start(the_session, the_display):
     from contextlib import ExitStack
     with ExitStack() as started:
         yield lambda binary=program.BINARY: started.enter_context(program.program(the_session, the_display, binary))
+
+
+@pytest.fixture
+def pages(start, stored_key, the_service):
+    """The list of pages; the first has an incident, a maintenance and a component."""
+    page = service.PAGES[0]["id"]
+    the_service.incident = the_service.open_incident("Login errors", page=page)
+    the_service.maintenance = the_service.plan_maintenance("Database upgrade", page=page)
+    the_service.component = the_service.add_component("REST API", group=the_service.add_component_group("Core", page=page))
+    screen = start().screen
+    screen.wait_for_rows(service.NAMES)
+    return screen
+
+
+@pytest.fixture
+def tab(pages, the_display):
+    """Opens a tab of the first page, by its number."""
+    def open_tab(number: int, rows: list[str]):
+        the_display.press_key("Return")
+        pages.wait_for("Current Status")
+        opening.tab(pages, the_display, number, rows)
+        return pages
+    return open_tab
+
+
+@pytest.fixture
+def component(tab, the_display):
+    """The screen of the page's component."""
+    screen = tab(4, ["REST API"])
+    the_display.press_key("r")
+    screen.wait_for_focus("REST API")
+    the_display.press_key("Return")
+    screen.wait_for("Component Details")
+    return screen
