@@ -13,7 +13,7 @@ protected:
         : KitWindow(QStringLiteral(R"(
             Column {
                 CommandButton { objectName: "before"; text: "Before" }
-                TextBox { objectName: "box"; width: 300; name: "Text"; text: "Words" }
+                TextBox { objectName: "box"; width: 300; name: "Text"; Component.onCompleted: show("Words") }
             })"))
     {
         item(QStringLiteral("before")).forceActiveFocus(Qt::TabFocusReason);
