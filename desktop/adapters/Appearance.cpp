@@ -1,7 +1,6 @@
 #include "adapters/Appearance.h"
 
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 #include <QEvent>
@@ -10,6 +9,8 @@
 
 #include <array>
 #include <utility>
+
+#include "adapters/WhenAnswered.h"
 
 namespace larkspan::adapters {
 
@@ -75,7 +76,7 @@ Appearance::Appearance(QDBusConnection bus, QObject* parent)
 void Appearance::catchUp()
 {
     for (const auto& question : std::exchange(questions_, {})) {
-        if (question.answer->isFinished()) {
+        if (question.answer.isFinished()) {
             take(question);
         } else {
             questions_.push_back(question);
@@ -101,16 +102,14 @@ void Appearance::readAll()
     for (const auto& setting : settings) {
         auto call = QDBusMessage::createMethodCall(portal, portalPath, settingsInterface, "Read");
         call << setting.group << setting.key;
-        auto* const answer = new QDBusPendingCallWatcher(bus_.asyncCall(call), this);
-        questions_.push_back({setting.name(), answer});
-        connect(answer, &QDBusPendingCallWatcher::finished, this, &Appearance::catchUp);
+        questions_.push_back({setting.name(), bus_.asyncCall(call)});
+        whenAnswered(this, questions_.back().answer, [this](const auto&) { catchUp(); });
     }
 }
 
 void Appearance::take(const Question& question)
 {
-    question.answer->deleteLater();
-    const QDBusPendingReply<QDBusVariant> reply = *question.answer;
+    const QDBusPendingReply<QDBusVariant> reply = question.answer;
     if (reply.isError()) {
         values_.remove(question.setting);
     } else {

@@ -1,14 +1,13 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusPendingCall>
 #include <QDBusVariant>
 #include <QHash>
 #include <QObject>
 #include <QVariant>
 
 #include <vector>
-
-class QDBusPendingCallWatcher;
 
 namespace larkspan::adapters {
 
@@ -45,7 +44,7 @@ private slots:
 private:
     struct Question {
         QString setting;
-        QDBusPendingCallWatcher* answer;
+        QDBusPendingCall answer;
     };
 
     void readAll();

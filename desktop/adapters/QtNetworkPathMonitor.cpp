@@ -2,12 +2,13 @@
 
 #include <QDBusError>
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
 #include <QDBusServiceWatcher>
 #include <QNetworkInformation>
 
 #include <chrono>
 #include <utility>
+
+#include "adapters/WhenAnswered.h"
 
 namespace larkspan::adapters {
 
@@ -46,15 +47,14 @@ void QtNetworkPathMonitor::askForNetworkManager()
     auto ping = QDBusMessage::createMethodCall(
         networkManager, "/org/freedesktop/NetworkManager", "org.freedesktop.DBus.Peer", "Ping");
     ping.setAutoStartService(false);
-    auto* const answer = new QDBusPendingCallWatcher(bus_.asyncCall(ping, static_cast<int>(patience.count())), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
-        answer->deleteLater();
+    const auto answered = bus_.asyncCall(ping, static_cast<int>(patience.count()));
+    whenAnswered(this, answered, [this](const QDBusPendingCall& answer) {
         isAsking_ = false;
-        if (!answer->isError()) return followReachability();
+        if (!answer.isError()) return followReachability();
         if (!reported_) report(true);
         // One that is slow, as many are while a session starts, has to be waited for; one that is not there tells
         // when it comes.
-        if (answer->error().type() == QDBusError::NoReply) askForNetworkManager();
+        if (answer.error().type() == QDBusError::NoReply) askForNetworkManager();
     });
 }
 

@@ -1,7 +1,6 @@
 #include "adapters/http/PortalProxies.h"
 
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDeadlineTimer>
 #include <QObject>
@@ -9,6 +8,8 @@
 #include <chrono>
 #include <string_view>
 #include <utility>
+
+#include "adapters/WhenAnswered.h"
 
 namespace larkspan::adapters {
 
@@ -41,13 +42,11 @@ public:
         // A portal that fails costs its patience once, not with each request.
         if (!rest_.hasExpired()) return answer({});
 
-        auto* call = new QDBusPendingCallWatcher(bus_.asyncCall(lookup(url), static_cast<int>(patience.count())), this);
-        auto held = std::make_shared<Answer>(std::move(answer));
-        connect(call, &QDBusPendingCallWatcher::finished, this, [this, call, held] {
-            call->deleteLater();
-            const QDBusPendingReply<QStringList> reply = *call;
+        const auto call = bus_.asyncCall(lookup(url), static_cast<int>(patience.count()));
+        whenAnswered(this, call, [this, answer = std::move(answer)](const QDBusPendingCall& answered) mutable {
+            const QDBusPendingReply<QStringList> reply = answered;
             if (reply.isError()) rest_.setRemainingTime(restAfterFailure);
-            (*held)(reply.isError() ? std::string() : usableProxy(reply.value()));
+            answer(reply.isError() ? std::string() : usableProxy(reply.value()));
         });
     }
 
