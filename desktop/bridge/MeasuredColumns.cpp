@@ -4,6 +4,7 @@
 #include <QTextDocument>
 
 #include <algorithm>
+#include <cmath>
 
 #include "bridge/Words.h"
 
@@ -36,23 +37,24 @@ private:
 
 }  // namespace
 
-QList<qreal> MeasuredColumns::widthsOf(const Columns& columns, const Fonts& fonts)
+QList<qreal> MeasuredColumns::widthsOf(const Columns& columns, const Drawing& drawing)
 {
     // Those of a message that is no longer shown are of no use either.
     std::erase_if(widths_, [](const auto& measured) { return measured.first.use_count() == 1; });
-    if (fonts != fonts_) widths_.clear();
-    fonts_ = fonts;
+    if (drawing != drawing_) widths_.clear();
+    drawing_ = drawing;
     const auto [measured, isNew] = widths_.try_emplace(columns);
     if (!isNew) return measured->second;
 
-    Measure headers(fonts.ofHeaders);
-    Measure cells(fonts.ofCells);
+    Measure headers(drawing.ofHeaders);
+    Measure cells(drawing.ofCells);
     for (const auto& texts : columns->widestTexts) {
         qreal widest = 0;
         for (const auto& text : texts) {
+            if (widest >= drawing.most) break;
             widest = std::max(widest, (text.isHeader ? headers : cells).widthOf(text.styled));
         }
-        measured->second << widest;
+        measured->second << std::ceil(std::min(widest, drawing.most));
     }
     return measured->second;
 }

@@ -15,17 +15,19 @@ class MeasuredColumns {
 public:
     using Columns = std::shared_ptr<const incidents::MarkdownColumns>;
 
-    struct Fonts {
+    struct Drawing {
         QFont ofHeaders;
         QFont ofCells;
+        /// No column is wider, and no more is measured than shows that it would be.
+        qreal most = 0;
 
-        bool operator==(const Fonts&) const = default;
+        bool operator==(const Drawing&) const = default;
     };
 
-    QList<qreal> widthsOf(const Columns& columns, const Fonts& fonts);
+    QList<qreal> widthsOf(const Columns& columns, const Drawing& drawing);
 
 private:
-    Fonts fonts_;
+    Drawing drawing_;
     // Held, so that none comes to stand where another was measured.
     std::map<Columns, QList<qreal>> widths_;
 };

@@ -34,11 +34,11 @@ ConfirmationValue MessageBridge::linkConfirmation() const
     return confirmation;
 }
 
-QList<qreal> MessageBridge::columnWidths(int row, const QFont& headerFont, const QFont& cellFont)
+QList<qreal> MessageBridge::columnWidths(int row, const QFont& headerFont, const QFont& cellFont, qreal most)
 {
     const auto place = static_cast<std::size_t>(row);
     if (row < 0 || place >= rows_.rows().size() || !rows_.rows()[place].columns) return {};
-    return columns_.widthsOf(rows_.rows()[place].columns, {headerFont, cellFont});
+    return columns_.widthsOf(rows_.rows()[place].columns, {headerFont, cellFont, most});
 }
 
 void MessageBridge::follow(int row, int cell, const QString& href)

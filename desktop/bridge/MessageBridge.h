@@ -42,8 +42,8 @@ public:
 
     /// The user pressed the link of that name, an href of the text at `row` or of the cell `cell` in it; -1 for none.
     Q_INVOKABLE void follow(int row, int cell, const QString& href);
-    /// How wide the columns of the table at `row` are as they are drawn in those fonts.
-    Q_INVOKABLE QList<qreal> columnWidths(int row, const QFont& headerFont, const QFont& cellFont);
+    /// How wide the columns of the table at `row` are as they are drawn in those fonts, none wider than `most`.
+    Q_INVOKABLE QList<qreal> columnWidths(int row, const QFont& headerFont, const QFont& cellFont, qreal most);
     Q_INVOKABLE void openLink() { view_->openLink(); }
     Q_INVOKABLE void cancelLink() { view_->cancelLink(); }
 

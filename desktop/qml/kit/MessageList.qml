@@ -19,7 +19,8 @@ CardList {
     widest: Theme.columnWidth * Theme.scale
     delegate: MessageRow {
         offsets: tableOffsets
-        columnWidths: row.isTable ? list.message.columnWidths(index, headerMetrics.font, cellMetrics.font) : []
+        columnWidths: row.isTable ? list.message.columnWidths(
+            index, headerMetrics.font, cellMetrics.font, Theme.columnMostWidth * Theme.scale) : []
         digitWidth: list.digitWidth
         onFollowed: (cell, href) => list.message.follow(index, cell, href)
     }

@@ -27,7 +27,7 @@ Flickable {
     onContentWidthChanged: follow(row.table)
 
     function widthOf(column: int): real {
-        return Math.ceil(Math.min(widths[column] ?? 0, Theme.columnMostWidth * Theme.scale))
+        return widths[column] ?? 0
     }
     function follow(table: int) {
         if (table === row.table && !moving) contentX = Math.max(0, Math.min(offsets.placeOf(table), contentWidth - width))

@@ -69,6 +69,16 @@ TEST_F(TableLayout, HasSixteenPointsBehindAColumnWhoseHeaderIsItsWidestText)
     EXPECT_NEAR(inkGap(words("Everything"), words("Errors")), 16, 1.1);
 }
 
+TEST_F(TableLayout, HasNoColumnWiderThanItsMost)
+{
+    std::string table = R"(long|b\n---|---\n)";
+    for (int row = 0; row < 3; ++row)
+        table
+            += "**many words** that go on and on in several lines of their cell|next " + std::to_string(row) + R"(\n)";
+    open(table);
+    EXPECT_EQ(frameOf(words("next 0")).left() - frameOf(words("long")).left(), 240 + 16);
+}
+
 TEST_F(TableLayout, HasADividerAsLongAsAllItsColumns)
 {
     open(R"(Region|Errors\n---|---\neu|12\n)");
