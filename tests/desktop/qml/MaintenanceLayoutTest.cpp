@@ -86,6 +86,22 @@ TEST_F(MaintenanceLayout, OfADetailHasTwentyPointsBetweenItsGroups)
     EXPECT_EQ(gapBelow(timeline, group("Description")), 20);
 }
 
+TEST_F(MaintenanceLayout, OfATimelineHasRowsEightPointsApart)
+{
+    openFirst();
+    EXPECT_EQ(gapBelow(*label("Scheduled Start").parentItem(), *label("Scheduled End").parentItem()), 8);
+}
+
+TEST_F(MaintenanceLayout, OfADetailHasItsActionsInTheirColors)
+{
+    openFirst();
+    const auto& start = item(Role::Button, QStringLiteral("Start Maintenance"));
+    const auto& removal = item(Role::Button, QStringLiteral("Delete Maintenance"));
+    EXPECT_EQ(colorOf(*start.property("background").value<QQuickItem*>()), light::yellow);
+    EXPECT_EQ(colorOf(partOf(removal, "name", QStringLiteral("trash"))), light::red);
+    EXPECT_LT(frameOf(start).right(), frameOf(removal).left());
+}
+
 TEST_F(MaintenanceLayout, OfATimelineIsASmallSymbolALabelAndTheDateBeforeItsTime)
 {
     openFirst();

@@ -61,6 +61,15 @@ TEST_F(MonitorDetailLayout, HasTheTimeOfTheLastCheckBehindItsDate)
     EXPECT_EQ(colorOf(time), light::secondary);
 }
 
+TEST_F(MonitorDetailLayout, HasItsActionsInTheirColors)
+{
+    const auto ground = [this](const char* button) {
+        return colorOf(*item(Role::Button, QString::fromUtf8(button)).property("background").value<QQuickItem*>());
+    };
+    EXPECT_EQ(ground("Pause Monitor"), light::orange);
+    EXPECT_EQ(ground("Run Check"), light::blue);
+}
+
 TEST_F(MonitorDetailLayout, IsCoveredByBlackAtAFifthWithAnIndicatorOneAndAHalfTimesItsSize)
 {
     item(Role::Button, QStringLiteral("Run Check")).forceActiveFocus(Qt::TabFocusReason);

@@ -116,6 +116,32 @@ TEST_F(MonitorLayout, OfATrendsBadgeIsIconWordAndNameSideBySide)
     EXPECT_EQ(colorOf(icon), light::green);
 }
 
+TEST_F(MonitorLayout, OfThePanelIsTheGraphTheFiguresBelowALineAndTheRegionsBelowAnother)
+{
+    openMetrics();
+    const auto& graph = item(Role::Slider, QStringLiteral("Latency graph"));
+    const auto lines = partsOf(*graph.parentItem(), "color", QColor("#e3e6ea"));
+    ASSERT_EQ(lines.size(), 2);
+    EXPECT_GE(gapBelow(graph, *lines[0]), 0);
+    EXPECT_GE(gapBelow(*lines[0], label("Avg Response")), 0);
+    EXPECT_GE(gapBelow(label("Avg Response"), *lines[1]), 0);
+    EXPECT_GE(gapBelow(*lines[1], label("Region States")), 0);
+    EXPECT_GE(gapBelow(label("Region States"), label("Frankfurt")), 0);
+    EXPECT_GE(gapBelow(label("Frankfurt"), button("Pause")), 0);
+    for (const auto* const line : lines) EXPECT_EQ(line->height(), 1);
+}
+
+TEST_F(MonitorLayout, OfARowHasItsActionsInSmallButtonsWithASymbol)
+{
+    const auto& details = button("Monitor Details");
+    for (const auto& [name, sign] : {std::pair{"Pause", "pause.fill"}, {"Check Now", "arrow.clockwise"}}) {
+        EXPECT_LT(button(name).height(), details.height()) << name;
+        EXPECT_EQ(colorOf(symbol(button(name), sign)), light::primary) << name;
+    }
+    EXPECT_EQ(frameOf(button("Pause")).top(), frameOf(button("Check Now")).top());
+    EXPECT_GE(gapBelow(label("Operational"), button("Pause")), 0);
+}
+
 TEST_F(MonitorLayout, OfThePanelHasItsFiguresAtBothEnds)
 {
     openMetrics();
