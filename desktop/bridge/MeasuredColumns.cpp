@@ -54,7 +54,8 @@ QList<qreal> MeasuredColumns::widthsOf(const Columns& columns, const Drawing& dr
             if (widest >= drawing.most) break;
             widest = std::max(widest, (text.isHeader ? headers : cells).widthOf(text.styled));
         }
-        measured->second << std::ceil(std::min(widest, drawing.most));
+        // A line is broken that fills its width to the last fraction of a point.
+        measured->second << std::ceil(std::min(widest + 1, drawing.most));
     }
     return measured->second;
 }

@@ -22,6 +22,7 @@ protected:
     /// Below the headers.
     const QQuickItem& divider() const { return partOf(*tableLines().at(1), "color", QColor("#e3e6ea")); }
 
+    /// From the end of a column's widest text to the next column; a text has up to two points of room.
     static double inkGap(const QQuickItem& left, const QQuickItem& right)
     {
         return frameOf(right).left() - (frameOf(left).left() + left.property("contentWidth").toReal());
@@ -54,8 +55,8 @@ TEST_F(TableLayout, HasSevenPointsBetweenRowsAndAroundItsDivider)
 TEST_F(TableLayout, HasSixteenPointsBetweenColumnsAsWideAsTheirWidestText)
 {
     open(R"(Region|Errors|Since\n---|---|---\neu-central-1|12|09:30\n**a strong western one**|`some code`|10\n)");
-    EXPECT_NEAR(inkGap(words("a strong western one"), words("some code")), 16, 1.1);
-    EXPECT_NEAR(inkGap(words("some code"), words("10")), 16, 1.1);
+    EXPECT_NEAR(inkGap(words("a strong western one"), words("some code")), 17, 1);
+    EXPECT_NEAR(inkGap(words("some code"), words("10")), 17, 1);
     for (const auto* const widest : {"a strong western one", "some code"})
         EXPECT_EQ(words(widest).property("lineCount").toInt(), 1) << widest;
     EXPECT_EQ(frameOf(words("Errors")).left(), frameOf(words("12")).left());
@@ -63,10 +64,27 @@ TEST_F(TableLayout, HasSixteenPointsBetweenColumnsAsWideAsTheirWidestText)
     EXPECT_EQ(frameOf(words("Region")).left(), frameOf(lineOf(words("Region"))).left());
 }
 
+TEST_F(TableLayout, WrapsNoTextThatIsTheWidestOfItsColumn)
+{
+    const std::vector<std::string> texts{
+        "eu-central", "08:15", "12 %", "Frankfurt", "W", "iiiii", "MMMM", "a.b.c", "x1", "long words", "1/2", "q, r"};
+    std::string header, line, row;
+    for (const auto& text : texts) {
+        header += "h|";
+        line += "---|";
+        row += text + "|";
+    }
+    open(header + R"(\n)" + line + R"(\n)" + row);
+    for (const auto& text : texts) EXPECT_EQ(words(text.c_str()).property("lineCount").toInt(), 1) << text;
+    for (std::size_t place = 1; place < texts.size(); ++place) {
+        EXPECT_NEAR(inkGap(words(texts[place - 1].c_str()), words(texts[place].c_str())), 17, 1) << texts[place];
+    }
+}
+
 TEST_F(TableLayout, HasSixteenPointsBehindAColumnWhoseHeaderIsItsWidestText)
 {
     open(R"(Everything|Errors\n---|---\neu|12\n)");
-    EXPECT_NEAR(inkGap(words("Everything"), words("Errors")), 16, 1.1);
+    EXPECT_NEAR(inkGap(words("Everything"), words("Errors")), 17, 1);
 }
 
 TEST_F(TableLayout, HasNoColumnWiderThanItsMost)
