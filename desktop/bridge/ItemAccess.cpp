@@ -6,6 +6,8 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <map>
+#include <ranges>
 
 namespace larkspan::bridge {
 
@@ -30,12 +32,14 @@ bool isCovered(const QQuickItem& item)
 {
     const auto* const overlay = item.window() ? overlayOf(*item.window()) : nullptr;
     if (!overlay) return false;
-    auto layers = overlay->childItems();
-    std::ranges::stable_sort(layers, {}, &QQuickItem::z);
-    std::ranges::reverse(layers);
-    const auto decisive = std::ranges::find_if(
-        layers, [&item](const auto* layer) { return layer == &item || layer->isAncestorOf(&item) || isModal(*layer); });
-    return decisive != layers.end() && *decisive != &item && !(*decisive)->isAncestorOf(&item);
+    // Of two at one height the later one is in front.
+    std::multimap<qreal, const QQuickItem*> byHeight;
+    for (const auto* const layer : overlay->childItems()) byHeight.emplace(layer->z(), layer);
+    for (const auto& [height, layer] : byHeight | std::views::reverse) {
+        if (layer == &item || layer->isAncestorOf(&item)) return false;
+        if (isModal(*layer)) return true;
+    }
+    return false;
 }
 
 /// Qt's own account of an item, completed.
