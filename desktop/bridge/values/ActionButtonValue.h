@@ -31,8 +31,8 @@ public:
 
     static ActionButtonValue of(const presentation::ActionButton& button)
     {
-        return {wholeText(button.id), words(button.label), words(button.symbol), toneOf(button.tone), button.isProminent,
-            button.isEnabled};
+        return {wholeText(button.id), words(button.label), words(button.symbol), toneOf(button.tone),
+            button.isProminent, button.isEnabled};
     }
 
     bool operator==(const ActionButtonValue&) const = default;
