@@ -12,14 +12,21 @@ namespace larkspan::bridge {
 
 namespace {
 
+/// The items of Qt Quick draw in sizes of whole and half points only.
+QFont asDrawn(QFont font)
+{
+    if (font.pointSizeF() > 0) font.setPointSizeF(std::round(font.pointSizeF() * 2) / 2);
+    return font;
+}
+
 /// Measures as `MessageText` draws.
 class Measure {
 public:
     explicit Measure(const QFont& font)
-        : metrics_(font)
+        : metrics_(asDrawn(font))
     {
         document_.setDocumentMargin(0);
-        document_.setDefaultFont(font);
+        document_.setDefaultFont(asDrawn(font));
     }
 
     qreal widthOf(const std::string& styled)

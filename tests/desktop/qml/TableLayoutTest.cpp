@@ -1,6 +1,10 @@
+#include <QFont>
+#include <QGuiApplication>
+
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <string>
+#include <vector>
 
 #include "Measures.h"
 #include "MessageOnScreen.h"
@@ -64,11 +68,33 @@ TEST_F(TableLayout, HasSixteenPointsBetweenColumnsAsWideAsTheirWidestText)
     EXPECT_EQ(frameOf(words("Region")).left(), frameOf(lineOf(words("Region"))).left());
 }
 
-TEST_F(TableLayout, WrapsNoTextThatIsTheWidestOfItsColumn)
+/// The program with letters of another size, which the desktop chooses before it starts.
+class ChosenSize : public testing::WithParamInterface<double> {
+protected:
+    ChosenSize()
+    {
+        QFont font = before_;
+        font.setPointSizeF(GetParam());
+        QGuiApplication::setFont(font);
+    }
+    ~ChosenSize() override { QGuiApplication::setFont(before_); }
+
+private:
+    QFont before_ = QGuiApplication::font();
+};
+
+class SizeOfLetters : public ChosenSize, public TableLayout {
+protected:
+    SizeOfLetters() { window().resize(1'800, 1'200); }
+};
+
+TEST_P(SizeOfLetters, WrapsNoTextThatIsTheWidestOfItsColumn)
 {
     const std::vector<std::string> texts{
         "eu-central", "08:15", "12 %", "Frankfurt", "W", "iiiii", "MMMM", "a.b.c", "x1", "long words", "1/2", "q, r"};
-    std::string header, line, row;
+    std::string header;
+    std::string line;
+    std::string row;
     for (const auto& text : texts) {
         header += "h|";
         line += "---|";
@@ -80,6 +106,8 @@ TEST_F(TableLayout, WrapsNoTextThatIsTheWidestOfItsColumn)
         EXPECT_NEAR(inkGap(words(texts[place - 1].c_str()), words(texts[place].c_str())), 17, 1) << texts[place];
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(Each, SizeOfLetters, testing::Values(9, 10, 10.5, 11, 13, 20));
 
 TEST_F(TableLayout, HasSixteenPointsBehindAColumnWhoseHeaderIsItsWidestText)
 {
