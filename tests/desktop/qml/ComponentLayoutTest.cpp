@@ -14,7 +14,7 @@ protected:
     QQuickItem& row() const { return item(Role::ListItem, QStringLiteral("REST API")); }
     QQuickItem& text(const char* words) const
     {
-        return partOf(*window().contentItem(), "text", QString::fromUtf8(words));
+        return *partOf(*window().contentItem(), "text", QString::fromUtf8(words));
     }
 
     static double baselineOf(const QQuickItem& item) { return frameOf(item).top() + item.baselineOffset(); }
@@ -24,7 +24,7 @@ protected:
 
 TEST_F(ComponentLayout, OfARowIsTheNameOverTheDescriptionBesideTheIconOfItsStatus)
 {
-    const auto& icon = partOf(row(), "name", QStringLiteral("exclamationmark.triangle.fill"));
+    const auto& icon = *partOf(row(), "name", QStringLiteral("exclamationmark.triangle.fill"));
     EXPECT_EQ(colorOf(icon), light::yellow);
     EXPECT_LT(frameOf(icon).right(), frameOf(label("REST API")).left());
     EXPECT_EQ(label("REST API").height(), 22);
@@ -51,7 +51,7 @@ TEST_F(ComponentLayout, OfARowHasItsStatusInAPillAtTheFarEnd)
 
 TEST_F(ComponentLayout, OfARowIsVerticallyCentred)
 {
-    const auto& icon = partOf(row(), "name", QStringLiteral("exclamationmark.triangle.fill"));
+    const auto& icon = *partOf(row(), "name", QStringLiteral("exclamationmark.triangle.fill"));
     const auto middle = frameOf(row()).center().y();
     EXPECT_NEAR(frameOf(icon).center().y(), middle, 1);
     EXPECT_NEAR(frameOf(shapeAround(label("Degradedperformance"))).center().y(), middle, 1);
@@ -76,7 +76,7 @@ TEST_F(ComponentLayout, OfADetailHasItsGroupBesideAFolderAndItsAddressBelow)
 {
     open();
     const auto& group = label("Group");
-    const auto& folder = partOf(*group.parentItem(), "name", QStringLiteral("folder"));
+    const auto& folder = *partOf(*group.parentItem(), "name", QStringLiteral("folder"));
     EXPECT_LT(frameOf(folder).right(), frameOf(group).left());
     EXPECT_EQ(frameOf(label("URL")).left(), frameOf(group).left());
     EXPECT_LT(frameOf(group).bottom(), frameOf(label("URL")).top());

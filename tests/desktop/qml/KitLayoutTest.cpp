@@ -78,7 +78,7 @@ TEST_F(BoxLayout, HasItsRingOverTheOutlineWhileItHasTheFocus)
 
 TEST_F(BoxLayout, HasFourPointsAroundItsText)
 {
-    const auto& area = partOf(box(), "text", QStringLiteral("Words"));
+    const auto& area = *partOf(box(), "text", QStringLiteral("Words"));
     const auto place = box().mapRectFromScene(frameOf(area));
     EXPECT_EQ(place.left() + area.property("leftPadding").toReal(), 4);
     EXPECT_EQ(place.top() + area.property("topPadding").toReal(), 4);

@@ -104,7 +104,7 @@ TEST_F(Layout, OfAPlaceholderIsASymbolOfFortyPointsAndWhatFollowsSixteenApart)
     EXPECT_EQ(fontOf(title).weight(), QFont::Bold);
     EXPECT_EQ(sizeOf(title), type::title3);
     EXPECT_EQ(gapBelow(title, text), 16);
-    const auto& symbol = partOf(*title.parentItem(), "name", QStringLiteral("checkmark.shield"));
+    const auto& symbol = *partOf(*title.parentItem(), "name", QStringLiteral("checkmark.shield"));
     EXPECT_EQ(symbol.width(), 40);
     EXPECT_EQ(gapBelow(symbol, title), 16);
 }

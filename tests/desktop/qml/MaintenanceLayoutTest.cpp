@@ -26,7 +26,7 @@ TEST_F(MaintenanceLayout, OfARowIsADotTheTitleOverBadgeAndDateAndAChevron)
 {
     const auto& row = item(Role::ListItem, QStringLiteral("Upgrade"));
     const auto& title = label("Upgrade");
-    const auto& dot = partOf(row, "radius", 5);
+    const auto& dot = *partOf(row, "radius", 5);
     EXPECT_EQ(dot.width(), 10);
     EXPECT_EQ(dot.height(), 10);
     EXPECT_EQ(colorOf(dot), light::blue);
@@ -35,7 +35,7 @@ TEST_F(MaintenanceLayout, OfARowIsADotTheTitleOverBadgeAndDateAndAChevron)
     EXPECT_EQ(fontOf(title).weight(), QFont::DemiBold);
     EXPECT_EQ(sizeOf(title), type::body);
 
-    const auto& chevron = partOf(row, "name", QStringLiteral("chevron.right"));
+    const auto& chevron = *partOf(row, "name", QStringLiteral("chevron.right"));
     EXPECT_EQ(chevron.width(), 13);
     EXPECT_EQ(colorOf(chevron), light::secondary);
     EXPECT_EQ(frameOf(row).right() - frameOf(chevron).right(), 12);
@@ -59,7 +59,7 @@ TEST_F(MaintenanceLayout, OfNoneIsASymbolOverATitleThatIsNotBold)
     const auto& title = heading("No scheduled maintenances");
     EXPECT_EQ(fontOf(title).weight(), QFont::Normal);
     EXPECT_EQ(sizeOf(title), type::title3);
-    const auto& symbol = partOf(*title.parentItem(), "name", QStringLiteral("calendar.badge.clock"));
+    const auto& symbol = *partOf(*title.parentItem(), "name", QStringLiteral("calendar.badge.clock"));
     EXPECT_EQ(symbol.width(), 40);
     EXPECT_EQ(colorOf(symbol), light::secondary);
     EXPECT_EQ(colorOf(label("Maintenance windows will appear here.")), light::secondary);
@@ -68,7 +68,7 @@ TEST_F(MaintenanceLayout, OfNoneIsASymbolOverATitleThatIsNotBold)
 TEST_F(MaintenanceLayout, OfADetailIsItsTitleOverItsPill)
 {
     openFirst();
-    const auto& title = partOf(*window().contentItem(), "layoutHeight", 34);
+    const auto& title = *partOf(*window().contentItem(), "layoutHeight", 34);
     EXPECT_EQ(title.height(), 34);
     EXPECT_EQ(sizeOf(title), type::title2);
     EXPECT_EQ(fontOf(title).weight(), QFont::Bold);
@@ -98,7 +98,7 @@ TEST_F(MaintenanceLayout, OfADetailHasItsActionsInTheirColors)
     const auto& start = item(Role::Button, QStringLiteral("Start Maintenance"));
     const auto& removal = item(Role::Button, QStringLiteral("Delete Maintenance"));
     EXPECT_EQ(colorOf(*start.property("background").value<QQuickItem*>()), light::yellow);
-    EXPECT_EQ(colorOf(partOf(removal, "name", QStringLiteral("trash"))), light::red);
+    EXPECT_EQ(colorOf(*partOf(removal, "name", QStringLiteral("trash"))), light::red);
     EXPECT_LT(frameOf(start).right(), frameOf(removal).left());
 }
 
@@ -107,13 +107,13 @@ TEST_F(MaintenanceLayout, OfATimelineIsASmallSymbolALabelAndTheDateBeforeItsTime
     openFirst();
     const auto& label = this->label("Scheduled Start");
     const auto& line = *label.parentItem();
-    const auto& symbol = partOf(line, "name", QStringLiteral("calendar.badge.clock"));
+    const auto& symbol = *partOf(line, "name", QStringLiteral("calendar.badge.clock"));
     EXPECT_EQ(symbol.width(), 13);
     EXPECT_EQ(colorOf(symbol), light::secondary);
     EXPECT_GE(frameOf(label).left() - frameOf(line).left(), 16);
     EXPECT_EQ(colorOf(label), light::secondary);
-    const auto& date = partOf(line, "text", QStringLiteral("2026-11-20"));
-    const auto& time = partOf(line, "text", QStringLiteral("10:00"));
+    const auto& date = *partOf(line, "text", QStringLiteral("2026-11-20"));
+    const auto& time = *partOf(line, "text", QStringLiteral("10:00"));
     EXPECT_EQ(colorOf(date), light::primary);
     EXPECT_EQ(colorOf(time), light::secondary);
     EXPECT_EQ(frameOf(time).right(), frameOf(line).right());

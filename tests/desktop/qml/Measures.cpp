@@ -80,13 +80,13 @@ std::vector<QQuickItem*> partsOf(const QQuickItem& root, const char* property, c
     return found;
 }
 
-QQuickItem& partOf(const QQuickItem& root, const char* property, const QVariant& value)
+QQuickItem* partOf(const QQuickItem& root, const char* property, const QVariant& value)
 {
     const auto found = partsOf(root, property, value);
     if (found.empty()) {
         throw std::runtime_error("nothing there has " + std::string(property) + " " + value.toString().toStdString());
     }
-    return *found.front();
+    return found.front();
 }
 
 const QQuickItem& shapeAround(const QQuickItem& word)

@@ -28,8 +28,8 @@ QColor colorOf(const QQuickItem& item);
 /// What is seen below `root` and has that property with that value, such as a symbol's `name`; in the order of
 /// painting.
 std::vector<QQuickItem*> partsOf(const QQuickItem& root, const char* property, const QVariant& value);
-/// The first of those; fails the test if there is none.
-QQuickItem& partOf(const QQuickItem& root, const char* property, const QVariant& value);
+/// The first of those; never null, since the test fails if there is none.
+QQuickItem* partOf(const QQuickItem& root, const char* property, const QVariant& value);
 
 /// The tinted shape around the word of a pill or a badge.
 const QQuickItem& shapeAround(const QQuickItem& word);

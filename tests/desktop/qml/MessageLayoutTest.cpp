@@ -24,7 +24,7 @@ protected:
     /// A letter of an item's mark.
     const QQuickItem& letterOf(const char* mark) const
     {
-        return partOf(words(mark), "text", QString::fromUtf8(mark).first(1));
+        return *partOf(words(mark), "text", QString::fromUtf8(mark).first(1));
     }
 };
 
@@ -83,7 +83,7 @@ TEST_F(MessageLayout, OfAQuoteIsABarAsTallAsItsTextTenPointsBeforeIt)
     open(R"(> One that is so long that it goes on in a second line where the window has no room for all of it)");
     const auto& text
         = words("One that is so long that it goes on in a second line where the window has no room for all of it");
-    const auto& bar = partOf(lineOf(text), "width", 3.0);
+    const auto& bar = *partOf(lineOf(text), "width", 3.0);
     EXPECT_GT(text.property("lineCount").toInt(), 1);
     EXPECT_EQ(frameOf(bar).height(), frameOf(text).height());
     EXPECT_EQ(frameOf(bar).top(), frameOf(text).top());

@@ -19,7 +19,7 @@ protected:
     QQuickItem& row() const { return item(Role::ListItem, QStringLiteral("Gateway")); }
     static QQuickItem& symbol(const QQuickItem& root, const char* name)
     {
-        return partOf(root, "name", QString::fromUtf8(name));
+        return *partOf(root, "name", QString::fromUtf8(name));
     }
 
     /// Metrics are there, but closed, so that their badges show.
@@ -163,7 +163,7 @@ TEST_F(MonitorLayout, OfThePanelHasItsRegionsAsDotNameAndAverage)
     const auto& name = label("Frankfurt");
     const auto& average = label("121ms");
     const auto& line = *name.parentItem();
-    const auto& dot = partOf(line, "radius", 4);
+    const auto& dot = *partOf(line, "radius", 4);
     EXPECT_EQ(dot.width(), 8);
     EXPECT_EQ(dot.height(), 8);
     EXPECT_EQ(colorOf(dot), light::green);

@@ -24,7 +24,7 @@ protected:
     }
 
     /// Below the headers.
-    const QQuickItem& divider() const { return partOf(*tableLines().at(1), "color", QColor("#e3e6ea")); }
+    const QQuickItem& divider() const { return *partOf(*tableLines().at(1), "color", QColor("#e3e6ea")); }
 
     /// From the end of a column's widest text to the next column; a text has up to two points of room.
     static double inkGap(const QQuickItem& left, const QQuickItem& right)
@@ -172,7 +172,7 @@ protected:
     double roomBelow(const char* message, const char* last)
     {
         open(message);
-        const auto room = frameOf(partOf(rows(), "isCompact", false)).top() - frameOf(words(last)).bottom();
+        const auto room = frameOf(*partOf(rows(), "isCompact", false)).top() - frameOf(words(last)).bottom();
         press(Qt::Key_Escape);
         return room;
     }
