@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <ctime>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -9,6 +7,7 @@
 #include "IncidentsOnScreen.h"
 #include "MaintenancesOnScreen.h"
 #include "MonitorsOnScreen.h"
+#include "ProcessorTime.h"
 
 namespace larkspan {
 
@@ -17,14 +16,6 @@ namespace {
 constexpr int mostRecords = 20'000;
 // Without a place to break, where the time for a text grows with its square.
 const std::string megabyte(1'000'000, 'x');
-
-/// Of the processor, since other tests run beside this one.
-double secondsOf(const std::function<void()>& work)
-{
-    const auto begin = std::clock();
-    work();
-    return static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
-}
 
 std::string member(const std::string& key, const std::string& text)
 {
