@@ -18,6 +18,9 @@ T.MenuItem {
     Accessible.name: text
     // Qt 6.4 tells assistive technologies of the action, but does nothing when they take it.
     Accessible.onPressAction: triggered()
+    // Qt 6.8 lets Tab wander from row to row and out of the menu, Qt 6.4 does not; the arrows lead through it.
+    Keys.onTabPressed: event => { event.accepted = true }
+    Keys.onBacktabPressed: event => { event.accepted = true }
 
     contentItem: Item {
         implicitWidth: caption.x + caption.implicitWidth
