@@ -22,7 +22,7 @@
 #include "adapters/tray/StatusNotifierItem.h"
 #include "api/APIKeyStore.h"
 #include "api/KestruneAPI.h"
-#include "bridge/MenuBridge.h"
+#include "bridge/menu/MenuBridge.h"
 #include "core/LarkspanApp.h"
 #include "core/UpdaterController.h"
 #include "workspace/AboutKestruneView.h"

@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
-#include "model/DecodingError.h"
-#include "model/JSONDecoder.h"
-#include "model/ResultRecords.h"
+#include "model/bodies/ResultRecords.h"
+#include "model/json/DecodingError.h"
+#include "model/json/JSONDecoder.h"
 #include "support/Utf8.h"
 
 namespace {

@@ -6,11 +6,11 @@
 #include <string>
 #include <string_view>
 
-#include "incidents/markdown/InlineText.h"
-#include "incidents/markdown/MarkdownBlock.h"
-#include "incidents/markdown/ShownText.h"
-#include "incidents/markdown/StatusMarkdownContent.h"
-#include "incidents/markdown/TextPieces.h"
+#include "messages/markdown/InlineText.h"
+#include "messages/markdown/MarkdownBlock.h"
+#include "messages/markdown/ShownText.h"
+#include "messages/markdown/StatusMarkdownContent.h"
+#include "messages/markdown/TextPieces.h"
 #include "support/Utf8.h"
 
 namespace {

@@ -14,10 +14,10 @@
 #include "TimedExecutor.h"
 #include "adapters/http/TransportSettings.h"
 #include "adapters/tray/DBusMenuModel.h"
-#include "bridge/DashboardBridge.h"
+#include "bridge/workspace/DashboardBridge.h"
 #include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocaleText.h"
-#include "model/JSONValue.h"
+#include "model/json/JSONValue.h"
 #include "workspace/Dashboard.h"
 
 namespace {

@@ -16,7 +16,7 @@
 #include "Client.h"
 #include "TimedExecutor.h"
 #include "account/Seed.h"
-#include "bridge/DashboardBridge.h"
+#include "bridge/workspace/DashboardBridge.h"
 #include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocaleText.h"
 #include "service/WallClock.h"

@@ -18,8 +18,8 @@
 #include "Arguments.h"
 #include "account/Account.h"
 #include "fakes/ManualClock.h"
-#include "model/Incident.h"
-#include "model/JSONDecoder.h"
+#include "model/json/JSONDecoder.h"
+#include "model/records/Incident.h"
 #include "service/Service.h"
 
 namespace {

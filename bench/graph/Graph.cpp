@@ -19,7 +19,7 @@
 
 #include "Arguments.h"
 #include "account/MonitorMetrics.h"
-#include "bridge/LatencyPlotItem.h"
+#include "bridge/items/LatencyPlotItem.h"
 #include "fakes/FakeLocaleText.h"
 #include "qml/Renderer.h"
 #include "service/WallClock.h"

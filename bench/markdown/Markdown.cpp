@@ -15,9 +15,9 @@
 #include <md4c.h>
 
 #include "Arguments.h"
-#include "incidents/markdown/InlineText.h"
-#include "incidents/markdown/MarkdownBlock.h"
-#include "incidents/markdown/StatusMarkdownContent.h"
+#include "messages/markdown/InlineText.h"
+#include "messages/markdown/MarkdownBlock.h"
+#include "messages/markdown/StatusMarkdownContent.h"
 
 namespace {
 

@@ -15,7 +15,7 @@
 #include "gallery/MaintenanceScenes.h"
 #include "gallery/MonitorScenes.h"
 #include "gallery/PageScenes.h"
-#include "model/DecodingError.h"
+#include "model/json/DecodingError.h"
 #include "platform/URLError.h"
 
 namespace larkspan::gallery {

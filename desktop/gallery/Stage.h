@@ -13,7 +13,7 @@
 #include "adapters/SystemClock.h"
 #include "api/APIKeyStore.h"
 #include "api/KestruneAPI.h"
-#include "bridge/MenuBridge.h"
+#include "bridge/menu/MenuBridge.h"
 #include "core/AppStateManager.h"
 #include "qml/MainWindow.h"
 #include "workspace/AboutKestruneView.h"

@@ -5,8 +5,8 @@
 
 #include <utility>
 
-#include "bridge/ItemAccess.h"
-#include "bridge/SecretAccess.h"
+#include "bridge/items/ItemAccess.h"
+#include "bridge/items/SecretAccess.h"
 
 Q_IMPORT_QML_PLUGIN(LarkspanPlugin)
 Q_IMPORT_QML_PLUGIN(Larkspan_BridgePlugin)

@@ -5,12 +5,12 @@
 
 #include <memory>
 
-#include "bridge/AboutBridge.h"
-#include "bridge/AppearanceBridge.h"
-#include "bridge/DashboardBridge.h"
-#include "bridge/MenuBridge.h"
-#include "bridge/ScreenUpdates.h"
-#include "bridge/UpdateBridge.h"
+#include "bridge/menu/MenuBridge.h"
+#include "bridge/screens/ScreenUpdates.h"
+#include "bridge/workspace/AboutBridge.h"
+#include "bridge/workspace/AppearanceBridge.h"
+#include "bridge/workspace/DashboardBridge.h"
+#include "bridge/workspace/UpdateBridge.h"
 #include "core/UpdaterController.h"
 #include "platform/Executor.h"
 #include "workspace/AboutKestruneView.h"

@@ -4,10 +4,10 @@
 
 #include "api/RequestSending.h"
 #include "api/RequestURL.h"
-#include "model/Component.h"
-#include "model/ComponentGroup.h"
-#include "model/ComponentRequests.h"
-#include "model/Encoding.h"
+#include "model/bodies/ComponentRequests.h"
+#include "model/json/Encoding.h"
+#include "model/records/Component.h"
+#include "model/records/ComponentGroup.h"
 
 namespace larkspan::api {
 

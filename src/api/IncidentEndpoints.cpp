@@ -6,8 +6,8 @@
 #include "api/APIError.h"
 #include "api/RequestSending.h"
 #include "api/RequestURL.h"
-#include "model/Incident.h"
-#include "model/IncidentRequests.h"
+#include "model/bodies/IncidentRequests.h"
+#include "model/records/Incident.h"
 #include "support/IgnoringCase.h"
 
 namespace larkspan::api {

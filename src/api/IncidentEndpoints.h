@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "model/IncidentState.h"
+#include "model/records/IncidentState.h"
 #include "support/Task.h"
 
 namespace larkspan::model {

@@ -3,9 +3,9 @@
 #include <utility>
 
 #include "api/RequestSending.h"
-#include "model/JoinedIds.h"
-#include "model/Maintenance.h"
-#include "model/MaintenanceRequests.h"
+#include "model/bodies/MaintenanceRequests.h"
+#include "model/json/JoinedIds.h"
+#include "model/records/Maintenance.h"
 
 namespace larkspan::api {
 

@@ -4,11 +4,11 @@
 
 #include "api/RequestSending.h"
 #include "api/RequestURL.h"
-#include "model/ComponentMonitor.h"
-#include "model/JoinedIds.h"
-#include "model/Monitor.h"
-#include "model/MonitorMetricsResponse.h"
-#include "model/MonitorWithMetrics.h"
+#include "model/bodies/MonitorMetricsResponse.h"
+#include "model/json/JoinedIds.h"
+#include "model/records/ComponentMonitor.h"
+#include "model/records/Monitor.h"
+#include "model/records/MonitorWithMetrics.h"
 
 namespace larkspan::api {
 

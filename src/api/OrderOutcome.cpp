@@ -1,6 +1,6 @@
 #include "api/OrderOutcome.h"
 
-#include "model/DecodingError.h"
+#include "model/json/DecodingError.h"
 #include "platform/URLError.h"
 
 namespace larkspan::api {

@@ -5,9 +5,9 @@
 
 #include "api/APIError.h"
 #include "api/RequestEngine.h"
-#include "model/EmptyResponse.h"
-#include "model/JSONDecoder.h"
-#include "model/JSONEncoder.h"
+#include "model/bodies/EmptyResponse.h"
+#include "model/json/JSONDecoder.h"
+#include "model/json/JSONEncoder.h"
 
 namespace larkspan::api {
 

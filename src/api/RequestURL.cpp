@@ -1,7 +1,7 @@
 #include "api/RequestURL.h"
 
 #include "api/APIError.h"
-#include "model/URL.h"
+#include "model/records/URL.h"
 #include "support/Utf8.h"
 
 namespace larkspan::api {

@@ -3,10 +3,10 @@
 #include <utility>
 
 #include "api/RequestSending.h"
-#include "model/StatusPage.h"
-#include "model/StatusPageAnalytics.h"
-#include "model/StatusPagesStatusEnvelope.h"
-#include "model/UpdateStatusPageRequest.h"
+#include "model/bodies/StatusPagesStatusEnvelope.h"
+#include "model/bodies/UpdateStatusPageRequest.h"
+#include "model/records/StatusPage.h"
+#include "model/records/StatusPageAnalytics.h"
 
 namespace larkspan::api {
 

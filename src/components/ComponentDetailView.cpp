@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "api/OrderOutcome.h"
-#include "model/URL.h"
-#include "presentation/ComponentGroupsOrNone.h"
-#include "presentation/WebAddress.h"
+#include "model/records/URL.h"
+#include "presentation/forms/ComponentGroupsOrNone.h"
+#include "presentation/text/WebAddress.h"
 #include "support/Trimming.h"
 #include "support/UnlessEmpty.h"
 

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "components/ComponentStatus.h"
-#include "presentation/InPart.h"
-#include "presentation/RowId.h"
+#include "presentation/shapes/RowId.h"
+#include "presentation/text/InPart.h"
 
 namespace larkspan::components {
 

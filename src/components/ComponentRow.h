@@ -3,10 +3,10 @@
 #include <string>
 #include <vector>
 
-#include "model/Component.h"
-#include "model/ComponentGroup.h"
-#include "presentation/Pill.h"
-#include "presentation/Tone.h"
+#include "model/records/Component.h"
+#include "model/records/ComponentGroup.h"
+#include "presentation/shapes/Pill.h"
+#include "presentation/shapes/Tone.h"
 
 namespace larkspan::components {
 

@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-#include "presentation/Pill.h"
-#include "presentation/Tone.h"
+#include "presentation/shapes/Pill.h"
+#include "presentation/shapes/Tone.h"
 
 namespace larkspan::components {
 

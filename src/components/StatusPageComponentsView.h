@@ -11,8 +11,8 @@
 #include "platform/CredentialStore.h"
 #include "platform/Executor.h"
 #include "platform/LinkOpener.h"
-#include "presentation/ListScreen.h"
-#include "presentation/PresentedRecord.h"
+#include "presentation/screens/ListScreen.h"
+#include "presentation/screens/PresentedRecord.h"
 
 namespace larkspan::components {
 

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "api/APIError.h"
-#include "presentation/ComponentGroupsOrNone.h"
+#include "presentation/forms/ComponentGroupsOrNone.h"
 #include "support/Child.h"
 #include "support/LocalizedError.h"
 

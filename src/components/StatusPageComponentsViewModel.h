@@ -7,12 +7,12 @@
 #include <vector>
 
 #include "api/ComponentEndpoints.h"
-#include "model/Component.h"
-#include "model/ComponentGroup.h"
+#include "model/records/Component.h"
+#include "model/records/ComponentGroup.h"
 #include "platform/Executor.h"
-#include "presentation/AlertSequence.h"
-#include "presentation/FetchedRecords.h"
-#include "presentation/RecordList.h"
+#include "presentation/screens/AlertSequence.h"
+#include "presentation/screens/FetchedRecords.h"
+#include "presentation/screens/RecordList.h"
 #include "support/Observable.h"
 #include "support/Task.h"
 

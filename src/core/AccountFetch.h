@@ -2,10 +2,10 @@
 
 #include <vector>
 
-#include "model/Incident.h"
-#include "model/Maintenance.h"
-#include "model/StatusPage.h"
-#include "model/StatusPagesStatusEnvelope.h"
+#include "model/bodies/StatusPagesStatusEnvelope.h"
+#include "model/records/Incident.h"
+#include "model/records/Maintenance.h"
+#include "model/records/StatusPage.h"
 #include "platform/Executor.h"
 #include "support/Task.h"
 

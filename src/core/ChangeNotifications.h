@@ -4,8 +4,8 @@
 #include <unordered_set>
 #include <vector>
 
-#include "model/Incident.h"
-#include "model/Maintenance.h"
+#include "model/records/Incident.h"
+#include "model/records/Maintenance.h"
 #include "platform/NotificationCenter.h"
 
 namespace larkspan::core {

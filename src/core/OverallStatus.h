@@ -4,9 +4,9 @@
 #include <string_view>
 #include <vector>
 
-#include "model/Incident.h"
-#include "model/Maintenance.h"
-#include "model/StatusPage.h"
+#include "model/records/Incident.h"
+#include "model/records/Maintenance.h"
+#include "model/records/StatusPage.h"
 
 namespace larkspan::core {
 

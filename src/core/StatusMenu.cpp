@@ -4,7 +4,7 @@
 #include <iterator>
 #include <utility>
 
-#include "presentation/CompactRelativeTimeFormatter.h"
+#include "presentation/time/CompactRelativeTimeFormatter.h"
 
 namespace larkspan::core {
 

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "core/OverallStatus.h"
-#include "model/Incident.h"
-#include "model/StatusPage.h"
+#include "model/records/Incident.h"
+#include "model/records/StatusPage.h"
 #include "platform/StatusItem.h"
 #include "support/Time.h"
 

@@ -5,9 +5,9 @@
 #include <string>
 
 #include "api/IncidentEndpoints.h"
-#include "model/Incident.h"
-#include "model/IncidentRequests.h"
-#include "presentation/EventForm.h"
+#include "model/bodies/IncidentRequests.h"
+#include "model/records/Incident.h"
+#include "presentation/forms/EventForm.h"
 #include "support/Observable.h"
 #include "support/Task.h"
 

@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-#include "model/IncidentStatus.h"
-#include "presentation/Tone.h"
+#include "model/records/IncidentStatus.h"
+#include "presentation/shapes/Tone.h"
 
 namespace larkspan::incidents {
 

@@ -3,8 +3,8 @@
 #include <optional>
 #include <vector>
 
-#include "model/Incident.h"
-#include "presentation/Pill.h"
+#include "model/records/Incident.h"
+#include "presentation/shapes/Pill.h"
 
 namespace larkspan::incidents {
 

@@ -3,10 +3,10 @@
 #include <optional>
 #include <string>
 
-#include "model/Incident.h"
+#include "model/records/Incident.h"
 #include "platform/LocaleText.h"
-#include "presentation/Pill.h"
-#include "presentation/Tone.h"
+#include "presentation/shapes/Pill.h"
+#include "presentation/shapes/Tone.h"
 
 namespace larkspan::incidents {
 

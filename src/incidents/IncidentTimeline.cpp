@@ -1,6 +1,6 @@
 #include "incidents/IncidentTimeline.h"
 
-#include "presentation/DurationText.h"
+#include "presentation/time/DurationText.h"
 
 namespace larkspan::incidents {
 

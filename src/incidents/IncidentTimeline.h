@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "model/Incident.h"
+#include "model/records/Incident.h"
 #include "platform/LocaleText.h"
-#include "presentation/TimelineRow.h"
+#include "presentation/shapes/TimelineRow.h"
 
 namespace larkspan::incidents {
 

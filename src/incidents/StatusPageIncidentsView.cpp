@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "presentation/RowsOf.h"
+#include "presentation/screens/RowsOf.h"
 #include "support/WhileAlive.h"
 
 namespace larkspan::incidents {

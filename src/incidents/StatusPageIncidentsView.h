@@ -9,10 +9,10 @@
 #include "incidents/IncidentDetailView.h"
 #include "incidents/IncidentRow.h"
 #include "incidents/StatusPageIncidentsViewModel.h"
-#include "presentation/EventListPorts.h"
-#include "presentation/ListScreen.h"
-#include "presentation/PresentedRecord.h"
-#include "presentation/PresentedSheet.h"
+#include "presentation/forms/EventListPorts.h"
+#include "presentation/screens/ListScreen.h"
+#include "presentation/screens/PresentedRecord.h"
+#include "presentation/screens/PresentedSheet.h"
 #include "support/Task.h"
 
 namespace larkspan::incidents {

@@ -3,8 +3,8 @@
 #include <string>
 
 #include "api/IncidentEndpoints.h"
-#include "model/Incident.h"
-#include "presentation/FetchedList.h"
+#include "model/records/Incident.h"
+#include "presentation/screens/FetchedList.h"
 
 namespace larkspan::incidents {
 

@@ -6,10 +6,10 @@
 #include <vector>
 
 #include "api/MaintenanceEndpoints.h"
-#include "model/Maintenance.h"
+#include "model/records/Maintenance.h"
 #include "platform/Clock.h"
-#include "presentation/DateTimePicker.h"
-#include "presentation/EventForm.h"
+#include "presentation/forms/EventForm.h"
+#include "presentation/time/DateTimePicker.h"
 #include "support/Observable.h"
 #include "support/Task.h"
 

@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "model/Maintenance.h"
+#include "model/records/Maintenance.h"
 #include "platform/LocaleText.h"
-#include "presentation/Pill.h"
+#include "presentation/shapes/Pill.h"
 
 namespace larkspan::maintenances {
 

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "presentation/Pill.h"
-#include "presentation/Tone.h"
+#include "presentation/shapes/Pill.h"
+#include "presentation/shapes/Tone.h"
 
 namespace larkspan::maintenances {
 

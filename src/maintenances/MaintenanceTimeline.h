@@ -2,9 +2,9 @@
 
 #include <vector>
 
-#include "model/Maintenance.h"
+#include "model/records/Maintenance.h"
 #include "platform/LocaleText.h"
-#include "presentation/TimelineRow.h"
+#include "presentation/shapes/TimelineRow.h"
 
 namespace larkspan::maintenances {
 

@@ -1,6 +1,6 @@
 #include "maintenances/StatusPageMaintenancesView.h"
 
-#include "presentation/RowsOf.h"
+#include "presentation/screens/RowsOf.h"
 #include "support/WhileAlive.h"
 
 namespace larkspan::maintenances {

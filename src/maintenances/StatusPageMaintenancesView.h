@@ -9,10 +9,10 @@
 #include "maintenances/MaintenanceDetailView.h"
 #include "maintenances/MaintenanceRow.h"
 #include "maintenances/StatusPageMaintenancesViewModel.h"
-#include "presentation/EventListPorts.h"
-#include "presentation/ListScreen.h"
-#include "presentation/PresentedRecord.h"
-#include "presentation/PresentedSheet.h"
+#include "presentation/forms/EventListPorts.h"
+#include "presentation/screens/ListScreen.h"
+#include "presentation/screens/PresentedRecord.h"
+#include "presentation/screens/PresentedSheet.h"
 
 namespace larkspan::maintenances {
 

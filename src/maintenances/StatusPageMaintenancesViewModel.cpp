@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "presentation/RecordsOfPage.h"
+#include "presentation/screens/RecordsOfPage.h"
 
 namespace larkspan::maintenances {
 

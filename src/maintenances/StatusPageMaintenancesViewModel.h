@@ -3,8 +3,8 @@
 #include <string>
 
 #include "api/MaintenanceEndpoints.h"
-#include "model/Maintenance.h"
-#include "presentation/FetchedList.h"
+#include "model/records/Maintenance.h"
+#include "presentation/screens/FetchedList.h"
 
 namespace larkspan::maintenances {
 

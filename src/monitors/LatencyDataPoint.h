@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "model/MonitorMetricsWindow.h"
+#include "model/records/MonitorMetricsWindow.h"
 #include "support/Time.h"
 
 namespace larkspan::monitors {

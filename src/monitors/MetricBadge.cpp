@@ -1,7 +1,7 @@
 #include "monitors/MetricBadge.h"
 
 #include "monitors/MonitorColors.h"
-#include "presentation/NumberText.h"
+#include "presentation/text/NumberText.h"
 #include "support/Capitalized.h"
 
 namespace larkspan::monitors {

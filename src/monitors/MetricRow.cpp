@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "monitors/MonitorColors.h"
-#include "presentation/NumberText.h"
+#include "presentation/text/NumberText.h"
 #include "support/Capitalized.h"
 
 namespace larkspan::monitors {

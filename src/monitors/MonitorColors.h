@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-#include "model/MonitorStatus.h"
-#include "presentation/Tone.h"
+#include "model/records/MonitorStatus.h"
+#include "presentation/shapes/Tone.h"
 
 namespace larkspan::monitors {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "model/URL.h"
+#include "model/records/URL.h"
 #include "monitors/MonitorRow.h"
-#include "presentation/WebAddress.h"
+#include "presentation/text/WebAddress.h"
 
 namespace larkspan::monitors {
 

@@ -7,15 +7,15 @@
 #include <vector>
 
 #include "api/MonitorEndpoints.h"
-#include "model/Monitor.h"
+#include "model/records/Monitor.h"
 #include "monitors/MonitorPills.h"
 #include "platform/Executor.h"
 #include "platform/LinkOpener.h"
 #include "platform/LocaleText.h"
-#include "presentation/ActionButton.h"
-#include "presentation/Command.h"
-#include "presentation/Fact.h"
-#include "presentation/RunningAction.h"
+#include "presentation/screens/RunningAction.h"
+#include "presentation/shapes/ActionButton.h"
+#include "presentation/shapes/Command.h"
+#include "presentation/shapes/Fact.h"
 #include "support/Observable.h"
 #include "support/Task.h"
 

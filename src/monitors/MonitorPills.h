@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "model/Monitor.h"
-#include "presentation/Pill.h"
+#include "model/records/Monitor.h"
+#include "presentation/shapes/Pill.h"
 
 namespace larkspan::monitors {
 

@@ -4,12 +4,12 @@
 #include <string_view>
 #include <vector>
 
-#include "model/Monitor.h"
+#include "model/records/Monitor.h"
 #include "monitors/MetricBadge.h"
 #include "monitors/MonitorRowView.h"
-#include "presentation/ActionButton.h"
-#include "presentation/Pill.h"
-#include "presentation/Tone.h"
+#include "presentation/shapes/ActionButton.h"
+#include "presentation/shapes/Pill.h"
+#include "presentation/shapes/Tone.h"
 
 namespace larkspan::monitors {
 

@@ -6,13 +6,13 @@
 #include <vector>
 
 #include "api/MonitorEndpoints.h"
-#include "model/MonitorMetricsWindow.h"
+#include "model/records/MonitorMetricsWindow.h"
 #include "monitors/LatencyGraph.h"
 #include "monitors/MetricRow.h"
 #include "monitors/RegionRow.h"
 #include "platform/Executor.h"
 #include "platform/LocaleText.h"
-#include "presentation/Marker.h"
+#include "presentation/shapes/Marker.h"
 #include "support/Observable.h"
 #include "support/Task.h"
 

@@ -3,8 +3,8 @@
 #include <ranges>
 
 #include "monitors/MonitorColors.h"
-#include "presentation/InPart.h"
-#include "presentation/NumberText.h"
+#include "presentation/text/InPart.h"
+#include "presentation/text/NumberText.h"
 
 namespace larkspan::monitors {
 

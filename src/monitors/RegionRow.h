@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "model/MonitorMetricsWindow.h"
-#include "presentation/Tone.h"
+#include "model/records/MonitorMetricsWindow.h"
+#include "presentation/shapes/Tone.h"
 
 namespace larkspan::monitors {
 

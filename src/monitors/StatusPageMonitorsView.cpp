@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "presentation/RowsOf.h"
+#include "presentation/screens/RowsOf.h"
 #include "support/WhileAlive.h"
 
 namespace larkspan::monitors {

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "api/MonitorEndpoints.h"
-#include "model/StatusPage.h"
+#include "model/records/StatusPage.h"
 #include "monitors/MonitorDetailView.h"
 #include "monitors/MonitorRow.h"
 #include "monitors/MonitorRowView.h"
@@ -17,9 +17,9 @@
 #include "platform/Executor.h"
 #include "platform/LinkOpener.h"
 #include "platform/LocaleText.h"
-#include "presentation/AfterChanges.h"
-#include "presentation/ListScreen.h"
-#include "presentation/PresentedRecord.h"
+#include "presentation/screens/ListScreen.h"
+#include "presentation/screens/PresentedRecord.h"
+#include "support/AfterChanges.h"
 #include "support/Observable.h"
 
 namespace larkspan::monitors {

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "presentation/RecordsOfPage.h"
+#include "presentation/screens/RecordsOfPage.h"
 #include "support/LocalizedError.h"
 
 namespace larkspan::monitors {

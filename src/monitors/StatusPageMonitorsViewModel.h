@@ -6,9 +6,9 @@
 #include <string>
 
 #include "api/MonitorEndpoints.h"
-#include "model/Monitor.h"
-#include "presentation/AlertSequence.h"
-#include "presentation/FetchedList.h"
+#include "model/records/Monitor.h"
+#include "presentation/screens/AlertSequence.h"
+#include "presentation/screens/FetchedList.h"
 #include "support/Observable.h"
 #include "support/Task.h"
 

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "platform/LinkOpener.h"
-#include "presentation/Link.h"
+#include "presentation/shapes/Link.h"
 
 namespace larkspan::workspace {
 

@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "model/Incident.h"
-#include "model/Maintenance.h"
-#include "presentation/Tone.h"
+#include "model/records/Incident.h"
+#include "model/records/Maintenance.h"
+#include "presentation/shapes/Tone.h"
 
 namespace larkspan::workspace {
 

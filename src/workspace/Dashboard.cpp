@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "presentation/CompactRelativeTimeFormatter.h"
-#include "presentation/RowsOf.h"
+#include "presentation/screens/RowsOf.h"
+#include "presentation/time/CompactRelativeTimeFormatter.h"
 #include "support/WhileAlive.h"
 
 namespace larkspan::workspace {

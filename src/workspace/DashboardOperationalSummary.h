@@ -6,8 +6,8 @@
 
 #include "core/AppStateManager.h"
 #include "core/OverallStatus.h"
-#include "presentation/Headline.h"
-#include "presentation/Tone.h"
+#include "presentation/shapes/Headline.h"
+#include "presentation/shapes/Tone.h"
 
 namespace larkspan::workspace {
 

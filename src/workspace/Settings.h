@@ -9,8 +9,8 @@
 #include "api/APIKeyStore.h"
 #include "core/AppStateManager.h"
 #include "platform/Executor.h"
-#include "presentation/Confirmation.h"
-#include "presentation/Marker.h"
+#include "presentation/shapes/Confirmation.h"
+#include "presentation/shapes/Marker.h"
 #include "support/Observable.h"
 #include "support/Task.h"
 

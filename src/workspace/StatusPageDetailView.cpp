@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "presentation/WebAddress.h"
+#include "presentation/text/WebAddress.h"
 
 namespace larkspan::workspace {
 

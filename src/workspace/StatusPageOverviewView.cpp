@@ -7,11 +7,11 @@
 #include <utility>
 
 #include "core/OverallStatus.h"
-#include "presentation/InPart.h"
-#include "presentation/NumberText.h"
-#include "presentation/RelativeDate.h"
-#include "presentation/StatusPagePresentation.h"
-#include "presentation/WebAddress.h"
+#include "presentation/text/InPart.h"
+#include "presentation/text/NumberText.h"
+#include "presentation/text/StatusPagePresentation.h"
+#include "presentation/text/WebAddress.h"
+#include "presentation/time/RelativeDate.h"
 
 namespace larkspan::workspace {
 

@@ -5,11 +5,11 @@
 #include <vector>
 
 #include "core/AppStateManager.h"
-#include "model/StatusPage.h"
+#include "model/records/StatusPage.h"
 #include "platform/LocaleText.h"
-#include "presentation/Fact.h"
-#include "presentation/Headline.h"
-#include "presentation/Marker.h"
+#include "presentation/shapes/Fact.h"
+#include "presentation/shapes/Headline.h"
+#include "presentation/shapes/Marker.h"
 #include "support/Time.h"
 #include "workspace/ActivityRow.h"
 

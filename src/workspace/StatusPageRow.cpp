@@ -1,6 +1,6 @@
 #include "workspace/StatusPageRow.h"
 
-#include "presentation/StatusPagePresentation.h"
+#include "presentation/text/StatusPagePresentation.h"
 
 namespace larkspan::workspace {
 

@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "model/StatusPage.h"
-#include "presentation/Pill.h"
-#include "presentation/Tone.h"
+#include "model/records/StatusPage.h"
+#include "presentation/shapes/Pill.h"
+#include "presentation/shapes/Tone.h"
 
 namespace larkspan::workspace {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "incidents/markdown/InlineText.h"
+#include "messages/markdown/InlineText.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <set>
 
 #include "SeededService.h"
-#include "model/MonitorMetricsResponse.h"
+#include "model/bodies/MonitorMetricsResponse.h"
 
 namespace larkspan::simulator {
 namespace {

@@ -7,16 +7,16 @@
 
 #include "SeededService.h"
 #include "account/IncidentWorkflow.h"
-#include "model/Component.h"
-#include "model/ComponentGroup.h"
-#include "model/ComponentMonitor.h"
-#include "model/Monitor.h"
-#include "model/MonitorMetricsResponse.h"
-#include "model/MonitorWithMetrics.h"
-#include "model/OnCallStatus.h"
-#include "model/StatusPage.h"
-#include "model/StatusPageAnalytics.h"
-#include "model/Team.h"
+#include "model/bodies/MonitorMetricsResponse.h"
+#include "model/records/Component.h"
+#include "model/records/ComponentGroup.h"
+#include "model/records/ComponentMonitor.h"
+#include "model/records/Monitor.h"
+#include "model/records/MonitorWithMetrics.h"
+#include "model/records/OnCallStatus.h"
+#include "model/records/StatusPage.h"
+#include "model/records/StatusPageAnalytics.h"
+#include "model/records/Team.h"
 
 namespace larkspan::simulator {
 namespace {

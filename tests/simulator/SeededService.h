@@ -8,7 +8,7 @@
 #include "Samples.h"
 #include "account/Seed.h"
 #include "fakes/ManualClock.h"
-#include "model/JSONDecoder.h"
+#include "model/json/JSONDecoder.h"
 #include "service/Service.h"
 #include "json/Json.h"
 

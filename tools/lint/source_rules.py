@@ -137,9 +137,9 @@ RULES: list[tuple[str, Check]] = [
     (r"\.h$", headers_are_included_once),
     (CPP, coroutines_hold_what_they_use),
     (r"^desktop/.*\.qml$", colours_come_from_the_theme),
-    (r"^desktop/qml/(?!kit/).*\.qml$", screens_show_text_through_the_kit),
+    (r"^desktop/qml/(?!kit/|messages/).*\.qml$", screens_show_text_through_the_kit),
     (r"^desktop/.*\.qml$", controls_are_the_kits),
-    (r"^desktop/qml/kit/.*\.qml$", the_kit_shows_plain_text),
+    (r"^desktop/qml/(kit|messages)/.*\.qml$", the_kit_shows_plain_text),
     (r"^(?!tools/lint/).*\.py$", modules_of_ours_are_found_first),
     (r"\.(h|cpp|qml|py)$", files_stay_readable),
 ]

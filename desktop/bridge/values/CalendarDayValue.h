@@ -4,8 +4,8 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "bridge/Words.h"
-#include "presentation/CalendarDay.h"
+#include "bridge/values/Words.h"
+#include "presentation/time/CalendarDay.h"
 
 namespace larkspan::bridge {
 

@@ -4,8 +4,8 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "bridge/Words.h"
-#include "presentation/Choice.h"
+#include "bridge/values/Words.h"
+#include "presentation/shapes/Choice.h"
 
 namespace larkspan::bridge {
 

@@ -4,8 +4,8 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "bridge/Words.h"
-#include "presentation/Confirmation.h"
+#include "bridge/values/Words.h"
+#include "presentation/shapes/Confirmation.h"
 
 namespace larkspan::bridge {
 

@@ -6,7 +6,7 @@
 
 #include <memory>
 
-#include "bridge/Words.h"
+#include "bridge/values/Words.h"
 #include "monitors/LatencyGraph.h"
 
 namespace larkspan::bridge {

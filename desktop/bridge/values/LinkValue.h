@@ -4,8 +4,8 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "bridge/Words.h"
-#include "presentation/Link.h"
+#include "bridge/values/Words.h"
+#include "presentation/shapes/Link.h"
 
 namespace larkspan::bridge {
 

@@ -4,8 +4,8 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "bridge/Words.h"
 #include "bridge/values/PillValue.h"
+#include "bridge/values/Words.h"
 #include "maintenances/MaintenanceRow.h"
 
 namespace larkspan::bridge {

@@ -1,7 +1,7 @@
 #include "bridge/values/MarkdownRowValue.h"
 
-#include "bridge/ValueList.h"
-#include "bridge/Words.h"
+#include "bridge/lists/ValueList.h"
+#include "bridge/values/Words.h"
 
 namespace larkspan::bridge {
 

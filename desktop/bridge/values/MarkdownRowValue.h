@@ -5,7 +5,7 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "bridge/MessageEntry.h"
+#include "bridge/messages/MessageEntry.h"
 #include "bridge/values/MarkdownTextValue.h"
 
 namespace larkspan::bridge {

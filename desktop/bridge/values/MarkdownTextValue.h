@@ -4,8 +4,8 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "bridge/Words.h"
-#include "incidents/markdown/MarkdownText.h"
+#include "bridge/values/Words.h"
+#include "messages/markdown/MarkdownText.h"
 
 namespace larkspan::bridge {
 

@@ -4,9 +4,9 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "bridge/ToneNames.h"
-#include "bridge/Words.h"
-#include "presentation/Marker.h"
+#include "bridge/values/ToneNames.h"
+#include "bridge/values/Words.h"
+#include "presentation/shapes/Marker.h"
 
 namespace larkspan::bridge {
 

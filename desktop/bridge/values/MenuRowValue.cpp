@@ -1,6 +1,6 @@
 #include "bridge/values/MenuRowValue.h"
 
-#include "bridge/Words.h"
+#include "bridge/values/Words.h"
 
 namespace larkspan::bridge {
 

@@ -4,8 +4,8 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "bridge/MenuEntry.h"
-#include "bridge/ToneNames.h"
+#include "bridge/menu/MenuEntry.h"
+#include "bridge/values/ToneNames.h"
 
 namespace larkspan::bridge {
 

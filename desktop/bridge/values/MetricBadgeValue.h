@@ -4,8 +4,8 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "bridge/ToneNames.h"
-#include "bridge/Words.h"
+#include "bridge/values/ToneNames.h"
+#include "bridge/values/Words.h"
 #include "monitors/MetricBadge.h"
 
 namespace larkspan::bridge {

@@ -5,12 +5,12 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "bridge/ToneNames.h"
-#include "bridge/ValueList.h"
-#include "bridge/Words.h"
+#include "bridge/lists/ValueList.h"
 #include "bridge/values/ActionButtonValue.h"
 #include "bridge/values/MetricBadgeValue.h"
 #include "bridge/values/PillValue.h"
+#include "bridge/values/ToneNames.h"
+#include "bridge/values/Words.h"
 #include "monitors/MonitorRow.h"
 
 namespace larkspan::bridge {

@@ -4,9 +4,9 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "bridge/ToneNames.h"
-#include "bridge/Words.h"
 #include "bridge/values/PillValue.h"
+#include "bridge/values/ToneNames.h"
+#include "bridge/values/Words.h"
 #include "workspace/StatusPageRow.h"
 
 namespace larkspan::bridge {

@@ -4,8 +4,8 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "bridge/Words.h"
-#include "presentation/TimelineRow.h"
+#include "bridge/values/Words.h"
+#include "presentation/shapes/TimelineRow.h"
 
 namespace larkspan::bridge {
 

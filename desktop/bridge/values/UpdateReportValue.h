@@ -4,7 +4,7 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "bridge/Words.h"
+#include "bridge/values/Words.h"
 #include "workspace/UpdateReport.h"
 
 namespace larkspan::bridge {

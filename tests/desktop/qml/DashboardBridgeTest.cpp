@@ -1,4 +1,4 @@
-#include "bridge/DashboardBridge.h"
+#include "bridge/workspace/DashboardBridge.h"
 
 #include <QSignalSpy>
 

@@ -6,7 +6,7 @@
 
 #include <stdexcept>
 
-#include "bridge/ItemAccess.h"
+#include "bridge/items/ItemAccess.h"
 
 namespace larkspan {
 

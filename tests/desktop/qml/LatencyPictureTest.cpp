@@ -1,4 +1,4 @@
-#include "bridge/LatencyPicture.h"
+#include "bridge/items/LatencyPicture.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "bridge/LatencyPlotItem.h"
+#include "bridge/items/LatencyPlotItem.h"
 
 #include <QQuickWindow>
 

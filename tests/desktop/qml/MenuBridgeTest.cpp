@@ -1,4 +1,4 @@
-#include "bridge/MenuBridge.h"
+#include "bridge/menu/MenuBridge.h"
 
 #include <QSignalSpy>
 

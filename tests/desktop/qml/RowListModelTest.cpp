@@ -1,4 +1,4 @@
-#include "bridge/RowListModel.h"
+#include "bridge/lists/RowListModel.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>

@@ -1,4 +1,4 @@
-#include "bridge/ScreenUpdates.h"
+#include "bridge/screens/ScreenUpdates.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "bridge/RowListModel.h"
+#include "bridge/lists/RowListModel.h"
 #include "bridge/values/StatusPageRowValue.h"
 
 namespace larkspan::bridge {

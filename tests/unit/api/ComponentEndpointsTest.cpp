@@ -1,8 +1,8 @@
 #include "api/ComponentEndpoints.h"
 
 #include "api/Endpoint.h"
-#include "model/ComponentGroup.h"
-#include "model/ComponentRequests.h"
+#include "model/bodies/ComponentRequests.h"
+#include "model/records/ComponentGroup.h"
 
 namespace larkspan::api {
 

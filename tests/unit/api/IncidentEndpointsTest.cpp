@@ -2,8 +2,8 @@
 
 #include "api/Endpoint.h"
 #include "api/KeychainHelper.h"
-#include "model/Incident.h"
-#include "model/IncidentRequests.h"
+#include "model/bodies/IncidentRequests.h"
+#include "model/records/Incident.h"
 
 namespace larkspan::api {
 

@@ -10,10 +10,10 @@
 #include "api/KeychainHelper.h"
 #include "api/RequestSending.h"
 #include "fakes/Service.h"
-#include "model/DecodingError.h"
-#include "model/EmptyResponse.h"
-#include "model/StatusPage.h"
-#include "model/StatusPagesStatusEnvelope.h"
+#include "model/bodies/EmptyResponse.h"
+#include "model/bodies/StatusPagesStatusEnvelope.h"
+#include "model/json/DecodingError.h"
+#include "model/records/StatusPage.h"
 
 namespace larkspan::api {
 

@@ -1,7 +1,7 @@
 #include "api/MaintenanceEndpoints.h"
 
 #include "api/Endpoint.h"
-#include "model/Maintenance.h"
+#include "model/records/Maintenance.h"
 
 namespace larkspan::api {
 

@@ -1,10 +1,10 @@
 #include "api/MonitorEndpoints.h"
 
 #include "api/Endpoint.h"
-#include "model/ComponentMonitor.h"
-#include "model/Monitor.h"
-#include "model/MonitorMetricsWindow.h"
-#include "model/MonitorWithMetrics.h"
+#include "model/records/ComponentMonitor.h"
+#include "model/records/Monitor.h"
+#include "model/records/MonitorMetricsWindow.h"
+#include "model/records/MonitorWithMetrics.h"
 
 namespace larkspan::api {
 

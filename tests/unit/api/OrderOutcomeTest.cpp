@@ -6,8 +6,8 @@
 #include <stdexcept>
 #include <string>
 
-#include "model/DecodingError.h"
-#include "model/Incident.h"
+#include "model/json/DecodingError.h"
+#include "model/records/Incident.h"
 #include "platform/URLError.h"
 
 namespace larkspan::api {

@@ -1,9 +1,9 @@
 #include "api/StatusPageEndpoints.h"
 
 #include "api/Endpoint.h"
-#include "model/StatusPage.h"
-#include "model/StatusPageAnalytics.h"
-#include "model/UpdateStatusPageRequest.h"
+#include "model/bodies/UpdateStatusPageRequest.h"
+#include "model/records/StatusPage.h"
+#include "model/records/StatusPageAnalytics.h"
 
 namespace larkspan::api {
 

@@ -1,8 +1,8 @@
 #include "api/TeamEndpoints.h"
 
 #include "api/Endpoint.h"
-#include "model/OnCallStatus.h"
-#include "model/Team.h"
+#include "model/records/OnCallStatus.h"
+#include "model/records/Team.h"
 
 namespace larkspan::api {
 

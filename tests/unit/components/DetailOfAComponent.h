@@ -8,7 +8,7 @@
 
 #include "components/ComponentDetailView.h"
 #include "components/ComponentsOfAPage.h"
-#include "model/JSONDecoder.h"
+#include "model/json/JSONDecoder.h"
 
 namespace larkspan::components {
 

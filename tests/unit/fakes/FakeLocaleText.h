@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "model/ISO8601.h"
+#include "model/json/ISO8601.h"
 #include "platform/LocaleText.h"
 
 namespace larkspan::fakes {

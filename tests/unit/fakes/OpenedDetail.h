@@ -11,7 +11,7 @@
 #include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocaleText.h"
 #include "fakes/Service.h"
-#include "model/JSONDecoder.h"
+#include "model/json/JSONDecoder.h"
 
 namespace larkspan::fakes {
 

@@ -9,7 +9,7 @@
 
 #include "fakes/OpenedDetail.h"
 #include "fakes/Refusal.h"
-#include "model/ISO8601.h"
+#include "model/json/ISO8601.h"
 
 namespace larkspan::monitors {
 

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+
+#include "bridge/components/ComponentDetailBridge.h"
+#include "bridge/lists/RowListModel.h"
+#include "bridge/screens/ChildScreen.h"
+#include "bridge/screens/ListBridge.h"
+#include "bridge/values/AlertValue.h"
+#include "bridge/values/ComponentRowValue.h"
+#include "components/StatusPageComponentsView.h"
+
+namespace larkspan::bridge {
+
+/// A page's components for QML; worded and decided by `components::StatusPageComponentsView`.
+/// The base has its whole name, since QML's tools look for the one that is written here.
+class ComponentListBridge : public larkspan::bridge::ListBridge {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the application")
+    Q_PROPERTY(larkspan::bridge::AlertValue alert READ alert NOTIFY changed)
+    /// The component that is open; null while there is none.
+    Q_PROPERTY(larkspan::bridge::ComponentDetailBridge* detail READ detail NOTIFY changed)
+
+public:
+    ComponentListBridge(std::shared_ptr<components::StatusPageComponentsView> view, const ScreenUpdates& updates,
+        QObject* parent = nullptr);
+
+    ListModel* rows() override { return &rows_; }
+    AlertValue alert() const { return {view_->alertNumber(), words(view_->alert())}; }
+    ComponentDetailBridge* detail() const { return detail_.get(); }
+
+    Q_INVOKABLE void dismissAlert() { view_->dismissAlert(); }
+    Q_INVOKABLE void open(const QString& id) { view_->openComponent(id.toStdString()); }
+
+private:
+    void readState() override;
+
+    std::shared_ptr<components::StatusPageComponentsView> view_;
+    RowListModel<ComponentRowValue> rows_;
+    ChildScreen<ComponentDetailBridge, components::ComponentDetailView> detail_;
+};
+
+}  // namespace larkspan::bridge

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+
+#include "bridge/incidents/CreateIncidentBridge.h"
+#include "bridge/incidents/IncidentDetailBridge.h"
+#include "bridge/lists/RowListModel.h"
+#include "bridge/screens/ChildScreen.h"
+#include "bridge/screens/ListBridge.h"
+#include "bridge/values/IncidentRowValue.h"
+#include "incidents/StatusPageIncidentsView.h"
+
+namespace larkspan::bridge {
+
+/// A page's incidents for QML; worded and decided by `incidents::StatusPageIncidentsView`.
+/// The base has its whole name, since QML's tools look for the one that is written here.
+class IncidentListBridge : public larkspan::bridge::ListBridge {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the application")
+    /// The incident that is open, and the form of a new one; null while there is none.
+    Q_PROPERTY(larkspan::bridge::IncidentDetailBridge* detail READ detail NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::CreateIncidentBridge* form READ form NOTIFY changed)
+
+public:
+    IncidentListBridge(std::shared_ptr<incidents::StatusPageIncidentsView> view, const ScreenUpdates& updates,
+        QObject* parent = nullptr);
+
+    ListModel* rows() override { return &rows_; }
+    IncidentDetailBridge* detail() const { return detail_.get(); }
+    CreateIncidentBridge* form() const { return form_.get(); }
+
+    Q_INVOKABLE void open(const QString& id) { view_->openIncident(id.toStdString()); }
+    Q_INVOKABLE void openForm() { view_->openCreateIncident(); }
+
+private:
+    void readState() override;
+
+    std::shared_ptr<incidents::StatusPageIncidentsView> view_;
+    RowListModel<IncidentRowValue> rows_;
+    ChildScreen<IncidentDetailBridge, incidents::IncidentDetailView> detail_;
+    ChildScreen<CreateIncidentBridge, incidents::CreateIncidentView> form_;
+};
+
+}  // namespace larkspan::bridge

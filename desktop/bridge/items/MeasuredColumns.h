@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QFont>
+#include <QList>
+
+#include <map>
+#include <memory>
+
+#include "messages/markdown/MarkdownRow.h"
+
+namespace larkspan::bridge {
+
+/// The columns of tables, as wide as their widest texts are drawn; measured once for all rows of a table.
+class MeasuredColumns {
+public:
+    using Columns = std::shared_ptr<const incidents::MarkdownColumns>;
+
+    struct Drawing {
+        QFont ofHeaders;
+        QFont ofCells;
+        /// No column is wider, and no more is measured than shows that it would be.
+        qreal most = 0;
+
+        bool operator==(const Drawing&) const = default;
+    };
+
+    QList<qreal> widthsOf(const Columns& columns, const Drawing& drawing);
+
+private:
+    Drawing drawing_;
+    // Held, so that none comes to stand where another was measured.
+    std::map<Columns, QList<qreal>> widths_;
+};
+
+}  // namespace larkspan::bridge

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+
+#include "bridge/screens/DateTimePickerBridge.h"
+#include "bridge/screens/EventFormBridge.h"
+#include "maintenances/CreateMaintenanceView.h"
+
+namespace larkspan::bridge {
+
+/// The form of a new maintenance for QML; worded and decided by `maintenances::CreateMaintenanceView`.
+class CreateMaintenanceBridge : public larkspan::bridge::EventFormBridge {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the application")
+    Q_PROPERTY(larkspan::bridge::DateTimePickerBridge* scheduledFor READ scheduledFor CONSTANT)
+    Q_PROPERTY(larkspan::bridge::DateTimePickerBridge* scheduledUntil READ scheduledUntil CONSTANT)
+
+public:
+    CreateMaintenanceBridge(const std::shared_ptr<maintenances::CreateMaintenanceView>& view,
+        const ScreenUpdates& updates, QObject* parent = nullptr);
+
+    DateTimePickerBridge* scheduledFor() { return &scheduledFor_; }
+    DateTimePickerBridge* scheduledUntil() { return &scheduledUntil_; }
+
+private:
+    DateTimePickerBridge scheduledFor_;
+    DateTimePickerBridge scheduledUntil_;
+};
+
+}  // namespace larkspan::bridge

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+
+#include "bridge/lists/RowListModel.h"
+#include "bridge/maintenances/CreateMaintenanceBridge.h"
+#include "bridge/maintenances/MaintenanceDetailBridge.h"
+#include "bridge/screens/ChildScreen.h"
+#include "bridge/screens/ListBridge.h"
+#include "bridge/values/MaintenanceRowValue.h"
+#include "maintenances/StatusPageMaintenancesView.h"
+
+namespace larkspan::bridge {
+
+/// A page's maintenances for QML; worded and decided by `maintenances::StatusPageMaintenancesView`.
+/// The base has its whole name, since QML's tools look for the one that is written here.
+class MaintenanceListBridge : public larkspan::bridge::ListBridge {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the application")
+    /// The maintenance that is open, and the form of a new one; null while there is none.
+    Q_PROPERTY(larkspan::bridge::MaintenanceDetailBridge* detail READ detail NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::CreateMaintenanceBridge* form READ form NOTIFY changed)
+
+public:
+    MaintenanceListBridge(std::shared_ptr<maintenances::StatusPageMaintenancesView> view, const ScreenUpdates& updates,
+        QObject* parent = nullptr);
+
+    ListModel* rows() override { return &rows_; }
+    MaintenanceDetailBridge* detail() const { return detail_.get(); }
+    CreateMaintenanceBridge* form() const { return form_.get(); }
+
+    Q_INVOKABLE void open(const QString& id) { view_->openMaintenance(id.toStdString()); }
+    Q_INVOKABLE void openForm() { view_->openCreateMaintenance(); }
+
+private:
+    void readState() override;
+
+    std::shared_ptr<maintenances::StatusPageMaintenancesView> view_;
+    RowListModel<MaintenanceRowValue> rows_;
+    ChildScreen<MaintenanceDetailBridge, maintenances::MaintenanceDetailView> detail_;
+    ChildScreen<CreateMaintenanceBridge, maintenances::CreateMaintenanceView> form_;
+};
+
+}  // namespace larkspan::bridge

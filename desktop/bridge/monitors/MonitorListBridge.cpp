@@ -1,0 +1,64 @@
+#include "bridge/monitors/MonitorListBridge.h"
+
+#include <QQmlEngine>
+
+#include <algorithm>
+#include <utility>
+
+namespace larkspan::bridge {
+
+MonitorListBridge::MonitorListBridge(
+    std::shared_ptr<monitors::StatusPageMonitorsView> view, const ScreenUpdates& updates, QObject* parent)
+    : ListBridge(view, updates, parent)
+    , view_(std::move(view))
+{
+    MonitorListBridge::readState();
+}
+
+void MonitorListBridge::press(const QString& id, const QString& button)
+{
+    view_->press(id.toStdString(), button.toStdString());
+}
+
+MonitorMetricsBridge* MonitorListBridge::metricsOf(const QString& id) const
+{
+    const auto row = openedRows_.find(id.toStdString());
+    return row == openedRows_.end() ? nullptr : row->second.metrics.get();
+}
+
+void MonitorListBridge::readState()
+{
+    ListBridge::readState();
+    closeRowsThatLeft();
+    followOpenedRows();
+    rows_.update(view_->rows());
+    detail_.follow(view_->detail(), updates());
+}
+
+void MonitorListBridge::closeRowsThatLeft()
+{
+    const auto hasLeft
+        = [this](const monitors::MonitorRow& row) { return row.isOpen && !view_->rowViews().contains(row.id); };
+    if (std::ranges::none_of(rows_.rows(), hasLeft)) return;
+    auto rows = rows_.rows();
+    for (auto& row : rows) row.isOpen = row.isOpen && !hasLeft(row);
+    rows_.update(std::move(rows));
+}
+
+void MonitorListBridge::followOpenedRows()
+{
+    const auto& rowViews = view_->rowViews();
+    for (auto& [id, row] : openedRows_) {
+        if (!rowViews.contains(id)) row.metrics.follow(nullptr, updates());
+    }
+    std::erase_if(openedRows_, [&rowViews](const auto& row) { return !rowViews.contains(row.first); });
+    for (const auto& [id, rowView] : rowViews) {
+        auto& row = openedRows_[id];
+        if (!row.metrics.follow(rowView, updates())) continue;
+        // What a method hands to QML would else be QML's to delete.
+        QQmlEngine::setObjectOwnership(row.metrics.get(), QQmlEngine::CppOwnership);
+        row.changes = rowView->objectWillChange(observer());
+    }
+}
+
+}  // namespace larkspan::bridge

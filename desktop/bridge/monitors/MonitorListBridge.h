@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+#include <map>
+#include <memory>
+#include <string>
+
+#include "bridge/lists/RowListModel.h"
+#include "bridge/monitors/MonitorDetailBridge.h"
+#include "bridge/monitors/MonitorMetricsBridge.h"
+#include "bridge/screens/ChildScreen.h"
+#include "bridge/screens/ListBridge.h"
+#include "bridge/values/AlertValue.h"
+#include "bridge/values/MonitorRowValue.h"
+#include "monitors/StatusPageMonitorsView.h"
+
+namespace larkspan::bridge {
+
+/// A page's monitors for QML; worded and decided by `monitors::StatusPageMonitorsView`.
+/// The base has its whole name, since QML's tools look for the one that is written here.
+class MonitorListBridge : public larkspan::bridge::ListBridge {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the application")
+    Q_PROPERTY(larkspan::bridge::AlertValue alert READ alert NOTIFY changed)
+    /// The monitor that is open; null while there is none.
+    Q_PROPERTY(larkspan::bridge::MonitorDetailBridge* detail READ detail NOTIFY changed)
+
+public:
+    MonitorListBridge(std::shared_ptr<monitors::StatusPageMonitorsView> view, const ScreenUpdates& updates,
+        QObject* parent = nullptr);
+
+    ListModel* rows() override { return &rows_; }
+    AlertValue alert() const { return {view_->alertNumber(), words(view_->alert())}; }
+    MonitorDetailBridge* detail() const { return detail_.get(); }
+
+    Q_INVOKABLE void toggleMetrics(const QString& id) { view_->toggleMetrics(id.toStdString()); }
+    Q_INVOKABLE void press(const QString& id, const QString& button);
+    Q_INVOKABLE void dismissAlert() { view_->dismissAlert(); }
+    Q_INVOKABLE void open(const QString& id) { view_->openMonitor(id.toStdString()); }
+    Q_INVOKABLE void closeDetail() { view_->closeMonitor(); }
+    /// What is open in the row of that monitor; null for a row that was never opened.
+    Q_INVOKABLE larkspan::bridge::MonitorMetricsBridge* metricsOf(const QString& id) const;
+
+private:
+    /// A row that was opened: the list shows some of it too.
+    struct OpenedRow {
+        ChildScreen<MonitorMetricsBridge, monitors::MonitorRowView> metrics;
+        support::Subscription changes;
+    };
+
+    void readState() override;
+    // Before what they show goes with them.
+    void closeRowsThatLeft();
+    void followOpenedRows();
+
+    std::shared_ptr<monitors::StatusPageMonitorsView> view_;
+    std::map<std::string, OpenedRow> openedRows_;
+    RowListModel<MonitorRowValue> rows_;
+    ChildScreen<MonitorDetailBridge, monitors::MonitorDetailView> detail_;
+};
+
+}  // namespace larkspan::bridge

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+
+#include "bridge/lists/ListModel.h"
+#include "bridge/screens/ScreenBridge.h"
+#include "bridge/values/PlaceholderValue.h"
+#include "presentation/screens/ListScreen.h"
+
+namespace larkspan::bridge {
+
+/// What the lists of all records have for QML; worded and decided by `presentation::ListScreen`.
+class ListBridge : public ScreenBridge {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("what the lists of all records are")
+    Q_PROPERTY(bool showsList READ showsList NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::PlaceholderValue placeholder MEMBER placeholder_ NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::ListModel* rows READ rows CONSTANT)
+
+public:
+    bool showsList() const { return list_->content() == presentation::Content::records; }
+    virtual ListModel* rows() = 0;
+
+    Q_INVOKABLE void refresh() { list_->refresh(); }
+
+protected:
+    ListBridge(std::shared_ptr<presentation::ListScreen> list, const ScreenUpdates& updates, QObject* parent);
+
+    /// For the bridges of what stands in front of the list.
+    const ScreenUpdates& updates() const { return updates_; }
+    void readState() override;
+
+private:
+    const std::shared_ptr<presentation::ListScreen> list_;
+    const ScreenUpdates& updates_;
+    PlaceholderValue placeholder_;
+};
+
+}  // namespace larkspan::bridge

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+
+#include "bridge/components/ComponentListBridge.h"
+#include "bridge/incidents/IncidentListBridge.h"
+#include "bridge/lists/RowListModel.h"
+#include "bridge/maintenances/MaintenanceListBridge.h"
+#include "bridge/monitors/MonitorListBridge.h"
+#include "bridge/screens/ChildScreen.h"
+#include "bridge/screens/ScreenBridge.h"
+#include "bridge/values/ActivityRowValue.h"
+#include "bridge/values/FactValue.h"
+#include "bridge/values/HeadlineValue.h"
+#include "bridge/values/MarkerValue.h"
+#include "workspace/StatusPageDetailView.h"
+
+namespace larkspan::bridge {
+
+/// An opened page for QML: its tabs and its overview, worded and decided by `workspace::StatusPageDetailView`.
+class StatusPageDetailBridge : public ScreenBridge {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the application")
+    Q_PROPERTY(QString title READ title NOTIFY changed)
+    Q_PROPERTY(QString pickerLabel READ pickerLabel CONSTANT)
+    Q_PROPERTY(QList<QString> tabs READ tabs CONSTANT)
+    Q_PROPERTY(int selectedTab READ selectedTab NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::HeadlineValue status MEMBER status_ NOTIFY changed)
+    Q_PROPERTY(QList<larkspan::bridge::FactValue> information MEMBER information_ NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::ListModel* activity READ activity CONSTANT)
+    Q_PROPERTY(larkspan::bridge::MarkerValue quiet MEMBER quiet_ NOTIFY changed)
+    Q_PROPERTY(QString about MEMBER about_ NOTIFY changed)
+    Q_PROPERTY(QList<larkspan::bridge::FactValue> uptime MEMBER uptime_ NOTIFY changed)
+    Q_PROPERTY(QString moreUptime MEMBER moreUptime_ NOTIFY changed)
+    /// The screen of the tab "Incidents"; null while another is selected.
+    Q_PROPERTY(larkspan::bridge::IncidentListBridge* incidents READ incidents NOTIFY changed)
+    /// The screen of the tab "Monitors"; null while another is selected.
+    Q_PROPERTY(larkspan::bridge::MonitorListBridge* monitors READ monitors NOTIFY changed)
+    /// The screen of the tab "Components"; null while another is selected.
+    Q_PROPERTY(larkspan::bridge::ComponentListBridge* components READ components NOTIFY changed)
+    /// The screen of the tab "Maintenances"; null while another is selected.
+    Q_PROPERTY(larkspan::bridge::MaintenanceListBridge* maintenances READ maintenances NOTIFY changed)
+
+public:
+    StatusPageDetailBridge(
+        std::shared_ptr<workspace::StatusPageDetailView> view, const ScreenUpdates& updates, QObject* parent = nullptr);
+
+    QString title() const { return words(view_->page->name); }
+    QString pickerLabel() const { return words(workspace::StatusPageDetailView::pickerLabel); }
+    QList<QString> tabs() const;
+    int selectedTab() const { return static_cast<int>(*view_->selectedTab); }
+    ListModel* activity() { return &activity_; }
+    IncidentListBridge* incidents() const { return incidents_.get(); }
+    MonitorListBridge* monitors() const { return monitors_.get(); }
+    ComponentListBridge* components() const { return components_.get(); }
+    MaintenanceListBridge* maintenances() const { return maintenances_.get(); }
+
+    Q_INVOKABLE void select(int tab);
+    Q_INVOKABLE void selectNext() { view_->selectNext(); }
+    Q_INVOKABLE void selectPrevious() { view_->selectPrevious(); }
+    Q_INVOKABLE void refresh() { view_->refresh(); }
+    Q_INVOKABLE void openPublicURL() { view_->openPublicURL(); }
+
+private:
+    void readState() override;
+
+    std::shared_ptr<workspace::StatusPageDetailView> view_;
+    const ScreenUpdates& updates_;
+    HeadlineValue status_;
+    QList<FactValue> information_;
+    RowListModel<ActivityRowValue> activity_;
+    MarkerValue quiet_;
+    QString about_;
+    QList<FactValue> uptime_;
+    QString moreUptime_;
+    ChildScreen<IncidentListBridge, incidents::StatusPageIncidentsView> incidents_;
+    ChildScreen<MonitorListBridge, monitors::StatusPageMonitorsView> monitors_;
+    ChildScreen<ComponentListBridge, components::StatusPageComponentsView> components_;
+    ChildScreen<MaintenanceListBridge, maintenances::StatusPageMaintenancesView> maintenances_;
+};
+
+}  // namespace larkspan::bridge

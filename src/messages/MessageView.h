@@ -1,0 +1,42 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "messages/markdown/MarkdownLink.h"
+#include "messages/markdown/MarkdownRow.h"
+#include "platform/LinkOpener.h"
+#include "presentation/shapes/Confirmation.h"
+#include "support/Observable.h"
+
+namespace larkspan::incidents {
+
+/// The message of an incident or a maintenance, and the question before one of its links is followed: whoever writes
+/// messages chooses what a link reads, so the user is told where it leads. Main thread only.
+class MessageView final : public support::Observable {
+public:
+    explicit MessageView(platform::LinkOpener& opener)
+        : opener_(opener)
+    {
+    }
+
+    static constexpr presentation::Confirmation linkConfirmation{
+        .title = "Open Link?", .text = {}, .confirm = "Open", .cancel = "Cancel"};
+
+    /// The link that the user is asked about; absent while there is no question.
+    support::Published<std::optional<MarkdownLink>> linkInQuestion{*this};
+
+    /// The rows of `source`, made anew for each call.
+    static MarkdownRows rowsOf(const std::string& source);
+
+    void follow(const MarkdownLink& link) { linkInQuestion = link; }
+    /// The question in words: "This link leads to status.example."
+    std::string questionText() const;
+    void openLink();
+    void cancelLink() { linkInQuestion = std::nullopt; }
+
+private:
+    platform::LinkOpener& opener_;
+};
+
+}  // namespace larkspan::incidents

@@ -1,0 +1,88 @@
+#include "messages/markdown/MarkdownText.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "messages/markdown/StyledText.h"
+#include "messages/markdown/TextPieces.h"
+#include "support/Trimming.h"
+#include "support/Utf8.h"
+
+namespace larkspan::incidents {
+
+namespace {
+
+std::size_t lengthWithoutLineEnd(std::string_view text)
+{
+    if (text.empty()) return 0;
+    const auto last = support::lastCharacter(text);
+    return text.size() - (support::isLineEnd(last.code) ? last.length : 0);
+}
+
+/// Walks over a text's runs and styles what it passes.
+class PieceReader {
+public:
+    explicit PieceReader(const InlineText& text)
+        : run_(text.runs.begin())
+    {
+        links_.reserve(text.destinations.size());
+        for (const auto& destination : text.destinations) links_.push_back(MarkdownLink::parse(destination));
+    }
+
+    /// The piece that goes on with `plain`, of which the first `shown` bytes are to be seen.
+    MarkdownText read(std::string plain, std::size_t shown)
+    {
+        MarkdownText piece{{}, std::move(plain), {}};
+        StyledTextWriter writer(shown);
+        std::optional<std::size_t> link;
+        for (auto rest = std::string_view(piece.plain); !rest.empty();) {
+            const auto length = std::min(run_->length - passed_, rest.size());
+            const auto seen = rest.substr(0, std::min(length, shown));
+            if (!seen.empty()) {
+                const bool isLink = run_->link && links_[*run_->link];
+                if (isLink && link != run_->link) piece.links.push_back(*links_[*run_->link]);
+                link = run_->link;
+                writer.add(seen, run_->styles, isLink ? std::optional(piece.links.size() - 1) : std::nullopt);
+            }
+            pass(length);
+            rest.remove_prefix(length);
+            shown -= seen.size();
+        }
+        piece.styled = std::move(writer).take();
+        return piece;
+    }
+
+private:
+    void pass(std::size_t length)
+    {
+        passed_ += length;
+        if (passed_ < run_->length) return;
+        passed_ = 0;
+        ++run_;
+    }
+
+    std::vector<std::optional<MarkdownLink>> links_;
+    std::vector<InlineRun>::const_iterator run_;
+    /// How much of the run is behind.
+    std::size_t passed_ = 0;
+};
+
+}  // namespace
+
+std::vector<MarkdownText> MarkdownText::piecesOf(InlineText text)
+{
+    const auto size = text.text.size();
+    std::vector<MarkdownText> pieces;
+    PieceReader reader(text);
+    std::size_t begin = 0;
+    do {
+        const auto end = begin + firstPieceEnd(std::string_view(text.text).substr(begin));
+        auto piece = end - begin == size ? std::move(text.text) : text.text.substr(begin, end - begin);
+        const auto shown = end == size ? piece.size() : lengthWithoutLineEnd(piece);
+        pieces.push_back(reader.read(std::move(piece), shown));
+        begin = end;
+    } while (begin < size);
+    return pieces;
+}
+
+}  // namespace larkspan::incidents

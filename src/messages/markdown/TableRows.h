@@ -1,0 +1,15 @@
+#pragma once
+
+#include "messages/markdown/MarkdownBlock.h"
+#include "messages/markdown/MarkdownRow.h"
+
+namespace larkspan::incidents {
+
+/// In points, above a table's headers and below its last row.
+inline constexpr int tablePadding = 2;
+
+/// Appends the rows that show `table`, `gap` points below what is there. Cells beyond the number of headers are not
+/// shown.
+void appendTable(MarkdownRows& content, const MarkdownTable& table, int gap);
+
+}  // namespace larkspan::incidents

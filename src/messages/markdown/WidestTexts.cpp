@@ -1,0 +1,57 @@
+#include "messages/markdown/WidestTexts.h"
+
+#include <array>
+#include <string_view>
+
+#include "support/Utf8.h"
+
+namespace larkspan::incidents {
+
+namespace {
+
+constexpr auto widthsOfAscii = [] {
+    std::array<std::size_t, 0x80> widths{};
+    widths.fill(2);
+    for (const char narrow : std::string_view(" !'(),-./:;I[]`fijlrt{|}")) widths[static_cast<std::size_t>(narrow)] = 1;
+    for (const char wide : std::string_view("%@GMOQWmw")) widths[static_cast<std::size_t>(wide)] = 3;
+    return widths;
+}();
+
+std::size_t roughWidth(char32_t character)
+{
+    // From here on stand the scripts of East Asia, and behind them the emoji.
+    constexpr char32_t firstWide = 0x1100;
+    if (character < widthsOfAscii.size()) return widthsOfAscii[character];
+    return character < firstWide ? 2 : 4;
+}
+
+}  // namespace
+
+std::size_t roughWidth(std::string_view text)
+{
+    std::size_t width = 0;
+    while (!text.empty()) {
+        const auto character = support::firstCharacter(text);
+        width += roughWidth(character.code);
+        text.remove_prefix(character.length);
+    }
+    return width;
+}
+
+void WidestTexts::add(const MarkdownText& text, bool isHeader)
+{
+    const auto width = roughWidth(text.plain);
+    if (texts_.size() == most && width <= texts_.begin()->first) return;
+    texts_.emplace(width, Text{.styled = text.styled, .isHeader = isHeader});
+    if (texts_.size() > most) texts_.erase(texts_.begin());
+}
+
+std::vector<WidestTexts::Text> WidestTexts::texts() const
+{
+    std::vector<Text> found;
+    found.reserve(texts_.size());
+    for (auto each = texts_.rbegin(); each != texts_.rend(); ++each) found.push_back(each->second);
+    return found;
+}
+
+}  // namespace larkspan::incidents

@@ -1,0 +1,19 @@
+#include "presentation/forms/ComponentGroupsOrNone.h"
+
+#include <utility>
+
+namespace larkspan::presentation {
+
+support::Task<ComponentGroups> componentGroupsOrNone(api::ComponentEndpoints& api, std::string pageId)
+{
+    ComponentGroups groups;
+    try {
+        auto fetching = api.fetchComponentGroups(std::move(pageId));
+        groups = co_await std::move(fetching);
+    } catch (...) {
+        // Nothing is reported: without groups the components still show and can be chosen.
+    }
+    co_return groups;
+}
+
+}  // namespace larkspan::presentation

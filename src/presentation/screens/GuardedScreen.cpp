@@ -1,0 +1,71 @@
+#include "presentation/screens/GuardedScreen.h"
+
+#include <utility>
+
+namespace larkspan::presentation {
+
+GuardedScreen::GuardedScreen(platform::Executor& main, Owner owner)
+    : action(std::make_shared<RunningAction>(main, std::move(owner.lookAgain)))
+    , dismiss_(std::move(owner.dismiss))
+{
+}
+
+support::Subscriptions GuardedScreen::observe(const std::function<void()>& observer)
+{
+    return {objectWillChange(observer), action->objectWillChange(observer)};
+}
+
+void GuardedScreen::close()
+{
+    // Its owner may let go of it here.
+    const auto self = shared_from_this();
+    if (isCloseEnabled() && !isDismissed_) leave();
+}
+
+void GuardedScreen::requestClose()
+{
+    if (isCloseEnabled() && hasUnsavedText())
+        showDiscardConfirmation = true;
+    else
+        close();
+}
+
+bool GuardedScreen::asksBefore(std::function<void()> leave)
+{
+    if (!hasUnsavedText()) return false;
+    leaveFor_ = std::move(leave);
+    showDiscardConfirmation = true;
+    return true;
+}
+
+void GuardedScreen::keepEditing()
+{
+    leaveFor_ = nullptr;
+    showDiscardConfirmation = false;
+}
+
+void GuardedScreen::dismiss()
+{
+    isDismissed_ = true;
+    dismiss_();
+    letGo();
+}
+
+void GuardedScreen::letGo()
+{
+    if (const auto leave = std::exchange(leaveFor_, nullptr)) leave();
+}
+
+void GuardedScreen::discardChanges()
+{
+    // A save that ended meanwhile took the question back, and left what is in sight now.
+    if (!*showDiscardConfirmation) return;
+    showDiscardConfirmation = false;
+    // What takes the whole screen away needs it not closed, which it may refuse while a request runs.
+    if (leaveFor_)
+        letGo();
+    else
+        close();
+}
+
+}  // namespace larkspan::presentation

@@ -1,0 +1,43 @@
+#include "presentation/screens/RunningAction.h"
+
+#include <exception>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "api/OrderOutcome.h"
+#include "support/LocalizedError.h"
+
+namespace larkspan::presentation {
+
+using support::Task;
+
+RunningAction::RunningAction(platform::Executor& main, std::function<void()> lookAgain)
+    : main_(main)
+    , lookAgain_(std::move(lookAgain))
+    , alerts_([this](std::optional<std::string> words) { alert = std::move(words).value_or(""); })
+{
+}
+
+void RunningAction::run(Task<void> work)
+{
+    if (*isInProgress) return;
+    isInProgress = true;
+    alerts_.withdraw();
+    support::start(main_, carryOut(shared_from_this(), std::move(work)));
+}
+
+Task<void> RunningAction::carryOut(std::shared_ptr<RunningAction> self, Task<void> work)
+{
+    std::exception_ptr failure;
+    try {
+        co_await std::move(work);
+    } catch (...) {
+        failure = std::current_exception();
+    }
+    if (failure) self->alerts_.raise(support::localizedDescription(failure));
+    self->isInProgress = false;
+    if (failure && self->lookAgain_ && api::mayHaveTakenPlace(failure)) self->lookAgain_();
+}
+
+}  // namespace larkspan::presentation

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+#include "presentation/shapes/Tone.h"
+
+namespace larkspan::presentation {
+
+/// One of the buttons under a record; disabled ones stay in sight.
+struct ActionButton {
+    /// What the screen is asked to press.
+    std::string id{};
+    std::string label{};
+    std::string symbol{};
+    Tone tone = Tone::primary;
+    bool isProminent = false;
+    bool isEnabled = true;
+
+    bool operator==(const ActionButton&) const = default;
+};
+
+}  // namespace larkspan::presentation

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <chrono>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/Clock.h"
+#include "platform/LocaleText.h"
+#include "presentation/time/CalendarDay.h"
+#include "presentation/time/ClockFace.h"
+#include "support/Observable.h"
+#include "support/Time.h"
+
+namespace larkspan::presentation {
+
+/// The choice of a moment by a calendar and a clock of the user's time zone. A moment that nobody touched is kept to
+/// the millisecond; whatever is chosen is a whole minute. Main thread only.
+class DateTimePicker final : public support::Observable {
+public:
+    struct Ports {
+        const platform::Clock& clock;
+        const platform::LocaleText& locale;
+    };
+
+    DateTimePicker(Ports ports, support::Time moment);
+
+    support::Published<support::Time> moment;
+    /// The calendar shows it; the user may look through others than that of `moment`.
+    support::Published<std::chrono::year_month> shownMonth;
+
+    /// Begins anew with another moment.
+    void show(support::Time other);
+    /// The user has chosen another moment than the one that it began with.
+    bool isChanged() const { return *moment != initial_; }
+
+    std::string date() const { return ports_.locale.dateOnly(*moment); }
+    std::string time() const { return ports_.locale.timeOnly(*moment); }
+    /// The user's time zone at the chosen moment, such as "CET (UTC+1)".
+    std::string zone() const;
+
+    std::string month() const { return ports_.locale.monthAndYear(*shownMonth); }
+    /// Over the columns.
+    std::vector<std::string> weekdays() const;
+    /// Week by week.
+    std::vector<CalendarDay> days() const;
+    void browseMonths(int count);
+    /// The day of that id.
+    void chooseDay(int id);
+
+    /// From the chosen day or, where that is out of sight, from the first one of the month that is shown.
+    void moveDays(int count);
+    void moveMonths(int count);
+    void moveToBeginOfWeek();
+    void moveToEndOfWeek();
+
+    std::string hour() const;
+    std::string minute() const;
+    /// Empty where the clock has twenty-four hours.
+    std::string dayHalf() const;
+    /// What is typed counts at once; what is no time counts nothing.
+    void typeHour(std::string_view digits);
+    void typeMinute(std::string_view digits);
+    /// So much time passes, whatever the clocks show.
+    void moveTime(std::chrono::minutes step);
+    void switchDayHalf();
+
+private:
+    ClockFace face() const;
+    std::chrono::local_days day() const { return ports_.locale.day(*moment); }
+    std::chrono::local_days dayInSight() const;
+    std::chrono::minutes timeOfDay() const;
+    int hourOfDay() const { return static_cast<int>(timeOfDay() / std::chrono::hours(1)); }
+    int minuteOfHour() const { return static_cast<int>(timeOfDay().count()) % 60; }
+    void choose(std::chrono::local_days day, std::chrono::minutes timeOfDay);
+    void chooseMoment(support::Time chosen);
+
+    const Ports ports_;
+    support::Time initial_;
+};
+
+}  // namespace larkspan::presentation
