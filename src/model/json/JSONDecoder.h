@@ -39,8 +39,8 @@ public:
     template <typename Result>
     Result decodeResult(const std::string& body) const
     {
-        static_assert(
-            Results::holds<Result>, "a result is named in model/bodies/Results.h, from where decoder and fuzzer know it");
+        static_assert(Results::holds<Result>,
+            "a result is named in model/bodies/Results.h, from where decoder and fuzzer know it");
         return detail::decodeResult<Result>(body, clock_.now());
     }
 

@@ -21,8 +21,8 @@ public:
     template <typename Body>
     std::string encode(const Body& body) const
     {
-        static_assert(
-            RequestBodies::holds<Body>, "a body is named in model/bodies/RequestBodies.h, from where the encoder knows it");
+        static_assert(RequestBodies::holds<Body>,
+            "a body is named in model/bodies/RequestBodies.h, from where the encoder knows it");
         return detail::encodeBody(body);
     }
 };

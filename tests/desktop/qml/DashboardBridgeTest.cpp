@@ -6,9 +6,9 @@
 
 #include <memory>
 
-#include "fakes/Account.h"
 #include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocaleText.h"
+#include "fakes/PolledAccount.h"
 
 namespace larkspan::bridge {
 
@@ -16,7 +16,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-class DashboardForScreens : public testing::Test, public fakes::Account {
+class DashboardForScreens : public testing::Test, public fakes::PolledAccount {
 protected:
     api::APIKeyStore keys{client, credentials};
     fakes::FakeLocaleText locale;

@@ -8,16 +8,16 @@
 #include <functional>
 #include <memory>
 
-#include "fakes/Account.h"
 #include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocaleText.h"
+#include "fakes/PolledAccount.h"
 #include "qml/MainWindow.h"
 #include "workspace/Dashboard.h"
 
 namespace larkspan {
 
 /// The real window over a fake account, read and worked as a person with keyboard and screen reader would.
-class Screen : public fakes::Account {
+class Screen : public fakes::PolledAccount {
 public:
     Screen();
 

@@ -8,7 +8,7 @@ namespace larkspan::api {
 
 namespace {
 
-using fakes::Service;
+using fakes::ScriptedService;
 
 const std::string aComponent = R"({"data": {"id": 7, "name": "API"}})";
 const std::string aGroup = R"({"data": {"id": "g", "name": "Backend"}})";
@@ -21,68 +21,75 @@ TEST_P(ComponentEndpoint, SendsItsMethodToItsURLWithItsBodyAndGivesItsResult)
 }
 
 INSTANTIATE_TEST_SUITE_P(EachOperation, ComponentEndpoint,
-    testing::Values(EndpointRow{"fetchComponents", [](Service& s) { return resultOf(s, s.api.fetchComponents("p")); },
-                        R"({"data": [{"id": "b", "name": "B"}, {"id": 1, "name": "A"}]})", "GET",
-                        feature + "/components?status_page_id=p", "none", "b 1"},
+    testing::Values(
+        EndpointRow{"fetchComponents", [](ScriptedService& s) { return resultOf(s, s.api.fetchComponents("p")); },
+            R"({"data": [{"id": "b", "name": "B"}, {"id": 1, "name": "A"}]})", "GET",
+            feature + "/components?status_page_id=p", "none", "b 1"},
         EndpointRow{"fetchComponentsInTheirOwnEnvelope",
-            [](Service& s) { return resultOf(s, s.api.fetchComponents("p")); },
+            [](ScriptedService& s) { return resultOf(s, s.api.fetchComponents("p")); },
             R"({"components": [{"id": 1, "name": "A"}]})", "GET", feature + "/components?status_page_id=p", "none",
             "1"},
-        EndpointRow{"fetchBareComponents", [](Service& s) { return resultOf(s, s.api.fetchComponents("p")); },
+        EndpointRow{"fetchBareComponents", [](ScriptedService& s) { return resultOf(s, s.api.fetchComponents("p")); },
             R"([{"id": 1, "name": "A"}])", "GET", feature + "/components?status_page_id=p", "none", "1"},
-        EndpointRow{"fetchComponentsOfTheAccount", [](Service& s) { return resultOf(s, s.api.fetchComponents()); },
-            "[]", "GET", feature + "/components", "none", ""},
-        EndpointRow{"fetchComponentsOfAnEmptyId", [](Service& s) { return resultOf(s, s.api.fetchComponents("")); },
-            "[]", "GET", feature + "/components?status_page_id=", "none", ""},
+        EndpointRow{"fetchComponentsOfTheAccount",
+            [](ScriptedService& s) { return resultOf(s, s.api.fetchComponents()); }, "[]", "GET",
+            feature + "/components", "none", ""},
+        EndpointRow{"fetchComponentsOfAnEmptyId",
+            [](ScriptedService& s) { return resultOf(s, s.api.fetchComponents("")); }, "[]", "GET",
+            feature + "/components?status_page_id=", "none", ""},
         EndpointRow{"fetchComponentsOfAnIdOutsideTheQuerySet",
-            [](Service& s) { return resultOf(s, s.api.fetchComponents("a #")); }, "[]", "GET",
+            [](ScriptedService& s) { return resultOf(s, s.api.fetchComponents("a #")); }, "[]", "GET",
             feature + "/components?status_page_id=a%20%23", "none", ""},
-        EndpointRow{"fetchComponentGroups", [](Service& s) { return resultOf(s, s.api.fetchComponentGroups("p #")); },
+        EndpointRow{"fetchComponentGroups",
+            [](ScriptedService& s) { return resultOf(s, s.api.fetchComponentGroups("p #")); },
             R"({"data": [{"id": "b", "name": "B"}, {"id": "1", "name": "A"}]})", "GET",
             feature + "/component-groups?status_page_id=p%20%23", "none", "b 1"},
         EndpointRow{"fetchComponentGroupsInTheirOwnEnvelope",
-            [](Service& s) { return resultOf(s, s.api.fetchComponentGroups("p")); },
+            [](ScriptedService& s) { return resultOf(s, s.api.fetchComponentGroups("p")); },
             R"({"component_groups": [{"id": "1", "name": "A"}]})", "GET",
             feature + "/component-groups?status_page_id=p", "none", "1"},
-        EndpointRow{"fetchBareComponentGroups", [](Service& s) { return resultOf(s, s.api.fetchComponentGroups("p")); },
+        EndpointRow{"fetchBareComponentGroups",
+            [](ScriptedService& s) { return resultOf(s, s.api.fetchComponentGroups("p")); },
             R"([{"id": "1", "name": "A"}])", "GET", feature + "/component-groups?status_page_id=p", "none", "1"}),
     [](const auto& row) { return row.param.name; });
 
 INSTANTIATE_TEST_SUITE_P(EachChange, ComponentEndpoint,
     testing::Values(
         EndpointRow{"createComponent",
-            [](Service& s) {
+            [](ScriptedService& s) {
                 return resultOf(s, s.api.createComponent({.name = "N", .description = "D", .groupId = "g"}));
             },
             aComponent, "POST", feature + "/components", R"({"name":"N","description":"D","group_id":"g"})", "7"},
         EndpointRow{"createComponentOfANameAlone",
-            [](Service& s) { return resultOf(s, s.api.createComponent({.name = "N"})); }, aComponent, "POST",
+            [](ScriptedService& s) { return resultOf(s, s.api.createComponent({.name = "N"})); }, aComponent, "POST",
             feature + "/components", R"({"name":"N"})", "7"},
         EndpointRow{"updateComponent",
-            [](Service& s) {
+            [](ScriptedService& s) {
                 return resultOf(
                     s, s.api.updateComponent("7", {.name = "N", .description = "D", .status = "up", .groupId = "g"}));
             },
             aComponent, "PUT", feature + "/components/7",
             R"({"name":"N","description":"D","status":"up","group_id":"g"})", "7"},
-        EndpointRow{"updateComponentOfNothing", [](Service& s) { return resultOf(s, s.api.updateComponent("7", {})); },
-            aComponent, "PUT", feature + "/components/7", "{}", "7"},
-        EndpointRow{"deleteComponent", [](Service& s) { return resultOf(s, s.api.deleteComponent("7")); }, "", "DELETE",
-            feature + "/components/7", "none", "nothing"},
+        EndpointRow{"updateComponentOfNothing",
+            [](ScriptedService& s) { return resultOf(s, s.api.updateComponent("7", {})); }, aComponent, "PUT",
+            feature + "/components/7", "{}", "7"},
+        EndpointRow{"deleteComponent", [](ScriptedService& s) { return resultOf(s, s.api.deleteComponent("7")); }, "",
+            "DELETE", feature + "/components/7", "none", "nothing"},
         EndpointRow{"createComponentGroup",
-            [](Service& s) { return resultOf(s, s.api.createComponentGroup("p", "A \"B\"")); }, aGroup, "POST",
+            [](ScriptedService& s) { return resultOf(s, s.api.createComponentGroup("p", "A \"B\"")); }, aGroup, "POST",
             feature + "/component-groups", R"({"name":"A \"B\"","status_page_id":"p"})", "g"},
         EndpointRow{"updateComponentGroup",
-            [](Service& s) { return resultOf(s, s.api.updateComponentGroup("g", "N")); }, aGroup, "PUT",
+            [](ScriptedService& s) { return resultOf(s, s.api.updateComponentGroup("g", "N")); }, aGroup, "PUT",
             feature + "/component-groups/g", R"({"name":"N"})", "g"},
         EndpointRow{"updateComponentGroupOfNothing",
-            [](Service& s) { return resultOf(s, s.api.updateComponentGroup("g", {})); }, aGroup, "PUT",
+            [](ScriptedService& s) { return resultOf(s, s.api.updateComponentGroup("g", {})); }, aGroup, "PUT",
             feature + "/component-groups/g", "{}", "g"},
-        EndpointRow{"deleteComponentGroup", [](Service& s) { return resultOf(s, s.api.deleteComponentGroup("g")); },
-            "{}", "DELETE", feature + "/component-groups/g", "none", "nothing"}),
+        EndpointRow{"deleteComponentGroup",
+            [](ScriptedService& s) { return resultOf(s, s.api.deleteComponentGroup("g")); }, "{}", "DELETE",
+            feature + "/component-groups/g", "none", "nothing"}),
     [](const auto& row) { return row.param.name; });
 
-class Components : public testing::Test, public Service {
+class Components : public testing::Test, public ScriptedService {
 protected:
     std::string failureWhenAnswered(int status, const std::string& body)
     {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "api/KestruneAPI.h"
-#include "fakes/Service.h"
+#include "fakes/ScriptedService.h"
 
 namespace larkspan::api {
 
@@ -32,7 +32,7 @@ std::string describe(const std::vector<Record>& records)
 
 /// The ids in the result, or "nothing".
 template <typename T>
-std::string resultOf(fakes::Service& service, support::Task<T> task)
+std::string resultOf(fakes::ScriptedService& service, support::Task<T> task)
 {
     if constexpr (std::is_void_v<T>) {
         service.result(std::move(task));
@@ -45,7 +45,7 @@ std::string resultOf(fakes::Service& service, support::Task<T> task)
 /// One call of an operation, the answer that it gets, the request that it makes and what `resultOf` it is.
 struct EndpointRow {
     std::string name;
-    std::function<std::string(fakes::Service&)> call;
+    std::function<std::string(fakes::ScriptedService&)> call;
     std::string answer;
     std::string method;
     std::string url;
@@ -53,7 +53,7 @@ struct EndpointRow {
     std::string result;
 };
 
-class Endpoint : public testing::TestWithParam<EndpointRow>, public fakes::Service {
+class Endpoint : public testing::TestWithParam<EndpointRow>, public fakes::ScriptedService {
 protected:
     void expectRequestAndResult()
     {

@@ -9,7 +9,7 @@ namespace larkspan::api {
 
 namespace {
 
-using fakes::Service;
+using fakes::ScriptedService;
 using platform::HttpResponse;
 
 const std::string anIncident
@@ -26,18 +26,21 @@ TEST_P(IncidentEndpoint, SendsItsMethodToItsURLWithItsBodyAndGivesItsResult)
 }
 
 INSTANTIATE_TEST_SUITE_P(EachOperation, IncidentEndpoint,
-    testing::Values(EndpointRow{"fetchIncidents", [](Service& s) { return resultOf(s, s.api.fetchIncidents()); },
-                        R"([{"id": "b", "title": "B", "created_at": "2026-11-20T09:30:00Z"},
+    testing::Values(
+        EndpointRow{"fetchIncidents", [](ScriptedService& s) { return resultOf(s, s.api.fetchIncidents()); },
+            R"([{"id": "b", "title": "B", "created_at": "2026-11-20T09:30:00Z"},
                 {"id": "a", "title": "A", "created_at": "2026-11-20T09:30:00Z"}])",
-                        "GET", v1 + "/incidents", "none", "b a"},
-        EndpointRow{"fetchIncidentsOfAPage", [](Service& s) { return resultOf(s, s.api.fetchIncidents("abc")); }, "[]",
-            "GET", v1 + "/incidents?status_page_id=abc", "none", ""},
-        EndpointRow{"fetchIncidentsOfAnEmptyId", [](Service& s) { return resultOf(s, s.api.fetchIncidents("")); }, "[]",
-            "GET", v1 + "/incidents", "none", ""},
-        EndpointRow{"fetchIncident", [](Service& s) { return resultOf(s, s.api.fetchIncident("7")); }, anIncident,
-            "GET", v1 + "/incidents/7", "none", "7"},
+            "GET", v1 + "/incidents", "none", "b a"},
+        EndpointRow{"fetchIncidentsOfAPage",
+            [](ScriptedService& s) { return resultOf(s, s.api.fetchIncidents("abc")); }, "[]", "GET",
+            v1 + "/incidents?status_page_id=abc", "none", ""},
+        EndpointRow{"fetchIncidentsOfAnEmptyId",
+            [](ScriptedService& s) { return resultOf(s, s.api.fetchIncidents("")); }, "[]", "GET", v1 + "/incidents",
+            "none", ""},
+        EndpointRow{"fetchIncident", [](ScriptedService& s) { return resultOf(s, s.api.fetchIncident("7")); },
+            anIncident, "GET", v1 + "/incidents/7", "none", "7"},
         EndpointRow{"createIncident",
-            [](Service& s) {
+            [](ScriptedService& s) {
                 return resultOf(s,
                     s.api.createIncident({.title = "T",
                         .message = "M",
@@ -50,36 +53,38 @@ INSTANTIATE_TEST_SUITE_P(EachOperation, IncidentEndpoint,
             R"({"title":"T","message":"M","status_page_id":"p","component_id":"c","monitor_id":"m","notify_subscribers":true})",
             "7"},
         EndpointRow{"createIncidentOfATitleAlone",
-            [](Service& s) { return resultOf(s, s.api.createIncident({.title = "T"})); }, anIncident, "POST",
+            [](ScriptedService& s) { return resultOf(s, s.api.createIncident({.title = "T"})); }, anIncident, "POST",
             v1 + "/incidents", R"({"title":"T","notify_subscribers":false})", "7"},
-        EndpointRow{"updateIncident", [](Service& s) { return resultOf(s, s.api.updateIncident("7", "more")); },
+        EndpointRow{"updateIncident", [](ScriptedService& s) { return resultOf(s, s.api.updateIncident("7", "more")); },
             anIncident, "PATCH", v1 + "/incidents/7", R"({"message":"more","append_update":true})", "7"},
         EndpointRow{"appendIncidentUpdate",
-            [](Service& s) { return resultOf(s, s.api.appendIncidentUpdate("7", "more", "3")); }, anIncident, "PATCH",
-            v1 + "/incidents/7", R"({"message":"more","incident_state_id":"3","append_update":true})", "7"},
+            [](ScriptedService& s) { return resultOf(s, s.api.appendIncidentUpdate("7", "more", "3")); }, anIncident,
+            "PATCH", v1 + "/incidents/7", R"({"message":"more","incident_state_id":"3","append_update":true})", "7"},
         EndpointRow{"appendIncidentUpdateOfNothing",
-            [](Service& s) { return resultOf(s, s.api.appendIncidentUpdate("7", {}, {})); }, anIncident, "PATCH",
-            v1 + "/incidents/7", R"({"append_update":true})", "7"},
-        EndpointRow{"acknowledgeIncident", [](Service& s) { return resultOf(s, s.api.acknowledgeIncident("7")); }, "{}",
-            "POST", feature + "/incidents/7/acknowledge", "none", "nothing"},
-        EndpointRow{"acknowledgeIncidentAnsweredWithNothing",
-            [](Service& s) { return resultOf(s, s.api.acknowledgeIncident("7")); }, "", "POST",
+            [](ScriptedService& s) { return resultOf(s, s.api.appendIncidentUpdate("7", {}, {})); }, anIncident,
+            "PATCH", v1 + "/incidents/7", R"({"append_update":true})", "7"},
+        EndpointRow{"acknowledgeIncident",
+            [](ScriptedService& s) { return resultOf(s, s.api.acknowledgeIncident("7")); }, "{}", "POST",
             feature + "/incidents/7/acknowledge", "none", "nothing"},
-        EndpointRow{"escalateIncident", [](Service& s) { return resultOf(s, s.api.escalateIncident("7")); }, "{}",
-            "POST", feature + "/incidents/7/escalate", "none", "nothing"},
+        EndpointRow{"acknowledgeIncidentAnsweredWithNothing",
+            [](ScriptedService& s) { return resultOf(s, s.api.acknowledgeIncident("7")); }, "", "POST",
+            feature + "/incidents/7/acknowledge", "none", "nothing"},
+        EndpointRow{"escalateIncident", [](ScriptedService& s) { return resultOf(s, s.api.escalateIncident("7")); },
+            "{}", "POST", feature + "/incidents/7/escalate", "none", "nothing"},
         EndpointRow{"escalateIncidentAnsweredWithNothing",
-            [](Service& s) { return resultOf(s, s.api.escalateIncident("7")); }, "", "POST",
+            [](ScriptedService& s) { return resultOf(s, s.api.escalateIncident("7")); }, "", "POST",
             feature + "/incidents/7/escalate", "none", "nothing"},
-        EndpointRow{"fetchIncidentOfAnIdWithASlash", [](Service& s) { return resultOf(s, s.api.fetchIncident("a/b")); },
-            anIncident, "GET", v1 + "/incidents/a/b", "none", "7"},
+        EndpointRow{"fetchIncidentOfAnIdWithASlash",
+            [](ScriptedService& s) { return resultOf(s, s.api.fetchIncident("a/b")); }, anIncident, "GET",
+            v1 + "/incidents/a/b", "none", "7"},
         EndpointRow{"fetchIncidentOfAnIdWithAQuestionMark",
-            [](Service& s) { return resultOf(s, s.api.fetchIncident("a?b/c")); }, anIncident, "GET",
+            [](ScriptedService& s) { return resultOf(s, s.api.fetchIncident("a?b/c")); }, anIncident, "GET",
             v1 + "/incidents/a?b/c", "none", "7"},
-        EndpointRow{"deleteIncident", [](Service& s) { return resultOf(s, s.api.deleteIncident("7")); }, "", "DELETE",
-            v1 + "/incidents/7", "none", "nothing"}),
+        EndpointRow{"deleteIncident", [](ScriptedService& s) { return resultOf(s, s.api.deleteIncident("7")); }, "",
+            "DELETE", v1 + "/incidents/7", "none", "nothing"}),
     [](const auto& row) { return row.param.name; });
 
-class Incidents : public testing::Test, public Service {
+class Incidents : public testing::Test, public ScriptedService {
 protected:
     const std::string statesURL = feature + "/incident-states";
     const std::string incidentURL = v1 + "/incidents/7";

@@ -9,7 +9,7 @@
 #include "api/APIError.h"
 #include "api/KeychainHelper.h"
 #include "api/RequestSending.h"
-#include "fakes/Service.h"
+#include "fakes/ScriptedService.h"
 #include "model/bodies/EmptyResponse.h"
 #include "model/bodies/StatusPagesStatusEnvelope.h"
 #include "model/json/DecodingError.h"
@@ -19,7 +19,7 @@ namespace larkspan::api {
 
 namespace {
 
-using fakes::Service;
+using fakes::ScriptedService;
 using model::EmptyResponse;
 using model::StatusPage;
 using platform::HttpResponse;
@@ -30,7 +30,7 @@ using Pages = std::vector<StatusPage>;
 
 const std::string incidentURL = "https://service.example/user/api/v1/incidents/7";
 
-class Send : public testing::Test, public Service {
+class Send : public testing::Test, public ScriptedService {
 protected:
     EmptyResponse deleteIncident()
     {

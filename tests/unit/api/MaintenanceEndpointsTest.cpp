@@ -8,7 +8,7 @@ namespace larkspan::api {
 namespace {
 
 using namespace std::chrono_literals;
-using fakes::Service;
+using fakes::ScriptedService;
 
 const std::string aMaintenance = R"({"data": {"id": 9, "title": "Move", "status": "scheduled"}})";
 /// Reads `time` seconds after the epoch.
@@ -26,12 +26,12 @@ TEST_P(MaintenanceEndpoint, SendsItsMethodToItsURLWithItsBodyAndGivesItsResult)
 
 INSTANTIATE_TEST_SUITE_P(EachOperation, MaintenanceEndpoint,
     testing::Values(
-        EndpointRow{"fetchMaintenances", [](Service& s) { return resultOf(s, s.api.fetchMaintenances()); },
+        EndpointRow{"fetchMaintenances", [](ScriptedService& s) { return resultOf(s, s.api.fetchMaintenances()); },
             R"([{"id": "b", "title": "B"}, {"id": 2, "title": "A"}])", "GET", v1 + "/maintenances", "none", "b 2"},
-        EndpointRow{"fetchMaintenance", [](Service& s) { return resultOf(s, s.api.fetchMaintenance("9")); },
+        EndpointRow{"fetchMaintenance", [](ScriptedService& s) { return resultOf(s, s.api.fetchMaintenance("9")); },
             aMaintenance, "GET", v1 + "/maintenances/9", "none", "9"},
         EndpointRow{"createMaintenance",
-            [](Service& s) {
+            [](ScriptedService& s) {
                 return resultOf(s,
                     s.api.createMaintenance({.title = "T",
                         .message = "M",
@@ -46,10 +46,10 @@ INSTANTIATE_TEST_SUITE_P(EachOperation, MaintenanceEndpoint,
             R"("end_at":"1970-01-01T01:00:00Z","affected_components":"a,b","affected_monitor_ids":"m"})",
             "9"},
         EndpointRow{"updateMaintenanceOfNothing",
-            [](Service& s) { return resultOf(s, s.api.updateMaintenance("9", {})); }, aMaintenance, "PATCH",
+            [](ScriptedService& s) { return resultOf(s, s.api.updateMaintenance("9", {})); }, aMaintenance, "PATCH",
             v1 + "/maintenances/9", "{}", "9"},
         EndpointRow{"updateMaintenanceWithEmptyLists",
-            [](Service& s) {
+            [](ScriptedService& s) {
                 return resultOf(s,
                     s.api.updateMaintenance("9",
                         {.title = "T",
@@ -59,7 +59,7 @@ INSTANTIATE_TEST_SUITE_P(EachOperation, MaintenanceEndpoint,
             },
             aMaintenance, "PATCH", v1 + "/maintenances/9", R"({"title":"T","end_at":"1970-01-01T00:01:00Z"})", "9"},
         EndpointRow{"updateMaintenanceWithEverything",
-            [](Service& s) {
+            [](ScriptedService& s) {
                 return resultOf(s,
                     s.api.updateMaintenance("9",
                         {.title = "T",
@@ -73,11 +73,11 @@ INSTANTIATE_TEST_SUITE_P(EachOperation, MaintenanceEndpoint,
             R"({"title":"T","message":"M","start_at":"1970-01-01T00:00:00Z","end_at":"1970-01-01T00:01:00Z",)"
             R"("affected_components":"a","affected_monitor_ids":"m,n"})",
             "9"},
-        EndpointRow{"deleteMaintenance", [](Service& s) { return resultOf(s, s.api.deleteMaintenance("9")); }, "{}",
-            "DELETE", v1 + "/maintenances/9", "none", "nothing"}),
+        EndpointRow{"deleteMaintenance", [](ScriptedService& s) { return resultOf(s, s.api.deleteMaintenance("9")); },
+            "{}", "DELETE", v1 + "/maintenances/9", "none", "nothing"}),
     [](const auto& row) { return row.param.name; });
 
-class Maintenances : public testing::Test, public Service {};
+class Maintenances : public testing::Test, public ScriptedService {};
 
 TEST_F(Maintenances, EachOperationFailsWithTheStatusOfTheAnswer)
 {

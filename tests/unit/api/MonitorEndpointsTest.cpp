@@ -10,7 +10,7 @@ namespace larkspan::api {
 
 namespace {
 
-using fakes::Service;
+using fakes::ScriptedService;
 
 class MonitorEndpoint : public Endpoint {};
 
@@ -29,41 +29,41 @@ std::string monitorsIn(const MonitorEndpoints::MetricsWindows& windows)
 
 INSTANTIATE_TEST_SUITE_P(EachOperation, MonitorEndpoint,
     testing::Values(
-        EndpointRow{"fetchMonitors", [](Service& s) { return resultOf(s, s.api.fetchMonitors()); },
+        EndpointRow{"fetchMonitors", [](ScriptedService& s) { return resultOf(s, s.api.fetchMonitors()); },
             R"([{"id": "b", "name": "B"}, {"id": 1, "name": "A"}])", "GET", v1 + "/monitors", "none", "b 1"},
-        EndpointRow{"fetchMonitorsOfNull", [](Service& s) { return resultOf(s, s.api.fetchMonitors()); },
+        EndpointRow{"fetchMonitorsOfNull", [](ScriptedService& s) { return resultOf(s, s.api.fetchMonitors()); },
             R"({"data": null})", "GET", v1 + "/monitors", "none", ""},
-        EndpointRow{"runMonitor", [](Service& s) { return resultOf(s, s.api.runMonitor("7")); }, "{}", "POST",
+        EndpointRow{"runMonitor", [](ScriptedService& s) { return resultOf(s, s.api.runMonitor("7")); }, "{}", "POST",
             feature + "/monitors/7/run", "none", "nothing"},
-        EndpointRow{"pauseMonitor", [](Service& s) { return resultOf(s, s.api.pauseMonitor("7")); }, "{}", "POST",
-            feature + "/monitors/7/pause", "none", "nothing"},
-        EndpointRow{"resumeMonitor", [](Service& s) { return resultOf(s, s.api.resumeMonitor("7")); }, "", "POST",
-            feature + "/monitors/7/resume", "none", "nothing"},
+        EndpointRow{"pauseMonitor", [](ScriptedService& s) { return resultOf(s, s.api.pauseMonitor("7")); }, "{}",
+            "POST", feature + "/monitors/7/pause", "none", "nothing"},
+        EndpointRow{"resumeMonitor", [](ScriptedService& s) { return resultOf(s, s.api.resumeMonitor("7")); }, "",
+            "POST", feature + "/monitors/7/resume", "none", "nothing"},
         EndpointRow{"fetchMonitorMetrics",
-            [](Service& s) { return monitorsIn(s.result(s.api.fetchMonitorMetrics({"a", "b"}, "24h"))); },
+            [](ScriptedService& s) { return monitorsIn(s.result(s.api.fetchMonitorMetrics({"a", "b"}, "24h"))); },
             R"({"data": {"metrics": {"a": {}, "b": {}}}})", "GET", feature + "/monitors/metrics?ids=a,b&range=24h",
             "none", "a b"},
         EndpointRow{"fetchMonitorMetricsOfNoMonitor",
-            [](Service& s) { return monitorsIn(s.result(s.api.fetchMonitorMetrics({}, "24h"))); }, R"({"metrics": {}})",
-            "GET", feature + "/monitors/metrics?ids=&range=24h", "none", ""},
+            [](ScriptedService& s) { return monitorsIn(s.result(s.api.fetchMonitorMetrics({}, "24h"))); },
+            R"({"metrics": {}})", "GET", feature + "/monitors/metrics?ids=&range=24h", "none", ""},
         EndpointRow{"fetchMonitorMetricsOutsideTheQuerySet",
-            [](Service& s) { return monitorsIn(s.result(s.api.fetchMonitorMetrics({"a b", "#"}, "1 h"))); },
+            [](ScriptedService& s) { return monitorsIn(s.result(s.api.fetchMonitorMetrics({"a b", "#"}, "1 h"))); },
             R"({"metrics": {}})", "GET", feature + "/monitors/metrics?ids=a%20b,%23&range=1%20h", "none", ""},
         EndpointRow{"fetchMonitorsWithMetrics",
-            [](Service& s) { return resultOf(s, s.api.fetchMonitorsWithMetrics({"a", "b c"})); },
+            [](ScriptedService& s) { return resultOf(s, s.api.fetchMonitorsWithMetrics({"a", "b c"})); },
             R"([{"id": "m", "name": "M", "metrics": {}}])", "GET", feature + "/monitors?component_ids=a,b%20c", "none",
             "m"},
         EndpointRow{"fetchMonitorsWithMetricsOfNoComponent",
-            [](Service& s) { return resultOf(s, s.api.fetchMonitorsWithMetrics({})); }, "[]", "GET",
+            [](ScriptedService& s) { return resultOf(s, s.api.fetchMonitorsWithMetrics({})); }, "[]", "GET",
             feature + "/monitors?component_ids=", "none", ""},
         EndpointRow{"fetchComponentMonitors",
-            [](Service& s) { return resultOf(s, s.api.fetchComponentMonitors({"a", "b c"})); },
+            [](ScriptedService& s) { return resultOf(s, s.api.fetchComponentMonitors({"a", "b c"})); },
             R"({"monitors": [{"id": 2, "name": "B", "component_id": "a"},
                 {"id": "1", "name": "A", "component_id": "b c"}]})",
             "GET", feature + "/monitors?component_ids=a,b%20c", "none", "2 1"}),
     [](const auto& row) { return row.param.name; });
 
-class Monitors : public testing::Test, public Service {};
+class Monitors : public testing::Test, public ScriptedService {};
 
 TEST_F(Monitors, OfNoComponentsAreAnEmptyListAndNoRequest)
 {

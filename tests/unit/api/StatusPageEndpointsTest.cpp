@@ -9,7 +9,7 @@ namespace larkspan::api {
 
 namespace {
 
-using fakes::Service;
+using fakes::ScriptedService;
 
 class StatusPageEndpoint : public Endpoint {};
 
@@ -19,20 +19,21 @@ TEST_P(StatusPageEndpoint, SendsItsMethodToItsURLWithItsBodyAndGivesItsResult)
 }
 
 INSTANTIATE_TEST_SUITE_P(EachOperation, StatusPageEndpoint,
-    testing::Values(
-        EndpointRow{"updateStatusPage",
-            [](Service& s) { return resultOf(s, s.api.updateStatusPage("p", {.title = "T", .description = "D"})); },
-            R"({"data": {"id": "p", "name": "T"}})", "PATCH", v1 + "/status-pages/p",
-            R"({"title":"T","description":"D"})", "p"},
+    testing::Values(EndpointRow{"updateStatusPage",
+                        [](ScriptedService& s) {
+                            return resultOf(s, s.api.updateStatusPage("p", {.title = "T", .description = "D"}));
+                        },
+                        R"({"data": {"id": "p", "name": "T"}})", "PATCH", v1 + "/status-pages/p",
+                        R"({"title":"T","description":"D"})", "p"},
         EndpointRow{"updateStatusPageOfNothing",
-            [](Service& s) { return resultOf(s, s.api.updateStatusPage("p", {})); }, R"({"id": "p", "name": "T"})",
-            "PATCH", v1 + "/status-pages/p", "{}", "p"},
+            [](ScriptedService& s) { return resultOf(s, s.api.updateStatusPage("p", {})); },
+            R"({"id": "p", "name": "T"})", "PATCH", v1 + "/status-pages/p", "{}", "p"},
         EndpointRow{"fetchStatusPageViews",
-            [](Service& s) { return std::to_string(s.result(s.api.fetchStatusPageViews("p")).viewCount); },
+            [](ScriptedService& s) { return std::to_string(s.result(s.api.fetchStatusPageViews("p")).viewCount); },
             R"({"data": {"period": "30d", "view_count": 12}})", "GET", feature + "/analytics/status-pages/p/views",
             "none", "12"},
         EndpointRow{"fetchSubscriberCount",
-            [](Service& s) { return std::to_string(s.result(s.api.fetchSubscriberCount("p")).count); },
+            [](ScriptedService& s) { return std::to_string(s.result(s.api.fetchSubscriberCount("p")).count); },
             R"({"count": 3})", "GET", v1 + "/status-pages/p/subscribers/count", "none", "3"}),
     [](const auto& row) { return row.param.name; });
 

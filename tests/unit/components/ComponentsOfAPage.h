@@ -5,7 +5,7 @@
 
 #include "api/KestruneAPI.h"
 #include "fakes/FakeLinkOpener.h"
-#include "fakes/Service.h"
+#include "fakes/ScriptedService.h"
 
 namespace larkspan::components {
 
@@ -27,7 +27,7 @@ inline std::string groupRecord(const std::string& id)
 }
 
 /// A service whose page "p" has the components and the groups that the test says.
-class ComponentsOfAPage : public fakes::Service {
+class ComponentsOfAPage : public fakes::ScriptedService {
 public:
     static constexpr auto listURL = "https://service.example/user/api/components?status_page_id=p";
     static constexpr auto groupsURL = "https://service.example/user/api/component-groups?status_page_id=p";

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "api/APIError.h"
-#include "fakes/Account.h"
+#include "fakes/PolledAccount.h"
 #include "platform/URLError.h"
 
 namespace larkspan::core {
@@ -62,7 +62,7 @@ INSTANTIATE_TEST_SUITE_P(OtherFailures, Classification,
         row(APIError::invalidResponse(), Result::unknown), row(APIError::custom("c"), Result::unknown),
         FailureRow{std::make_exception_ptr(std::runtime_error("other")), Result::unknown}));
 
-class VerifyAPIKey : public testing::Test, public fakes::Account {
+class VerifyAPIKey : public testing::Test, public fakes::PolledAccount {
 protected:
     Result verify(std::string key) { return result(state->verifyAPIKey(std::move(key))); }
 };

@@ -7,19 +7,19 @@
 #include <vector>
 
 #include "api/KeychainHelper.h"
-#include "fakes/Account.h"
+#include "fakes/PolledAccount.h"
 
 namespace larkspan::core {
 
 namespace {
 
 using namespace std::chrono_literals;
-using fakes::Account;
+using fakes::PolledAccount;
 using model::StatusPageStatus;
 using platform::HttpResponse;
 using platform::URLError;
 
-class Refresh : public testing::Test, public Account {};
+class Refresh : public testing::Test, public PolledAccount {};
 
 TEST_F(Refresh, StartsFromTheInitialValues)
 {
@@ -113,7 +113,7 @@ TEST_F(Refresh, AnAccountWithoutAnythingCompletesACycle)
 TEST_F(Refresh, AStatusListThatLacksSomePageLeavesThatPageAsItWasFetched)
 {
     transport.script(pagesURL, 200, R"([{"id": "a", "name": "A", "status": "degraded"}])");
-    transport.script(overviewURL, 200, Account::overview({}));
+    transport.script(overviewURL, 200, PolledAccount::overview({}));
     refresh();
     EXPECT_EQ(state->statusPages->at(0).status, StatusPageStatus::degraded);
 }

@@ -5,16 +5,16 @@
 #include <vector>
 
 #include "core/AppStateManager.h"
-#include "fakes/Account.h"
+#include "fakes/PolledAccount.h"
 
 namespace larkspan::core {
 
 namespace {
 
-using fakes::Account;
+using fakes::PolledAccount;
 using platform::NotificationRequest;
 
-class ChangesOfTheAccount : public testing::Test, public Account {
+class ChangesOfTheAccount : public testing::Test, public PolledAccount {
 protected:
     ChangesOfTheAccount() { servePages({"p"}, {{"p", "operational"}}); }
 

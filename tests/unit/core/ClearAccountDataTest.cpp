@@ -5,17 +5,17 @@
 #include <string>
 #include <vector>
 
-#include "fakes/Account.h"
+#include "fakes/PolledAccount.h"
 
 namespace larkspan::core {
 
 namespace {
 
 using namespace std::chrono_literals;
-using fakes::Account;
+using fakes::PolledAccount;
 using platform::HttpResponse;
 
-class ClearAccountData : public testing::Test, public Account {};
+class ClearAccountData : public testing::Test, public PolledAccount {};
 
 TEST_F(ClearAccountData, ForgetsTheAccountInItsFixedOrder)
 {
@@ -55,7 +55,7 @@ TEST_F(ClearAccountData, DuringARunningCycleDoesNotStopItFromPublishing)
     run();
     state->clearAccountData();
     EXPECT_FALSE(*state->isLoading);
-    transport.script(overviewURL, 200, Account::overview({}));
+    transport.script(overviewURL, 200, PolledAccount::overview({}));
     transport.answer(HttpResponse{.status = 200, .body = R"([{"id": "a", "name": "A"}])"});
     run();
     EXPECT_EQ(state->statusPages->size(), 1u);

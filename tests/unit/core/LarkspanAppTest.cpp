@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "api/KeychainHelper.h"
-#include "fakes/Account.h"
+#include "fakes/PolledAccount.h"
 
 namespace larkspan::core {
 
@@ -14,7 +14,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-class App : public testing::Test, public fakes::Account {
+class App : public testing::Test, public fakes::PolledAccount {
 protected:
     LarkspanApp app{ports()};
 };

@@ -4,16 +4,16 @@
 
 #include <vector>
 
-#include "fakes/Account.h"
+#include "fakes/PolledAccount.h"
 
 namespace larkspan::core {
 
 namespace {
 
 using namespace std::chrono_literals;
-using fakes::Account;
+using fakes::PolledAccount;
 
-class Poll : public testing::Test, public Account {};
+class Poll : public testing::Test, public PolledAccount {};
 
 TEST_F(Poll, DoesNotFireAtOnceButOnePeriodLater)
 {

@@ -2,17 +2,17 @@
 
 #include <gtest/gtest.h>
 
-#include "fakes/Account.h"
+#include "fakes/PolledAccount.h"
 
 namespace larkspan::core {
 
 namespace {
 
 using namespace std::chrono_literals;
-using fakes::Account;
+using fakes::PolledAccount;
 using platform::URLError;
 
-class Reachability : public testing::Test, public Account {};
+class Reachability : public testing::Test, public PolledAccount {};
 
 TEST_F(Reachability, FollowsTheNetworkPathOnTheMainThread)
 {

@@ -5,18 +5,18 @@
 #include <vector>
 
 #include "core/AppStateManager.h"
-#include "fakes/Account.h"
+#include "fakes/PolledAccount.h"
 
 namespace larkspan::core {
 
 namespace {
 
 using namespace std::chrono_literals;
-using fakes::Account;
+using fakes::PolledAccount;
 using platform::MenuRow;
 using platform::StatusItem;
 
-class StatusItemOfTheAccount : public testing::Test, public Account {
+class StatusItemOfTheAccount : public testing::Test, public PolledAccount {
 protected:
     void setUpItem()
     {

@@ -4,16 +4,16 @@
 #include <vector>
 
 #include "core/AppStateManager.h"
-#include "fakes/Account.h"
+#include "fakes/PolledAccount.h"
 
 namespace larkspan::core {
 
 namespace {
 
-using fakes::Account;
+using fakes::PolledAccount;
 using platform::HttpResponse;
 
-class Tracking : public testing::Test, public Account {
+class Tracking : public testing::Test, public PolledAccount {
 protected:
     Tracking() { servePages({"p"}, {{"p", "operational"}}); }
 

@@ -10,14 +10,14 @@
 #include "api/KestruneAPI.h"
 #include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocaleText.h"
-#include "fakes/Service.h"
+#include "fakes/ScriptedService.h"
 #include "model/json/JSONDecoder.h"
 
 namespace larkspan::fakes {
 
 /// The screen of one record, in front of a service, and what its owner hears of it.
 template <typename Detail>
-class OpenedDetail : public testing::Test, public Service {
+class OpenedDetail : public testing::Test, public ScriptedService {
 protected:
     using Words = std::vector<std::string>;
 

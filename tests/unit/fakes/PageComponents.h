@@ -3,13 +3,13 @@
 #include <string>
 
 #include "fakes/FakeLocaleText.h"
-#include "fakes/Service.h"
+#include "fakes/ScriptedService.h"
 
 namespace larkspan::fakes {
 
 /// A service with the page "p": the group "Backend" has the component "API" with two monitors and the component "Cron"
 /// with none; the component "Site" is in no group.
-struct PageComponents : Service {
+struct PageComponents : ScriptedService {
     static constexpr auto componentsURL = "https://service.example/user/api/components?status_page_id=p";
     static constexpr auto groupsURL = "https://service.example/user/api/component-groups?status_page_id=p";
     static constexpr auto apiMonitorsURL = "https://service.example/user/api/monitors?component_ids=api";

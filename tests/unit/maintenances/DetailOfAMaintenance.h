@@ -51,7 +51,7 @@ protected:
     /// With their bodies.
     Words sent() const
     {
-        Words lines = Service::sent();
+        Words lines = ScriptedService::sent();
         for (std::size_t at = 0; at < lines.size(); ++at) {
             const auto& body = transport.requests.at(at).body;
             if (body) lines[at] += " " + *body;

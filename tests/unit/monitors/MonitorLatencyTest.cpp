@@ -4,7 +4,7 @@
 
 #include "api/KestruneAPI.h"
 #include "fakes/FakeLocaleText.h"
-#include "fakes/Service.h"
+#include "fakes/ScriptedService.h"
 #include "monitors/MonitorRowView.h"
 
 namespace larkspan::monitors {
@@ -14,7 +14,7 @@ namespace {
 using model::MonitorMetricsWindow;
 using Values = std::vector<std::int64_t>;
 
-class LatencyOfAMonitor : public testing::Test, public fakes::Service {
+class LatencyOfAMonitor : public testing::Test, public fakes::ScriptedService {
 protected:
     void arrive(MonitorMetricsWindow window)
     {

@@ -7,7 +7,7 @@
 
 #include "api/KestruneAPI.h"
 #include "fakes/FakeLocaleText.h"
-#include "fakes/Service.h"
+#include "fakes/ScriptedService.h"
 #include "monitors/MonitorRow.h"
 
 namespace larkspan::monitors {
@@ -22,7 +22,7 @@ const std::string metricsURL = "https://service.example/user/api/monitors/metric
 const std::string fullWindow = R"({"metrics": {"7": {"avg_ms": 312, "latency": [1, 2], "region_states":
     [{"region_id": "eu", "status": "up", "avg_ms": 4}]}}})";
 
-class RowOfAMonitor : public testing::Test, public fakes::Service {
+class RowOfAMonitor : public testing::Test, public fakes::ScriptedService {
 protected:
     void serve(const std::string& body, int status = 200) { transport.script(metricsURL, status, body); }
 

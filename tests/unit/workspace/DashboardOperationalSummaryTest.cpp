@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "fakes/Account.h"
+#include "fakes/PolledAccount.h"
 
 namespace larkspan::workspace {
 
@@ -110,7 +110,7 @@ TEST(Headline, JoinsTheDetailsInOneLine)
             .details = "1 Status Page \u00B7 No active incidents"}));
 }
 
-class SummaryOfTheAccount : public testing::Test, public fakes::Account {
+class SummaryOfTheAccount : public testing::Test, public fakes::PolledAccount {
 protected:
     Summary summary() const { return Summary::of(*state); }
 };

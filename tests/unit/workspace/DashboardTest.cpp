@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "api/KeychainHelper.h"
-#include "fakes/Account.h"
 #include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocaleText.h"
+#include "fakes/PolledAccount.h"
 
 namespace larkspan::workspace {
 
@@ -20,7 +20,7 @@ using presentation::Marker;
 using presentation::Placeholder;
 using presentation::Tone;
 
-class DashboardScreen : public testing::Test, public fakes::Account {
+class DashboardScreen : public testing::Test, public fakes::PolledAccount {
 protected:
     api::APIKeyStore keys{client, credentials};
     fakes::FakeLocaleText locale;

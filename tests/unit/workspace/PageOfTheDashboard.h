@@ -6,15 +6,15 @@
 #include <string>
 #include <vector>
 
-#include "fakes/Account.h"
 #include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocaleText.h"
+#include "fakes/PolledAccount.h"
 #include "workspace/Dashboard.h"
 
 namespace larkspan::workspace {
 
 /// The dashboard of an account with pages "a" and "b".
-class PageOfTheDashboard : public testing::Test, public fakes::Account {
+class PageOfTheDashboard : public testing::Test, public fakes::PolledAccount {
 protected:
     PageOfTheDashboard()
     {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "api/KeychainHelper.h"
-#include "fakes/Account.h"
+#include "fakes/PolledAccount.h"
 
 namespace larkspan::workspace {
 
@@ -18,7 +18,7 @@ using platform::HttpResponse;
 using platform::URLError;
 using Kind = Settings::ValidationState::Kind;
 
-class SettingsSheet : public testing::Test, public fakes::Account {
+class SettingsSheet : public testing::Test, public fakes::PolledAccount {
 protected:
     std::shared_ptr<Settings> opened()
     {

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "fakes/Account.h"
 #include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocaleText.h"
+#include "fakes/PolledAccount.h"
 
 namespace larkspan::workspace {
 
@@ -24,7 +24,7 @@ model::StatusPage acme()
     return page;
 }
 
-class OpenedPage : public testing::Test, public fakes::Account {
+class OpenedPage : public testing::Test, public fakes::PolledAccount {
 protected:
     fakes::FakeLocaleText locale;
     fakes::FakeLinkOpener links;

@@ -6,8 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include "fakes/Account.h"
 #include "fakes/FakeLocaleText.h"
+#include "fakes/PolledAccount.h"
 
 namespace larkspan::workspace {
 
@@ -21,7 +21,7 @@ using presentation::Headline;
 using presentation::Marker;
 using presentation::Tone;
 
-class Overview : public testing::Test, public fakes::Account {
+class Overview : public testing::Test, public fakes::PolledAccount {
 protected:
     Overview()
     {

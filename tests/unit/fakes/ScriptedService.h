@@ -24,17 +24,17 @@ class KestruneAPI;
 namespace larkspan::fakes {
 
 /// A client on a fake service, with a key stored, and both threads of the program in the test's hand.
-struct Service {
+struct ScriptedService {
     static constexpr auto host = "service.example";
     static constexpr auto pagesURL = "https://service.example/user/api/v1/status-pages";
     static constexpr auto incidentsURL = "https://service.example/user/api/v1/incidents";
     static constexpr auto maintenancesURL = "https://service.example/user/api/v1/maintenances";
     static constexpr auto overviewURL = "https://service.example/user/api/status-pages/status";
 
-    Service();
-    Service(const Service&) = delete;
-    Service& operator=(const Service&) = delete;
-    ~Service();
+    ScriptedService();
+    ScriptedService(const ScriptedService&) = delete;
+    ScriptedService& operator=(const ScriptedService&) = delete;
+    ~ScriptedService();
 
     /// Turns both executors until neither has work left.
     void run()

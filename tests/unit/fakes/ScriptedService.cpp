@@ -1,20 +1,20 @@
-#include "fakes/Service.h"
+#include "fakes/ScriptedService.h"
 
 #include "api/KestruneAPI.h"
 #include "api/KeychainHelper.h"
 
 namespace larkspan::fakes {
 
-Service::Service()
+ScriptedService::ScriptedService()
     : ownAPI(std::make_unique<api::KestruneAPI>(api::KestruneAPI::Ports{client, transport, credentials, clock}, host))
     , api(*ownAPI)
 {
     api::KeychainHelper::saveAPIKey(credentials, "k-123");
 }
 
-Service::~Service() = default;
+ScriptedService::~ScriptedService() = default;
 
-std::vector<std::string> Service::sent() const
+std::vector<std::string> ScriptedService::sent() const
 {
     const std::string origin = std::string("https://") + host;
     std::vector<std::string> lines;

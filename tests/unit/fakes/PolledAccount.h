@@ -13,17 +13,17 @@
 #include "fakes/FakeUpdater.h"
 #include "fakes/FakeWindowSystem.h"
 #include "fakes/ManualTimers.h"
-#include "fakes/Service.h"
+#include "fakes/ScriptedService.h"
 #include "support/LocalizedError.h"
 
 namespace larkspan::fakes {
 
 /// The application's state over a fake service, with a key stored.
-struct Account : Service {
+struct PolledAccount : ScriptedService {
     using Codes = std::vector<std::pair<std::string, std::string>>;
 
     /// An account without incidents and maintenances, until the test says otherwise.
-    Account()
+    PolledAccount()
     {
         serveIncidents({});
         serveMaintenances({});
