@@ -100,9 +100,8 @@ void fiveThousand(Components& view)
 void unavailable(Components& view)
 {
     view.viewModel->isLoading = false;
-    view.viewModel->errorMessage
-        = "Components are not available for this status page. Your plan may not include this feature.";
-    view.viewModel->showErrorAlert = true;
+    view.viewModel->alert.raise(
+        "Components are not available for this status page. Your plan may not include this feature.");
 }
 
 /// A scene of one component, opened.
@@ -162,7 +161,7 @@ void saving(Detail& view)
 void refusedEdit(Detail& view)
 {
     view.beginEditing();
-    view.action->raiseAlert("Server returned HTTP status code 422.");
+    view.action->alert.raise("Server returned HTTP status code 422.");
 }
 
 void aboutToDiscard(Detail& view)

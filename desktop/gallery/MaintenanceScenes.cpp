@@ -123,7 +123,7 @@ void otherMonth(Form& view)
 
 void withoutComponents(Form& view)
 {
-    view.action->raiseAlert("Could not load components: Server returned HTTP status code 503.");
+    view.action->alert.raise("Could not load components: Server returned HTTP status code 503.");
 }
 
 }  // namespace

@@ -167,8 +167,7 @@ void busy(Monitors& view)
 void refusedInTheList(Monitors& view)
 {
     list(view);
-    view.viewModel->errorMessage = "Server returned HTTP status code 409.";
-    view.viewModel->showErrorAlert = true;
+    view.viewModel->alert.raise("Server returned HTTP status code 409.");
 }
 
 void twoThousand(Monitors& view)

@@ -24,7 +24,7 @@ inline constexpr auto working = [](auto& screen) { screen.action->isInProgress =
 
 /// The service has refused a request of the screen.
 inline constexpr auto refused
-    = [](auto& screen) { screen.action->raiseAlert("Server returned HTTP status code 409."); };
+    = [](auto& screen) { screen.action->alert.raise("Server returned HTTP status code 409."); };
 
 inline constexpr auto aboutToDelete = [](auto& detail) { detail.confirmDelete(); };
 

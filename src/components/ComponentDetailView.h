@@ -70,6 +70,7 @@ public:
 
     /// The screen came up: fetches the groups that there are.
     void appear();
+    const std::string& id() const { return component->id; }
 
     presentation::Pill status() const { return componentStatusPill(component->status); }
     bool showsDetails() const;

@@ -24,34 +24,25 @@ std::vector<ComponentRow> StatusPageComponentsView::rows() const
     return componentRows(*viewModel->components, *viewModel->componentGroups);
 }
 
-std::string StatusPageComponentsView::alert() const
-{
-    return *viewModel->showErrorAlert ? viewModel->errorMessage->value_or("An unknown error occurred.") : "";
-}
-
 void StatusPageComponentsView::openComponent(const std::string& id)
 {
     const auto* const opened = viewModel->components.find(id);
     if (!opened) return;
     const ComponentDetailView::Ports ports{ports_.main, ports_.api, ports_.links};
-    auto detail = std::make_shared<ComponentDetailView>(ports, viewModel->pageId, *opened, ownerOf(opened->id));
-    detail->appear();
-    presentedComponent.open(*opened, std::move(detail));
+    presentedComponent.open(
+        std::make_shared<ComponentDetailView>(ports, viewModel->pageId, *opened, ownerOf(opened->id)));
 }
 
 ComponentDetailView::Owner StatusPageComponentsView::ownerOf(const std::string& opened)
 {
     const auto view = weak_from_this();
-    return {.onUpdate = whileAlive(view, &StatusPageComponentsView::onUpdate),
+    return {.onUpdate = whileAlive(view,
+                [](StatusPageComponentsView& self, const Component& changed) {
+                    self.viewModel->components.replace(changed);
+                }),
         .onDelete = whileAlive(view, &StatusPageComponentsView::onDelete),
         .dismiss = whileAlive(view, [opened](StatusPageComponentsView& self) { self.dismiss(opened); }),
         .lookAgain = whileAlive(view, [](StatusPageComponentsView& self) { self.viewModel->load(); })};
-}
-
-void StatusPageComponentsView::onUpdate(const Component& changed)
-{
-    if (presentedComponent.isOf(changed.id)) presentedComponent.update(changed);
-    viewModel->components.replace(changed);
 }
 
 void StatusPageComponentsView::onDelete(const Component& deleted)

@@ -12,7 +12,7 @@
 #include "platform/Executor.h"
 #include "platform/LinkOpener.h"
 #include "presentation/screens/ListScreen.h"
-#include "presentation/screens/PresentedRecord.h"
+#include "presentation/screens/Opened.h"
 
 namespace larkspan::components {
 
@@ -31,16 +31,12 @@ public:
 
     const std::shared_ptr<StatusPageComponentsViewModel> viewModel;
 
-    /// The component that stands in front of the list.
-    presentation::PresentedRecord<model::Component, ComponentDetailView> presentedComponent{*this};
+    /// The component that is open over the list.
+    presentation::Opened<ComponentDetailView> presentedComponent{*this};
 
     std::vector<ComponentRow> rows() const;
 
-    /// The words of the alert; empty while there is none.
-    std::string alert() const;
-    /// Tells the alerts apart, also two that say the same.
-    int alertNumber() const { return viewModel->alertNumber(); }
-    void dismissAlert() { viewModel->dismissAlert(); }
+    presentation::FailureAlert* alert() const override { return &viewModel->alert; }
 
     /// Opens the component of that id; nothing if it has gone meanwhile.
     void openComponent(const std::string& id);
@@ -54,7 +50,6 @@ private:
     std::vector<std::shared_ptr<presentation::GuardedScreen>> inFront() const override { return {detail()}; }
 
     ComponentDetailView::Owner ownerOf(const std::string& opened);
-    void onUpdate(const model::Component& changed);
     void onDelete(const model::Component& deleted);
     void dismiss(const std::string& id);
 

@@ -39,15 +39,14 @@ StatusPageComponentsViewModel::StatusPageComponentsViewModel(
     : pageId(std::move(page))
     , main_(main)
     , api_(api)
-    , alerts_([this](std::optional<std::string> words) { showAlert(std::move(words)); })
 {
 }
 
 void StatusPageComponentsViewModel::load()
 {
     isLoading = true;
-    alerts_.withdraw();
-    errorMessage = std::nullopt;
+    alert.withdraw();
+    alert.text = std::nullopt;
     support::start(main_, fetch(shared_from_this()));
 }
 
@@ -81,14 +80,7 @@ void StatusPageComponentsViewModel::fail(const std::exception_ptr& failure)
 {
     components = {};
     componentGroups = {};
-    alerts_.raise(wordsFor(failure));
-}
-
-void StatusPageComponentsViewModel::showAlert(std::optional<std::string> words)
-{
-    const bool isUp = words.has_value();
-    if (isUp) errorMessage = std::move(words);
-    showErrorAlert = isUp;
+    alert.raise(wordsFor(failure));
 }
 
 }  // namespace larkspan::components

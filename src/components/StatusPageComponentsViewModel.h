@@ -10,7 +10,7 @@
 #include "model/records/Component.h"
 #include "model/records/ComponentGroup.h"
 #include "platform/Executor.h"
-#include "presentation/screens/AlertSequence.h"
+#include "presentation/screens/FailureAlert.h"
 #include "presentation/screens/FetchedRecords.h"
 #include "presentation/screens/RecordList.h"
 #include "support/Observable.h"
@@ -31,13 +31,10 @@ public:
     presentation::RecordList<model::Component> components{*this};
     support::Published<std::vector<model::ComponentGroup>> componentGroups{*this};
     support::Published<bool> isLoading{*this, false};
-    /// The alert of a load that failed is up.
-    support::Published<bool> showErrorAlert{*this, false};
-    support::Published<std::optional<std::string>> errorMessage{*this};
-
-    void dismissAlert() { alerts_.dismiss(); }
-    /// Tells the alerts apart, also two that say the same.
-    int alertNumber() const { return alerts_.number(); }
+    /// Tells of a load that failed.
+    presentation::FailureAlert alert{*this};
+    support::Published<bool>& showErrorAlert = alert.isUp;
+    support::Published<std::optional<std::string>>& errorMessage = alert.text;
 
     void loadComponents() { load(); }
     void load() override;
@@ -50,11 +47,8 @@ private:
     static support::Task<void> fetch(std::shared_ptr<StatusPageComponentsViewModel> self);
     void fail(const std::exception_ptr& failure);
 
-    void showAlert(std::optional<std::string> words);
-
     platform::Executor& main_;
     api::ComponentEndpoints& api_;
-    presentation::AlertSequence alerts_;
 };
 
 }  // namespace larkspan::components

@@ -39,25 +39,20 @@ IncidentDetailView::IncidentDetailView(Ports ports, Incident shown, Owner owner)
 
 std::vector<Command<IncidentDetailView>> IncidentDetailView::commands() const
 {
-    if (*isEditing) {
-        return {{{.id = "saveUpdate",
-                     .label = "Save Update",
-                     .symbol = "checkmark",
-                     .isProminent = true,
-                     .isEnabled = isSaveEnabled()},
-            [](auto& view) { view.saveUpdate(); }}};
-    }
+    if (*isEditing) return {};
     const bool canResolve = isIdle() && !isOver(*incident);
     return {
         {{.id = "acknowledge",
              .label = "Acknowledge",
              .symbol = "eye",
+             .isPaired = true,
              .isEnabled = canResolve && !incident->acknowledged},
             [](auto& view) { view.performAction(DetailAction::acknowledge); }},
         {{.id = "resolve",
              .label = "Resolve",
              .symbol = "checkmark.seal",
              .tone = presentation::Tone::green,
+             .isPaired = true,
              .isEnabled = canResolve},
             [](auto& view) { view.performAction(DetailAction::resolve); }},
         {{.id = "escalate", .label = "Escalate", .symbol = "arrow.up.doc", .isEnabled = isIdle()},

@@ -53,6 +53,7 @@ public:
     /// The description as it is shown.
     const std::shared_ptr<MessageView> message;
 
+    const std::string& id() const { return incident->id; }
     void show(model::Incident changed) { incident = std::move(changed); }
 
     std::string title() const { return *isEditing ? "Add Update" : incident->title; }
@@ -65,7 +66,7 @@ public:
     std::string description() const { return incident->message.value_or(""); }
     bool showsDescription() const { return !*isEditing && !description().empty(); }
 
-    /// In the order of the screen.
+    /// In the order of the screen; none while the editor is open.
     std::vector<presentation::ActionButton> buttons() const;
     /// Does what the button of that id says; nothing if there is none or it is disabled.
     void press(std::string_view id);

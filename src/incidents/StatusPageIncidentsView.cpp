@@ -35,7 +35,7 @@ void StatusPageIncidentsView::openIncident(const std::string& id)
     const auto* const opened = viewModel->incidents.find(id);
     if (!opened) return;
     const IncidentDetailView::Ports ports{ports_.main, ports_.api, ports_.clock, ports_.locale, ports_.links};
-    presentedIncident.open(*opened, std::make_shared<IncidentDetailView>(ports, *opened, ownerOf(opened->id)));
+    presentedIncident.open(std::make_shared<IncidentDetailView>(ports, *opened, ownerOf(opened->id)));
 }
 
 IncidentDetailView::Owner StatusPageIncidentsView::ownerOf(const std::string& opened)
@@ -51,7 +51,6 @@ IncidentDetailView::Owner StatusPageIncidentsView::ownerOf(const std::string& op
 void StatusPageIncidentsView::takeBack(const Incident& changed)
 {
     if (!presentedIncident.isOf(changed.id)) return loadIfInSight();
-    presentedIncident.update(changed);
     detail()->show(changed);
 }
 
@@ -74,7 +73,7 @@ void StatusPageIncidentsView::dismiss(const std::string& id)
 // incident.
 void StatusPageIncidentsView::loadIfInSight()
 {
-    if (!*presentedIncident) viewModel->load();
+    if (!presentedIncident.isOpen()) viewModel->load();
 }
 
 void StatusPageIncidentsView::closeIncident()
@@ -84,7 +83,7 @@ void StatusPageIncidentsView::closeIncident()
 
 void StatusPageIncidentsView::openCreateIncident()
 {
-    if (*showCreateIncident) return;
+    if (showCreateIncident.isOpen()) return;
     const CreateIncidentView::Ports ports{ports_.api, ports_.selection()};
     showCreateIncident.open(std::make_shared<CreateIncidentView>(ports, viewModel->pageId, ownerOfForm()));
 }

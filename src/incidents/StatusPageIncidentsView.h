@@ -11,8 +11,7 @@
 #include "incidents/StatusPageIncidentsViewModel.h"
 #include "presentation/forms/EventListPorts.h"
 #include "presentation/screens/ListScreen.h"
-#include "presentation/screens/PresentedRecord.h"
-#include "presentation/screens/PresentedSheet.h"
+#include "presentation/screens/Opened.h"
 #include "support/Task.h"
 
 namespace larkspan::incidents {
@@ -29,10 +28,10 @@ public:
 
     const std::shared_ptr<StatusPageIncidentsViewModel> viewModel;
 
-    /// The incident that stands in front of the list.
-    presentation::PresentedRecord<model::Incident, IncidentDetailView> presentedIncident{*this};
-    /// The form of a new incident is up.
-    presentation::PresentedSheet<CreateIncidentView> showCreateIncident{*this};
+    /// The incident that is open over the list.
+    presentation::Opened<IncidentDetailView> presentedIncident{*this};
+    /// The form of a new incident.
+    presentation::Opened<CreateIncidentView> showCreateIncident{*this};
 
     std::vector<IncidentRow> rows() const;
 

@@ -56,6 +56,7 @@ public:
     /// The description as it is shown.
     const std::shared_ptr<incidents::MessageView> message;
 
+    const std::string& id() const { return currentMaintenance->id; }
     std::string title() const { return *isEditing ? "Edit Maintenance" : currentMaintenance->title; }
     presentation::Pill status() const { return statusPill(currentMaintenance->status); }
     std::vector<presentation::TimelineRow> timeline() const;

@@ -30,7 +30,7 @@ void StatusPageMaintenancesView::openMaintenance(const std::string& id)
     const auto* const opened = viewModel->maintenances.find(id);
     if (!opened) return;
     const MaintenanceDetailView::Ports ports{ports_.main, ports_.api, ports_.clock, ports_.locale, ports_.links};
-    presentedMaintenance.open(*opened, std::make_shared<MaintenanceDetailView>(ports, *opened, ownerOf(opened->id)));
+    presentedMaintenance.open(std::make_shared<MaintenanceDetailView>(ports, *opened, ownerOf(opened->id)));
 }
 
 MaintenanceDetailView::Owner StatusPageMaintenancesView::ownerOf(const std::string& opened)
@@ -63,7 +63,7 @@ void StatusPageMaintenancesView::closeMaintenance()
 
 void StatusPageMaintenancesView::openCreateMaintenance()
 {
-    if (*showCreateSheet) return;
+    if (showCreateSheet.isOpen()) return;
     const CreateMaintenanceView::Ports ports{ports_.api, ports_.clock, ports_.selection()};
     showCreateSheet.open(std::make_shared<CreateMaintenanceView>(ports, viewModel->pageId, ownerOfForm()));
 }

@@ -11,8 +11,7 @@
 #include "maintenances/StatusPageMaintenancesViewModel.h"
 #include "presentation/forms/EventListPorts.h"
 #include "presentation/screens/ListScreen.h"
-#include "presentation/screens/PresentedRecord.h"
-#include "presentation/screens/PresentedSheet.h"
+#include "presentation/screens/Opened.h"
 
 namespace larkspan::maintenances {
 
@@ -29,10 +28,10 @@ public:
 
     const std::shared_ptr<StatusPageMaintenancesViewModel> viewModel;
 
-    /// The maintenance that was opened in front of the list, as it was then.
-    presentation::PresentedRecord<model::Maintenance, MaintenanceDetailView> presentedMaintenance{*this};
-    /// The form of a new maintenance is up.
-    presentation::PresentedSheet<CreateMaintenanceView> showCreateSheet{*this};
+    /// The maintenance that is open over the list.
+    presentation::Opened<MaintenanceDetailView> presentedMaintenance{*this};
+    /// The form of a new maintenance.
+    presentation::Opened<CreateMaintenanceView> showCreateSheet{*this};
 
     std::vector<MaintenanceRow> rows() const;
 

@@ -19,14 +19,14 @@ using support::Task;
 MonitorDetailView::MonitorDetailView(Ports ports, Monitor monitor, Owner owner)
     : currentMonitor(*this, std::move(monitor))
     , action(std::make_shared<presentation::RunningAction>(ports.main, std::move(owner.lookAgain)))
-    , ports_(ports)
+    , ports_(std::move(ports))
     , onUpdate_(std::move(owner.onUpdate))
 {
 }
 
 support::Subscriptions MonitorDetailView::observe(const std::function<void()>& observer)
 {
-    return {objectWillChange(observer), action->objectWillChange(observer)};
+    return {objectWillChange(observer), action->objectWillChange(observer), ports_.actions->objectWillChange(observer)};
 }
 
 std::vector<Fact> MonitorDetailView::details() const
@@ -58,7 +58,7 @@ Fact MonitorDetailView::lastCheck() const
 std::vector<Command<MonitorDetailView>> MonitorDetailView::commands() const
 {
     const bool isPaused = currentMonitor->isPaused;
-    const bool isIdle = !*action->isInProgress;
+    const bool isIdle = !isBusy();
     return {
         {{.id = std::string(MonitorRow::pauseResume),
              .label = isPaused ? "Resume Monitor" : "Pause Monitor",
@@ -89,22 +89,18 @@ void MonitorDetailView::press(std::string_view id)
 
 void MonitorDetailView::perform(DetailAction wanted)
 {
-    action->run(carryOut(shared_from_this(), wanted));
+    if (!isBusy()) action->run(carryOut(shared_from_this(), wanted, ports_.actions->mark(id())));
 }
 
-Task<void> MonitorDetailView::carryOut(std::shared_ptr<MonitorDetailView> self, DetailAction wanted)
+Task<void> MonitorDetailView::carryOut(
+    std::shared_ptr<MonitorDetailView> self, DetailAction wanted, std::shared_ptr<const void> /*mark*/)
 {
-    auto& api = self->ports_.api;
-    const std::string id = self->currentMonitor->id;
-    auto acting = wanted == DetailAction::checkNow ? api.runMonitor(id)
-        : self->currentMonitor->isPaused           ? api.resumeMonitor(id)
-                                                   : api.pauseMonitor(id);
-    co_await std::move(acting);
-    auto fetching = api.fetchMonitors();
-    const std::vector<Monitor> fetched = co_await std::move(fetching);
-    const auto refreshed = std::ranges::find(fetched, id, &Monitor::id);
-    if (refreshed == fetched.end()) co_return;
-    self->currentMonitor = *refreshed;
+    auto performing = MonitorActions::perform(self->ports_.actions, wanted, *self->currentMonitor);
+    const auto refetched = co_await std::move(performing);
+    if (refetched.failure) std::rethrow_exception(refetched.failure);
+    const auto refreshed = std::ranges::find(refetched.monitors, self->id(), &Monitor::id);
+    if (refreshed == refetched.monitors.end()) co_return;
+    self->show(*refreshed);
     self->onUpdate_(*refreshed);
 }
 

@@ -4,10 +4,11 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
-#include "api/MonitorEndpoints.h"
 #include "model/records/Monitor.h"
+#include "monitors/MonitorActions.h"
 #include "monitors/MonitorPills.h"
 #include "platform/Executor.h"
 #include "platform/LinkOpener.h"
@@ -27,7 +28,7 @@ class MonitorDetailView final : public support::Observable, public std::enable_s
 public:
     struct Ports {
         platform::Executor& main;
-        api::MonitorEndpoints& api;
+        std::shared_ptr<MonitorActions> actions;
         const platform::LocaleText& locale;
         platform::LinkOpener& links;
     };
@@ -38,7 +39,7 @@ public:
         std::function<void()> lookAgain = {};
     };
 
-    enum class DetailAction { pauseResume, checkNow };
+    using DetailAction = MonitorAction;
 
     static constexpr std::string_view title = "Monitor Details";
 
@@ -51,6 +52,12 @@ public:
 
     /// Calls `observer` before anything changes that the screen shows.
     [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer);
+
+    const std::string& id() const { return currentMonitor->id; }
+    /// An action on the monitor runs, begun here or in its row.
+    bool isBusy() const { return *action->isInProgress || ports_.actions->isRunning(id()); }
+    /// The record has changed.
+    void show(model::Monitor changed) { currentMonitor = std::move(changed); }
 
     std::vector<presentation::Pill> pills() const { return headerPills(*currentMonitor); }
     /// The group "Details"; what the record does not have is left out.
@@ -69,7 +76,8 @@ public:
 
 private:
     std::vector<presentation::Command<MonitorDetailView>> commands() const;
-    static support::Task<void> carryOut(std::shared_ptr<MonitorDetailView> self, DetailAction wanted);
+    static support::Task<void> carryOut(
+        std::shared_ptr<MonitorDetailView> self, DetailAction wanted, std::shared_ptr<const void> mark);
 
     const Ports ports_;
     const std::function<void(const model::Monitor&)> onUpdate_;

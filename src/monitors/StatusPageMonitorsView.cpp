@@ -9,6 +9,7 @@
 namespace larkspan::monitors {
 
 using model::Monitor;
+using support::Task;
 using support::whileAlive;
 
 StatusPageMonitorsView::StatusPageMonitorsView(Ports ports, model::StatusPage opened)
@@ -59,32 +60,43 @@ void StatusPageMonitorsView::press(const std::string& id, std::string_view butto
 {
     const auto* const monitor = viewModel->monitors.find(id);
     if (!monitor || viewModel->performingActions->contains(monitor->id)) return;
-    if (button == MonitorRow::pauseResume) support::start(ports_.main, viewModel->togglePause(*monitor));
-    if (button == MonitorRow::checkNow) support::start(ports_.main, viewModel->checkMonitor(*monitor));
+    if (button == MonitorRow::pauseResume) {
+        support::start(ports_.main, perform(shared_from_this(), viewModel->togglePause(*monitor), monitor->id));
+    }
+    if (button == MonitorRow::checkNow) {
+        support::start(ports_.main, perform(shared_from_this(), viewModel->checkMonitor(*monitor), monitor->id));
+    }
 }
 
-bool StatusPageMonitorsView::isHeld() const
+Task<void> StatusPageMonitorsView::perform(
+    std::shared_ptr<StatusPageMonitorsView> self, Task<void> action, std::string monitorID)
 {
-    return !viewModel->performingActions->empty() || (detail() && *detail()->action->isInProgress);
+    co_await std::move(action);
+    // The monitor may have been opened meanwhile, as it was before the action.
+    const auto& known = *self->viewModel->monitors;
+    const auto row = std::ranges::find(known, monitorID, &Monitor::id);
+    if (row != known.end() && self->presentedMonitor.isOf(monitorID)) self->detail()->show(*row);
 }
 
-std::string StatusPageMonitorsView::alert() const
+support::Subscriptions StatusPageMonitorsView::observe(const std::function<void()>& observer)
 {
-    return *viewModel->showErrorAlert ? viewModel->errorMessage->value_or("") : "";
+    auto subscriptions = ListScreen::observe(observer);
+    subscriptions.push_back(viewModel->actions->objectWillChange(observer));
+    return subscriptions;
 }
 
 void StatusPageMonitorsView::openMonitor(const std::string& id)
 {
     const auto* const opened = viewModel->monitors.find(id);
     if (!opened) return;
-    const MonitorDetailView::Ports ports{ports_.main, ports_.api, ports_.locale, ports_.links};
+    MonitorDetailView::Ports ports{ports_.main, viewModel->actions, ports_.locale, ports_.links};
     const auto view = weak_from_this();
     MonitorDetailView::Owner owner{.onUpdate = whileAlive(view,
                                        [](StatusPageMonitorsView& self, const Monitor& refreshed) {
                                            self.viewModel->monitors.replace(refreshed);
                                        }),
         .lookAgain = whileAlive(view, [](StatusPageMonitorsView& self) { self.viewModel->load(); })};
-    presentedMonitor.open(*opened, std::make_shared<MonitorDetailView>(ports, *opened, std::move(owner)));
+    presentedMonitor.open(std::make_shared<MonitorDetailView>(std::move(ports), *opened, std::move(owner)));
 }
 
 void StatusPageMonitorsView::closeMonitor()

@@ -18,9 +18,10 @@
 #include "platform/LinkOpener.h"
 #include "platform/LocaleText.h"
 #include "presentation/screens/ListScreen.h"
-#include "presentation/screens/PresentedRecord.h"
+#include "presentation/screens/Opened.h"
 #include "support/AfterChanges.h"
 #include "support/Observable.h"
+#include "support/Task.h"
 
 namespace larkspan::monitors {
 
@@ -44,8 +45,8 @@ public:
     const model::StatusPage page;
     const std::shared_ptr<StatusPageMonitorsViewModel> viewModel;
 
-    /// The monitor that stands in front of the list, as it was when it was opened.
-    presentation::PresentedRecord<model::Monitor, MonitorDetailView> presentedMonitor{*this};
+    /// The monitor that is open over the list.
+    presentation::Opened<MonitorDetailView> presentedMonitor{*this};
 
     std::vector<MonitorRow> rows() const;
 
@@ -57,11 +58,7 @@ public:
     /// Does what the button of that id says in that row; nothing while an action on its monitor runs.
     void press(const std::string& id, std::string_view button);
 
-    /// The words of the alert; empty while there is none.
-    std::string alert() const;
-    /// Tells the alerts apart, also two that say the same.
-    int alertNumber() const { return viewModel->alertNumber(); }
-    void dismissAlert() { viewModel->dismissAlert(); }
+    presentation::FailureAlert* alert() const override { return &viewModel->alert; }
 
     /// Opens the monitor of that row; nothing if it has gone meanwhile.
     void openMonitor(const std::string& id);
@@ -69,11 +66,14 @@ public:
     /// Of `presentedMonitor`; null without one.
     const std::shared_ptr<MonitorDetailView>& detail() const { return presentedMonitor.screen(); }
 
-    bool isHeld() const override;
+    bool isHeld() const override { return !viewModel->performingActions->empty(); }
+    [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer) override;
 
 private:
     presentation::FetchedRecords& fetched() const override { return *viewModel; }
     void forgetRowsThatLeft();
+    static support::Task<void> perform(
+        std::shared_ptr<StatusPageMonitorsView> self, support::Task<void> action, std::string monitorID);
 
     const Ports ports_;
     support::Published<RowViews> rowViews_{*this};

@@ -17,73 +17,46 @@ StatusPageMonitorsViewModel::StatusPageMonitorsViewModel(
     platform::Executor& main, api::MonitorEndpoints& api, std::string page)
     : FetchedList(main, [&api, page] { return presentation::recordsOfPage(api.fetchMonitors(), page); })
     , pageId(std::move(page))
-    , api_(api)
-    , alerts_([this](std::optional<std::string> words) { showAlert(std::move(words)); })
+    , actions(std::make_shared<MonitorActions>(api))
 {
-}
-
-std::shared_ptr<StatusPageMonitorsViewModel> StatusPageMonitorsViewModel::self()
-{
-    return std::static_pointer_cast<StatusPageMonitorsViewModel>(shared_from_this());
 }
 
 Task<void> StatusPageMonitorsViewModel::togglePause(Monitor monitor)
 {
-    setPerforming(monitor.id, true);
-    auto action = monitor.isPaused ? api_.resumeMonitor(monitor.id) : api_.pauseMonitor(monitor.id);
-    return perform(self(), std::move(monitor.id), std::move(action));
+    return perform(MonitorAction::pauseResume, std::move(monitor));
 }
 
 Task<void> StatusPageMonitorsViewModel::checkMonitor(Monitor monitor)
 {
-    setPerforming(monitor.id, true);
-    auto action = api_.runMonitor(monitor.id);
-    return perform(self(), std::move(monitor.id), std::move(action));
+    return perform(MonitorAction::checkNow, std::move(monitor));
 }
 
-void StatusPageMonitorsViewModel::showAlert(std::optional<std::string> words)
+Task<void> StatusPageMonitorsViewModel::perform(MonitorAction action, Monitor monitor)
 {
-    const bool isUp = words.has_value();
-    if (isUp) errorMessage = std::move(words);
-    showErrorAlert = isUp;
+    auto mark = actions->mark(monitor.id);
+    return carryOut(std::static_pointer_cast<StatusPageMonitorsViewModel>(shared_from_this()), action,
+        std::move(monitor), std::move(mark));
 }
 
-Task<void> StatusPageMonitorsViewModel::perform(
-    std::shared_ptr<StatusPageMonitorsViewModel> self, std::string id, Task<void> action)
+Task<void> StatusPageMonitorsViewModel::carryOut(std::shared_ptr<StatusPageMonitorsViewModel> self,
+    MonitorAction action, Monitor monitor, std::shared_ptr<const void> mark)
 {
     try {
-        co_await std::move(action);
-        auto refreshing = refreshMonitor(self, id);
-        co_await std::move(refreshing);
+        auto performing = MonitorActions::perform(self->actions, action, monitor);
+        const auto refetched = co_await std::move(performing);
+        // Where the fetch has failed, the action itself succeeded: the row shows what is known until the next load.
+        self->refreshRow(refetched.monitors, monitor.id);
     } catch (...) {
-        self->alerts_.raise(support::localizedDescription(std::current_exception()));
+        self->alert.raise(support::localizedDescription(std::current_exception()));
     }
-    self->setPerforming(id, false);
+    mark.reset();
 }
 
-Task<void> StatusPageMonitorsViewModel::refreshMonitor(
-    std::shared_ptr<StatusPageMonitorsViewModel> self, std::string id)
+void StatusPageMonitorsViewModel::refreshRow(const std::vector<Monitor>& fetched, const std::string& id)
 {
-    std::vector<Monitor> fetched;
-    try {
-        auto fetching = presentation::recordsOfPage(self->api_.fetchMonitors(), self->pageId);
-        fetched = co_await std::move(fetching);
-    } catch (...) {
-        // The action itself succeeded; the row shows what is known until the next load.
-        co_return;
-    }
-    const auto refreshed = std::ranges::find(fetched, id, &Monitor::id);
-    if (refreshed != fetched.end()) self->monitors.replace(std::move(*refreshed));
-}
-
-void StatusPageMonitorsViewModel::setPerforming(const std::string& id, bool isPerforming)
-{
-    auto performing = *performingActions;
-    if (isPerforming)
-        performing.insert(id);
-    else
-        performing.erase(id);
-    performingActions = std::move(performing);
+    const auto refreshed = std::ranges::find_if(
+        fetched, [&](const Monitor& each) { return each.id == id && each.statusPageId == pageId; });
+    if (refreshed != fetched.end()) monitors.replace(*refreshed);
 }
 
 }  // namespace larkspan::monitors

@@ -4,10 +4,12 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "api/MonitorEndpoints.h"
 #include "model/records/Monitor.h"
-#include "presentation/screens/AlertSequence.h"
+#include "monitors/MonitorActions.h"
+#include "presentation/screens/FailureAlert.h"
 #include "presentation/screens/FetchedList.h"
 #include "support/Observable.h"
 #include "support/Task.h"
@@ -24,15 +26,14 @@ public:
 
     /// Those of the page alone, in the order in which the service gave the account's.
     presentation::RecordList<model::Monitor>& monitors = records;
+    const std::shared_ptr<MonitorActions> actions;
     /// The ids of the monitors with an action running.
-    support::Published<std::set<std::string>> performingActions{*this};
-    support::Published<bool> showErrorAlert{*this, false};
-    /// The text of the alert; it stays when the alert has gone.
-    support::Published<std::optional<std::string>> errorMessage{*this};
+    support::Published<std::set<std::string>>& performingActions = actions->running;
 
-    void dismissAlert() { alerts_.dismiss(); }
-    /// Tells the alerts apart, also two that say the same.
-    int alertNumber() const { return alerts_.number(); }
+    /// Tells of the actions that were refused.
+    presentation::FailureAlert alert{*this};
+    support::Published<bool>& showErrorAlert = alert.isUp;
+    support::Published<std::optional<std::string>>& errorMessage = alert.text;
 
     void loadMonitors() { load(); }
 
@@ -44,17 +45,10 @@ public:
     support::Task<void> checkMonitor(model::Monitor monitor);
 
 private:
-    using Action = support::Task<void>;
-
-    static Action perform(std::shared_ptr<StatusPageMonitorsViewModel> self, std::string id, Action action);
-    static Action refreshMonitor(std::shared_ptr<StatusPageMonitorsViewModel> self, std::string id);
-    std::shared_ptr<StatusPageMonitorsViewModel> self();
-    void setPerforming(const std::string& id, bool isPerforming);
-
-    void showAlert(std::optional<std::string> words);
-
-    api::MonitorEndpoints& api_;
-    presentation::AlertSequence alerts_;
+    support::Task<void> perform(MonitorAction action, model::Monitor monitor);
+    static support::Task<void> carryOut(std::shared_ptr<StatusPageMonitorsViewModel> self, MonitorAction action,
+        model::Monitor monitor, std::shared_ptr<const void> mark);
+    void refreshRow(const std::vector<model::Monitor>& fetched, const std::string& id);
 };
 
 }  // namespace larkspan::monitors

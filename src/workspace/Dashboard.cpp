@@ -29,7 +29,7 @@ Dashboard::Dashboard(Ports ports)
 void Dashboard::tick()
 {
     currentTime = ports_.clock.now();
-    if (*openedPage) (*openedPage)->currentTime = ports_.clock.now();
+    if (openedPage.isOpen()) openedPage.screen()->currentTime = ports_.clock.now();
 }
 
 support::Subscriptions Dashboard::observe(const std::function<void()>& observer)
@@ -105,20 +105,23 @@ const model::StatusPage* Dashboard::selectedPage() const
 
 void Dashboard::openPage(const std::string& id)
 {
-    if (*openedPage && *selectedPageId == id) return;
+    if (openedPage.isOpen() && *selectedPageId == id) return;
     if (!asksBefore(support::whileAlive(weak_from_this(), [id](Dashboard& self) { self.showPage(id); }))) showPage(id);
 }
 
 bool Dashboard::asksBefore(const std::function<void()>& leave)
 {
-    return *openedPage && (*openedPage)->asksBefore(leave);
+    return openedPage.isOpen() && openedPage.screen()->asksBefore(leave);
 }
 
 void Dashboard::showPage(const std::string& id)
 {
     selectedPageId = id;
     const auto* const page = selectedPage();
-    openedPage = page ? std::make_shared<StatusPageDetailView>(portsOfPage(), *page) : nullptr;
+    if (page)
+        openedPage.open(std::make_shared<StatusPageDetailView>(portsOfPage(), *page));
+    else
+        openedPage.close();
 }
 
 StatusPageDetailView::Ports Dashboard::portsOfPage() const
@@ -129,26 +132,26 @@ StatusPageDetailView::Ports Dashboard::portsOfPage() const
 void Dashboard::closePage()
 {
     selectedPageId = std::nullopt;
-    openedPage = nullptr;
+    openedPage.close();
 }
 
 void Dashboard::followOpenedPage()
 {
     const auto lists = state().publishedLists();
     const bool isOfNewLists = std::exchange(followedLists_, lists) != lists;
-    if (!*openedPage) return;
-    const auto* const page = selectedPage();
-    if (page) {
-        if (*page != *(*openedPage)->page) (*openedPage)->page = *page;
+    if (!openedPage.isOpen()) return;
+    auto& opened = *openedPage.screen();
+    if (const auto* const page = selectedPage()) {
+        if (*page != *opened.page) opened.page = *page;
         return;
     }
     // One list without it may be the service's slip, and is no reason to lose what is typed or how an order ends.
-    if (isOfNewLists && !(*openedPage)->isHeld()) closePage();
+    if (isOfNewLists && !opened.isHeld()) closePage();
 }
 
 void Dashboard::openSettings()
 {
-    if (*showingSettings) return;
+    if (showingSettings.isOpen()) return;
     ports_.credentials.allowPromptAgain();
     const auto onApiKeyDeleted = [appState = ports_.appState] { appState->clearAccountData(); };
     const Settings::Ports ports{ports_.main, ports_.appState, ports_.keys, demoKey};

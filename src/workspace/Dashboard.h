@@ -21,7 +21,7 @@
 #include "platform/LocaleText.h"
 #include "platform/Timers.h"
 #include "presentation/screens/Content.h"
-#include "presentation/screens/PresentedSheet.h"
+#include "presentation/screens/Opened.h"
 #include "presentation/shapes/Headline.h"
 #include "presentation/shapes/Marker.h"
 #include "presentation/shapes/Placeholder.h"
@@ -61,12 +61,12 @@ public:
 
     explicit Dashboard(Ports ports);
 
-    /// The settings sheet is up.
-    presentation::PresentedSheet<Settings> showingSettings{*this};
+    /// The settings sheet.
+    presentation::Opened<Settings> showingSettings{*this};
     /// The page that the user has opened, or that the menu has.
     support::Published<std::optional<std::string>> selectedPageId{*this};
-    /// The selected page's own screen; null while none is open.
-    support::Published<std::shared_ptr<StatusPageDetailView>> openedPage{*this};
+    /// The selected page's own screen.
+    presentation::Opened<StatusPageDetailView> openedPage{*this};
     /// The reference of the text after "Updated "; it ticks, so that the text ages on screen.
     support::Published<support::Time> currentTime;
     /// The key that the demo's settings tell; empty in the program. Set before they are opened.

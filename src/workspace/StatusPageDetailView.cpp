@@ -1,6 +1,5 @@
 #include "workspace/StatusPageDetailView.h"
 
-#include <cstddef>
 #include <utility>
 
 #include "presentation/text/WebAddress.h"
@@ -21,62 +20,36 @@ support::Subscriptions StatusPageDetailView::observe(const std::function<void()>
 
 void StatusPageDetailView::select(Tab tab)
 {
-    if (tab == *selectedTab) return;
-    leave();
-    enter(tab);
-    selectedTab = tab;
+    if (tab == selectedTab()) return;
+    opened_ = screenOf(tab);
+    if (auto* const shown = list()) shown->appear();
 }
 
-void StatusPageDetailView::leave()
-{
-    incidents_.reset();
-    monitors_.reset();
-    components_.reset();
-    maintenances_.reset();
-}
-
-void StatusPageDetailView::enter(Tab tab)
+StatusPageDetailView::OpenedTab StatusPageDetailView::screenOf(Tab tab) const
 {
     switch (tab) {
-    case Tab::overview: return;
-    case Tab::incidents: return enterIncidents();
-    case Tab::monitors: return enterMonitors();
-    case Tab::components: return enterComponents();
-    case Tab::maintenances: return enterMaintenances();
+    case Tab::overview: break;
+    case Tab::incidents:
+        return std::make_shared<incidents::StatusPageIncidentsView>(
+            incidents::StatusPageIncidentsView::Ports{eventPorts(), ports_.api}, page->id);
+    case Tab::monitors:
+        return std::make_shared<monitors::StatusPageMonitorsView>(
+            monitors::StatusPageMonitorsView::Ports{.main = ports_.main,
+                .api = ports_.api,
+                .credentials = ports_.credentials,
+                .locale = ports_.locale,
+                .links = ports_.links},
+            *page);
+    case Tab::components:
+        return std::make_shared<components::StatusPageComponentsView>(
+            components::StatusPageComponentsView::Ports{
+                .main = ports_.main, .api = ports_.api, .credentials = ports_.credentials, .links = ports_.links},
+            page->id);
+    case Tab::maintenances:
+        return std::make_shared<maintenances::StatusPageMaintenancesView>(
+            maintenances::StatusPageMaintenancesView::Ports{eventPorts(), ports_.api}, page->id);
     }
-}
-
-void StatusPageDetailView::enterIncidents()
-{
-    const incidents::StatusPageIncidentsView::Ports ports{eventPorts(), ports_.api};
-    incidents_ = std::make_shared<incidents::StatusPageIncidentsView>(ports, page->id);
-    incidents_->appear();
-}
-
-void StatusPageDetailView::enterMonitors()
-{
-    const monitors::StatusPageMonitorsView::Ports ports{.main = ports_.main,
-        .api = ports_.api,
-        .credentials = ports_.credentials,
-        .locale = ports_.locale,
-        .links = ports_.links};
-    monitors_ = std::make_shared<monitors::StatusPageMonitorsView>(ports, *page);
-    monitors_->appear();
-}
-
-void StatusPageDetailView::enterComponents()
-{
-    const components::StatusPageComponentsView::Ports ports{
-        .main = ports_.main, .api = ports_.api, .credentials = ports_.credentials, .links = ports_.links};
-    components_ = std::make_shared<components::StatusPageComponentsView>(ports, page->id);
-    components_->appear();
-}
-
-void StatusPageDetailView::enterMaintenances()
-{
-    const maintenances::StatusPageMaintenancesView::Ports ports{eventPorts(), ports_.api};
-    maintenances_ = std::make_shared<maintenances::StatusPageMaintenancesView>(ports, page->id);
-    maintenances_->appear();
+    return std::monostate();
 }
 
 presentation::EventListPorts StatusPageDetailView::eventPorts() const
@@ -92,12 +65,12 @@ presentation::EventListPorts StatusPageDetailView::eventPorts() const
 
 void StatusPageDetailView::selectNext()
 {
-    select(tabs[(static_cast<std::size_t>(*selectedTab) + 1) % tabs.size()]);
+    select(tabs[(opened_->index() + 1) % tabs.size()]);
 }
 
 void StatusPageDetailView::selectPrevious()
 {
-    select(tabs[(static_cast<std::size_t>(*selectedTab) + tabs.size() - 1) % tabs.size()]);
+    select(tabs[(opened_->index() + tabs.size() - 1) % tabs.size()]);
 }
 
 void StatusPageDetailView::refresh()
@@ -110,14 +83,13 @@ void StatusPageDetailView::refresh()
 
 presentation::ListScreen* StatusPageDetailView::list() const
 {
-    switch (*selectedTab) {
-    case Tab::overview: break;
-    case Tab::incidents: return incidents_.get();
-    case Tab::monitors: return monitors_.get();
-    case Tab::components: return components_.get();
-    case Tab::maintenances: return maintenances_.get();
-    }
-    return nullptr;
+    const auto listOf = [](const auto& screen) -> presentation::ListScreen* {
+        if constexpr (requires { screen.get(); })
+            return screen.get();
+        else
+            return nullptr;
+    };
+    return std::visit(listOf, *opened_);
 }
 
 StatusPageOverviewView StatusPageDetailView::overview() const

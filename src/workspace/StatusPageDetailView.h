@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string_view>
+#include <variant>
 
 #include "api/KestruneAPI.h"
 #include "components/StatusPageComponentsView.h"
@@ -49,11 +50,11 @@ public:
     support::Published<model::StatusPage> page;
     /// When the page was last told that time goes on, which moves the distances in its overview.
     support::Published<support::Time> currentTime;
-    support::Published<Tab> selectedTab{*this, Tab::overview};
 
     /// Calls `observer` before anything changes that the page shows, the account's state included.
     [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer);
 
+    Tab selectedTab() const { return static_cast<Tab>(opened_->index()); }
     /// Leaves the screen of the tab that was selected, and makes that of `tab` anew; the selected tab stays as it is.
     void select(Tab tab);
     /// The tab beside the selected one, forwards or backwards; over the ends it goes round.
@@ -65,13 +66,13 @@ public:
 
     StatusPageOverviewView overview() const;
     /// The screen of the tab "Incidents"; null while another is selected.
-    const std::shared_ptr<incidents::StatusPageIncidentsView>& incidents() const { return incidents_; }
+    std::shared_ptr<incidents::StatusPageIncidentsView> incidents() const { return opened<Incidents>(); }
     /// The screen of the tab "Monitors"; null while another is selected.
-    const std::shared_ptr<monitors::StatusPageMonitorsView>& monitors() const { return monitors_; }
+    std::shared_ptr<monitors::StatusPageMonitorsView> monitors() const { return opened<Monitors>(); }
     /// The screen of the tab "Components"; null while another is selected.
-    const std::shared_ptr<components::StatusPageComponentsView>& components() const { return components_; }
+    std::shared_ptr<components::StatusPageComponentsView> components() const { return opened<Components>(); }
     /// The screen of the tab "Maintenances"; null while another is selected.
-    const std::shared_ptr<maintenances::StatusPageMaintenancesView>& maintenances() const { return maintenances_; }
+    std::shared_ptr<maintenances::StatusPageMaintenancesView> maintenances() const { return opened<Maintenances>(); }
 
     /// The page is not to go by itself: something would be lost with it, or an order has not ended.
     bool isHeld() const;
@@ -82,21 +83,27 @@ public:
     void openPublicURL() const;
 
 private:
+    using Incidents = std::shared_ptr<incidents::StatusPageIncidentsView>;
+    using Monitors = std::shared_ptr<monitors::StatusPageMonitorsView>;
+    using Components = std::shared_ptr<components::StatusPageComponentsView>;
+    using Maintenances = std::shared_ptr<maintenances::StatusPageMaintenancesView>;
+    /// The screen of the selected tab, in the order of the tabs; the overview is made for each look at it.
+    using OpenedTab = std::variant<std::monostate, Incidents, Monitors, Components, Maintenances>;
+
     /// The screen of the selected tab; null for the overview.
     presentation::ListScreen* list() const;
-    void leave();
-    void enter(Tab tab);
-    void enterIncidents();
-    void enterMonitors();
-    void enterComponents();
-    void enterMaintenances();
+    OpenedTab screenOf(Tab tab) const;
     presentation::EventListPorts eventPorts() const;
 
+    template <typename Screen>
+    Screen opened() const
+    {
+        const auto* const screen = std::get_if<Screen>(&*opened_);
+        return screen ? *screen : nullptr;
+    }
+
     Ports ports_;
-    std::shared_ptr<incidents::StatusPageIncidentsView> incidents_;
-    std::shared_ptr<monitors::StatusPageMonitorsView> monitors_;
-    std::shared_ptr<components::StatusPageComponentsView> components_;
-    std::shared_ptr<maintenances::StatusPageMaintenancesView> maintenances_;
+    support::Published<OpenedTab> opened_{*this};
 };
 
 /// The label of a tab's segment.

@@ -8,7 +8,6 @@
 #include "bridge/lists/RowListModel.h"
 #include "bridge/screens/ChildScreen.h"
 #include "bridge/screens/ListBridge.h"
-#include "bridge/values/AlertValue.h"
 #include "bridge/values/ComponentRowValue.h"
 #include "components/StatusPageComponentsView.h"
 
@@ -20,7 +19,6 @@ class ComponentListBridge : public larkspan::bridge::ListBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
-    Q_PROPERTY(larkspan::bridge::AlertValue alert READ alert NOTIFY changed)
     /// The component that is open; null while there is none.
     Q_PROPERTY(larkspan::bridge::ComponentDetailBridge* detail READ detail NOTIFY changed)
 
@@ -29,10 +27,8 @@ public:
         QObject* parent = nullptr);
 
     ListModel* rows() override { return &rows_; }
-    AlertValue alert() const { return {view_->alertNumber(), words(view_->alert())}; }
     ComponentDetailBridge* detail() const { return detail_.get(); }
 
-    Q_INVOKABLE void dismissAlert() { view_->dismissAlert(); }
     Q_INVOKABLE void open(const QString& id) { view_->openComponent(id.toStdString()); }
 
 private:

@@ -37,12 +37,12 @@ public:
 
     QString title() const { return words(monitors::MonitorDetailView::title); }
     QString name() const { return words(view_->currentMonitor->name); }
-    bool isBusy() const { return *view_->action->isInProgress; }
-    AlertValue alert() const { return {view_->action->alertNumber(), words(*view_->action->alert)}; }
+    bool isBusy() const { return view_->isBusy(); }
+    AlertValue alert() const { return AlertValue::of(view_->action->alert); }
 
     Q_INVOKABLE void press(const QString& button) { view_->press(button.toStdString()); }
     Q_INVOKABLE void openURL() { view_->openURL(); }
-    Q_INVOKABLE void dismissAlert() { view_->action->dismissAlert(); }
+    Q_INVOKABLE void dismissAlert() { view_->action->alert.dismiss(); }
 
 private:
     void readState() override;

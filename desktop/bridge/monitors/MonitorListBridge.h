@@ -12,7 +12,6 @@
 #include "bridge/monitors/MonitorMetricsBridge.h"
 #include "bridge/screens/ChildScreen.h"
 #include "bridge/screens/ListBridge.h"
-#include "bridge/values/AlertValue.h"
 #include "bridge/values/MonitorRowValue.h"
 #include "monitors/StatusPageMonitorsView.h"
 
@@ -24,7 +23,6 @@ class MonitorListBridge : public larkspan::bridge::ListBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
-    Q_PROPERTY(larkspan::bridge::AlertValue alert READ alert NOTIFY changed)
     /// The monitor that is open; null while there is none.
     Q_PROPERTY(larkspan::bridge::MonitorDetailBridge* detail READ detail NOTIFY changed)
 
@@ -33,12 +31,10 @@ public:
         QObject* parent = nullptr);
 
     ListModel* rows() override { return &rows_; }
-    AlertValue alert() const { return {view_->alertNumber(), words(view_->alert())}; }
     MonitorDetailBridge* detail() const { return detail_.get(); }
 
     Q_INVOKABLE void toggleMetrics(const QString& id) { view_->toggleMetrics(id.toStdString()); }
     Q_INVOKABLE void press(const QString& id, const QString& button);
-    Q_INVOKABLE void dismissAlert() { view_->dismissAlert(); }
     Q_INVOKABLE void open(const QString& id) { view_->openMonitor(id.toStdString()); }
     Q_INVOKABLE void closeDetail() { view_->closeMonitor(); }
     /// What is open in the row of that monitor; null for a row that was never opened.

@@ -30,7 +30,7 @@ public:
     bool isSaveEnabled() const { return screen_->isSaveEnabled(); }
     bool isCloseEnabled() const { return screen_->isCloseEnabled(); }
     bool isBusy() const { return !screen_->isIdle(); }
-    AlertValue alert() const { return {screen_->action->alertNumber(), words(*screen_->action->alert)}; }
+    AlertValue alert() const { return AlertValue::of(screen_->action->alert); }
     bool showsDiscardConfirmation() const { return *screen_->showDiscardConfirmation; }
     ConfirmationValue discardConfirmation() const { return ConfirmationValue::of(presentation::discardConfirmation); }
 
@@ -38,7 +38,7 @@ public:
     Q_INVOKABLE void requestClose() { screen_->requestClose(); }
     Q_INVOKABLE void keepEditing() { screen_->keepEditing(); }
     Q_INVOKABLE void discardChanges() { screen_->discardChanges(); }
-    Q_INVOKABLE void dismissAlert() { screen_->action->dismissAlert(); }
+    Q_INVOKABLE void dismissAlert() { screen_->action->alert.dismiss(); }
 
 protected:
     GuardedScreenBridge(

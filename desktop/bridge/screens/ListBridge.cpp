@@ -12,6 +12,11 @@ ListBridge::ListBridge(std::shared_ptr<presentation::ListScreen> list, const Scr
     followChangesOf(*list_);
 }
 
+void ListBridge::dismissAlert()
+{
+    if (auto* const alert = list_->alert()) alert->dismiss();
+}
+
 void ListBridge::readState()
 {
     placeholder_ = PlaceholderValue::of(list_->placeholder());

@@ -6,6 +6,7 @@
 
 #include "bridge/lists/ListModel.h"
 #include "bridge/screens/ScreenBridge.h"
+#include "bridge/values/AlertValue.h"
 #include "bridge/values/PlaceholderValue.h"
 #include "presentation/screens/ListScreen.h"
 
@@ -18,13 +19,16 @@ class ListBridge : public ScreenBridge {
     QML_UNCREATABLE("what the lists of all records are")
     Q_PROPERTY(bool showsList READ showsList NOTIFY changed)
     Q_PROPERTY(larkspan::bridge::PlaceholderValue placeholder MEMBER placeholder_ NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::AlertValue alert READ alert NOTIFY changed)
     Q_PROPERTY(larkspan::bridge::ListModel* rows READ rows CONSTANT)
 
 public:
     bool showsList() const { return list_->content() == presentation::Content::records; }
+    AlertValue alert() const { return list_->alert() ? AlertValue::of(*list_->alert()) : AlertValue(); }
     virtual ListModel* rows() = 0;
 
     Q_INVOKABLE void refresh() { list_->refresh(); }
+    Q_INVOKABLE void dismissAlert();
 
 protected:
     ListBridge(std::shared_ptr<presentation::ListScreen> list, const ScreenUpdates& updates, QObject* parent);

@@ -19,6 +19,7 @@ struct ActionButtonValue {
     Q_PROPERTY(QString symbol MEMBER symbol)
     Q_PROPERTY(int tone MEMBER tone)
     Q_PROPERTY(bool isProminent MEMBER isProminent)
+    Q_PROPERTY(bool isPaired MEMBER isPaired)
     Q_PROPERTY(bool isEnabled MEMBER isEnabled)
 
 public:
@@ -27,12 +28,13 @@ public:
     QString symbol{};
     int tone = Tone::Primary;
     bool isProminent = false;
+    bool isPaired = false;
     bool isEnabled = false;
 
     static ActionButtonValue of(const presentation::ActionButton& button)
     {
         return {wholeText(button.id), words(button.label), words(button.symbol), toneOf(button.tone),
-            button.isProminent, button.isEnabled};
+            button.isProminent, button.isPaired, button.isEnabled};
     }
 
     bool operator==(const ActionButtonValue&) const = default;

@@ -4,6 +4,9 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
+#include "bridge/values/Words.h"
+#include "presentation/screens/FailureAlert.h"
+
 namespace larkspan::bridge {
 
 /// The alert that is up, for QML; its text is empty while there is none. Two alerts of one text differ in their
@@ -17,6 +20,8 @@ struct AlertValue {
 public:
     int number = 0;
     QString text{};
+
+    static AlertValue of(const presentation::FailureAlert& alert) { return {alert.number(), words(alert.words())}; }
 
     bool operator==(const AlertValue&) const = default;
 };

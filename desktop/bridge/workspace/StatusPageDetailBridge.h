@@ -53,7 +53,7 @@ public:
     QString title() const { return words(view_->page->name); }
     QString pickerLabel() const { return words(workspace::StatusPageDetailView::pickerLabel); }
     QList<QString> tabs() const;
-    int selectedTab() const { return static_cast<int>(*view_->selectedTab); }
+    int selectedTab() const { return static_cast<int>(view_->selectedTab()); }
     ListModel* activity() { return &activity_; }
     IncidentListBridge* incidents() const { return incidents_.get(); }
     MonitorListBridge* monitors() const { return monitors_.get(); }

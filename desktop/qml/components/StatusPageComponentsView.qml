@@ -2,13 +2,11 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-ContentArea {
+ListArea {
     id: view
     required property ComponentListBridge components
 
-    showsContent: components.showsList
-    placeholder: components.placeholder
-    onRetried: components.refresh()
+    list: components
 
     CardList {
         anchors.fill: parent
@@ -18,10 +16,5 @@ ContentArea {
         delegate: ComponentRow {
             onClicked: if (isPressable) view.components.open(row.id)
         }
-    }
-
-    AlertLoader {
-        alert: view.components.alert
-        onDismissed: view.components.dismissAlert()
     }
 }

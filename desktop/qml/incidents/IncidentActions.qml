@@ -7,14 +7,14 @@ import Larkspan.Bridge
 Item {
     id: actions
     required property IncidentDetailBridge incident
-    readonly property list<actionButton> buttons: incident.isEditing ? [] : incident.buttons
+    readonly property list<actionButton> buttons: incident.buttons
     readonly property bool isCompact: row.implicitWidth > card.width - 4 * Theme.unit
 
     implicitHeight: card.y + card.height
 
     component Command: ActionCommand {
         required property int index
-        readonly property bool isPaired: index < 2
+        readonly property bool isPaired: button.isPaired
         // One that goes asks once more.
         button: index < actions.buttons.length ? actions.buttons[index] : gone
         property actionButton gone

@@ -2,13 +2,11 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-ContentArea {
+ListArea {
     id: view
     required property IncidentListBridge incidents
 
-    showsContent: incidents.showsList
-    placeholder: incidents.placeholder
-    onRetried: incidents.refresh()
+    list: incidents
 
     CardList {
         anchors.fill: parent

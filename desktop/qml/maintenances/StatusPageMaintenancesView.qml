@@ -2,14 +2,12 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-ContentArea {
+ListArea {
     id: view
     required property MaintenanceListBridge maintenances
 
-    showsContent: maintenances.showsList
-    placeholder: maintenances.placeholder
+    list: maintenances
     hasBoldTitle: false
-    onRetried: maintenances.refresh()
 
     CardList {
         anchors.fill: parent

@@ -2,13 +2,11 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-ContentArea {
+ListArea {
     id: view
     required property MonitorListBridge monitors
 
-    showsContent: monitors.showsList
-    placeholder: monitors.placeholder
-    onRetried: monitors.refresh()
+    list: monitors
 
     CardList {
         anchors.fill: parent
@@ -21,10 +19,5 @@ ContentArea {
             onCommanded: button => view.monitors.press(row.id, button)
             onClicked: view.monitors.open(row.id)
         }
-    }
-
-    AlertLoader {
-        alert: view.monitors.alert
-        onDismissed: view.monitors.dismissAlert()
     }
 }

@@ -11,7 +11,7 @@ EventForm::EventForm(
     : GuardedScreen(ports.main, std::move(owner))
     , pageId(std::move(page))
     , selection(std::make_shared<ComponentSelection>(ports, pageId, words.failure,
-          [alerts = action](std::string failure) { alerts->raiseAlert(std::move(failure)); }))
+          [action = action](std::string failure) { action->alert.raise(std::move(failure)); }))
     , words_(words)
 {
 }

@@ -6,6 +6,7 @@
 
 #include "platform/CredentialStore.h"
 #include "presentation/screens/Content.h"
+#include "presentation/screens/FailureAlert.h"
 #include "presentation/screens/FetchedRecords.h"
 #include "presentation/screens/GuardedScreen.h"
 #include "support/Observable.h"
@@ -19,7 +20,7 @@ public:
     virtual ~ListScreen() = default;
 
     /// Calls `observer` before anything changes that the list shows, or what stands in front of it.
-    [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer);
+    [[nodiscard]] virtual support::Subscriptions observe(const std::function<void()>& observer);
 
     /// The list came into sight.
     void appear() { fetched().load(); }
@@ -29,6 +30,8 @@ public:
     Content content() const { return fetched().content(); }
     /// What stands in place of the list; all empty while there is one.
     Placeholder placeholder() const;
+    /// Tells of what has failed besides; null for a list that has nothing to tell.
+    virtual FailureAlert* alert() const { return nullptr; }
 
     /// Leaving the list would lose what has been typed in front of it.
     bool hasUnsavedText() const;

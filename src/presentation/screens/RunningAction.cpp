@@ -1,8 +1,6 @@
 #include "presentation/screens/RunningAction.h"
 
 #include <exception>
-#include <optional>
-#include <string>
 #include <utility>
 
 #include "api/OrderOutcome.h"
@@ -15,7 +13,6 @@ using support::Task;
 RunningAction::RunningAction(platform::Executor& main, std::function<void()> lookAgain)
     : main_(main)
     , lookAgain_(std::move(lookAgain))
-    , alerts_([this](std::optional<std::string> words) { alert = std::move(words).value_or(""); })
 {
 }
 
@@ -23,7 +20,7 @@ void RunningAction::run(Task<void> work)
 {
     if (*isInProgress) return;
     isInProgress = true;
-    alerts_.withdraw();
+    alert.withdraw();
     support::start(main_, carryOut(shared_from_this(), std::move(work)));
 }
 
@@ -35,7 +32,7 @@ Task<void> RunningAction::carryOut(std::shared_ptr<RunningAction> self, Task<voi
     } catch (...) {
         failure = std::current_exception();
     }
-    if (failure) self->alerts_.raise(support::localizedDescription(failure));
+    if (failure) self->alert.raise(support::localizedDescription(failure));
     self->isInProgress = false;
     if (failure && self->lookAgain_ && api::mayHaveTakenPlace(failure)) self->lookAgain_();
 }

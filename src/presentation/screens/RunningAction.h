@@ -2,11 +2,9 @@
 
 #include <functional>
 #include <memory>
-#include <string>
-#include <utility>
 
 #include "platform/Executor.h"
-#include "presentation/screens/AlertSequence.h"
+#include "presentation/screens/FailureAlert.h"
 #include "support/Observable.h"
 #include "support/Task.h"
 
@@ -20,24 +18,16 @@ public:
     explicit RunningAction(platform::Executor& main, std::function<void()> lookAgain = {});
 
     support::Published<bool> isInProgress{*this, false};
-    /// The words of the alert; empty while there is none.
-    support::Published<std::string> alert{*this};
+    FailureAlert alert{*this};
 
     /// Runs `work` on the main thread; whatever it throws becomes the alert. While another runs, it is dropped.
     void run(support::Task<void> work);
-
-    /// A failure that is not an action's own comes up like one.
-    void raiseAlert(std::string words) { alerts_.raise(std::move(words)); }
-    void dismissAlert() { alerts_.dismiss(); }
-    /// Tells the alerts apart, also two that say the same.
-    int alertNumber() const { return alerts_.number(); }
 
 private:
     static support::Task<void> carryOut(std::shared_ptr<RunningAction> self, support::Task<void> work);
 
     platform::Executor& main_;
     const std::function<void()> lookAgain_;
-    AlertSequence alerts_;
 };
 
 }  // namespace larkspan::presentation

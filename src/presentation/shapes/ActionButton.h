@@ -14,6 +14,8 @@ struct ActionButton {
     std::string symbol{};
     Tone tone = Tone::primary;
     bool isProminent = false;
+    /// Stands beside its like where the other buttons stand one below the other.
+    bool isPaired = false;
     bool isEnabled = true;
 
     bool operator==(const ActionButton&) const = default;

@@ -49,11 +49,11 @@ TEST_P(RefusedDeletion, IsAnAlertThatChangesNothingAndLeavesTheScreenOpen)
     transport.script(url, GetParam().answer);
     opened()->deleteRecord();
     run();
-    EXPECT_EQ(*view->action->alert, GetParam().alert);
+    EXPECT_EQ(view->action->alert.words(), GetParam().alert);
     EXPECT_EQ(effects, Words{});
     EXPECT_TRUE(view->isIdle());
-    view->action->dismissAlert();
-    EXPECT_EQ(*view->action->alert, "");
+    view->action->alert.dismiss();
+    EXPECT_EQ(view->action->alert.words(), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(EachAnswer, RefusedDeletion, testing::ValuesIn(fakes::refusals()));

@@ -76,7 +76,7 @@ TEST_F(DetailOfAComponent, WhoseGroupsFailToLoadIsWithoutThemAndReportsNothing)
         EXPECT_TRUE(view->groups->empty());
         EXPECT_EQ(view->details().size(), 1u);
         EXPECT_EQ(view->details().at(0).label, "URL");
-        EXPECT_EQ(*view->action->alert, "");
+        EXPECT_EQ(view->action->alert.words(), "");
         EXPECT_TRUE(view->isIdle());
     }
 }

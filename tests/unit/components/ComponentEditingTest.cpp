@@ -169,7 +169,7 @@ TEST_P(RefusedChange, KeepsTheEditFormWithItsTypedValuesAndSaysWhy)
     view->editedName = "  Typed ";
     view->editedDescription = "";
     save();
-    EXPECT_EQ(*view->action->alert, GetParam().alert);
+    EXPECT_EQ(view->action->alert.words(), GetParam().alert);
     EXPECT_TRUE(*view->isEditing);
     EXPECT_EQ(*view->editedName, "  Typed ");
     EXPECT_EQ(*view->editedDescription, "");

@@ -100,14 +100,14 @@ TEST_F(ListOfComponents, ThatFailsToLoadSaysWhyInTheAlertAndInTheBodyAndOffersRe
             .text = "Server returned HTTP status code 500.",
             .offersRetry = true}));
     EXPECT_TRUE(*view->viewModel->showErrorAlert);
-    EXPECT_EQ(view->alert(), "Server returned HTTP status code 500.");
+    EXPECT_EQ(view->alert()->words(), "Server returned HTTP status code 500.");
 }
 
 TEST_F(ListOfComponents, WhoseAlertIsDismissedShowsNoComponents)
 {
     transport.script(listURL, 500, "");
     appear();
-    view->dismissAlert();
+    view->alert()->dismiss();
     EXPECT_EQ(view->content(), Content::empty);
     EXPECT_EQ(view->placeholder().title, "No Components");
     view->refresh();
@@ -125,20 +125,20 @@ TEST_F(ListOfComponents, WhoseLoadsFailBesideEachOtherHasAnAlertForEach)
     run();
     transport.answer(HttpResponse{502, ""});
     run();
-    EXPECT_EQ(view->alert(), "Server returned HTTP status code 500.");
-    const int first = view->alertNumber();
-    view->dismissAlert();
-    EXPECT_EQ(view->alert(), "Server returned HTTP status code 502.");
-    EXPECT_NE(view->alertNumber(), first);
-    view->dismissAlert();
-    EXPECT_EQ(view->alert(), "");
+    EXPECT_EQ(view->alert()->words(), "Server returned HTTP status code 500.");
+    const int first = view->alert()->number();
+    view->alert()->dismiss();
+    EXPECT_EQ(view->alert()->words(), "Server returned HTTP status code 502.");
+    EXPECT_NE(view->alert()->number(), first);
+    view->alert()->dismiss();
+    EXPECT_EQ(view->alert()->words(), "");
 }
 
 TEST_F(ListOfComponents, WhoseFailureHasNoWordsHasThemFromTheScreen)
 {
     view->viewModel->showErrorAlert = true;
     EXPECT_EQ(view->placeholder().text, "Could not load components.");
-    EXPECT_EQ(view->alert(), "An unknown error occurred.");
+    EXPECT_EQ(view->alert()->words(), "An unknown error occurred.");
 }
 
 TEST_F(ListOfComponents, IsBlankedByARefreshThatFails)
@@ -197,8 +197,8 @@ protected:
 
 TEST_F(OpenedComponent, StandsInFrontOfTheListWithItsGroups)
 {
-    ASSERT_TRUE(view->presentedComponent->has_value());
-    EXPECT_EQ((*view->presentedComponent)->id, "1");
+    ASSERT_TRUE(view->presentedComponent.isOpen());
+    EXPECT_EQ(view->presentedComponent.screen()->id(), "1");
     EXPECT_EQ(view->detail()->component->name, "Component 1");
     EXPECT_EQ(view->detail()->pageId, "p");
     EXPECT_EQ(view->detail()->groups->size(), 2u);
@@ -209,7 +209,7 @@ TEST_F(OpenedComponent, IsNoneIfItsRowHasGone)
     view->closeComponent();
     view->openComponent("9");
     view->openComponent("group:a");
-    EXPECT_FALSE(view->presentedComponent->has_value());
+    EXPECT_FALSE(view->presentedComponent.isOpen());
     EXPECT_EQ(view->detail(), nullptr);
 }
 
@@ -218,7 +218,7 @@ TEST_F(OpenedComponent, ThatIsMovedToAnotherGroupChangesSectionAtOnceWithoutAFet
     save();
     answer(R"({"id": "1", "name": "New")" + inGroup("b") + "}");
     EXPECT_EQ(shown(), (Words{"[Group a]", "[Group b]", "New", "[Ungrouped]", "Component 2"}));
-    EXPECT_EQ((*view->presentedComponent)->name, "New");
+    EXPECT_EQ(view->detail()->component->name, "New");
     EXPECT_EQ(sent(), Words{"PUT /user/api/components/1"});
 }
 
@@ -229,7 +229,7 @@ TEST_F(OpenedComponent, ThatTheListHasNoMoreIsChangedInFrontAndNotInTheList)
     view->refresh();
     run();
     answer(R"({"id": "1", "name": "New"})");
-    EXPECT_EQ((*view->presentedComponent)->name, "New");
+    EXPECT_EQ(view->detail()->component->name, "New");
     EXPECT_EQ(shown(), (Words{"[Group a]", "[Group b]", "[Ungrouped]", "Component 2"}));
 }
 
@@ -252,7 +252,7 @@ TEST_F(OpenedComponent, ThatIsDeletedClosesAndTakesEveryRowOfItsIdAlongWithoutAF
     transport.script(std::string(recordURL) + "1", 204, "");
     view->detail()->deleteRecord();
     run();
-    EXPECT_FALSE(view->presentedComponent->has_value());
+    EXPECT_FALSE(view->presentedComponent.isOpen());
     EXPECT_EQ(view->detail(), nullptr);
     EXPECT_EQ(shown(), (Words{"[Group a]", "[Group b]", "[Ungrouped]", "Component 2"}));
     EXPECT_EQ(sent(), Words{"DELETE /user/api/components/1"});
@@ -261,7 +261,7 @@ TEST_F(OpenedComponent, ThatIsDeletedClosesAndTakesEveryRowOfItsIdAlongWithoutAF
 TEST_F(OpenedComponent, ThatIsClosedLeavesTheListAsItIsWithoutAFetch)
 {
     view->detail()->close();
-    EXPECT_FALSE(view->presentedComponent->has_value());
+    EXPECT_FALSE(view->presentedComponent.isOpen());
     EXPECT_EQ(view->detail(), nullptr);
     run();
     EXPECT_EQ(shown(), wholeList);
@@ -273,7 +273,7 @@ TEST_F(OpenedComponent, ThatIsTakenAwayInMidRequestDoesNotComeBackButItsRowIsPat
     save();
     view->closeComponent();
     answer(R"({"id": "1", "name": "New")" + inGroup("a") + "}");
-    EXPECT_FALSE(view->presentedComponent->has_value());
+    EXPECT_FALSE(view->presentedComponent.isOpen());
     EXPECT_EQ(shown().at(1), "New");
 }
 
@@ -285,8 +285,8 @@ TEST_F(OpenedComponent, ThatEndsItsDeletionBehindAnotherLeavesThatOneAlone)
     open("2");
     transport.answer(HttpResponse{204, ""});
     run();
-    ASSERT_TRUE(view->presentedComponent->has_value());
-    EXPECT_EQ((*view->presentedComponent)->id, "2");
+    ASSERT_TRUE(view->presentedComponent.isOpen());
+    EXPECT_EQ(view->presentedComponent.screen()->id(), "2");
     EXPECT_EQ(shown(), (Words{"[Group a]", "[Group b]", "[Ungrouped]", "Component 2"}));
 }
 
@@ -300,7 +300,7 @@ TEST_F(OpenedComponent, WhoseEditHasAnAnswerThatSaysNothingKeepsTheTextAndLoadsT
         EXPECT_TRUE(*view->detail()->isEditing) << body;
         EXPECT_EQ(*view->detail()->editedName, "New");
         EXPECT_EQ(view->detail()->component->id, "1");
-        EXPECT_NE(*view->detail()->action->alert, "");
+        EXPECT_NE(view->detail()->action->alert.words(), "");
         EXPECT_EQ(shown(), (Words{"[Group a]", "[Group b]", "[Ungrouped]", "New", "Component 2"})) << body;
         EXPECT_EQ(transport.requests.size(), 3u) << "the order, and the list with its groups once";
         view->detail()->close();
@@ -325,10 +325,10 @@ TEST_F(ListOfComponents, OfTwoWithOneIdEachRowOpensItsOwn)
     appear();
     ASSERT_EQ(shown(), (Words{"[Group a]", "Component 1", "[Group b]", "[Ungrouped]", "Component 1"}));
     open(view->rows().at(1).id);
-    EXPECT_EQ((*view->presentedComponent)->groupId, "a");
+    EXPECT_EQ(view->detail()->component->groupId, "a");
     view->closeComponent();
     open(view->rows().at(4).id);
-    EXPECT_EQ((*view->presentedComponent)->groupId, std::nullopt);
+    EXPECT_EQ(view->detail()->component->groupId, std::nullopt);
 }
 
 TEST_F(ListOfComponents, ADescriptionBeyondAllBoundsIsShownInPart)

@@ -87,10 +87,10 @@ TEST_F(FormOfAnIncident, WhoseMonitorsCannotBeFetchedSaysSoAndCanBeSavedWithout)
     transport.script(apiMonitorsURL, 500, "");
     titled("Down");
     choose("back", "api");
-    EXPECT_EQ(
-        *form->action->alert, "Could not load monitors for this component: Server returned HTTP status code 500.");
+    EXPECT_EQ(form->action->alert.words(),
+        "Could not load monitors for this component: Server returned HTTP status code 500.");
     EXPECT_TRUE(form->isSaveEnabled());
-    form->action->dismissAlert();
+    form->action->alert.dismiss();
     EXPECT_EQ(saved(), R"({"title":"Down","status_page_id":"p","component_id":"api","notify_subscribers":true})");
 }
 
@@ -98,7 +98,7 @@ TEST_F(FormOfAnIncident, WithoutComponentsSaysNothingAndDoesForTheEntirePage)
 {
     transport.script(componentsURL, 500, "");
     titled("Down");
-    EXPECT_EQ(*form->action->alert, "");
+    EXPECT_EQ(form->action->alert.words(), "");
     EXPECT_EQ(form->selection->groupChoices().size(), 1u);
     EXPECT_TRUE(form->isSaveEnabled());
 }
@@ -152,14 +152,14 @@ TEST_P(RefusedIncident, IsAnAlertOverAFormThatKeepsAllThatWasTypedAndChosen)
     transport.script(incidentsURL, GetParam().answer);
     form->save();
     run();
-    EXPECT_EQ(*form->action->alert, GetParam().alert);
+    EXPECT_EQ(form->action->alert.words(), GetParam().alert);
     EXPECT_FALSE(*form->action->isInProgress);
     EXPECT_EQ(transport.requests.size(), 1u) << "nothing is tried again";
     EXPECT_EQ(effects, Words{});
     EXPECT_EQ(saved(),
         R"({"title":"Down","message":"We look","status_page_id":"p","component_id":"api","monitor_id":"m2",)"
         R"("notify_subscribers":false})");
-    EXPECT_EQ(*form->action->alert, "");
+    EXPECT_EQ(form->action->alert.words(), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(EachAnswer, RefusedIncident, testing::ValuesIn(fakes::refusals()));
@@ -179,7 +179,7 @@ TEST_F(FormOfAnIncident, TellsItsObserversOfItsTextItsSelectionAndItsRequests)
     EXPECT_EQ(changes, 1);
     form->selection->isLoadingMonitors = true;
     EXPECT_EQ(changes, 2);
-    form->action->dismissAlert();
+    form->action->alert.dismiss();
     EXPECT_EQ(changes, 3);
 }
 

@@ -23,7 +23,7 @@ TEST_F(DetailOfAnIncident, AcknowledgesThenFetchesTheRecordAndHandsItOver)
     EXPECT_EQ(effects, Words{"update while busy"});
     EXPECT_TRUE(view->incident->acknowledged);
     EXPECT_FALSE(*view->action->isInProgress);
-    EXPECT_EQ(*view->action->alert, "");
+    EXPECT_EQ(view->action->alert.words(), "");
 }
 
 TEST_F(DetailOfAnIncident, EscalatesThenFetchesTheRecordAndHandsItOver)
@@ -53,7 +53,7 @@ TEST_F(DetailOfAnIncident, OfAnAccountWithoutAResolvedStateSaysSo)
     transport.script(statesURL, 200, R"({"incident_states": []})");
     opened()->press("resolve");
     run();
-    EXPECT_EQ(*view->action->alert, "This account has no \"Resolved\" incident state configured.");
+    EXPECT_EQ(view->action->alert.words(), "This account has no \"Resolved\" incident state configured.");
     EXPECT_EQ(effects, Words{});
 }
 
@@ -105,13 +105,13 @@ TEST_P(RefusedAction, IsAnAlertThatChangesNothingAndLeavesTheScreenOpen)
     }
     opened();
     performed(action);
-    EXPECT_EQ(*view->action->alert, refusal.alert);
+    EXPECT_EQ(view->action->alert.words(), refusal.alert);
     EXPECT_EQ(transport.requests.size(), 1u) << "nothing is tried again";
     EXPECT_EQ(effects, Words{});
     EXPECT_FALSE(*view->action->isInProgress);
     EXPECT_EQ(enabledButtons().size(), 4u);
-    view->action->dismissAlert();
-    EXPECT_EQ(*view->action->alert, "");
+    view->action->alert.dismiss();
+    EXPECT_EQ(view->action->alert.words(), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(EachActionAndAnswer, RefusedAction,
@@ -128,7 +128,7 @@ TEST_F(DetailOfAnIncident, WhoseRecordCannotBeFetchedAfterAnActionReportsThatAlt
         opened();
         performed(action);
         EXPECT_EQ(transport.requests.size(), 2u);
-        EXPECT_EQ(*view->action->alert, "Server returned HTTP status code 500.");
+        EXPECT_EQ(view->action->alert.words(), "Server returned HTTP status code 500.");
         EXPECT_EQ(effects, Words{});
     }
 }
@@ -140,7 +140,7 @@ TEST_F(DetailOfAnIncident, BeginsAnActionWithoutTheAlertOfTheOneBefore)
     performed(Action::escalate);
     transport.forget(actionURL + "escalate");
     performed(Action::escalate);
-    EXPECT_EQ(*view->action->alert, "");
+    EXPECT_EQ(view->action->alert.words(), "");
     EXPECT_TRUE(*view->action->isInProgress);
 }
 

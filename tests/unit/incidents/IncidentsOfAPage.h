@@ -35,7 +35,7 @@ protected:
     }
 
     void openForm() { view->openCreateIncident(); }
-    bool isFormUp() const { return *view->showCreateIncident; }
+    bool isFormUp() const { return view->showCreateIncident.isOpen(); }
 };
 
 }  // namespace larkspan::incidents

@@ -57,8 +57,8 @@ protected:
 
 TEST_F(OpenedIncident, StandsInFrontOfTheList)
 {
-    ASSERT_TRUE(view->presentedIncident->has_value());
-    EXPECT_EQ((*view->presentedIncident)->id, "1");
+    ASSERT_TRUE(view->presentedIncident.isOpen());
+    EXPECT_EQ(view->presentedIncident.screen()->id(), "1");
     EXPECT_EQ(view->detail()->title(), "Incident 1");
 }
 
@@ -66,7 +66,7 @@ TEST_F(OpenedIncident, IsNoneIfItsRowHasGone)
 {
     view->closeIncident();
     view->openIncident("9");
-    EXPECT_FALSE(view->presentedIncident->has_value());
+    EXPECT_FALSE(view->presentedIncident.isOpen());
     EXPECT_EQ(view->detail(), nullptr);
 }
 
@@ -76,7 +76,7 @@ TEST_F(OpenedIncident, ThatIsChangedShowsTheNewRecordAndLeavesItsRow)
     transport.script(recordURL + "1", 200, record("1", R"(, "acknowledged_at": "x")"));
     view->detail()->press("acknowledge");
     run();
-    EXPECT_TRUE((*view->presentedIncident)->acknowledged);
+    EXPECT_TRUE(view->detail()->incident->acknowledged);
     EXPECT_TRUE(view->detail()->incident->acknowledged);
     EXPECT_EQ(view->rows().at(0).status.text, "Active");
     EXPECT_EQ(transport.requests.size(), 2u) << "the list is not fetched for it";
@@ -86,7 +86,7 @@ TEST_F(OpenedIncident, ThatIsClosedBringsTheListUpToDate)
 {
     serve({record("1", R"(, "acknowledged_at": "x")")});
     view->detail()->close();
-    EXPECT_FALSE(view->presentedIncident->has_value());
+    EXPECT_FALSE(view->presentedIncident.isOpen());
     EXPECT_EQ(view->detail(), nullptr);
     run();
     EXPECT_EQ(view->rows().at(0).status.text, "Acknowledged");
@@ -101,7 +101,7 @@ TEST_F(OpenedIncident, ThatIsDeletedClosesAndIsGoneAfterTheLoad)
     transport.script(recordURL + "1", 200, "");
     view->detail()->deleteRecord();
     run();
-    EXPECT_FALSE(view->presentedIncident->has_value());
+    EXPECT_FALSE(view->presentedIncident.isOpen());
     EXPECT_EQ(ids(), Words{"2"});
 }
 
@@ -115,7 +115,7 @@ TEST_F(OpenedIncident, ThatIsClosedInMidRequestDoesNotComeBackButItsRowIsBrought
     serve({record("1", R"(, "severity_name": "major")")});
     transport.answer(HttpResponse{200, record("1")});
     run();
-    EXPECT_FALSE(view->presentedIncident->has_value());
+    EXPECT_FALSE(view->presentedIncident.isOpen());
     EXPECT_EQ(view->detail(), nullptr);
     EXPECT_EQ(view->rows().at(0).severity, (Pill{"Major", Tone::orange}));
 }
@@ -142,8 +142,8 @@ TEST_F(OpenedIncident, ThatEndsItsRequestBehindAnotherLeavesThatOneAlone)
     open("2");
     transport.answer(HttpResponse{200, ""});
     run();
-    ASSERT_TRUE(view->presentedIncident->has_value());
-    EXPECT_EQ((*view->presentedIncident)->id, "2");
+    ASSERT_TRUE(view->presentedIncident.isOpen());
+    EXPECT_EQ(view->presentedIncident.screen()->id(), "2");
     EXPECT_EQ(view->detail()->title(), "Incident 2");
 }
 
@@ -172,9 +172,9 @@ TEST_F(OpenedIncident, WhoseUpdateHasAnAnswerThatSaysNothingKeepsTheTextAndShows
         run();
         EXPECT_TRUE(*view->detail()->isEditing) << body;
         EXPECT_EQ(*view->detail()->editMessage, "We look");
-        EXPECT_NE(*view->detail()->action->alert, "");
+        EXPECT_NE(view->detail()->action->alert.words(), "");
         EXPECT_EQ(view->detail()->description(), "We look");
-        EXPECT_EQ((*view->presentedIncident)->id, "1");
+        EXPECT_EQ(view->presentedIncident.screen()->id(), "1");
         EXPECT_EQ(transport.requests.size(), 2u) << "the order, and the list once";
         view->detail()->close();
     }
@@ -187,7 +187,7 @@ TEST_F(OpenedIncident, WhoseAcknowledgementIsAnsweredWithAnotherRecordIsNotRepla
     view->detail()->press("acknowledge");
     run();
     EXPECT_EQ(view->detail()->incident->id, "1");
-    EXPECT_EQ(*view->detail()->action->alert, "Received an invalid response from the server.");
+    EXPECT_EQ(view->detail()->action->alert.words(), "Received an invalid response from the server.");
 }
 
 TEST_F(OpenedIncident, WhoseOrderGotLostAndWhichIsGoneFromTheListStaysForItsText)

@@ -122,8 +122,8 @@ TEST_F(FormOfAMaintenance, WhoseMonitorsCannotBeFetchedSaysSo)
     transport.script(apiMonitorsURL, 500, "");
     titled();
     choose("back", "api");
-    EXPECT_EQ(
-        *form->action->alert, "Could not load monitors for this component: Server returned HTTP status code 500.");
+    EXPECT_EQ(form->action->alert.words(),
+        "Could not load monitors for this component: Server returned HTTP status code 500.");
     EXPECT_TRUE(form->isSaveEnabled());
 }
 
@@ -131,9 +131,9 @@ TEST_F(FormOfAMaintenance, WhoseComponentsCannotBeFetchedSaysSoAndStillWorksForT
 {
     transport.script(componentsURL, 500, "");
     titled();
-    EXPECT_EQ(*form->action->alert, "Could not load components: Server returned HTTP status code 500.");
+    EXPECT_EQ(form->action->alert.words(), "Could not load components: Server returned HTTP status code 500.");
     EXPECT_EQ(form->selection->groupChoices().size(), 1u);
-    form->action->dismissAlert();
+    form->action->alert.dismiss();
     EXPECT_TRUE(form->isSaveEnabled());
     EXPECT_NE(saved(), "nothing");
 }
@@ -142,7 +142,7 @@ TEST_F(FormOfAMaintenance, WhoseGroupsCannotBeFetchedSaysNothing)
 {
     transport.script(groupsURL, 500, "");
     titled();
-    EXPECT_EQ(*form->action->alert, "");
+    EXPECT_EQ(form->action->alert.words(), "");
     EXPECT_EQ(form->selection->groupChoices().size(), 1u);
     EXPECT_TRUE(form->isSaveEnabled());
 }
@@ -158,13 +158,13 @@ TEST_P(RefusedMaintenance, IsAnAlertOverAFormThatKeepsAllThatWasTypedAndChosen)
     transport.script(maintenancesURL, GetParam().answer);
     form->save();
     run();
-    EXPECT_EQ(*form->action->alert, GetParam().alert);
+    EXPECT_EQ(form->action->alert.words(), GetParam().alert);
     EXPECT_EQ(transport.requests.size(), 1u) << "nothing is tried again";
     EXPECT_EQ(effects, Words{});
     EXPECT_EQ(saved(),
         R"({"title":"Upgrade","message":"We upgrade","status_page_id":"p","start_at":"2026-11-20T09:00:00Z",)"
         R"("end_at":"2026-11-21T10:00:00Z","affected_components":"api","affected_monitor_ids":"m2"})");
-    EXPECT_EQ(*form->action->alert, "");
+    EXPECT_EQ(form->action->alert.words(), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(EachAnswer, RefusedMaintenance, testing::ValuesIn(fakes::refusals()));
@@ -202,7 +202,7 @@ TEST_F(FormOfAMaintenance, TellsItsObserversOfItsDatesToo)
     EXPECT_EQ(changes, 2);
     form->scheduledUntil->browseMonths(1);
     EXPECT_EQ(changes, 3);
-    form->action->dismissAlert();
+    form->action->alert.dismiss();
     form->selection->isLoadingMonitors = true;
     EXPECT_EQ(changes, 5);
 }

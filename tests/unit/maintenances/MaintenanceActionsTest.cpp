@@ -21,7 +21,7 @@ TEST_F(DetailOfAMaintenance, StartsWithNothingButTheCurrentMoment)
     EXPECT_EQ(view->status().text, "In Progress");
     EXPECT_EQ(effects, Words{"update in_progress while busy"});
     EXPECT_FALSE(*view->action->isInProgress);
-    EXPECT_EQ(*view->action->alert, "");
+    EXPECT_EQ(view->action->alert.words(), "");
 }
 
 TEST_F(DetailOfAMaintenance, CompletesWithNothingButTheCurrentMoment)
@@ -43,7 +43,7 @@ TEST_F(DetailOfAMaintenance, WhoseServiceAnswersAStartWithOneStillAheadKeepsStar
     EXPECT_EQ(view->status().text, "Scheduled");
     EXPECT_EQ(enabledButtons().front(), "Start Maintenance");
     EXPECT_EQ(effects, Words{"update scheduled while busy"});
-    EXPECT_EQ(*view->action->alert, "");
+    EXPECT_EQ(view->action->alert.words(), "");
 }
 
 TEST_F(DetailOfAMaintenance, AsksBeforeItDeletesAndCancelDoesNothing)
@@ -96,13 +96,13 @@ TEST_P(RefusedMaintenanceAction, IsAnAlertThatLeavesTheStatusAsItWas)
     opened();
     (*view.*action)();
     run();
-    EXPECT_EQ(*view->action->alert, refusal.alert);
+    EXPECT_EQ(view->action->alert.words(), refusal.alert);
     EXPECT_EQ(transport.requests.size(), 1u) << "nothing is tried again";
     EXPECT_EQ(effects, Words{});
     EXPECT_EQ(view->status().text, "Scheduled");
     EXPECT_EQ(enabledButtons(), (Words{"Start Maintenance", "Delete Maintenance"}));
-    view->action->dismissAlert();
-    EXPECT_EQ(*view->action->alert, "");
+    view->action->alert.dismiss();
+    EXPECT_EQ(view->action->alert.words(), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(EachActionAndAnswer, RefusedMaintenanceAction,
@@ -117,7 +117,7 @@ TEST_F(DetailOfAMaintenance, BeginsAnActionWithoutTheAlertOfTheOneBefore)
     press("start");
     transport.forget(recordURL);
     press("start");
-    EXPECT_EQ(*view->action->alert, "");
+    EXPECT_EQ(view->action->alert.words(), "");
     EXPECT_TRUE(*view->action->isInProgress);
 }
 

@@ -120,7 +120,7 @@ TEST_P(RefusedEdits, KeepTheEditorOpenWithItsValuesAndSayWhy)
     editing()->editedTitle = "Mine";
     view->editedScheduledFor->typeHour("11");
     save();
-    EXPECT_EQ(*view->action->alert, GetParam().alert);
+    EXPECT_EQ(view->action->alert.words(), GetParam().alert);
     EXPECT_TRUE(*view->isEditing);
     EXPECT_EQ(*view->editedTitle, "Mine");
     EXPECT_EQ(view->editedScheduledFor->time(), "11:00");
@@ -129,7 +129,7 @@ TEST_P(RefusedEdits, KeepTheEditorOpenWithItsValuesAndSayWhy)
     answer(isScheduled);
     save();
     EXPECT_FALSE(*view->isEditing) << "it can be sent again";
-    EXPECT_EQ(*view->action->alert, "");
+    EXPECT_EQ(view->action->alert.words(), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(EachAnswer, RefusedEdits, testing::ValuesIn(fakes::refusals()));

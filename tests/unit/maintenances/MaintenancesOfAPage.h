@@ -36,7 +36,7 @@ protected:
     }
 
     void openForm() { view->openCreateMaintenance(); }
-    bool isFormUp() const { return *view->showCreateSheet; }
+    bool isFormUp() const { return view->showCreateSheet.isOpen(); }
 };
 
 }  // namespace larkspan::maintenances

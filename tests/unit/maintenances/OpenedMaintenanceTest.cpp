@@ -36,8 +36,8 @@ protected:
 
 TEST_F(OpenedMaintenance, StandsInFrontOfTheList)
 {
-    ASSERT_TRUE(view->presentedMaintenance->has_value());
-    EXPECT_EQ((*view->presentedMaintenance)->id, "1");
+    ASSERT_TRUE(view->presentedMaintenance.isOpen());
+    EXPECT_EQ(view->presentedMaintenance.screen()->id(), "1");
     EXPECT_EQ(view->detail()->title(), "Work 1");
 }
 
@@ -45,7 +45,7 @@ TEST_F(OpenedMaintenance, IsNoneIfItsRowHasGone)
 {
     view->closeMaintenance();
     view->openMaintenance("9");
-    EXPECT_FALSE(view->presentedMaintenance->has_value());
+    EXPECT_FALSE(view->presentedMaintenance.isOpen());
     EXPECT_EQ(view->detail(), nullptr);
 }
 
@@ -56,7 +56,7 @@ TEST_F(OpenedMaintenance, ThatIsEditedShowsItInItsRowWithoutAnyFetch)
     EXPECT_EQ(firstTitle(), "Changed");
     EXPECT_EQ(transport.requests.size(), 1u);
     EXPECT_EQ(ids(), (Words{"1", "2"})) << "in its place";
-    EXPECT_TRUE(view->presentedMaintenance->has_value());
+    EXPECT_TRUE(view->presentedMaintenance.isOpen());
 }
 
 TEST_F(OpenedMaintenance, WhoseRowHasGoneMeanwhileIsPatchedNowhere)
@@ -81,7 +81,7 @@ TEST_F(OpenedMaintenance, ThatIsClosedBringsTheListUpToDate)
 {
     serve({changed});
     view->detail()->close();
-    EXPECT_FALSE(view->presentedMaintenance->has_value());
+    EXPECT_FALSE(view->presentedMaintenance.isOpen());
     EXPECT_EQ(view->detail(), nullptr);
     run();
     EXPECT_EQ(firstTitle(), "Changed");
@@ -108,7 +108,7 @@ TEST_F(OpenedMaintenance, ThatIsDeletedLosesItsRowAtOnceAndCloses)
     view->detail()->deleteRecord();
     run();
     EXPECT_EQ(ids(), Words{"2"});
-    EXPECT_FALSE(view->presentedMaintenance->has_value());
+    EXPECT_FALSE(view->presentedMaintenance.isOpen());
     EXPECT_EQ(view->detail(), nullptr);
     EXPECT_EQ(transport.pending.size(), 1u) << "the list came into sight and is fetched once";
 }
@@ -121,7 +121,7 @@ TEST_F(OpenedMaintenance, ThatIsClosedInMidRequestDoesNotComeBackButItsRowIsPatc
     run();
     transport.answer(HttpResponse{200, changed});
     run();
-    EXPECT_FALSE(view->presentedMaintenance->has_value());
+    EXPECT_FALSE(view->presentedMaintenance.isOpen());
     EXPECT_EQ(firstTitle(), "Changed");
 }
 
@@ -135,7 +135,7 @@ TEST_F(OpenedMaintenance, ThatEndsItsDeletionBehindAnotherLosesItsRowAndLeavesTh
     transport.answer(HttpResponse{204, ""});
     run();
     EXPECT_EQ(ids(), Words{"2"});
-    ASSERT_TRUE(view->presentedMaintenance->has_value());
+    ASSERT_TRUE(view->presentedMaintenance.isOpen());
     EXPECT_EQ(view->detail()->title(), "Work 2");
     EXPECT_EQ(transport.requests.size(), 0u);
 }
@@ -150,7 +150,7 @@ TEST_F(OpenedMaintenance, WhoseEditHasAnAnswerThatSaysNothingKeepsTheTextAndLoad
         EXPECT_TRUE(*view->detail()->isEditing) << body;
         EXPECT_EQ(*view->detail()->editedTitle, "Changed");
         EXPECT_EQ(view->detail()->currentMaintenance->id, "1");
-        EXPECT_NE(*view->detail()->action->alert, "");
+        EXPECT_NE(view->detail()->action->alert.words(), "");
         EXPECT_EQ(firstTitle(), "Changed");
         EXPECT_EQ(transport.requests.size(), 2u) << "the order, and the list once";
         view->detail()->close();

@@ -84,7 +84,7 @@ TEST_F(ActionInTheList, AfterASuccessfulPauseWhoseRefetchFailsTheRowStillSaysItI
     run();
     EXPECT_EQ(labelOf("1"), "Pause");
     EXPECT_EQ(view->rows().front().status, "Operational");
-    EXPECT_EQ(view->alert(), "") << "a failed refetch is told to nobody";
+    EXPECT_EQ(view->alert()->words(), "") << "a failed refetch is told to nobody";
     EXPECT_FALSE(*view->viewModel->error);
 }
 
@@ -169,15 +169,15 @@ TEST_F(ActionInTheList, RefusedWhileTheAlertOfAnotherIsUpIsToldAfterThat)
     run();
     transport.answer(HttpResponse{409, ""});
     run();
-    const int first = view->alertNumber();
+    const int first = view->alert()->number();
     transport.answer(HttpResponse{409, ""});
     run();
-    EXPECT_EQ(view->alertNumber(), first);
-    view->dismissAlert();
-    EXPECT_EQ(view->alert(), "Server returned HTTP status code 409.");
-    EXPECT_NE(view->alertNumber(), first);
-    view->dismissAlert();
-    EXPECT_EQ(view->alert(), "");
+    EXPECT_EQ(view->alert()->number(), first);
+    view->alert()->dismiss();
+    EXPECT_EQ(view->alert()->words(), "Server returned HTTP status code 409.");
+    EXPECT_NE(view->alert()->number(), first);
+    view->alert()->dismiss();
+    EXPECT_EQ(view->alert()->words(), "");
 }
 
 class RefusedInTheList : public ActionInTheList,
@@ -192,11 +192,11 @@ TEST_P(RefusedInTheList, IsAnAlertThatLeavesTheRowAsItWasAndTakesTheBusyMark)
     const auto before = view->rows();
     view->press(monitor, order == "run" ? "checkNow" : "pauseResume");
     run();
-    EXPECT_EQ(view->alert(), refusal.alert);
+    EXPECT_EQ(view->alert()->words(), refusal.alert);
     EXPECT_EQ(sent(), Words{"POST /user/api/monitors/" + monitor + "/" + order}) << "no refresh follows";
     EXPECT_EQ(view->rows(), before);
-    view->dismissAlert();
-    EXPECT_EQ(view->alert(), "");
+    view->alert()->dismiss();
+    EXPECT_EQ(view->alert()->words(), "");
     EXPECT_EQ(**view->viewModel->errorMessage, refusal.alert) << "the text stays for whoever asks";
 }
 

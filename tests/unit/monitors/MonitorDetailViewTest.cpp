@@ -47,9 +47,11 @@ protected:
         MonitorDetailView::Owner owner{
             .onUpdate = [this](const Monitor& refreshed) { note("update of " + refreshed.name); }};
         view = std::make_shared<MonitorDetailView>(
-            MonitorDetailView::Ports{main, api, locale, links}, monitor, std::move(owner));
+            MonitorDetailView::Ports{main, actions, locale, links}, monitor, std::move(owner));
         return view;
     }
+
+    const std::shared_ptr<MonitorActions> actions = std::make_shared<MonitorActions>(api);
 };
 
 TEST_F(DetailOfAMonitor, ShowsWhatTheRecordSays)
@@ -183,11 +185,11 @@ TEST_F(DetailOfAMonitor, IfThePauseSucceedsAndTheRefetchFailsTheAlertAppearsAndT
     transport.script(listURL, 500, "");
     opened();
     press("pauseResume");
-    EXPECT_EQ(*view->action->alert, "Server returned HTTP status code 500.");
+    EXPECT_EQ(view->action->alert.words(), "Server returned HTTP status code 500.");
     EXPECT_EQ(*view->currentMonitor, gateway());
     EXPECT_EQ(effects, Words{});
-    view->action->dismissAlert();
-    EXPECT_EQ(*view->action->alert, "");
+    view->action->alert.dismiss();
+    EXPECT_EQ(view->action->alert.words(), "");
 }
 
 TEST_F(DetailOfAMonitor, ThatNoLongerComesBackFromTheServiceStaysOnScreenUnchangedWithNoAlert)
@@ -197,7 +199,7 @@ TEST_F(DetailOfAMonitor, ThatNoLongerComesBackFromTheServiceStaysOnScreenUnchang
     opened();
     press("pauseResume");
     EXPECT_EQ(*view->currentMonitor, gateway());
-    EXPECT_EQ(*view->action->alert, "");
+    EXPECT_EQ(view->action->alert.words(), "");
     EXPECT_EQ(effects, Words{});
     EXPECT_FALSE(*view->action->isInProgress);
 }
@@ -233,7 +235,7 @@ TEST_P(RefusedInTheDetail, IsAnAlertAndNothingIsFetched)
     for (const auto* action : {"pause", "run"}) transport.script(actionURL + action, refusal.answer);
     opened();
     press(button);
-    EXPECT_EQ(*view->action->alert, refusal.alert);
+    EXPECT_EQ(view->action->alert.words(), refusal.alert);
     EXPECT_EQ(transport.requests.size(), 1u);
     EXPECT_EQ(effects, Words{});
     EXPECT_FALSE(*view->action->isInProgress);

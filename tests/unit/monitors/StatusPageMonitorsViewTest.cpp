@@ -38,7 +38,7 @@ TEST_F(MonitorsOfAPage, RaiseNoAlertWhenAReloadFails)
     transport.script(listURL, 500, "");
     view->refresh();
     run();
-    EXPECT_EQ(view->alert(), "");
+    EXPECT_EQ(view->alert()->words(), "");
 }
 
 TEST_F(MonitorsOfAPage, AreLoadedAnewBehindOneOfWhichNobodyKnowsWhetherItWasPaused)
@@ -52,7 +52,7 @@ TEST_F(MonitorsOfAPage, AreLoadedAnewBehindOneOfWhichNobodyKnowsWhetherItWasPaus
     transport.answer(platform::URLError::Code::timedOut);
     run();
     EXPECT_EQ(view->rows().front().status, "Paused");
-    EXPECT_EQ(*view->detail()->action->alert, "The request timed out.");
+    EXPECT_EQ(view->detail()->action->alert.words(), "The request timed out.");
     EXPECT_EQ(transport.requests.size(), 2u) << "the order, and the list once";
 }
 
@@ -117,7 +117,7 @@ TEST_F(MonitorsOfAPage, AMetricsFailureTouchesNoOtherRowAndRaisesNoAlert)
     view->toggleMetrics("1");
     run();
     EXPECT_EQ(view->rows().back(), other);
-    EXPECT_EQ(view->alert(), "");
+    EXPECT_EQ(view->alert()->words(), "");
 }
 
 TEST_F(MonitorsOfAPage, OpenNothingForARowThatHasGone)
@@ -127,7 +127,7 @@ TEST_F(MonitorsOfAPage, OpenNothingForARowThatHasGone)
     view->openMonitor("9");
     view->toggleMetrics("9");
     view->press("9", "checkNow");
-    EXPECT_FALSE(view->presentedMonitor->has_value());
+    EXPECT_FALSE(view->presentedMonitor.isOpen());
     EXPECT_TRUE(view->rowViews().empty());
     EXPECT_TRUE(view->viewModel->performingActions->empty());
 }
@@ -138,12 +138,12 @@ TEST_F(MonitorsOfAPage, OpenTheMonitorOfARowAndGoingBackClearsItWithoutALoad)
     appear();
     transport.requests.clear();
     view->openMonitor("2");
-    ASSERT_TRUE(view->presentedMonitor->has_value());
-    EXPECT_EQ((*view->presentedMonitor)->id, "2");
+    ASSERT_TRUE(view->presentedMonitor.isOpen());
+    EXPECT_EQ(view->presentedMonitor.screen()->id(), "2");
     ASSERT_TRUE(view->detail());
     view->closeMonitor();
     run();
-    EXPECT_FALSE(view->presentedMonitor->has_value());
+    EXPECT_FALSE(view->presentedMonitor.isOpen());
     EXPECT_FALSE(view->detail());
     EXPECT_EQ(sent(), Words{});
 }
@@ -159,7 +159,54 @@ TEST_F(MonitorsOfAPage, PatchTheRowOfTheMonitorThatItsDetailRefreshed)
     run();
     EXPECT_EQ(ids(), (Words{"1", "2"}));
     EXPECT_EQ(view->rows().back().status, "Paused");
-    EXPECT_FALSE((*view->presentedMonitor)->isPaused) << "it is the record as it was when it was opened";
+}
+
+TEST_F(MonitorsOfAPage, ARowIsBusyAlsoWhileItsMonitorIsPausedFromItsOwnScreen)
+{
+    serve({record("1"), record("2")});
+    transport.script(actionURL("2", "pause"), 200, "");
+    appear();
+    view->openMonitor("2");
+    view->detail()->press("pauseResume");
+    view->closeMonitor();
+    EXPECT_FALSE(view->rows().back().buttons.front().isEnabled);
+    EXPECT_TRUE(view->rows().front().buttons.front().isEnabled);
+    view->press("2", "pauseResume");
+    run();
+    EXPECT_EQ(
+        sent(), (Words{"GET /user/api/v1/monitors", "POST /user/api/monitors/2/pause", "GET /user/api/v1/monitors"}));
+    EXPECT_TRUE(view->rows().back().buttons.front().isEnabled);
+}
+
+TEST_F(MonitorsOfAPage, OneThatIsOpenedWhileItIsPausedFromItsRowIsBusyUntilThenAndThenSaysSo)
+{
+    serve({record("1"), record("2")});
+    transport.script(actionURL("2", "pause"), 200, "");
+    appear();
+    view->press("2", "pauseResume");
+    view->openMonitor("2");
+    int notices = 0;
+    const auto subscriptions = view->detail()->observe([&notices] { ++notices; });
+    EXPECT_TRUE(view->detail()->isBusy());
+    view->detail()->press("pauseResume");
+    view->detail()->perform(MonitorDetailView::DetailAction::checkNow);
+    serve({record("1"), record("2", R"("status_page_id": "p", "enabled": false)")});
+    run();
+    EXPECT_EQ(
+        sent(), (Words{"GET /user/api/v1/monitors", "POST /user/api/monitors/2/pause", "GET /user/api/v1/monitors"}));
+    EXPECT_FALSE(view->detail()->isBusy());
+    EXPECT_GT(notices, 0);
+    EXPECT_EQ(view->detail()->buttons().front().label, "Resume Monitor");
+}
+
+TEST_F(MonitorsOfAPage, OneThatIsOpenedWhileAnotherIsPausedIsNotBusy)
+{
+    serve({record("1"), record("2")});
+    appear();
+    view->press("1", "pauseResume");
+    view->openMonitor("2");
+    EXPECT_FALSE(view->detail()->isBusy());
+    EXPECT_TRUE(view->detail()->buttons().front().isEnabled);
 }
 
 TEST_F(MonitorsOfAPage, PatchNothingWhereTheMonitorHasLeftTheListMeanwhile)
@@ -219,7 +266,7 @@ TEST_F(MonitorsOfAPage, OfTwoWithOneIdEachRowOpensItsOwn)
     appear();
     const auto second = view->rows().back().id;
     view->openMonitor(second);
-    EXPECT_EQ((*view->presentedMonitor)->status, model::MonitorStatus::down);
+    EXPECT_EQ(view->detail()->currentMonitor->status, model::MonitorStatus::down);
     view->closeMonitor();
 
     view->toggleMetrics(second);

@@ -53,7 +53,7 @@ TEST_F(PageOfTheDashboard, AskedForFromTheMenuIsForgottenWhereTheUserGoesOnTypin
     form->requestClose();
     form->discardChanges();
     EXPECT_EQ(opened()->page->id, "a") << "that question was about the form alone";
-    EXPECT_FALSE(*(*dashboard->openedPage)->incidents()->showCreateIncident);
+    EXPECT_FALSE((*dashboard->openedPage)->incidents()->showCreateIncident.isOpen());
 }
 
 TEST_F(PageOfTheDashboard, AskedForFromTheMenuComesByItselfWhenTheServiceHasTakenTheTextMeanwhile)
@@ -110,7 +110,7 @@ TEST_F(PageOfTheDashboard, AskedForFromTheMenuWhileAnotherIsOpenIsAViewOfItsOwnW
     state->openStatusPage("b");
     ASSERT_NE(opened(), nullptr);
     EXPECT_EQ(opened()->page->id, "b");
-    EXPECT_EQ(*opened()->selectedTab, Tab::overview);
+    EXPECT_EQ(opened()->selectedTab(), Tab::overview);
 }
 
 TEST_F(PageOfTheDashboard, AskedForAgainWhileItIsOpenStaysAsItIs)
@@ -120,7 +120,7 @@ TEST_F(PageOfTheDashboard, AskedForAgainWhileItIsOpenStaysAsItIs)
     const auto* const before = opened();
     state->openStatusPage("a");
     EXPECT_EQ(opened(), before);
-    EXPECT_EQ(*opened()->selectedTab, Tab::incidents);
+    EXPECT_EQ(opened()->selectedTab(), Tab::incidents);
 }
 
 TEST_F(PageOfTheDashboard, ThatTheAccountDoesNotHaveOpensNothingAndClosesTheOneThatWasOpen)
@@ -148,7 +148,7 @@ TEST_F(PageOfTheDashboard, IsHandedTheNewRecordWithEachCycleAndKeepsItsTab)
     refresh();
     EXPECT_EQ(opened(), before);
     EXPECT_EQ(opened()->page->status, model::StatusPageStatus::down);
-    EXPECT_EQ(*opened()->selectedTab, Tab::incidents);
+    EXPECT_EQ(opened()->selectedTab(), Tab::incidents);
 }
 
 TEST_F(PageOfTheDashboard, ThatIsGoneFromTheAccountCloses)
@@ -177,7 +177,7 @@ TEST_F(PageOfTheDashboard, InWhichTextIsTypedStaysWhereACycleLacksItAndCanStillB
     form->save();
     run();
     EXPECT_EQ(sent(), std::vector<std::string>{"POST /user/api/v1/incidents"});
-    EXPECT_FALSE(*(*dashboard->openedPage)->incidents()->showCreateIncident);
+    EXPECT_FALSE((*dashboard->openedPage)->incidents()->showCreateIncident.isOpen());
     EXPECT_NE(opened(), nullptr);
 }
 
@@ -219,7 +219,7 @@ TEST_F(PageOfTheDashboard, InWhichAnOrderRunsStaysUntilThatHasEnded)
     ASSERT_NE(opened(), nullptr);
     transport.answer(platform::HttpResponse{409, ""});
     run();
-    EXPECT_EQ(*list->detail()->action->alert, "Server returned HTTP status code 409.");
+    EXPECT_EQ(list->detail()->action->alert.words(), "Server returned HTTP status code 409.");
     cycleWith({"b"});
     EXPECT_EQ(opened(), nullptr);
 }

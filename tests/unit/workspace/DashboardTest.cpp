@@ -177,7 +177,7 @@ TEST_F(DashboardScreen, OpensTheSettingsSheetOnceWithALookIntoTheStore)
     const auto sheet = dashboard.settings();
     dashboard.openSettings();
     run();
-    EXPECT_TRUE(*dashboard.showingSettings);
+    EXPECT_TRUE(dashboard.showingSettings.isOpen());
     EXPECT_EQ(dashboard.settings(), sheet);
     EXPECT_TRUE(*sheet->hasExistingKey);
     EXPECT_EQ(credentials.promptsAllowed, 1) << "the user wants to see the key, which is worth a prompt";
@@ -190,7 +190,7 @@ TEST_F(DashboardScreen, ClosingTheSettingsSheetStartsACycle)
     run();
     dashboard.closeSettings();
     run();
-    EXPECT_FALSE(*dashboard.showingSettings);
+    EXPECT_FALSE(dashboard.showingSettings.isOpen());
     EXPECT_EQ(dashboard.settings(), nullptr);
     EXPECT_EQ(transport.requests.size(), 1u);
 

@@ -33,7 +33,7 @@ protected:
 
 TEST_F(OpenedPage, StartsWithTheOverview)
 {
-    EXPECT_EQ(*view.selectedTab, Tab::overview);
+    EXPECT_EQ(view.selectedTab(), Tab::overview);
     EXPECT_EQ(view.page->name, "Acme");
 }
 
@@ -48,12 +48,12 @@ TEST_F(OpenedPage, HasFiveTabsInTheirOrder)
 TEST_F(OpenedPage, GoesFromTabToTabAndOverTheEnds)
 {
     view.selectPrevious();
-    EXPECT_EQ(*view.selectedTab, Tab::maintenances);
+    EXPECT_EQ(view.selectedTab(), Tab::maintenances);
     view.selectNext();
     view.selectNext();
-    EXPECT_EQ(*view.selectedTab, Tab::incidents);
+    EXPECT_EQ(view.selectedTab(), Tab::incidents);
     view.selectPrevious();
-    EXPECT_EQ(*view.selectedTab, Tab::overview);
+    EXPECT_EQ(view.selectedTab(), Tab::overview);
 }
 
 TEST_F(OpenedPage, ChoosingTheSelectedTabChangesNothing)

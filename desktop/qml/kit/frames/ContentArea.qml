@@ -3,15 +3,17 @@ import QtQuick.Templates as T
 import Larkspan
 import Larkspan.Bridge
 
-// What a screen shows or, where there is nothing to show, the placeholder.
+// What a screen shows or, where there is nothing to show, the placeholder; over both the alert of what has failed.
 FocusScope {
     id: area
     property bool showsContent: true
     property placeholder placeholder
+    property alert alert
     property alias hasBoldTitle: state.hasBoldTitle
     default property alias content: middle.data
     signal retried
     signal settingsRequested
+    signal alertDismissed
 
     FocusScope {
         id: middle
@@ -46,5 +48,10 @@ FocusScope {
             flickable: instead
         }
         T.ScrollBar.vertical: SlimScrollBar {}
+    }
+
+    AlertLoader {
+        alert: area.alert
+        onDismissed: area.alertDismissed()
     }
 }

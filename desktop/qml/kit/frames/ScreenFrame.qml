@@ -11,7 +11,7 @@ FocusScope {
     property alias placeholder: area.placeholder
     property bool isBusy: false
     property alias busyText: overlay.text
-    property alert alert
+    property alias alert: area.alert
     property alias status: header.status
     property alias isTitleDispensable: header.isTitleDispensable
     property alias canGoBack: header.canGoBack
@@ -42,13 +42,10 @@ FocusScope {
         focus: true
         onRetried: frame.retried()
         onSettingsRequested: frame.settingsRequested()
+        onAlertDismissed: frame.alertDismissed()
     }
     BusyOverlay {
         id: overlay
         visible: frame.isBusy
-    }
-    AlertLoader {
-        alert: frame.alert
-        onDismissed: frame.alertDismissed()
     }
 }

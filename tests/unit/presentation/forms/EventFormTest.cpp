@@ -38,7 +38,7 @@ TYPED_TEST(FormOfAnEvent, CreatedTellsItsOwnerThenClosesThenIsIdle)
     this->saved();
     EXPECT_EQ(this->effects, (Words{"8 while busy", "dismiss while busy"}));
     EXPECT_TRUE(this->form->isIdle());
-    EXPECT_EQ(*this->form->action->alert, "");
+    EXPECT_EQ(this->form->action->alert.words(), "");
 }
 
 TYPED_TEST(FormOfAnEvent, WhileItIsSentCanNeitherBeSavedAgainNorLeft)

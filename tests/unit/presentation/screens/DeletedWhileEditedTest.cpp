@@ -38,7 +38,7 @@ TYPED_TEST(DeletedWhileItIsEdited, BySomebodyElseSavingSaysSoAndKeepsTheText)
     this->transport.script(this->recordURL, 404, "");
     this->save();
     this->run();
-    EXPECT_EQ(*this->detail().action->alert, "Server returned HTTP status code 404.");
+    EXPECT_EQ(this->detail().action->alert.words(), "Server returned HTTP status code 404.");
     EXPECT_TRUE(this->detail().isIdle());
     this->expectTheTextInItsEditor();
 }
@@ -74,7 +74,7 @@ TYPED_TEST(DeletedWhileItIsEdited, ByItsUserAndRefusedItKeepsItsTextAndSaysWhy)
     this->transport.script(this->recordURL, 409, "");
     this->detail().deleteRecord();
     this->run();
-    EXPECT_EQ(*this->detail().action->alert, "Server returned HTTP status code 409.");
+    EXPECT_EQ(this->detail().action->alert.words(), "Server returned HTTP status code 409.");
     EXPECT_TRUE(this->isListed("1"));
     this->expectTheTextInItsEditor();
 }

@@ -53,7 +53,7 @@ TYPED_TEST(DiscardedInMidSave, LeavesOnceAlsoWhereTheSaveIsRefused)
     this->detail().discardChanges();
     this->end({422, ""});
     EXPECT_EQ(left, 1);
-    EXPECT_EQ(*this->detail().action->alert, "Server returned HTTP status code 422.");
+    EXPECT_EQ(this->detail().action->alert.words(), "Server returned HTTP status code 422.");
 }
 
 /// Those that can be left while they are saved.
@@ -86,14 +86,14 @@ TYPED_TEST(LeftInMidSave, ShowsTheRecordAtOnceAndWithTheTextWhenTheServiceHasTak
     this->end({200, this->saved()});
     this->expectTheRecordWithoutItsEditor();
     EXPECT_EQ(this->detail().description(), this->text);
-    EXPECT_EQ(*this->detail().action->alert, "");
+    EXPECT_EQ(this->detail().action->alert.words(), "");
 }
 
 TYPED_TEST(LeftInMidSave, SaysWhyTheSaveWasRefusedAndOpensNoEditorForThat)
 {
     this->end({422, ""});
     this->expectTheRecordWithoutItsEditor();
-    EXPECT_EQ(*this->detail().action->alert, "Server returned HTTP status code 422.");
+    EXPECT_EQ(this->detail().action->alert.words(), "Server returned HTTP status code 422.");
 }
 
 TYPED_TEST(LeftInMidSave, OpensItsEditorAgainOnlyWhenTheSaveHasEnded)

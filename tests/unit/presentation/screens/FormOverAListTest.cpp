@@ -100,7 +100,7 @@ TYPED_TEST(FormOverAList, WhoseAnswerSaysNothingKeepsTheWordsAndShowsTheListAnew
         this->answer(201, body);
         EXPECT_TRUE(this->isFormUp()) << body;
         EXPECT_EQ(*this->view->form()->title, "New");
-        EXPECT_NE(*this->view->form()->action->alert, "");
+        EXPECT_NE(this->view->form()->action->alert.words(), "");
         EXPECT_EQ(this->ids(), (Words{"taken", "1"})) << body;
         EXPECT_EQ(this->transport.requests.size(), 2u) << "the order, and the list once";
     }

@@ -52,7 +52,7 @@ TEST_F(ActionOfAScreen, IsMarkedAtOnceAndUntilItsEnd)
     EXPECT_TRUE(*action->isInProgress);
     answer();
     EXPECT_FALSE(*action->isInProgress);
-    EXPECT_EQ(*action->alert, "");
+    EXPECT_EQ(action->alert.words(), "");
 }
 
 TEST_F(ActionOfAScreen, ThatFailsEndsInAnAlertWithTheErrorsWords)
@@ -60,21 +60,21 @@ TEST_F(ActionOfAScreen, ThatFailsEndsInAnAlertWithTheErrorsWords)
     action->run(failing());
     main.run();
     EXPECT_FALSE(*action->isInProgress);
-    EXPECT_EQ(*action->alert, "Server returned HTTP status code 409.");
-    action->dismissAlert();
-    EXPECT_EQ(*action->alert, "");
+    EXPECT_EQ(action->alert.words(), "Server returned HTTP status code 409.");
+    action->alert.dismiss();
+    EXPECT_EQ(action->alert.words(), "");
 }
 
 TEST_F(ActionOfAScreen, ThatFailsWhileAnAlertIsUpIsToldAfterThat)
 {
     action->run(failing());
-    action->raiseAlert("Could not load components.");
+    action->alert.raise("Could not load components.");
     main.run();
-    EXPECT_EQ(*action->alert, "Could not load components.");
-    const int first = action->alertNumber();
-    action->dismissAlert();
-    EXPECT_EQ(*action->alert, "Server returned HTTP status code 409.");
-    EXPECT_NE(action->alertNumber(), first);
+    EXPECT_EQ(action->alert.words(), "Could not load components.");
+    const int first = action->alert.number();
+    action->alert.dismiss();
+    EXPECT_EQ(action->alert.words(), "Server returned HTTP status code 409.");
+    EXPECT_NE(action->alert.number(), first);
 }
 
 TEST_F(ActionOfAScreen, BeginsWithoutTheAlertOfTheOneBefore)
@@ -82,7 +82,7 @@ TEST_F(ActionOfAScreen, BeginsWithoutTheAlertOfTheOneBefore)
     action->run(failing());
     main.run();
     action->run(once(pending));
-    EXPECT_EQ(*action->alert, "");
+    EXPECT_EQ(action->alert.words(), "");
     main.run();
     answer();
 }
