@@ -31,7 +31,7 @@ struct Setting {
 constexpr Setting colorScheme{"org.freedesktop.appearance", "color-scheme"};
 constexpr Setting contrast{"org.freedesktop.appearance", "contrast"};
 constexpr Setting reducedMotion{"org.freedesktop.appearance", "reduced-motion"};
-// What says the same on desktops older than that setting.
+// The same setting as desktops expressed it before the portal had one.
 constexpr Setting gnomeAnimations{"org.gnome.desktop.interface", "enable-animations"};
 constexpr Setting plasmaAnimations{"org.kde.kdeglobals.KDE", "AnimationDurationFactor"};
 constexpr std::array settings{colorScheme, contrast, reducedMotion, gnomeAnimations, plasmaAnimations};
@@ -41,7 +41,7 @@ constexpr uint prefersLight = 2;
 constexpr uint prefersHighContrast = 1;
 constexpr uint prefersReducedMotion = 1;
 
-/// `Read` wraps its answer in one variant more than the signal does.
+/// `Read` wraps its answer in one more variant than the signal does.
 QVariant unwrapped(QVariant value)
 {
     while (value.metaType() == QMetaType::fromType<QDBusVariant>()) value = value.value<QDBusVariant>().variant();
@@ -64,7 +64,7 @@ Appearance::Appearance(QDBusConnection bus, QObject* parent)
     update();
     if (!bus_.isConnected()) return;
 
-    // Else it depends on what ran before whether Qt knows the type of the slot's argument, and connects.
+    // Otherwise the connection works only if other code has registered the type of the slot's argument before.
     qRegisterMetaType<QDBusVariant>();
     bus_.connect(portal, portalPath, settingsInterface, "SettingChanged", this,
         SLOT(onSettingChanged(QString, QString, QDBusVariant)));

@@ -11,8 +11,8 @@
 
 namespace larkspan::adapters {
 
-/// How the desktop wants programs to look, read from its settings portal and followed live. Where the portal or a
-/// setting of it is missing, dark or light is the palette's. Never waits for the portal. Main thread only.
+/// The appearance that the desktop asks of programs, read from its settings portal and kept up to date. If the portal
+/// or a setting is missing, the palette decides between dark and light. Never waits for the portal. Main thread only.
 class Appearance final : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isDark READ isDark NOTIFY isDarkChanged)
@@ -26,8 +26,8 @@ public:
     bool isHighContrast() const { return isHighContrast_; }
     bool reducesMotion() const { return reducesMotion_; }
 
-    /// Takes what the portal has answered by now, ahead of the event loop: called just before the window is shown, it
-    /// spares the user of a dark desktop a flash of white.
+    /// Takes over what the portal has answered so far, without waiting for the event loop. Called just before the
+    /// window is shown, so that users of a dark desktop see no white flash.
     void catchUp();
 
 signals:

@@ -4,7 +4,7 @@
 
 namespace larkspan::adapters {
 
-/// Hands addresses to whatever the desktop opens them with.
+/// Opens addresses with the desktop's default programs.
 class DesktopLinkOpener final : public platform::LinkOpener {
 public:
     void open(const std::string& address) override;

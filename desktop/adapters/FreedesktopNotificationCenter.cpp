@@ -18,7 +18,7 @@ constexpr auto serverPath = "/org/freedesktop/Notifications";
 constexpr auto serverInterface = "org.freedesktop.Notifications";
 constexpr auto programId = "com.kestrune.larkspan";
 
-// What a service that reports without end can make this program hold.
+// Limits on what a service that reports without end can make this program hold.
 constexpr std::size_t mostSending = 16;
 constexpr std::size_t mostShown = 512;
 
@@ -89,7 +89,7 @@ void FreedesktopNotificationCenter::askForMarkup()
         if (gone != serversGone_) return sendWaiting();
 
         const QDBusPendingReply<QStringList> capabilities = answer;
-        // A server that doesn't say is asked again for the next notice; these have waited long enough.
+        // A server that does not answer is asked again for the next notice; these have waited long enough.
         if (capabilities.isError()) return sendAll(BodyMarkup::unknown);
 
         markup_ = capabilities.value().contains("body-markup") ? BodyMarkup::interpreted : BodyMarkup::literal;
@@ -100,7 +100,7 @@ void FreedesktopNotificationCenter::askForMarkup()
 void FreedesktopNotificationCenter::sendAll(BodyMarkup markup)
 {
     while (sending_.size() < mostSending) {
-        // Only once the answer to a notice is there can another one take its place on screen.
+        // A notice can be replaced on screen only when the server has answered with its id.
         const auto notice = waiting_.takeOldest(sending_);
         if (!notice) return;
         send(*notice, markup);

@@ -19,8 +19,8 @@ class QDBusPendingCall;
 
 namespace larkspan::adapters {
 
-/// Notifications as Linux desktops have them: `org.freedesktop.Notifications` on the session bus. Never waits for the
-/// server; a notice that no server takes before the deadline is dropped.
+/// Notifications through `org.freedesktop.Notifications` on the session bus. Never waits for the
+/// server; a notice that no server accepts before the deadline is dropped.
 class FreedesktopNotificationCenter final : public QObject, public platform::NotificationCenter {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ public:
     explicit FreedesktopNotificationCenter(
         QDBusConnection bus, std::chrono::milliseconds deadline = std::chrono::seconds(5));
 
-    /// Nothing to ask: here the user settles in the desktop which programs may notify, and programs are not told.
+    /// Nothing to ask: users decide in the desktop's settings which programs may notify, and programs are not told.
     void requestAuthorization() override {}
     void add(const platform::NotificationRequest& request) override;
 
@@ -52,7 +52,7 @@ private:
 
     QDBusConnection bus_;
     int deadline_;
-    /// Grows with each server that went, so that its late answers are told from its successor's.
+    /// Incremented when a server disappears, to tell its late answers from those of its successor.
     std::uint64_t serversGone_ = 0;
     std::optional<BodyMarkup> markup_;
     bool isAsking_ = false;

@@ -3,7 +3,7 @@
 namespace larkspan::adapters {
 
 /// Keeps the process's memory, and with it the API key, out of core dumps.
-/// Does nothing in a debug build, where a developer wants them.
+/// Does nothing in a debug build, where developers want the dumps.
 void hardenProcess();
 
 }  // namespace larkspan::adapters

@@ -24,8 +24,8 @@ void MainExecutor::post(support::UniqueFunction<void()> work)
         const std::scoped_lock lock(mutex_);
         queue_.push_back(std::move(work));
     }
-    // The work doesn't travel in the event: Qt forgets the events of an object that goes before they are destroyed,
-    // and a task that unwinds in their destruction posts again.
+    // The event does not carry the work: Qt forgets the events of a destroyed object before it destroys them, and a
+    // task that unwinds during that destruction posts again.
     QCoreApplication::postEvent(this, new QEvent(workPosted));
 }
 

@@ -10,18 +10,18 @@
 
 namespace larkspan::adapters {
 
-/// The thread of Qt's event loop as an executor. Make and destroy it on that thread.
-/// What is queued when it goes is destroyed without having run, and so is what that destruction posts.
+/// The thread of Qt's event loop as an executor. Constructed and destroyed on that thread.
+/// Work that is queued on destruction is destroyed without being run, and so is the work which that posts.
 class MainExecutor final : public QObject, public platform::Executor {
 public:
     MainExecutor() = default;
     ~MainExecutor() override;
 
-    /// From any thread. Works in nested event loops too, still in the order posted.
+    /// Any thread. Work also runs in nested event loops, still in the order of posting.
     void post(support::UniqueFunction<void()> work) override;
 
-    /// Destroys what is queued without running it, and what that queues in turn; says whether there was anything.
-    /// For the end of the program, when tasks unwind over several executors. Main thread only.
+    /// Destroys the queued work without running it, and the work which that queues in turn. Returns whether there was
+    /// any. For the end of the program, when tasks unwind over several executors. Main thread only.
     bool drop();
 
 protected:

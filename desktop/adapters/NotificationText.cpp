@@ -10,7 +10,7 @@ namespace larkspan::adapters {
 
 namespace {
 
-// More than a desktop shows at once, in characters.
+// In characters; more than a desktop shows at once.
 constexpr std::size_t longestLine = 256;
 constexpr std::size_t longestBody = 1024;
 
@@ -38,7 +38,7 @@ QString paragraphs(std::string_view whole, std::size_t longest)
         }
     }
     if (isCut) fit += u'…';
-    // Many may have to wait.
+    // Many texts may have to wait.
     fit.squeeze();
     return fit;
 }
@@ -48,7 +48,7 @@ QString line(std::string_view text)
     return paragraphs(text, longestLine).replace(u'\n', u' ');
 }
 
-/// `text` so that it reads the same to everybody, though not with the same characters.
+/// `text` with look-alikes in place of the characters that markup is made of.
 QString withoutMarkupCharacters(QString text)
 {
     return text.replace(u'<', u'‹').replace(u'>', u'›').replace(u'&', u'＆');

@@ -6,15 +6,15 @@
 
 namespace larkspan::adapters {
 
-/// What a notification server makes of markup in a body.
+/// How a notification server treats markup in a body.
 enum class BodyMarkup { unknown, literal, interpreted };
 
-/// The texts of a notice, fit for the bus and the screen whatever the service sent: valid, of bounded length, without
+/// The texts of a notice, safe for the bus and the screen whatever the service sent: valid, of bounded length, without
 /// control characters, and on one line except for the body.
 struct NotificationText {
     explicit NotificationText(const platform::NotificationRequest& request);
 
-    /// Subtitle and body as one text that such a server shows as they were meant, never as markup of the service's.
+    /// Subtitle and body as one text, which a server with such `markup` shows literally.
     QString laidOut(BodyMarkup markup) const;
 
     QString title;

@@ -21,8 +21,8 @@ constexpr auto servicePath = "/org/freedesktop/PackageKit";
 constexpr auto serviceInterface = "org.freedesktop.PackageKit";
 constexpr auto transactionInterface = "org.freedesktop.PackageKit.Transaction";
 
-/// The version in one of PackageKit's "name;version;architecture;origin"; empty for every other package and whatever
-/// doesn't look like a version in any distribution.
+/// The version in PackageKit's "name;version;architecture;origin"; empty for any other package, and for a text that is
+/// no version in any distribution.
 QString versionOfThisProgram(const QString& packageId)
 {
     static const QRegularExpression pattern(R"(\Alarkspan;([A-Za-z0-9.+~:_^-]{1,100});[^;]*;[^;]*\z)");
@@ -35,7 +35,7 @@ bool meansThereIsNoService(const QDBusError& error)
         "org.freedesktop.DBus.Error.ServiceUnknown",
         "org.freedesktop.DBus.Error.NameHasNoOwner",
         "org.freedesktop.DBus.Error.Spawn.ServiceNotFound",
-        // How an administrator takes the service off a system with systemd.
+        // The error when an administrator has masked the service in systemd.
         "org.freedesktop.systemd1.UnitMasked",
         "org.freedesktop.systemd1.NoSuchUnit",
     };
@@ -63,7 +63,7 @@ PackageKitTransaction::~PackageKitTransaction()
 
 void PackageKitTransaction::onPackage(uint info, const QString& packageId, const QString&)
 {
-    // The upper half is the update's urgency.
+    // The upper half is the urgency of the update.
     constexpr uint kind = 0xFFFF;
     constexpr uint installed = 1;
     auto& version = (info & kind) == installed ? installedVersion_ : availableVersion_;
@@ -123,7 +123,7 @@ void PackageKitTransaction::listen()
 
 void PackageKitTransaction::startWork()
 {
-    // Looking for news is no reason to ask the user for a password.
+    // Looking for an update is no reason to ask the user for a password.
     callTransaction("SetHints", {QStringList{"interactive=false"}});
     whenAnswered(this, callTransaction(work_.method, work_.arguments), [this](const QDBusPendingCall& answer) {
         if (answer.isError()) end(End::failed);

@@ -11,8 +11,8 @@ class QDBusPendingCall;
 
 namespace larkspan::adapters {
 
-/// One piece of work for PackageKit, and what it said about the package `larkspan` meanwhile. Begins when made; given
-/// up at its deadline and when destroyed.
+/// One transaction of PackageKit, and what it reports about the package `larkspan`. Starts on construction; is
+/// cancelled at its deadline and on destruction.
 class PackageKitTransaction final : public QObject {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ public:
     enum class End {
         succeeded,
         failed,
-        /// There is no PackageKit on this system.
+        /// This system has no PackageKit.
         noService,
     };
     Q_ENUM(End)
@@ -34,12 +34,12 @@ public:
         QDBusConnection systemBus, Work work, std::chrono::milliseconds deadline, QObject* parent = nullptr);
     ~PackageKitTransaction() override;
 
-    /// The package's versions, as far as PackageKit named them; empty otherwise.
+    /// The versions of the package; empty if PackageKit has not named them.
     QString installedVersion() const { return installedVersion_; }
     QString availableVersion() const { return availableVersion_; }
 
 signals:
-    /// Once, later, and the last thing that this object does.
+    /// Emitted once, never from the constructor, as the last thing that this object does.
     void ended(End end);
 
 private slots:
@@ -61,7 +61,7 @@ private:
     QDBusConnection bus_;
     Work work_;
     int deadline_;
-    /// The very process that has the transaction: its successor would not know it.
+    /// The unique name of the process that runs the transaction: a successor would not know it.
     QString owner_;
     QString path_;
     QString installedVersion_;

@@ -53,7 +53,7 @@ void PackageKitUpdater::findInstalled()
 void PackageKitUpdater::refresh()
 {
     constexpr bool evenIfItIsFresh = false;
-    // Whether or not it succeeds: without a way to the archive, what the system knows already is the best answer.
+    // Goes on even if this fails: without access to the archive, what the system knows already is the best answer.
     run({"RefreshCache", {evenIfItIsFresh}}, timeLeft() / 2, [this](End, const auto&) { findUpdate(); });
 }
 
@@ -69,7 +69,7 @@ void PackageKitUpdater::findUpdate()
 
 void PackageKitUpdater::answer(const platform::UpdateCheck& found)
 {
-    // Whoever is answered may ask again at once, or end the program.
+    // A callback may ask again at once, or end the program.
     for (auto& complete : std::exchange(waiting_, {})) complete(found);
 }
 

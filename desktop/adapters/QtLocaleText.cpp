@@ -7,9 +7,9 @@ namespace larkspan::adapters {
 
 namespace {
 
-// Locales part words by blanks of many kinds, of which \s means the plain ones only and \h the others.
+// Locales separate words by many kinds of blanks; \s matches the plain ones only, \h the others.
 
-// Qt's long format carries the day of the week, its short one may leave open which number is the month.
+// Qt's long format contains the day of the week; the short one may leave open which number is the month.
 QString withoutWeekday(QString format)
 {
     static const QRegularExpression weekday(QStringLiteral("d{3,4}[\\s\\h,،፣⹁]*"));
@@ -17,7 +17,8 @@ QString withoutWeekday(QString format)
     return format.remove(weekday).remove(separatorAtTheEnd).trimmed();
 }
 
-// From the first to the last of day and month, with what is written right behind them, the month cut short.
+// The part of a date's format from the first to the last of day and month, with the text that directly follows them;
+// the month is abbreviated.
 QString dayAndMonth(const QString& dateFormat)
 {
     static const QRegularExpression piece(QStringLiteral("'[^']*'|d{1,2}|M+|."));
@@ -36,7 +37,7 @@ QString dayAndMonth(const QString& dateFormat)
     return format.left(end).replace(QStringLiteral("MMMM"), QStringLiteral("MMM"));
 }
 
-// A date goes before a time of day as it goes behind a day of the week.
+// The separator between a date and a time of day is the locale's separator between a day of the week and a date.
 QString separatorOf(const QString& longFormat)
 {
     static const QRegularExpression behindWeekday(QStringLiteral("^d{3,4}([,،፣⹁]?)[\\s\\h]"));
@@ -48,7 +49,7 @@ QDateTime inTheZone(support::Time moment)
     return QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count());
 }
 
-// Some scripts write a word behind the number, which their format of a date has too.
+// Some scripts write a word after the number of the year; the locale's date format contains it.
 QString yearText(const QString& dateFormat, int year)
 {
     static const QRegularExpression yearAndWord(QStringLiteral("y+([^\\s\\h\\w',/-]|[년年])?"));

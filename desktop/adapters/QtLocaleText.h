@@ -8,7 +8,7 @@
 
 namespace larkspan::adapters {
 
-/// The desktop's own locale unless another is given, in the time zone that the desktop has when it is asked.
+/// Texts in the given locale, by default the desktop's, and in the desktop's time zone at the time of the call.
 class QtLocaleText final : public platform::LocaleText {
 public:
     explicit QtLocaleText(const QLocale& locale = QLocale::system());

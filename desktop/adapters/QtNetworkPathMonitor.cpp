@@ -42,8 +42,8 @@ void QtNetworkPathMonitor::start(std::function<void(bool isSatisfied)> update)
 void QtNetworkPathMonitor::askForNetworkManager()
 {
     if (std::exchange(isAsking_, true)) return;
-    // Qt's backend waits for NetworkManager on the main thread, for up to half a minute: it is loaded only when
-    // NetworkManager is known to answer.
+    // Qt's backend blocks the main thread for up to half a minute until NetworkManager answers, so it is loaded only
+    // when NetworkManager is known to answer.
     auto ping = QDBusMessage::createMethodCall(
         networkManager, "/org/freedesktop/NetworkManager", "org.freedesktop.DBus.Peer", "Ping");
     ping.setAutoStartService(false);
@@ -52,8 +52,8 @@ void QtNetworkPathMonitor::askForNetworkManager()
         isAsking_ = false;
         if (!answer.isError()) return followReachability();
         if (!reported_) report(true);
-        // One that is slow, as many are while a session starts, has to be waited for; one that is not there tells
-        // when it comes.
+        // A slow NetworkManager, common while a session starts, has to be waited for; a missing one is noticed when it
+        // appears.
         if (answer.error().type() == QDBusError::NoReply) askForNetworkManager();
     });
 }
@@ -76,12 +76,12 @@ void QtNetworkPathMonitor::reportReachability()
     using Reachability = QNetworkInformation::Reachability;
     switch (QNetworkInformation::instance()->reachability()) {
     case Reachability::Online:
-    // There is a way out, only NetworkManager's own question to the internet was not answered: so it is behind many a
-    // proxy, firewall or VPN that lets the service through.
+    // There is a route beyond the local network, but NetworkManager's connectivity check was not answered. That happens
+    // behind many proxies, firewalls and VPNs that let the service through.
     case Reachability::Site: return report(true);
     case Reachability::Local:
     case Reachability::Disconnected: return report(false);
-    // Between two states, and where it cannot tell, NetworkManager says this: what was last known stands.
+    // NetworkManager reports this between two states and when it does not know: the last known state remains valid.
     case Reachability::Unknown: return report(reported_.value_or(true));
     }
 }

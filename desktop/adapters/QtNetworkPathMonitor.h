@@ -10,14 +10,14 @@
 
 namespace larkspan::adapters {
 
-/// The computer's network as NetworkManager sees it, through Qt's reachability: satisfied is whatever leads beyond the
-/// local network. Where nobody watches the network, and while its state is unknown, nothing speaks against it. Notices
-/// come on the main thread, on which the object lives.
+/// The computer's network as NetworkManager sees it, through Qt's reachability: satisfied if anything leads beyond the
+/// local network, and also while the state is unknown or nothing watches the network. Main thread only, where `update`
+/// is called too.
 class QtNetworkPathMonitor final : public QObject, public platform::NetworkPathMonitor {
 public:
     QtNetworkPathMonitor();
 
-    /// Returns at once. A NetworkManager that comes later, or takes long to answer, is noticed too.
+    /// Returns at once. A NetworkManager that starts later, or is slow to answer, is noticed too.
     void start(std::function<void(bool isSatisfied)> update) override;
 
 private:

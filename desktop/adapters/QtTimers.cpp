@@ -12,7 +12,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// QTimer counts in int, and a period of nothing would spin.
+// QTimer counts in int, and a period of zero would spin.
 constexpr std::chrono::milliseconds shortestPeriod = 1ms;
 constexpr std::chrono::milliseconds longestPeriod{std::numeric_limits<int>::max()};
 
@@ -20,7 +20,7 @@ class QtTimer final : public platform::Timer {
 public:
     QtTimer(std::chrono::milliseconds period, std::function<void()> fire)
     {
-        // The default type may come 5 % early, that is three seconds in a minute.
+        // The default type may fire 5 % early, three seconds in a minute.
         timer_.setTimerType(Qt::PreciseTimer);
         QObject::connect(&timer_, &QTimer::timeout, std::move(fire));
         timer_.start(std::clamp(period, shortestPeriod, longestPeriod));

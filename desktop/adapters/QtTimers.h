@@ -4,8 +4,8 @@
 
 namespace larkspan::adapters {
 
-/// Timers of Qt's event loop. A firing that comes due while the computer sleeps or the loop is busy comes once,
-/// afterwards; time spent asleep doesn't count. Main thread only.
+/// Timers of Qt's event loop. Firings that are due while the computer sleeps or the loop is busy are delivered once,
+/// afterwards; time asleep does not count. Main thread only.
 class QtTimers final : public platform::Timers {
 public:
     [[nodiscard]] std::unique_ptr<platform::Timer> every(

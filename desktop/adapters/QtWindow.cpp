@@ -45,7 +45,7 @@ void QtWindow::miniaturize()
     if (!window_) return;
     wasMinimized_ = true;
     keepsFocus_ = window_->isActive();
-    // Added to the other states, so that a maximised window comes back maximised.
+    // Added to the other states, so that a maximised window is restored maximised.
     window_->setWindowStates(window_->windowStates() | Qt::WindowMinimized);
     QTimer::singleShot(timeToMinimize, this, &QtWindow::noticeRefusedMinimizing);
 }
@@ -59,8 +59,8 @@ void QtWindow::deminiaturize()
 {
     if (!window_) return;
     window_->setWindowStates(window_->windowStates() & ~Qt::WindowMinimized);
-    // Wayland neither tells whether a window is minimised nor undoes it without a token; a window that is mapped anew
-    // is on the screen for certain.
+    // Wayland neither reports whether a window is minimised nor restores it without a token; a window that is mapped
+    // again is certainly on the screen.
     const bool comesByToken = !wasMinimized_ && !activationToken_.isEmpty();
     if (!X11Activation::isNeeded() && !window_->isActive() && !comesByToken) window_->setVisible(false);
     window_->setVisible(true);
@@ -85,7 +85,7 @@ void QtWindow::makeKeyAndOrderFront()
 
 bool QtWindow::eventFilter(QObject* watched, QEvent* event)
 {
-    // The user may have brought it back without the program's help.
+    // The user may have restored the window without the program's help.
     if (event->type() == QEvent::FocusIn) wasMinimized_ = false;
     if (event->type() == QEvent::FocusOut) keepsFocus_ = false;
     if (event->type() != QEvent::Close || closingIsGranted_) return QObject::eventFilter(watched, event);
@@ -104,10 +104,10 @@ bool QtWindow::isMinimized() const
 void QtWindow::noticeRefusedMinimizing()
 {
     if (!window_ || !window_->isExposed()) return;
-    // Wayland does not tell what came of the wish, but a window that is minimised loses the focus.
+    // Wayland does not report whether the request was granted, but a minimised window loses the focus.
     const bool isRefused = X11Activation::isNeeded() ? isMinimized() : wasMinimized_ && keepsFocus_;
-    // A window manager without icons ignores the wish, while Qt goes on to believe that it was granted. On Wayland Qt
-    // would believe it even after the user has brought the window back.
+    // A window manager that cannot minimise ignores the request, while Qt assumes that it was granted. On Wayland, Qt
+    // would assume so even after the user has restored the window.
     if (isMinimized()) window_->setWindowStates(window_->windowStates() & ~Qt::WindowMinimized);
     if (!isRefused) return;
 

@@ -8,7 +8,7 @@
 
 namespace larkspan::adapters {
 
-/// A `QWindow` (a `QQuickWindow` is one) as the program's core sees it. Main thread only.
+/// A `QWindow`, such as a `QQuickWindow`, as a window of the port. Main thread only.
 class QtWindow final : public QObject, public platform::Window {
 public:
     explicit QtWindow(QWindow& window);
@@ -16,7 +16,7 @@ public:
     /// Whether the window still exists.
     bool exists() const { return !window_.isNull(); }
 
-    /// From now on a close is granted without asking the delegate: the program ends.
+    /// Lets every later close happen without asking the delegate, because the program ends.
     void grantClosing() { closingIsGranted_ = true; }
 
     /// The token with which the next `makeKeyAndOrderFront` takes the focus.
@@ -25,7 +25,7 @@ public:
     bool isVisible() const override;
     bool canBecomeKeyWindow() const override;
     void setDelegate(std::weak_ptr<platform::WindowDelegate> delegate) override;
-    /// On a desktop that cannot minimise, the window stays as it is, and its delegate hears of that a second later.
+    /// On a desktop that cannot minimise, the window does not change, and its delegate is told after a second.
     void miniaturize() override;
     void hide() override;
     void deminiaturize() override;

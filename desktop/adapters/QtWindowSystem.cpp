@@ -16,7 +16,7 @@ QtWindowSystem::QtWindowSystem()
 void QtWindowSystem::add(QWindow& window)
 {
     windows_.push_back(std::make_shared<QtWindow>(window));
-    // At once: whoever holds one weakly is to see that it is gone.
+    // Immediately: holders of a weak reference have to see that it is gone.
     connect(&window, &QObject::destroyed, this, &QtWindowSystem::forgetLostWindows);
 }
 
@@ -39,7 +39,7 @@ void QtWindowSystem::terminate()
 
 bool QtWindowSystem::eventFilter(QObject* watched, QEvent* event)
 {
-    // Qt answers a quit by closing each window, and gives up at the first that stays.
+    // On a quit, Qt closes each window and gives up at the first that stays open.
     if (event->type() == QEvent::Quit) {
         for (const auto& window : windows_) window->grantClosing();
     }

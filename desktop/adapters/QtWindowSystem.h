@@ -7,10 +7,10 @@
 
 namespace larkspan::adapters {
 
-/// The program's windows on the desktop. One instance beside the `QGuiApplication`; main thread only.
+/// The program's windows on the desktop. One instance for each `QGuiApplication`; main thread only.
 ///
-/// Closing the last window doesn't end the program. When the session ends, or anyone quits, the windows close without
-/// asking their delegates: else a window that minimises instead of closing would hold up the logout.
+/// Closing the last window does not end the program. When the session ends or the program quits, the windows close
+/// without asking their delegates: otherwise a window that minimises instead of closing would block the logout.
 class QtWindowSystem final : public QObject, public platform::WindowSystem {
 public:
     QtWindowSystem();
@@ -18,13 +18,13 @@ public:
     /// Makes `window` one of the program's windows, for as long as it exists.
     void add(QWindow& window);
 
-    /// What the user's deed brought along, so that the window it asks for may take the focus.
+    /// Sets the token that came with the user's action, so that the window it asks for may take the focus.
     void setActivationToken(const QString& token);
 
     std::vector<std::shared_ptr<platform::Window>> windows() override;
-    /// Nothing: a Linux desktop activates windows, not programs, and `makeKeyAndOrderFront` does that.
+    /// Does nothing: a Linux desktop activates windows, not programs, and `makeKeyAndOrderFront` does that.
     void activateIgnoringOtherApps() override;
-    /// Ends the event loop in its next turn, also when it hasn't begun yet.
+    /// Ends the event loop in its next turn, even if it has not started yet.
     void terminate() override;
 
 protected:

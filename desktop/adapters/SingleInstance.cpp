@@ -12,7 +12,7 @@ namespace {
 
 using BusInterface = QDBusConnectionInterface;
 
-// Owners that come and go faster than this are no reason to keep the user waiting.
+// If owners keep appearing and disappearing, the user is not kept waiting for longer than this.
 constexpr int mostRounds = 3;
 
 }  // namespace
@@ -37,7 +37,7 @@ SingleInstance::Standing SingleInstance::claim(const QString& activationToken)
 {
     if (!bus_.isConnected()) return Standing::first;
 
-    // Before the name is owned, so that nobody who finds the owner finds it without the object.
+    // Before the name is owned, so that whoever finds the owner also finds the object.
     bus_.registerObject(path_, &service_, QDBusConnection::ExportScriptableSlots);
     for (int round = 0; round < mostRounds; ++round) {
         if (ownName(false)) {
@@ -72,11 +72,12 @@ bool SingleInstance::activate(const QString& owner, const QString& activationTok
         platformData.insert(ApplicationService::activationTokenKey, activationToken);
         platformData.insert(ApplicationService::startupIdKey, activationToken);
     }
-    // The owner's own name: a call to the well-known one could start a program.
+    // The owner's unique name: a call to the well-known one could start a program.
     auto call = QDBusMessage::createMethodCall(owner, path_, "org.freedesktop.Application", "Activate");
     call << platformData;
     const auto reply = bus_.call(call, QDBus::Block, static_cast<int>(patience_.count()));
-    // Any answer, a refusal too, comes from somebody who is alive; these come from the bus or from nobody.
+    // Any other answer, even a refusal, comes from a living process; these come from the bus or mean that nobody
+    // answered.
     switch (QDBusError(reply).type()) {
     case QDBusError::NoReply:
     case QDBusError::Timeout:

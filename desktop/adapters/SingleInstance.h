@@ -10,34 +10,34 @@
 
 namespace larkspan::adapters {
 
-/// One running program per session, settled by who owns its name on the session bus. Main thread only.
+/// Keeps the program to one process per session: the one that owns its name on the session bus. Main thread only.
 ///
-/// A second start hands its activation token to the first. A first one that doesn't answer within `patience` loses
-/// the name, so that the user gets a window all the same; should it wake up later, it is told by `replaced()` and
-/// quits.
+/// A second process hands its activation token to the first. A first one that does not answer within `patience` loses
+/// the name, so that the user still gets a window; if it recovers later, it is told by `replaced()` and quits.
 class SingleInstance final : public QObject {
     Q_OBJECT
 
 public:
     enum class Standing {
         first,
-        /// Another one runs and has been activated: this process has nothing to do.
+        /// Another process runs and has been activated: this one has nothing to do.
         second,
     };
 
-    /// `name` is what the program is called on the bus; its object stands at the path of the same parts.
+    /// `name` is the program's name on the bus; the path of its object has the same parts.
     SingleInstance(QDBusConnection bus, QString name, std::chrono::milliseconds patience = std::chrono::seconds(5),
         QObject* parent = nullptr);
     ~SingleInstance() override;
 
-    /// Blocks for at most a few times `patience`; call it before anything is shown. Without a bus everyone is first.
+    /// Blocks for at most a few times `patience`; call it before anything is shown. Without a bus every process is the
+    /// first.
     Standing claim(const QString& activationToken);
 
 signals:
-    /// Somebody started the program again, or asked for its window.
+    /// Emitted when the program is started again, or its window is asked for.
     void activated(const QString& activationToken);
 
-    /// Another start has taken over, because this process didn't answer it in time.
+    /// Emitted when another process has taken over because this one did not answer it in time.
     void replaced();
 
 private:

@@ -9,8 +9,8 @@
 
 namespace larkspan::adapters {
 
-/// Several places that show the same item: the panel, and the window's menu button. They outlive this object and hear
-/// of what differs only: a menu is built anew more often than it changes.
+/// Passes one item to several places that show it: the panel and the window's menu button. They must outlive this
+/// object, and are told only of differences: a menu is rebuilt more often than it changes.
 class StatusItems final : public platform::StatusItem {
 public:
     explicit StatusItems(std::vector<std::reference_wrapper<platform::StatusItem>> items)

@@ -20,7 +20,7 @@ void writeToPipe(int /*signal*/)
 {
     const int before = errno;
     const char wake = 0;
-    // A full pipe has woken the loop already.
+    // If the pipe is full, the loop has been woken already.
     [[maybe_unused]] const auto written = write(signalPipe.load(), &wake, sizeof wake);
     errno = before;
 }
@@ -36,7 +36,7 @@ bool isIgnored(int signal)
 TerminationSignals::TerminationSignals(QObject* parent)
     : QObject(parent)
 {
-    // Without the pipe the signals keep their plain effect, which ends the process as well.
+    // Without the pipe, the signals keep their default action, which ends the process as well.
     if (pipe2(pipe_.data(), O_CLOEXEC | O_NONBLOCK) != 0) return;
     signalPipe = pipe_[1];
     notifier_ = std::make_unique<QSocketNotifier>(pipe_[0], QSocketNotifier::Read);
@@ -46,7 +46,7 @@ TerminationSignals::TerminationSignals(QObject* parent)
     action.sa_handler = writeToPipe;
     action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
     for (const int signal : handledSignals) {
-        // Whoever started the program with nohup wants it to outlive the terminal.
+        // A program that was started with nohup has to outlive the terminal.
         if (!isIgnored(signal)) sigaction(signal, &action, nullptr);
     }
 }

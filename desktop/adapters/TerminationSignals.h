@@ -8,8 +8,8 @@
 
 namespace larkspan::adapters {
 
-/// Turns SIGTERM, SIGINT and SIGHUP into `requested()` on the main thread. The second signal of a kind ends the
-/// process at once, so that a program that hangs can still be stopped. One instance, made on the main thread.
+/// Turns SIGTERM, SIGINT and SIGHUP into `requested()` on the main thread. A second signal of the same kind ends the
+/// process at once, so that a hanging program can still be stopped. One instance, constructed on the main thread.
 class TerminationSignals final : public QObject {
     Q_OBJECT
 

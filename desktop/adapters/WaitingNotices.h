@@ -11,22 +11,22 @@
 
 namespace larkspan::adapters {
 
-/// A notice for the notification server, told from others by its identifier.
+/// A notice for the notification server; two with the same identifier are the same notice.
 struct Notice {
     std::string identifier;
     NotificationText text;
 };
 
-/// Notices that no server has taken yet, in the order in which they came, one for each identifier.
+/// The notices that no server has accepted yet, in order of arrival, one for each identifier.
 class WaitingNotices {
 public:
-    /// More than any account brings at once; what a server that never answers can make this program hold.
+    /// The most notices that are held for a server that never answers; more than any account produces at once.
     static constexpr std::size_t most = 10'000;
 
-    /// Puts `notice` last, or in the place of the one with its identifier. Past `most` the oldest goes.
+    /// Appends `notice`, or replaces the one with its identifier. Beyond `most` the oldest is dropped.
     void add(Notice notice);
 
-    /// Takes out the oldest whose identifier is not among `excluded`.
+    /// Removes and returns the oldest whose identifier is not in `excluded`.
     std::optional<Notice> takeOldest(const std::set<std::string>& excluded);
 
     bool isEmpty() const { return notices_.empty(); }

@@ -6,8 +6,8 @@
 
 namespace larkspan::adapters {
 
-/// Calls `continuation` with `call` once it is answered, has failed or its deadline has come; never if `context` has
-/// gone by then.
+/// Calls `continuation` with `call` when it is answered, has failed or has timed out; never if `context` has been
+/// destroyed.
 template <typename Continuation>
 void whenAnswered(QObject* context, const QDBusPendingCall& call, Continuation continuation)
 {

@@ -86,7 +86,7 @@ void X11Activation::endLaunch(const QWindow& window, const QString& activationTo
     const auto id = static_cast<xcb_window_t>(window.winId());
     const auto root = rootOf(x11, id);
 
-    // The text goes, with its terminator, in pieces of the size of a message.
+    // The text is sent with its terminator, in pieces of the size of a message.
     const QByteArray text = "remove: ID=" + activationToken.toUtf8();
     const auto length = static_cast<std::size_t>(text.size()) + 1;
     auto piece = message(id, atom(x11, "_NET_STARTUP_INFO_BEGIN"), 8);

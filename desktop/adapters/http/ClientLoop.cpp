@@ -12,7 +12,7 @@ namespace larkspan::adapters {
 
 namespace {
 
-// Signals are the main thread's affair. libcurl's helper threads take this over from the thread that starts them.
+// Signals are handled on the main thread. libcurl's helper threads inherit the mask from the thread that starts them.
 void blockSignals()
 {
     sigset_t all;
@@ -78,7 +78,7 @@ void ClientLoop::run()
 
 void ClientLoop::open()
 {
-    // Here and not in the constructor: making OpenSSL ready costs milliseconds that the first frame wants.
+    // Here and not in the constructor: initialising OpenSSL takes milliseconds that would delay the first frame.
     static const CURLcode initialised = curl_global_init(CURL_GLOBAL_DEFAULT);
     auto* multi = initialised == CURLE_OK ? curl_multi_init() : nullptr;
     if (!multi) support::fatalError("libcurl cannot be started");

@@ -14,19 +14,19 @@
 
 namespace larkspan::adapters {
 
-/// The client's own thread: what is posted, libcurl's transfers and alarms, all in one wait.
+/// The client's own thread, which waits for posted work, libcurl's transfers and alarms in one place.
 class ClientLoop final : public platform::Executor {
 public:
     using Clock = std::chrono::steady_clock;
     using Work = support::UniqueFunction<void()>;
     using TransferEnd = support::UniqueFunction<void(CURLcode)>;
 
-    /// Dropped, the alarm doesn't go off.
+    /// Destroying it cancels the alarm.
     using Alarm = std::shared_ptr<const void>;
 
     ClientLoop();
 
-    /// Runs what is queued and what that queues, then ends the thread. Transfers are gone by then.
+    /// Runs the queued work and what that queues, then ends the thread. No transfer may be left.
     ~ClientLoop() override;
     ClientLoop(const ClientLoop&) = delete;
     ClientLoop& operator=(const ClientLoop&) = delete;
@@ -35,11 +35,11 @@ public:
 
     bool isOnItsThread() const { return std::this_thread::get_id() == thread_.get_id(); }
 
-    // The rest belongs to the loop's thread.
+    // The functions below may be called on the loop's thread only.
 
     [[nodiscard]] Alarm at(Clock::time_point due, Work work);
 
-    /// Drives `transfer` until it ends or is dropped; `ended` may drop it and anything else.
+    /// Drives `transfer` until it ends or is dropped; `ended` may destroy it and anything else.
     void begin(CURL* transfer, TransferEnd ended);
     void drop(CURL* transfer);
 

@@ -55,7 +55,7 @@ void CurlExchange::send()
 void CurlExchange::setTransport()
 {
     setOption(transfer_.get(), CURLOPT_NOSIGNAL, 1L);
-    // Without this, letting go of a transfer waits for the resolver, which may take as long as its servers are silent.
+    // Without this, destroying a transfer waits for the resolver, which may take as long as its servers are silent.
     setOption(transfer_.get(), CURLOPT_QUICK_EXIT, 1L);
     if (proxy_) setOption(transfer_.get(), CURLOPT_PROXY, proxy_->c_str());
     setOption(transfer_.get(), CURLOPT_SUPPRESS_CONNECT_HEADERS, 1L);
@@ -118,7 +118,7 @@ void CurlExchange::finish(Result result)
 {
     loop_.drop(transfer_.get());
     silence_.reset();
-    // What is called may destroy this exchange.
+    // The callback may destroy this exchange.
     std::exchange(finished_, {})(std::move(result));
 }
 
@@ -149,7 +149,7 @@ std::size_t CurlExchange::receiveBody(char* bytes, std::size_t, std::size_t size
     return size;
 }
 
-// libcurl's own counts leave out the head of an answer, so the connection's are taken.
+// libcurl's counts leave out the head of an answer, so those of the connection are used.
 int CurlExchange::observeProgress(void* exchange, curl_off_t, curl_off_t, curl_off_t, curl_off_t)
 {
     auto& self = *static_cast<CurlExchange*>(exchange);

@@ -16,15 +16,15 @@
 
 namespace larkspan::adapters {
 
-/// One request under way, with its redirects, until its answer is whole. Dropped, it ends the connection that it used
-/// and is not heard of again. Lives on the loop's thread.
+/// One request with its redirects, until its answer is complete. Destruction closes the connection that it uses and
+/// `finished` is not called. Loop's thread only.
 class CurlExchange {
 public:
     using Result = platform::HttpTransport::Result;
     using Finished = support::UniqueFunction<void(Result)>;
 
     /// Sends `request` through `proxy`: empty for none, absent for what the environment says. `finished` is called
-    /// once, never from here, and may drop the exchange. `loop` and `settings` outlive it.
+    /// once, never from the constructor, and may destroy the exchange. `loop` and `settings` must outlive it.
     CurlExchange(ClientLoop& loop, const TransportSettings& settings, platform::HttpRequest request,
         std::optional<std::string> proxy, Finished finished);
     ~CurlExchange();

@@ -24,7 +24,7 @@ using HeaderList = std::unique_ptr<curl_slist, detail::CurlRelease>;
 using UrlHandle = std::unique_ptr<CURLU, detail::CurlRelease>;
 using CurlText = std::unique_ptr<char, detail::CurlRelease>;
 
-/// Sets an option that the client relies on: a transfer without it must not happen.
+/// Sets an option that the client relies on; ends the program if that fails, since no transfer may happen without it.
 template <typename Value>
 void setOption(CURL* transfer, CURLoption option, Value value)
 {

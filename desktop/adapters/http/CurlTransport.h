@@ -10,22 +10,22 @@ namespace larkspan::adapters {
 
 class TransportOperations;
 
-/// The road to the service: HTTPS by libcurl on the client's own thread.
+/// Sends requests over HTTPS with libcurl, on the client's own thread.
 class CurlTransport final : public platform::HttpTransport {
 public:
-    /// Completes on `loop`, which outlives the transport.
+    /// Completions run on `loop`, which must outlive the transport.
     explicit CurlTransport(ClientLoop& loop, TransportSettings settings = {});
 
-    /// Stops, if that has not been done. The loop must still be there then.
+    /// Calls `stop()` unless that was done; the loop must still exist then.
     ~CurlTransport() override;
     CurlTransport(const CurlTransport&) = delete;
     CurlTransport& operator=(const CurlTransport&) = delete;
 
-    /// Drops what is under way and whatever is sent later, completions uncalled: the program ends. Waits for what the
-    /// loop is running just now, and needs the loop no more afterwards. Once, from the thread that owns the transport.
+    /// Drops all requests, also later ones, without calling their completions: the program ends. Waits for what the
+    /// loop is running, and does not need the loop afterwards. Call it once, on the thread that owns the transport.
     void stop();
 
-    /// May be called from any thread.
+    /// Any thread.
     void send(
         platform::HttpRequest request, std::stop_token stop, support::UniqueFunction<void(Result)> complete) override;
 

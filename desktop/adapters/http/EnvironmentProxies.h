@@ -2,7 +2,7 @@
 
 namespace larkspan::adapters {
 
-/// Whether the environment names a proxy for HTTPS, as https_proxy or all_proxy in either case.
+/// Whether the environment names a proxy for HTTPS: https_proxy or all_proxy, in lower or upper case.
 bool environmentNamesProxy();
 
 }  // namespace larkspan::adapters

@@ -2,7 +2,7 @@
 
 namespace larkspan::adapters {
 
-/// Whether the computer has an address that leads beyond itself.
+/// Whether the computer has an address other than its loopback ones.
 bool hasNetwork();
 
 }  // namespace larkspan::adapters

@@ -39,7 +39,7 @@ public:
 
     void findProxy(const std::string& url, Answer answer)
     {
-        // A portal that fails costs its patience once, not with each request.
+        // A failing portal delays one request, not each.
         if (!rest_.hasExpired()) return answer({});
 
         const auto call = bus_.asyncCall(lookup(url), static_cast<int>(patience.count()));
@@ -79,7 +79,7 @@ std::string PortalProxies::usableProxy(const QStringList& proxies)
         const auto scheme = std::string_view(text).substr(0, schemeEnd);
         if (scheme == "direct") return {};
         if (scheme == "http" || scheme == "https" || scheme == "socks4" || scheme == "socks4a") return text;
-        // A name that only the proxy's network knows is the proxy's to look up.
+        // Names that only the proxy's network knows have to be resolved by the proxy.
         if (scheme == "socks" || scheme == "socks5") return "socks5h" + text.substr(schemeEnd);
     }
     return {};

@@ -11,18 +11,18 @@
 
 namespace larkspan::adapters {
 
-/// The proxy settings as the desktop's portal gives them, which knows every desktop's and evaluates automatic ones in a
-/// process of its own. Where there is no portal, or it says nothing in time, there is no proxy. Made and destroyed on
-/// the main thread.
+/// The proxy settings from the desktop's portal, which reads those of every desktop and evaluates automatic
+/// configuration in a separate process. Without a portal, or without an answer in time, no proxy is used. Constructed
+/// and destroyed on the main thread.
 class PortalProxies final : public ProxySettings {
 public:
-    /// `main` is the executor of the main thread and outlives this.
+    /// `main` is the executor of the main thread and must outlive this object.
     PortalProxies(QDBusConnection bus, platform::Executor& main);
     ~PortalProxies() override;
 
     void findProxy(std::string url, support::UniqueFunction<void(std::string proxy)> answer) override;
 
-    /// The first of the portal's proxies that libcurl can use, in its words; empty for none.
+    /// The first of the portal's proxies that libcurl can use, written as libcurl expects it; empty if there is none.
     static std::string usableProxy(const QStringList& proxies);
 
 private:

@@ -11,7 +11,7 @@ class ProxySettings {
 public:
     virtual ~ProxySettings() = default;
 
-    /// Gives `answer` the proxy for `url` as scheme://host:port, or an empty text for none; later, on any thread.
+    /// Calls `answer` with the proxy for `url` as scheme://host:port, empty for none; asynchronously, on any thread.
     /// May be called from any thread.
     virtual void findProxy(std::string url, support::UniqueFunction<void(std::string proxy)> answer) = 0;
 };

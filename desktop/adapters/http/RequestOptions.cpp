@@ -36,7 +36,7 @@ HeaderList headerLines(const platform::HttpRequest& request)
     HeaderList lines;
     for (const auto& [name, value] : request.headers) append(lines, value.empty() ? name + ";" : name + ": " + value);
 
-    // What libcurl would add on its own account; a name with nothing behind it takes the header away.
+    // Headers that libcurl would add by itself; a name without a value removes the header.
     for (const std::string_view unwanted : {"Accept", "Content-Type", "Expect", "User-Agent"}) {
         const auto isGiven = [unwanted](const auto& header) { return isNamed(header, unwanted); };
         if (std::ranges::none_of(request.headers, isGiven)) append(lines, std::string(unwanted) + ":");
@@ -68,12 +68,12 @@ HeaderList setRequest(CURL* transfer, const platform::HttpRequest& request)
 {
     setOption(transfer, CURLOPT_URL, request.url.c_str());
     setOption(transfer, CURLOPT_PATH_AS_IS, 1L);
-    // An address that no longer answers must not outlive its entry in the name service: "Retry" is to mean it.
+    // Addresses are looked up for each request, so that "Retry" does not use one that no longer answers.
     setOption(transfer, CURLOPT_DNS_CACHE_TIMEOUT, 0L);
     setOption(transfer, CURLOPT_PROTOCOLS_STR, "https");
     setOption(transfer, CURLOPT_DISALLOW_USERNAME_IN_URL, 1L);
-    // One exchange per connection at a time: a write shares its connection with nothing, an answer that hangs holds up
-    // no other, and no frame of the protocol ever asks for a request to be sent anew.
+    // One exchange per connection at a time: a write shares its connection with nothing, a hanging answer delays no
+    // other, and the protocol has no frame that asks for a request to be sent again.
     setOption(transfer, CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
     setOption(transfer, CURLOPT_ACCEPT_ENCODING, "");
 
@@ -87,7 +87,8 @@ HeaderList setRequest(CURL* transfer, const platform::HttpRequest& request)
     }
     setOption(transfer, CURLOPT_CUSTOMREQUEST, request.method.c_str());
 
-    // A connection at hand may be dying, and then libcurl sends anew on another one. That is right for a read only.
+    // An open connection may be about to close, and libcurl then sends the request again on another one. That is right
+    // for reads only.
     if (!isRead(request)) setOption(transfer, CURLOPT_FRESH_CONNECT, 1L);
 
     auto lines = headerLines(request);

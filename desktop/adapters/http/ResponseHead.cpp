@@ -50,7 +50,7 @@ void ResponseHead::read(std::string_view line)
     }
 }
 
-/// A sender may say it in several headers, or several times in one.
+/// A sender may state the length in several headers, or several times in one.
 void ResponseHead::readLength(std::string_view values)
 {
     for (const auto part : values | std::views::split(',')) {

@@ -7,21 +7,21 @@
 
 namespace larkspan::adapters {
 
-/// What the head of an answer says about the answer's end, fed line by line as libcurl hands it out. An interim
-/// answer's head gives way to the next one; trailers count towards the size.
+/// Reads from the head of an answer where the answer ends, line by line as libcurl delivers it. The head of an interim
+/// answer is replaced by the next one; trailers count towards the size.
 class ResponseHead {
 public:
-    /// One line with its line end; the status line begins a new head.
+    /// Reads one line with its line end; a status line starts a new head.
     void read(std::string_view line);
 
-    /// Whether its last line has come. libcurl takes an answer that breaks off before that for a whole one.
+    /// Whether the head is complete. libcurl takes an answer that breaks off before that for a complete one.
     bool isWhole() const { return isWhole_; }
 
-    /// Whether the answer itself tells where its body ends; else it ends with the connection.
+    /// Whether the answer says where its body ends; if not, it ends with the connection.
     bool tellsLength() const { return tellsLength_; }
 
-    /// Whether it has no more bytes than any honest answer needs, and does not tell two lengths that differ: where its
-    /// body ends could then be read in two ways, of which libcurl takes one.
+    /// Whether the head is no larger than any honest answer needs, and does not state two different lengths: the end of
+    /// its body would then be ambiguous.
     bool isAcceptable() const;
 
 private:

@@ -17,8 +17,8 @@ constexpr int lowestSecurityLevel = 2;
 CURLcode prepareContext(CURL*, void* tls, void*)
 {
     auto* context = static_cast<SSL_CTX*>(tls);
-    // The file that OPENSSL_CONF names may allow keys and ciphers that protect nothing; SSLKEYLOGFILE has the secrets
-    // of each session written to a file.
+    // The file that OPENSSL_CONF names may allow weak keys and ciphers; SSLKEYLOGFILE makes OpenSSL write the secrets
+    // of each session to a file.
     SSL_CTX_set_security_level(context, std::max(SSL_CTX_get_security_level(context), lowestSecurityLevel));
     SSL_CTX_clear_options(context, SSL_OP_LEGACY_SERVER_CONNECT | SSL_OP_ALLOW_UNSAFE_LEGACY_RENEGOTIATION);
     SSL_CTX_set_keylog_callback(context, nullptr);
@@ -42,12 +42,12 @@ void requireVerifiedTls(CURL* transfer, const std::string& bundle)
     setOption(transfer, CURLOPT_SSL_VERIFYPEER, 1L);
     setOption(transfer, CURLOPT_SSL_VERIFYHOST, 2L);
     setOption(transfer, CURLOPT_SSL_CTX_FUNCTION, &prepareContext);
-    // libcurl keeps the parsed store between connections only where no directory is to be searched as well.
+    // libcurl keeps the parsed store between connections only if it has no directory to search as well.
     setOption(transfer, CURLOPT_CAINFO, bundle.c_str());
     setOption(transfer, CURLOPT_CAPATH, nullptr);
     setOption(transfer, CURLOPT_CA_CACHE_TIMEOUT, static_cast<long>(storeLifetime.count()));
 
-    // The same for a proxy that is itself reached over TLS.
+    // The same for a proxy that is reached over TLS.
     setOption(transfer, CURLOPT_PROXY_SSLVERSION, static_cast<long>(CURL_SSLVERSION_TLSv1_2));
     setOption(transfer, CURLOPT_PROXY_SSL_VERIFYPEER, 1L);
     setOption(transfer, CURLOPT_PROXY_SSL_VERIFYHOST, 2L);

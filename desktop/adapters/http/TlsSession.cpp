@@ -10,7 +10,7 @@ int noteIndex()
     return index;
 }
 
-// The session's own record of it (SSL_get_shutdown) is gone by the time that the transfer has ended.
+// The session's own record of this (SSL_get_shutdown) is gone when the transfer has ended.
 void noteClosure(const SSL* session, int event, int alert)
 {
     constexpr int descriptionBits = 0xFF;

@@ -8,22 +8,22 @@
 
 namespace larkspan::adapters {
 
-/// The TLS session that a transfer runs over, kept for what it can tell after libcurl has let go of it.
+/// The TLS session of a transfer, kept so that it can be asked after libcurl has released it.
 class TlsSession {
 public:
     TlsSession() = default;
 
-    /// Of a transfer that is receiving.
+    /// `transfer` must be receiving.
     explicit TlsSession(CURL* transfer);
 
-    /// How many bytes have come and gone on the connection of `transfer`, the handshake's included.
+    /// The number of bytes received and sent on the connection of `transfer`, including the handshake.
     static std::uint64_t bytesMoved(CURL* transfer);
 
-    /// Whether the peer has said that nothing follows. libcurl takes the end of the stream for it, with which anyone
-    /// on the way could cut an answer short.
+    /// Whether the peer has announced the end of the session. libcurl accepts the plain end of the stream instead, with
+    /// which anyone on the way could cut an answer short.
     bool isClosedByPeer() const;
 
-    /// Has the sessions of `context` note what `isClosedByPeer` tells.
+    /// Makes the sessions of `context` record what `isClosedByPeer` returns.
     static void observe(SSL_CTX* context);
 
 private:

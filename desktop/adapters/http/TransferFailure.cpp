@@ -26,7 +26,7 @@ Code connectFailure(CURL* transfer)
 
 Code lossOfConnection(CURL* transfer)
 {
-    // A proxy that refuses the tunnel ends the transfer like a lost connection, before the service was reached.
+    // A proxy that refuses the tunnel ends the transfer as a lost connection does, before the service is reached.
     const auto proxyStatus = information(transfer, CURLINFO_HTTP_CONNECTCODE);
     const bool isRefusedByProxy = proxyStatus >= 300;
     return isRefusedByProxy ? Code::cannotConnectToHost : Code::networkConnectionLost;
@@ -52,7 +52,7 @@ Code transferFailure(CURL* transfer, CURLcode result)
     case CURLE_RECV_ERROR: return lossOfConnection(transfer);
     case CURLE_GOT_NOTHING:
     case CURLE_PARTIAL_FILE: return Code::networkConnectionLost;
-    // The URL's own scheme was checked before: what is not supported is an answer of HTTP/0.9, or of no protocol.
+    // The URL's scheme was checked before, so the unsupported protocol is the answer's: HTTP/0.9, or none.
     case CURLE_UNSUPPORTED_PROTOCOL:
     case CURLE_WEIRD_SERVER_REPLY:
     case CURLE_BAD_CONTENT_ENCODING: return Code::badServerResponse;

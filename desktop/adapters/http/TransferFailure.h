@@ -6,7 +6,7 @@
 
 namespace larkspan::adapters {
 
-/// What a transfer that ended with `result`, which is not success, means to the client.
+/// The client's error for a transfer that ended with `result`, which is not `CURLE_OK`.
 platform::URLError::Code transferFailure(CURL* transfer, CURLcode result);
 
 }  // namespace larkspan::adapters

@@ -51,7 +51,7 @@ void TransportOperations::stop()
 
 void TransportOperations::findProxy(Id id)
 {
-    // libcurl reads the environment by itself.
+    // libcurl reads the environment itself.
     if (!settings_.proxies || environmentNamesProxy()) return awaitTurn(id);
 
     auto answer = [operations = weak_from_this(), id](std::string proxy) {
@@ -62,7 +62,7 @@ void TransportOperations::findProxy(Id id)
 
 void TransportOperations::bringProxy(Id id, std::string proxy)
 {
-    // The desktop may answer when the program ends and the loop is gone.
+    // The desktop may answer after the program has begun to end and the loop is gone.
     if (isStopped_) return;
     loop_.post([operations = weak_from_this(), id, proxy = std::move(proxy)]() mutable {
         if (const auto alive = operations.lock()) alive->takeProxy(id, std::move(proxy));
@@ -113,7 +113,7 @@ void TransportOperations::finish(Id id, Result result)
     auto complete = std::move(ended.mapped().complete);
     ended = {};
     startNextRead();
-    // What is called may let go of the transport.
+    // The callback may destroy the transport.
     complete(std::move(result));
 }
 

@@ -15,11 +15,11 @@
 
 namespace larkspan::adapters {
 
-/// The requests of a transport from their arrival to their completion: their time, their cancellation, their proxy
-/// and, for reads, their turn. Lives on the loop's thread.
+/// The requests of a transport from start to completion: their deadline, cancellation, proxy and, for reads, their
+/// turn. Loop's thread only.
 ///
-/// Reads take turns on one connection, so that the polls of an idle program cost one handshake at most; a read whose
-/// turn is long in coming gets a connection of its own. Writes wait for nothing.
+/// Reads take turns on one connection, so that the polls of an idle program cost one handshake at most; a read that
+/// waits too long gets another connection. Writes do not wait.
 class TransportOperations : public std::enable_shared_from_this<TransportOperations> {
 public:
     using Result = platform::HttpTransport::Result;
@@ -29,7 +29,7 @@ public:
 
     void begin(platform::HttpRequest request, std::stop_token stop, Complete complete);
 
-    /// Forgets every request, also those that come later, their completions uncalled.
+    /// Forgets every request, also later ones, without calling their completions.
     void stop();
 
 private:

@@ -9,24 +9,24 @@
 
 namespace larkspan::adapters {
 
-/// In bytes, of a body that the program takes.
+/// The largest body that the program accepts, in bytes.
 inline constexpr std::size_t largestBodyTaken = 16 * 1024 * 1024;
 
-/// What a transport holds its requests to; the defaults are the program's.
+/// The limits and the trust of a transport; the defaults are the program's.
 struct TransportSettings {
-    /// The authorities that vouch for the service, and no others.
+    /// The file of the only authorities that are trusted.
     std::string certificateBundle = systemCertificateBundle();
 
-    /// How long a request lives while no byte comes or goes. The time for the whole of it is the request's own.
+    /// How long a request may go without a byte sent or received. The time for the whole request is set in the request.
     std::chrono::milliseconds idleTimeout = std::chrono::seconds(30);
 
-    /// The most bytes that a body may have once it is unpacked.
+    /// The largest size of a body after decompression, in bytes.
     std::size_t largestBody = largestBodyTaken;
 
-    /// How long a read waits for the connection of another one before it gets a connection of its own.
+    /// How long a read waits for the connection that another one uses before it gets a new one.
     std::chrono::milliseconds patience{500};
 
-    /// Asked where the environment names no proxy. Outlives the transport; may answer after the transport has stopped.
+    /// Asked if the environment names no proxy. Must outlive the transport; may answer after the transport has stopped.
     ProxySettings* proxies = nullptr;
 };
 

@@ -50,7 +50,7 @@ GLibLoop::GLibLoop(const GLibStop& stop)
 
 GLibLoop::~GLibLoop()
 {
-    // What used the loop and is gone by now has left its cleaning up to the loop's next turn.
+    // Destroyed users of the loop have left their clean-up to its next iteration.
     catchUp();
     g_main_context_unref(context_);
 }
@@ -78,7 +78,7 @@ ObjectPointer<GAsyncResult> GLibLoop::await(Deadline deadline, const Begin& begi
     begin(cancellable.get(), keepResult, &result);
     const bool came = turnUntil(deadline, [&result] { return result != nullptr; });
     if (!came) g_cancellable_cancel(cancellable.get());
-    // A cancelled operation ends at once, but it does end, and in this loop.
+    // A cancelled operation ends at once, but only within this loop.
     while (!result) g_main_context_iteration(context_, TRUE);
     return result;
 }

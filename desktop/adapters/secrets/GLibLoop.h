@@ -8,11 +8,11 @@
 
 namespace larkspan::adapters {
 
-/// An event loop of GLib's that turns only inside of these calls: what GLib offers without blocking then ends at a
-/// deadline, or when `stop` is requested. One thread at a time.
+/// A GLib event loop that runs only inside these calls, so that GLib's asynchronous functions can be waited for until a
+/// deadline, or until `stop` is requested. One thread at a time.
 class GLibLoop {
 public:
-    /// While it lives, what is begun on this thread ends in the loop.
+    /// While it exists, operations that are started on this thread end in the loop.
     class Entry {
     public:
         explicit Entry(GLibLoop& loop);
@@ -33,14 +33,14 @@ public:
     GLibLoop(const GLibLoop&) = delete;
     GLibLoop& operator=(const GLibLoop&) = delete;
 
-    /// Begins, inside of an entry, an asynchronous operation and waits for its result, which past the deadline is that
-    /// it was cancelled.
+    /// Starts an asynchronous operation, inside an entry, and waits for its result. At the deadline the operation is
+    /// cancelled, and the result says so.
     ObjectPointer<GAsyncResult> await(Deadline deadline, const Begin& begin);
 
     /// Waits until `condition` holds; false if the deadline or the stop came first.
     bool turnUntil(Deadline deadline, const std::function<bool()>& condition);
 
-    /// Handles what has come in meanwhile, without waiting.
+    /// Handles pending events without waiting.
     void catchUp();
 
     bool isStopped() const { return stop_.isRequested(); }

@@ -18,7 +18,7 @@ struct VariantUnref {
 template <typename Object>
 using ObjectPointer = std::unique_ptr<Object, ObjectUnref>;
 
-/// Owns one reference of a variant, a floating one not included.
+/// Owns one reference of a variant, which is not a floating one.
 using VariantPointer = std::unique_ptr<GVariant, VariantUnref>;
 
 }  // namespace larkspan::adapters

@@ -4,7 +4,7 @@
 
 namespace larkspan::adapters {
 
-/// Ends the waits of every `GLibLoop` that was made with it, the later ones at once. Any thread.
+/// Ends the waits of every `GLibLoop` that was constructed with it; later ones end at once. Any thread.
 class GLibStop {
 public:
     void request() { g_cancellable_cancel(cancellable_.get()); }

@@ -12,11 +12,11 @@ class SecretPrompt {
 public:
     SecretPrompt(SecretServiceBus& bus, std::string path);
 
-    /// Raises the prompt and waits as long as it stands, be it minutes, while the service is alive. Gives what the
-    /// user's consent brought; absent if the user dismissed the prompt, or it was lost.
+    /// Shows the prompt and waits until it is closed, even for minutes, while the service is alive. Returns the result
+    /// that follows the user's consent; empty if the user dismissed the prompt, or it was lost.
     std::optional<VariantPointer> run();
 
-    /// For a prompt that is not to be raised.
+    /// Discards a prompt that is not to be shown.
     void dismiss();
 
 private:

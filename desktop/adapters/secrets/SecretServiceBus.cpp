@@ -13,13 +13,13 @@ SecretServiceBus::SecretServiceBus(const GLibStop& stop, std::chrono::millisecon
 bool SecretServiceBus::connect()
 {
     if (connection_ && g_dbus_connection_is_closed(connection_.get()) == FALSE) return true;
-    // GLib hands out the old connection for as long as somebody holds it.
+    // GLib returns the old connection for as long as somebody holds it.
     connection_.reset();
     const auto result = loop_.await(deadline_, [](GCancellable* cancellable, GAsyncReadyCallback ready, gpointer data) {
         g_bus_get(G_BUS_TYPE_SESSION, cancellable, ready, data);
     });
     connection_.reset(g_bus_get_finish(result.get(), nullptr));
-    // GLib's habit is to end the process when the session bus goes.
+    // By default, GLib ends the process when the session bus disappears.
     if (connection_) g_dbus_connection_set_exit_on_close(connection_.get(), FALSE);
     return connection_ != nullptr;
 }

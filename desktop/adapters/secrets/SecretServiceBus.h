@@ -7,31 +7,31 @@
 
 namespace larkspan::adapters {
 
-/// Calls to the Secret Service on the session bus, made inside of an entry of its loop. The calls since the last
-/// restart of the deadline share it, so that a service that answers each of them late ends in time too. One thread at a
-/// time.
+/// Calls to the Secret Service on the session bus, made inside an entry of its loop. The calls since the last restart
+/// of the deadline share it, so that many late answers cannot add up. One thread at a time.
 class SecretServiceBus {
 public:
     static constexpr auto serviceName = "org.freedesktop.secrets";
 
-    /// Everything ends when `stop` is requested.
+    /// Every call ends when `stop` is requested.
     SecretServiceBus(const GLibStop& stop, std::chrono::milliseconds patience);
 
-    /// The answer; empty if there is none in time or it is an error. Takes `arguments`, which may be floating.
+    /// Returns the answer; empty if it is an error or does not come in time. Takes ownership of `arguments`, which may
+    /// be floating.
     VariantPointer call(
         const std::string& path, const char* interface, const char* method, GVariant* arguments, const char* replyType);
 
     /// Calls without waiting for an answer.
     void tell(const std::string& path, const char* interface, const char* method);
 
-    /// The deadline is `patience` from now.
+    /// Sets the deadline to `patience` from now.
     void restartDeadline() { restartDeadline(patience_); }
     void restartDeadline(std::chrono::milliseconds patience);
 
-    /// Connects if the bus isn't connected; says whether it is now.
+    /// Connects to the bus if necessary; returns whether it is connected.
     bool connect();
 
-    /// Who owns the service's name at the moment; empty if nobody does.
+    /// The current owner of the service's name; empty if it has none.
     std::string owner();
 
     GDBusConnection* connection() const { return connection_.get(); }

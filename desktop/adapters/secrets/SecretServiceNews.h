@@ -4,8 +4,8 @@
 
 namespace larkspan::adapters {
 
-/// Whether the Secret Service has said of its own accord that an item or a keyring came, changed or went. Made inside
-/// of an entry of the loop that is to hear of it; what it said before that was not heard, so at first there are news.
+/// Notices the signals of the Secret Service that an item or a keyring was added, changed or removed. Constructed
+/// inside an entry of the loop that receives them; reports a change at first, since earlier signals were missed.
 class SecretServiceNews {
 public:
     explicit SecretServiceNews(GDBusConnection* connection);

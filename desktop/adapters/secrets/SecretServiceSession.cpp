@@ -33,7 +33,7 @@ GVariant* itemProperties(const platform::CredentialItem& item)
 {
     GVariantBuilder builder;
     g_variant_builder_init(&builder, G_VARIANT_TYPE("a{sv}"));
-    // Only for the eyes of whoever looks through the keyring.
+    // Shown to users who look through the keyring; not used otherwise.
     g_variant_builder_add(
         &builder, "{sv}", "org.freedesktop.Secret.Item.Label", g_variant_new_string(std::string(item.service).c_str()));
     g_variant_builder_add(&builder, "{sv}", "org.freedesktop.Secret.Item.Attributes", attributes(item));
@@ -103,7 +103,7 @@ void SecretServiceSession::open()
 bool SecretServiceSession::isCurrent()
 {
     if (!service_) return false;
-    // The bus tells of a service that went or came before anything that the next one says, so no question is needed.
+    // The bus reports a new owner before anything that the owner sends, so it need not be asked.
     bus_.loop().catchUp();
     const std::unique_ptr<char, decltype(&g_free)> owner(
         g_dbus_proxy_get_name_owner(G_DBUS_PROXY(service_.get())), &g_free);
@@ -153,7 +153,7 @@ void SecretServiceSession::remove(const Path& item)
 {
     const auto reply = bus_.call(item, itemInterface, "Delete", nullptr, "(o)");
     if (!reply) return;
-    // Some services have every removal confirmed, which is part of the removal that the user has asked for.
+    // Some services ask to confirm every removal, which is part of the removal that the user asked for.
     if (const auto prompt = text(child(reply, 0)); prompt != noPath) SecretPrompt(bus_, prompt).run();
 }
 

@@ -13,16 +13,16 @@
 
 namespace larkspan::adapters {
 
-/// The program's session with the Secret Service, and what it asks of it. It is kept from one operation to the next,
-/// because services lose memory with every session that is opened, and opened anew after the service was restarted.
-/// The calls end as those of `SecretServiceBus` do. One thread at a time.
+/// The program's session with the Secret Service. It is kept between operations, because services leak memory with
+/// every session that is opened, and is opened again after the service was restarted. The calls have the deadline of
+/// `SecretServiceBus`. One thread at a time.
 class SecretServiceSession {
 public:
-    /// Encloses the calls of one operation: opens the session if it has to, and begins the deadline.
+    /// Encloses the calls of one operation: opens the session if necessary and starts the deadline.
     class Conversation {
     public:
         explicit Conversation(SecretServiceSession& session);
-        /// As long as `patience` at most.
+        /// Takes `patience` at most.
         Conversation(SecretServiceSession& session, std::chrono::milliseconds patience);
 
     private:
@@ -30,7 +30,7 @@ public:
     };
 
     using Path = std::string;
-    /// Asked when only a prompt leads on; a refusal is as if the user had dismissed it.
+    /// Asked before a prompt is shown; false has the effect of a dismissed prompt.
     using MayPrompt = std::function<bool()>;
 
     struct Found {
@@ -40,15 +40,15 @@ public:
 
     SecretServiceSession(const GLibStop& stop, std::chrono::milliseconds patience);
 
-    /// Whether there is a service that answers; the other calls need one.
+    /// Whether a service answers; required by the other calls.
     bool isOpen() const { return service_ != nullptr; }
 
-    /// Whether anything may have changed since the last call of `forgetNews`. What an answer reports has been heard
-    /// once the answer is there.
+    /// Whether anything may have changed since the last call of `forgetNews`. Changes that an answer reflects are known
+    /// when the answer arrives.
     bool hasNews() const { return news_->haveCome(); }
     void forgetNews() { news_->forget(); }
 
-    /// The items with these attributes. Raises no prompt.
+    /// The items with these attributes. Shows no prompt.
     Found search(const platform::CredentialItem& item);
 
     /// Unlocks an item or a collection.
@@ -56,15 +56,15 @@ public:
 
     std::optional<std::string> secret(const Path& item);
 
-    /// When the item was changed last, in seconds; 0 if the service doesn't say.
+    /// The time of the item's last change, in seconds; 0 if the service does not say.
     guint64 modificationTime(const Path& item);
 
     void remove(const Path& item);
 
-    /// Where new items go. A user without any collection is asked to make one.
+    /// The collection for new items. A user without any collection is asked to make one.
     std::optional<Path> defaultCollection(const MayPrompt& mayPrompt);
 
-    /// Adds an item; one with the same attributes in the same collection is replaced.
+    /// Adds an item, or replaces the one with the same attributes in `collection`.
     bool create(const Path& collection, const platform::CredentialItem& item, const std::string& secret);
 
 private:
@@ -74,7 +74,7 @@ private:
 
     SecretServiceBus bus_;
     ObjectPointer<SecretService> service_;
-    /// The bus name of the very process that the session is with.
+    /// The unique bus name of the process at the other end of the session.
     std::string owner_;
     std::optional<SecretServiceNews> news_;
 };

@@ -58,13 +58,13 @@ std::optional<std::string> SecretServiceStore::find(const platform::CredentialIt
     return session_->secret(lastPlace_->path);
 }
 
-// Each request reads the key anew, and hardly ever has anything in the keyring changed since the one before.
+// Each request reads the key, and the keyring has hardly ever changed since the previous request.
 std::optional<std::string> SecretServiceStore::findWhereItWas(const platform::CredentialItem& item)
 {
     if (!lastPlace_ || lastPlace_->service != item.service || lastPlace_->account != item.account) return std::nullopt;
     if (session_->hasNews()) return std::nullopt;
     auto secret = session_->secret(lastPlace_->path);
-    // News that came with the answer may be of another item that counts now.
+    // The keyring may have changed during the call, so that another item counts now.
     if (!secret || session_->hasNews()) return std::nullopt;
     mayPrompt_ = true;
     return secret;
@@ -79,7 +79,7 @@ bool SecretServiceStore::add(const platform::CredentialItem& item, const std::st
     const auto collection = session_->defaultCollection([&] { return hasPrompted = mayPrompt_.exchange(false); });
     if (hasPrompted) mayPrompt_ = collection.has_value();
     if (!collection || !unlock(*collection)) return false;
-    // In a keyring that stays locked, an item that was not removed would come up in place of this one some day.
+    // An item that could not be removed from a locked keyring might be found in place of this one later.
     return session_->search(item).locked.empty() && session_->create(*collection, item, secret);
 }
 
@@ -105,7 +105,7 @@ bool SecretServiceStore::unlock(const std::string& path)
 {
     bool hasPrompted = false;
     const bool isUnlocked = session_->unlock(path, [&] { return hasPrompted = mayPrompt_.exchange(false); });
-    // What the user did while the prompt stood doesn't ask for another one.
+    // Actions of the user during the prompt do not allow another one.
     if (hasPrompted) mayPrompt_ = isUnlocked;
     return isUnlocked;
 }

@@ -15,39 +15,39 @@ class SecretServiceSession;
 
 /// The user's keyring, through the Secret Service of the session bus.
 ///
-/// Call the operations on the client's thread: they wait for the service, for at most `patience` altogether, and for a
-/// prompt that they raise as long as it stands, while the window lives on behind it. An operation begun meanwhile
-/// waits its turn there.
+/// Call the operations on the client's thread: they block until the service answers, for at most `patience` altogether,
+/// and until a prompt that they show is closed; the window stays responsive meanwhile.
 ///
-/// A locked keyring is asked for with one prompt. Dismissed, the secret counts as absent and no further prompt is
-/// raised until `allowPromptAgain()`, an addition or removal, or until the keyring was found unlocked in between.
+/// For a locked keyring one prompt is shown. If it is dismissed, the secret counts as absent, and no further prompt is
+/// shown until `allowPromptAgain()`, an addition or removal, or until the keyring is found unlocked.
 class SecretServiceStore final : public platform::CredentialStore {
 public:
     explicit SecretServiceStore(std::chrono::milliseconds patience = std::chrono::seconds(10));
     ~SecretServiceStore() override;
 
-    /// Opens the session, so that the first read need not wait for that. Raises no prompt, and gives up after a second:
-    /// the read then tries again with all its patience.
+    /// Opens the session, so that the first read need not wait for that. Shows no prompt, and gives up after a second;
+    /// the read then tries again with its full `patience`.
     void open();
 
-    /// Of several matching items, the one changed last. An unlocked one goes before any that needs a prompt.
+    /// Of several matching items, returns the one that was changed last. Unlocked items are preferred to those that
+    /// need a prompt.
     std::optional<std::string> find(const platform::CredentialItem& item) override;
 
-    /// Fails beside an item that matches and stays locked.
+    /// Fails if a matching item stays locked.
     bool add(const platform::CredentialItem& item, const std::string& secret) override;
 
-    /// Removes every matching item; locked ones with the user's consent. That is always the user's own wish, so a
-    /// prompt dismissed before doesn't count any more.
+    /// Removes every matching item, locked ones with the user's consent. As the user has asked for it, an earlier
+    /// dismissal of the prompt no longer counts.
     void remove(const platform::CredentialItem& item) override;
 
-    /// The user has done something that asks for the secret: the next prompt may be raised. Any thread.
+    /// Allows the next prompt, because the user has done something that needs the secret. Any thread.
     void allowPromptAgain() override { mayPrompt_ = true; }
 
-    /// Ends the running operation and, at once, all later ones: the program ends. Any thread.
+    /// Ends the running operation; all later ones end at once. For the end of the program. Any thread.
     void stop();
 
 private:
-    /// Where the last secret was found.
+    /// The place where the last secret was found.
     struct Place {
         std::string service;
         std::string account;

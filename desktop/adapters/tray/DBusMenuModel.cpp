@@ -19,10 +19,10 @@ bool isSameItem(const MenuRow& one, const MenuRow& other)
     return one.kind == other.kind && one.action == other.action && one.representedObject == other.representedObject;
 }
 
-/// Tells items apart in one menu. The number counts those that are otherwise alike.
+/// Identifies an item in its menu. The number counts those that are otherwise equal.
 using Identity = std::tuple<MenuRow::Kind, MenuRow::Action, std::string, int>;
 
-/// Names the rows of a menu from the first to the last.
+/// Assigns identities to the rows of a menu from the first to the last.
 class Identities {
 public:
     Identity next(const MenuRow& row)
@@ -38,7 +38,7 @@ private:
 void noteChange(DBusMenuModel::Change& change, int id, const MenuRow& old, const MenuRow& row)
 {
     if (old == row) return;
-    // The title is what is long, and what seldom changes.
+    // The title is long and seldom changes.
     const bool isTitleKept = old.title == row.title;
     const auto propertiesOf = [isTitleKept](const MenuRow& from) {
         return menuRowProperties({.kind = from.kind,
@@ -121,7 +121,7 @@ void DBusMenuModel::arrange(const std::vector<MenuRow>& rows, Change& change)
     for (const auto& row : rows) {
         const auto old = known.find(identities.next(row));
         const int id = old == known.end() ? ++lastId_ : ids_[old->second];
-        // A host asks again for the layout, but not each for the properties of items that it knows.
+        // Every host requests a changed layout, but not every one requests the properties of items that it knows.
         if (old != known.end()) noteChange(change, id, rows_[old->second], row);
         positions.insert(id, ids.size());
         ids.push_back(id);

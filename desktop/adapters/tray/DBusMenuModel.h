@@ -13,15 +13,14 @@
 
 namespace larkspan::adapters {
 
-/// The rows as a host of menus knows them: under ids that a row keeps for as long as it is there. A row is the same
-/// when it does the same to the same record, so a host with the menu open never finds another page under the pointer
-/// than the one it shows.
+/// The rows as hosts of menus see them, under ids that stay the same while a row exists. A row is the same if it does
+/// the same to the same record, so that in an open menu the pointer is never on another page than the one shown.
 class DBusMenuModel {
 public:
     /// The id of the menu itself, whose children the rows are.
     static constexpr int rootId = 0;
 
-    /// What a host has to be told.
+    /// The changes that hosts have to be told.
     struct Change {
         QList<DBusMenuItem> updated = {};
         QList<DBusMenuItemKeys> removed = {};
@@ -30,18 +29,18 @@ public:
 
     Change setRows(const std::vector<platform::MenuRow>& rows);
 
-    /// Counts the changes of the layout.
+    /// The number of changes of the layout so far.
     uint revision() const { return revision_; }
 
-    /// Null for an id that no row has.
+    /// The row with this id; null if there is none.
     const platform::MenuRow* row(int id) const;
     bool contains(int id) const { return id == rootId || row(id) != nullptr; }
 
-    /// The item with this id and `depth` levels below it, all for a negative one. No names ask for all properties.
+    /// The item with this id and `depth` levels below it, all levels if negative. Without names it has all properties.
     std::optional<DBusMenuLayout> layout(int id, int depth, const QStringList& names) const;
-    /// No ids ask for every item; an unknown one is passed over.
+    /// The properties of the items with these ids, of all items if there are none. Unknown ids are ignored.
     QList<DBusMenuItem> properties(const QList<int>& ids, const QStringList& names) const;
-    /// Invalid if there is no such item or it has no such property.
+    /// Invalid if the item or its property does not exist.
     QVariant property(int id, const QString& name) const;
 
 private:

@@ -94,7 +94,7 @@ void DBusMenuService::handle(int id, const QString& event)
 {
     const auto* const row = model_.row(id);
     if (!row || row->kind != platform::MenuRow::Kind::command || event != "clicked") return;
-    // After the answer to the host: what the command does may take a while, and may be the end of this object.
+    // After the answer to the host, since the command may take a while and may destroy this object.
     QMetaObject::invokeMethod(this, [this, chosen = *row] { choose_(chosen); }, Qt::QueuedConnection);
 }
 

@@ -14,8 +14,8 @@
 
 namespace larkspan::adapters {
 
-/// The menu as the desktop's panel finds it on the bus, version 3 of the protocol. Whatever the bus asks of it that
-/// makes no sense is refused or passed over. Main thread only.
+/// The menu's object on the bus for the desktop's panel, version 3 of the protocol. Calls that make no sense are
+/// refused or ignored. Main thread only.
 class DBusMenuService final : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "com.canonical.dbusmenu")
@@ -25,10 +25,10 @@ class DBusMenuService final : public QObject, protected QDBusContext {
     Q_PROPERTY(QStringList IconThemePath READ iconThemePath CONSTANT)
 
 public:
-    /// `choose` hears of each command that the user chooses, in a turn of the event loop of its own.
+    /// `choose` is called for each command that the user chooses, in a later turn of the event loop.
     explicit DBusMenuService(std::function<void(const platform::MenuRow& row)> choose);
 
-    /// Tells the hosts what differs from the rows before, and nothing if nothing does.
+    /// Tells the hosts what differs from the previous rows, if anything does.
     void setRows(const std::vector<platform::MenuRow>& rows);
 
     uint version() const { return 3; }

@@ -9,7 +9,7 @@
 
 namespace larkspan::adapters {
 
-/// What `com.canonical.dbusmenu` puts on the wire; the comment is the type's signature there.
+/// The types of `com.canonical.dbusmenu`; the comments are their signatures on the bus.
 struct DBusMenuItem {  // (ia{sv})
     int id = 0;
     QVariantMap properties = {};
@@ -45,7 +45,7 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuItemKeys&
 const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuLayout& layout);
 const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuEvent& event);
 
-/// Call before the first object that uses the types is exported.
+/// Call it before the first object that uses the types is exported.
 void registerDBusMenuTypes();
 
 }  // namespace larkspan::adapters

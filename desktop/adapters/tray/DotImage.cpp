@@ -13,7 +13,7 @@ using Dot = platform::MenuRow::Dot;
 
 constexpr int menuIconPoints = 16;
 constexpr int dotPoints = 8;
-// Hosts shrink an icon that is larger than theirs, and leave a smaller one as it is.
+// Hosts scale down an icon that is too large, but do not scale up a small one.
 constexpr int pixelsPerPoint = 2;
 
 QByteArray drawn(const QColor& color)

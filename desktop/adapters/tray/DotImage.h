@@ -7,11 +7,10 @@
 
 namespace larkspan::adapters {
 
-/// The colour of a row's dot. The menu's own colours are the host's secret, so it stands out from white and from
-/// black alike.
+/// The colour of a row's dot. The menu's colours are known to the host only, so it contrasts with both white and black.
 QColor dotColor(platform::MenuRow::Dot dot);
 
-/// The dot as a PNG of a menu icon's size, at twice its resolution; empty for none.
+/// The dot as a PNG in the size of a menu icon, at twice its resolution; empty for no dot.
 QByteArray dotImage(platform::MenuRow::Dot dot);
 
 }  // namespace larkspan::adapters

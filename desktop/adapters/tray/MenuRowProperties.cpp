@@ -9,8 +9,8 @@ namespace larkspan::adapters {
 
 namespace {
 
-/// A lone underscore marks the letter that chooses the row and is not shown; two arrive as one. An ampersand means
-/// nothing here: hosts whose toolkit takes it for such a mark double it themselves.
+/// A single underscore marks the mnemonic and is not shown; two are shown as one. An ampersand has no meaning here:
+/// hosts whose toolkit uses it as a mark double it themselves.
 QString label(const std::string& title)
 {
     return QString::fromStdString(title).replace('_', "__");
@@ -33,7 +33,7 @@ QVariantMap menuRowProperties(const platform::MenuRow& row)
     if (!row.toolTip.empty()) {
         const auto toolTip = QString::fromStdString(row.toolTip);
         properties.insert("accessible-desc", toolTip);
-        // Not of the protocol, but some hosts read it.
+        // Not part of the protocol, but some hosts read it.
         properties.insert("tooltip", toolTip);
     }
     return properties;

@@ -6,7 +6,7 @@
 
 namespace larkspan::adapters {
 
-/// How `com.canonical.dbusmenu` describes a row. What has the protocol's default value is left out.
+/// The properties of a row in `com.canonical.dbusmenu`, without those that have the protocol's default value.
 QVariantMap menuRowProperties(const platform::MenuRow& row);
 
 }  // namespace larkspan::adapters

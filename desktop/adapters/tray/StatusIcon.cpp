@@ -13,7 +13,7 @@ namespace larkspan::adapters {
 
 namespace {
 
-/// The sizes that panels have, and twice the usual ones.
+/// The sizes of icons in panels, and the usual ones doubled.
 constexpr std::array pixmapSizes{16, 22, 24, 32, 48, 64};
 
 struct Row {
@@ -37,7 +37,7 @@ QString iconName(const std::string& symbolName)
     return QString("com.kestrune.larkspan-%1-symbolic").arg(QLatin1String(status));
 }
 
-/// In the theme that every other one falls back to, where this program's icons are installed.
+/// In the theme that every other theme falls back to, where this program's icons are installed.
 bool isInstalled(const QString& iconName)
 {
     const auto file = QStringLiteral("icons/hicolor/symbolic/apps/%1.svg").arg(iconName);

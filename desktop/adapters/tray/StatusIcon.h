@@ -9,22 +9,22 @@
 
 namespace larkspan::adapters {
 
-/// The item's icon: the name of the installed one, which the host recolours, or its pixels where none is installed.
-/// Both are looked up when somebody asks, which no desktop without a panel does.
+/// The item's icon: the name of the installed icon, which the host recolours, or pixels if none is installed. Both are
+/// looked up on demand, which never happens on a desktop without a panel.
 class StatusIcon {
 public:
     StatusIcon() = default;
 
-    /// The icon for a symbol of the overall status; any other symbol is that of the unknown one.
+    /// The icon for a symbol of the overall status; any other symbol gives the icon of the unknown status.
     StatusIcon(const std::string& symbolName, const QColor& color);
 
-    /// Empty where the icon is not installed.
+    /// Empty if the icon is not installed.
     QString themeName() const;
 
-    /// Empty where it is.
+    /// Empty if the icon is installed.
     StatusNotifierPixmaps pixmaps() const;
 
-    /// Whether a host that shows `other` shows this already: the colour of an installed icon is the host's.
+    /// Whether this looks like `other` on a host, which chooses the colour of an installed icon itself.
     bool looksLike(const StatusIcon& other) const;
 
 private:

@@ -51,7 +51,7 @@ void StatusNotifierItem::setMenu(const std::vector<MenuRow>& rows)
 
 void StatusNotifierItem::perform(const MenuRow& row) const
 {
-    // A copy, since what is performed may end this object.
+    // A copy, since the action may destroy this object.
     const auto perform = perform_;
     if (perform) perform(row);
 }

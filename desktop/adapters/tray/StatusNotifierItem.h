@@ -15,15 +15,15 @@
 
 namespace larkspan::adapters {
 
-/// The item in the panel of those desktops that know `org.kde.StatusNotifierItem`, with its menu. Main thread only.
+/// The item with its menu in the panel of desktops that support `org.kde.StatusNotifierItem`. Main thread only.
 class StatusNotifierItem final : public QObject, public platform::StatusItem {
     Q_OBJECT
 
 public:
-    /// `appearance` outlives the item.
+    /// `appearance` must outlive the item.
     StatusNotifierItem(QDBusConnection bus, const Appearance& appearance, QObject* parent = nullptr);
 
-    /// True while the desktop has a panel that shows such items.
+    /// Whether the desktop has a panel that shows such items.
     bool hasHost() const { return watcher_.hasHost(); }
 
     bool isShown() const override { return hasHost(); }
@@ -35,7 +35,7 @@ public:
 signals:
     void hasHostChanged();
 
-    /// Comes ahead of the row that the user chose: with this token a window may take the focus for it.
+    /// Emitted before the chosen row's action: with this token a window may take the focus.
     void activationTokenProvided(const QString& token);
 
 private:

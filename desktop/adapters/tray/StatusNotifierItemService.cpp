@@ -26,11 +26,11 @@ void StatusNotifierItemService::setToolTip(const QString& toolTip)
 
 void StatusNotifierItemService::Activate(int, int)
 {
-    // After the answer to the host, as with the rows of the menu.
+    // After the answer to the host, as for the rows of the menu.
     QMetaObject::invokeMethod(this, &StatusNotifierItemService::activated, Qt::QueuedConnection);
 }
 
-// Hosts call these whatever an item does with them.
+// Hosts call these even if an item does nothing then.
 void StatusNotifierItemService::SecondaryActivate(int, int) {}
 void StatusNotifierItemService::ContextMenu(int, int) {}
 void StatusNotifierItemService::Scroll(int, const QString&) {}

@@ -9,7 +9,7 @@
 
 namespace larkspan::adapters {
 
-/// The item as the desktop's panel finds it on the bus. Main thread only.
+/// The item's object on the bus for the desktop's panel. Main thread only.
 class StatusNotifierItemService final : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierItem")
@@ -37,7 +37,7 @@ public:
 
     explicit StatusNotifierItemService(QObject* parent = nullptr);
 
-    /// Each tells the hosts only if it changes something.
+    /// The setters tell the hosts only of actual changes.
     void setIcon(const StatusIcon& icon, const QString& accessibleDescription);
     void setToolTip(const QString& toolTip);
 
@@ -52,7 +52,7 @@ public:
     QString noName() const { return {}; }
     StatusNotifierPixmaps noPixmap() const { return {}; }
     StatusNotifierToolTip toolTip() const { return {.title = toolTip_}; }
-    /// A press on the item opens the menu.
+    /// Whether a press on the item opens the menu.
     bool isMenu() const { return true; }
     QDBusObjectPath menu() const { return QDBusObjectPath(menuPath); }
 
@@ -67,7 +67,7 @@ signals:
     Q_SCRIPTABLE void NewIcon();
     Q_SCRIPTABLE void NewToolTip();
 
-    /// The user pressed the item itself, on a host that doesn't open its menu then.
+    /// Emitted when the user presses the item, on a host that does not open its menu then.
     void activated();
     void activationTokenProvided(const QString& token);
 

@@ -7,7 +7,7 @@
 
 namespace larkspan::adapters {
 
-/// What `org.kde.StatusNotifierItem` puts on the wire; the comment is the type's signature there.
+/// The types of `org.kde.StatusNotifierItem`; the comments are their signatures on the bus.
 struct StatusNotifierPixmap {  // (iiay)
     int width = 0;
     int height = 0;
@@ -32,7 +32,7 @@ QDBusArgument& operator<<(QDBusArgument& argument, const StatusNotifierToolTip& 
 const QDBusArgument& operator>>(const QDBusArgument& argument, StatusNotifierPixmap& pixmap);
 const QDBusArgument& operator>>(const QDBusArgument& argument, StatusNotifierToolTip& toolTip);
 
-/// Call before the first object that uses the types is exported.
+/// Call it before the first object that uses the types is exported.
 void registerStatusNotifierTypes();
 
 }  // namespace larkspan::adapters

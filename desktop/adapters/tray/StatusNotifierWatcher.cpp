@@ -51,7 +51,7 @@ void StatusNotifierWatcher::setOwner(const QString& owner)
     askForHost();
 }
 
-// To that process and no other, so that each list has the item once and none is started for it.
+// Addressed to that process only, so that each watcher has the item once and none is started by the call.
 QDBusMessage StatusNotifierWatcher::call(const char* interface, const char* method, const QVariantList& arguments) const
 {
     auto message = QDBusMessage::createMethodCall(owner_, path, interface, method);
@@ -61,7 +61,7 @@ QDBusMessage StatusNotifierWatcher::call(const char* interface, const char* meth
 
 void StatusNotifierWatcher::sendRegistration()
 {
-    // The connection's own name, since a sandbox doesn't let programs own the customary one.
+    // The connection's unique name, since a sandbox does not let programs own the customary one.
     bus_.asyncCall(call(watcherInterface, "RegisterStatusNotifierItem", {bus_.baseService()}));
 }
 

@@ -12,8 +12,8 @@ class QDBusPendingCallWatcher;
 
 namespace larkspan::adapters {
 
-/// The desktop's list of items, `org.kde.StatusNotifierWatcher`, which may come, go and return at any time. Never
-/// waits for it and never has it started. Main thread only.
+/// The desktop's list of items, `org.kde.StatusNotifierWatcher`, which may appear and disappear at any time. Never
+/// waits for it and never starts it. Main thread only.
 class StatusNotifierWatcher final : public QObject {
     Q_OBJECT
 
@@ -21,10 +21,10 @@ public:
     explicit StatusNotifierWatcher(QDBusConnection bus, QObject* parent = nullptr);
     ~StatusNotifierWatcher() override;
 
-    /// Puts the item of this connection on the list, now and whenever the list is a new one.
+    /// Registers the item of this connection, now and with each new watcher.
     void registerItem();
 
-    /// True while somebody shows the items of the list.
+    /// Whether some panel shows the items of the list.
     bool hasHost() const { return hasHost_; }
 
 signals:
@@ -41,7 +41,7 @@ private:
 
     QDBusConnection bus_;
     std::unique_ptr<QDBusPendingCallWatcher> answer_;
-    /// The bus name of the process that has the list; empty while none has.
+    /// The bus name of the watcher's process; empty while there is none.
     QString owner_;
     bool hasItem_ = false;
     bool hasHost_ = false;

@@ -1,4 +1,4 @@
-# The symbols of the overall status as icons for the desktop's theme, in the folders that a theme has.
+# The symbols of the overall status as icons for the desktop's theme, in the folders of a theme.
 include(${CMAKE_SOURCE_DIR}/desktop/qml/symbols.cmake)
 
 set(LARKSPAN_STATUS_ICONS
