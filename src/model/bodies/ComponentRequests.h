@@ -15,7 +15,7 @@ struct CreateComponentRequest {
     bool operator==(const CreateComponentRequest&) const = default;
 };
 
-/// What a component is to become.
+/// The body of a request that changes a component.
 struct UpdateComponentRequest {
     WIRE_FIELD(std::optional<std::string>, name);
     WIRE_FIELD(std::optional<std::string>, description);

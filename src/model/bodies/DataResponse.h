@@ -4,7 +4,7 @@
 
 namespace larkspan::model {
 
-/// The envelope that most results arrive in.
+/// The envelope of most results.
 template <typename Payload>
 struct DataResponse {
     WIRE_FIELD(Payload, data);

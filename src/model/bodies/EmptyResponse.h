@@ -2,7 +2,7 @@
 
 namespace larkspan::model {
 
-/// An answer whose content is of no interest: any JSON object.
+/// An answer whose content does not matter: any JSON object.
 struct EmptyResponse {
     bool operator==(const EmptyResponse&) const = default;
 };

@@ -18,7 +18,7 @@ struct CreateIncidentRequest {
     bool operator==(const CreateIncidentRequest&) const = default;
 };
 
-/// Adds to an incident's timeline and, with a state, moves the incident there.
+/// Adds an update to an incident's timeline and, if a state is given, moves the incident to it.
 struct AppendIncidentUpdateRequest {
     WIRE_FIELD(std::optional<std::string>, message);
     /// The decimal text of `IncidentState::id`.

@@ -8,9 +8,9 @@
 
 namespace larkspan::model {
 
-/// The windows of some monitors over one span of time.
+/// The metrics of some monitors over one span of time.
 struct MonitorMetricsResponse {
-    /// By the monitor's id. An id passes the conversion of keys, so one with an underscore comes out changed.
+    /// By the monitor's id. Ids undergo the conversion of keys, which changes those with an underscore.
     using Windows = std::map<std::string, MonitorMetricsWindow>;
 
     WIRE_FIELD(Windows, metrics);

@@ -14,7 +14,7 @@ struct UpdateGroupRequest;
 struct UpdateMaintenanceRequest;
 struct UpdateStatusPageRequest;
 
-/// What the service is sent: the records that a request's body is made from. The encoder is compiled for these.
+/// The records that bodies of requests are made from. The encoder is compiled for these.
 using RequestBodies = TypeList<AppendIncidentUpdateRequest, CreateComponentRequest, CreateGroupRequest,
     CreateIncidentRequest, CreateMaintenanceRequest, UpdateComponentRequest, UpdateGroupRequest,
     UpdateMaintenanceRequest, UpdateStatusPageRequest>;

@@ -1,6 +1,6 @@
 #pragma once
 
-// The records that the service answers with, for those who need them all.
+// The records of all the service's answers, for files that need every one.
 
 #include "model/bodies/EmptyResponse.h"
 #include "model/bodies/MonitorMetricsResponse.h"

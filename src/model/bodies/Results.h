@@ -26,17 +26,17 @@ struct SubscriberCount;
 struct Team;
 struct TeamMembership;
 
-/// What the service answers: the types that a request may ask for, in either result shape. The decoder is compiled for
-/// these and for those below, and the fuzzer feeds them all.
+/// The results that a request may ask for, in either result shape. The decoder is compiled for these and for those
+/// below, and the fuzzer covers them all.
 using Results = TypeList<Component, ComponentGroup, EmptyResponse, Incident, IncidentStatesEnvelope, Maintenance,
     MonitorMetricsResponse, OnCallStatus, StatusPage, StatusPageAnalytics, StatusPagesStatusEnvelope, SubscriberCount,
     std::vector<Incident>, std::vector<Maintenance>, std::vector<Monitor>, std::vector<MonitorWithMetrics>,
     std::vector<StatusPage>, std::vector<Team>, std::vector<TeamMembership>>;
 
-/// Answers whose list comes under `data`, under the one key of its own envelope, which is named here, or bare.
+/// Answers whose list is under `data`, under the one key of its envelope, which is named here, or bare.
 using ListEnvelopes = TypeList<ComponentGroupsResponse, ComponentsResponse>;
 
-/// Answers that come as they are and never under `data`.
+/// Answers that are bare and never under `data`.
 using BareResults = TypeList<ComponentMonitorsResponse>;
 
 }  // namespace larkspan::model

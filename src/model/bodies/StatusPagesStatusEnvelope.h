@@ -7,7 +7,7 @@
 
 namespace larkspan::model {
 
-/// A page's status as the status overview reports it; its codes are not the words of `StatusPageStatus`.
+/// A page's status in the status overview; its codes differ from the words of `StatusPageStatus`.
 struct OverallStatusDTO {
     WIRE_FIELD(std::string, code);
     WIRE_FIELD(std::string, label);

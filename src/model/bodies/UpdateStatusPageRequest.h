@@ -7,7 +7,7 @@
 
 namespace larkspan::model {
 
-/// What a page is to become.
+/// The body of a request that changes a page.
 struct UpdateStatusPageRequest {
     WIRE_FIELD(std::optional<std::string>, title);
     WIRE_FIELD(std::optional<std::string>, description);

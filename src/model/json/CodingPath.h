@@ -6,8 +6,8 @@
 
 namespace larkspan::model {
 
-/// Where in a body a value stands. A chain of links back to the root, each on the stack of whoever reads that level, so
-/// that a path costs nothing until a failure asks for its text. A link's parent must outlive it.
+/// The place of a value in a body: a chain of links to the root, each on the stack of the code that reads its level, so
+/// that a path costs nothing until a failure needs its text. A link's parent must outlive it.
 class CodingPath {
 public:
     CodingPath() = default;
@@ -26,7 +26,7 @@ public:
     {
     }
 
-    /// As in `data[3].created_at`; empty for the root.
+    /// The path as in `data[3].created_at`; empty for the root.
     std::string text() const;
 
 private:

@@ -28,12 +28,12 @@ namespace larkspan::model {
 template <typename T>
 T decode(const JSONValue& value);
 
-/// A text that may stand as an integer on the wire.
+/// A text that may be an integer on the wire.
 struct IdentifierText {
     std::string text;
 };
 
-/// What an object holds for one key name of its record's table.
+/// The value of an object for one key name of its record's table.
 class KeyedValue {
 public:
     KeyedValue(const JSONValue& object, std::string_view keyName, const std::optional<JSONValue::Member>& member)
@@ -50,7 +50,7 @@ public:
         return decode<T>(JSONValue(object_, *member_));
     }
 
-    /// Neither missing nor null.
+    /// Whether the value is neither missing nor null.
     bool isPresent() const { return member_ && !member_->element.is_null(); }
 
     template <typename T>
@@ -60,7 +60,7 @@ public:
         return required<T>();
     }
 
-    /// As `optional`, and absent too where the value does not read.
+    /// As `optional`, but also absent if the value cannot be read.
     template <typename T>
     std::optional<T> ifReadable() const
     {
@@ -116,7 +116,7 @@ void read(const DerivedRow<Record>& row, Record& record, const KeyedValue& value
     row.derive(record, value);
 }
 
-/// Fills a `record` that is new; `keys` are those of other values of its kind.
+/// Fills `record`, which must be new; `keys` are those of other values of its kind.
 template <typename Record>
 void decodeRecord(const JSONValue& value, KnownKeys& keys, Record& record)
 {
@@ -133,7 +133,7 @@ void decodeRecord(const JSONValue& value, KnownKeys& keys, Record& record)
 template <typename Element>
 std::vector<Element> decodeList(const JSONValue& value)
 {
-    // A list that is longer than any real one is not worth its room before it is known to be good.
+    // For lists longer than any real one, no memory is reserved before their content is known to be good.
     constexpr std::size_t mostReserved = 16'384;
 
     constexpr bool hasRow = requires(Element element) { element.id; };
@@ -151,7 +151,7 @@ std::vector<Element> decodeList(const JSONValue& value)
     return list;
 }
 
-/// Of several keys that convert alike the first counts, as in a record.
+/// Of several keys that convert to the same name the first counts, as in a record.
 template <typename Map>
 Map decodeMap(const JSONValue& value)
 {

@@ -7,23 +7,23 @@
 
 namespace larkspan::model {
 
-/// An answer of the service that is not what was asked for.
-/// Its description is one line, the place and what is wrong there: `data[3].name: The key is missing`, or, where it is
-/// the body as a whole, `The server’s answer: Not valid JSON`.
+/// An answer of the service that could not be read as the expected type. Its description is one line with the place and
+/// what is wrong there: `data[3].name: The key is missing`, or, for the body as a whole, `The server’s answer: Not
+/// valid JSON`.
 class DecodingError : public support::LocalizedError {
 public:
     enum class Kind {
         keyNotFound,  ///< a required key is missing
         valueNotFound,  ///< null where a value is required
         typeMismatch,  ///< another JSON type than the required one
-        dataCorrupted,  ///< the right JSON type with a value that cannot be, or no JSON at all
+        dataCorrupted,  ///< the right JSON type with an impossible value, or no JSON at all
     };
 
     DecodingError(Kind kind, std::string path, std::string_view problem);
 
     Kind kind() const { return kind_; }
 
-    /// Where in the body, in the spelling of the wire: `data[3].created_at`; empty for the body as a whole.
+    /// The place in the body, in the wire's spelling: `data[3].created_at`; empty for the body as a whole.
     const std::string& path() const { return path_; }
 
 private:

@@ -16,7 +16,7 @@ public:
     void write(std::string_view keyName, bool value);
     void write(std::string_view keyName, support::Time value);
 
-    /// The object as it stands; nothing can be written after it.
+    /// Returns the object; nothing can be written afterwards.
     std::string finish() &&;
 
 private:

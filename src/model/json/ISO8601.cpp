@@ -9,7 +9,7 @@ namespace {
 
 using namespace std::chrono;
 
-/// Takes a text apart from its front; every operation says whether it found what it was asked for.
+/// Reads a text from its front; every operation returns whether it found what it was asked for.
 class Scanner {
 public:
     explicit Scanner(std::string_view text)
@@ -78,7 +78,7 @@ std::optional<seconds> readHoursAndMinutes(Scanner& scanner)
     return hours{*hour} + minutes{*minute};
 }
 
-/// No second 60: the clock that the moments are counted on knows no leap seconds.
+/// Second 60 is refused, since `sys_time` has no leap seconds.
 std::optional<seconds> readTimeOfDay(Scanner& scanner)
 {
     const auto hoursAndMinutes = readHoursAndMinutes(scanner);

@@ -27,7 +27,7 @@ std::string_view problem(simdjson::error_code error)
     }
 }
 
-/// What a number out of range fails with is not the same in all releases of the parser.
+/// Releases of the parser differ in the error for a number out of range.
 bool isAboutANumber(simdjson::error_code error)
 {
     static const auto tooLong = [] {
@@ -37,16 +37,16 @@ bool isAboutANumber(simdjson::error_code error)
     return error == simdjson::NUMBER_ERROR || error == tooLong;
 }
 
-/// A body as it was parsed; everything that is read from it lives as long as this.
+/// A parsed body; everything that is read from it is valid as long as this object.
 class Document {
 public:
     explicit Document(const std::string& body)
     {
-        // The parser reads ahead, and copies what has no room behind it for that.
+        // The parser reads ahead, and copies a text without padding behind it.
         const bool hasRoom = body.capacity() - body.size() >= simdjson::SIMDJSON_PADDING;
         std::string_view text = body;
         if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
-        // Some releases of the parser skip one themselves.
+        // Some releases of the parser skip such a mark themselves.
         if (text.starts_with(byteOrderMark)) fail(simdjson::TAPE_ERROR);
         auto error = parse(text, !hasRoom);
         if (isAboutANumber(error)) error = parse(withNumbersInRange(text, simdjson::SIMDJSON_PADDING), false);
@@ -56,7 +56,7 @@ public:
     simdjson::dom::element root() const { return root_; }
 
 private:
-    /// What is parsed does not refer to `text`.
+    /// The parsed document does not refer to `text`.
     simdjson::error_code parse(std::string_view text, bool isToBeCopied)
     {
         return parser_.parse(text.data(), text.size(), isToBeCopied).get(root_);
@@ -89,7 +89,7 @@ T decodeShapes(const JSONValue& root)
     }
 }
 
-/// What an envelope of one key holds.
+/// The value in an envelope of one key.
 template <typename Envelope>
 auto decodeContent(const JSONValue& root)
 {
@@ -120,11 +120,11 @@ Result read(const std::string& body, support::Time now, Result (*decodeRoot)(con
     JSONReading reading{.now = now};
     try {
         auto result = decodeRoot(JSONValue(document.root(), reading));
-        // Also where it was a value that is read forgivingly.
+        // Also for a value that is read forgivingly, whose own failure is ignored.
         reading.failIfTooLong();
         return result;
     } catch (const DecodingError&) {
-        // Rather than that no other shape was found either.
+        // This error comes before the one that no other shape was found either.
         reading.failIfTooLong();
         throw;
     }
@@ -164,7 +164,7 @@ constexpr auto decodingsOf(TypeList<Types...>, TypeList<Envelopes...>, TypeList<
         &detail::decodeResult<Types>..., &detail::decodeList<Envelopes>..., &detail::decodeBare<BareTypes>...};
 }
 
-// Others only see that there is such a function; the compiler writes those that somebody points to.
+// The templates are only declared in the header; taking their addresses here instantiates them.
 [[gnu::used]] constexpr auto decodings = decodingsOf(Results{}, ListEnvelopes{}, BareResults{});
 
 }  // namespace

@@ -25,17 +25,16 @@ Result decodeBare(const std::string& body, support::Time now);
 
 /// Reads the service's answers. Safe to share between threads; `clock` must outlive it.
 ///
-/// A wire key counts for the key name that it converts to (`created_at` for `createdAt`); of several that convert alike
-/// the first counts. Unknown keys are ignored. A byte order mark is skipped. A number beyond a double, or an integer
-/// beyond 64 bits, fails the field that it is in and no other, except that such an integer is good enough for a double.
-/// Nesting deeper than 1024 makes the body unreadable, in unknown keys too: the parser reads every value before anybody
-/// asks for one.
+/// A wire key counts for the key name that it converts to (`created_at` for `createdAt`); of several that convert to
+/// the same name the first counts. Unknown keys are ignored. A byte order mark is skipped. A number beyond a double, or
+/// an integer beyond 64 bits, fails only the field that it is in, except that such an integer is accepted for a double.
+/// Nesting deeper than 1024 makes the body unreadable, in unknown keys too, since the parser reads every value first.
 class JSONDecoder {
 public:
     explicit JSONDecoder(const platform::Clock& clock);
 
-    /// The result in `body`: under the key `data` of an object, else the body as a whole, else, where a list is wanted
-    /// and `data` is null, an empty list. Throws the `DecodingError` of the first of these attempts.
+    /// The result in `body`: under the key `data` of an object, else the body as a whole, else, if a list is wanted and
+    /// `data` is null, an empty list. Throws the `DecodingError` of the first of these attempts.
     template <typename Result>
     Result decodeResult(const std::string& body) const
     {
@@ -45,7 +44,7 @@ public:
     }
 
     /// The list in `body`: under the key `data` of an object, else under the one key of `Envelope`, else the body as a
-    /// whole. Null is no list. Throws the `DecodingError` of the last of these attempts.
+    /// whole. Null is not a list. Throws the `DecodingError` of the last of these attempts.
     template <typename Envelope>
     typename Envelope::List decodeList(const std::string& body) const
     {
@@ -53,7 +52,7 @@ public:
         return detail::decodeList<Envelope>(body, clock_.now());
     }
 
-    /// The body as a whole and in no other shape. Throws `DecodingError`.
+    /// The body as a whole, in no other shape. Throws `DecodingError`.
     template <typename Result>
     Result decodeBare(const std::string& body) const
     {

@@ -24,7 +24,7 @@ constexpr auto encodingsOf(TypeList<Types...>)
     return std::tuple{&detail::encodeBody<Types>...};
 }
 
-// Others only see that there is such a function; the compiler writes those that somebody points to.
+// The templates are only declared in the header; taking their addresses here instantiates them.
 [[gnu::used]] constexpr auto encodings = encodingsOf(RequestBodies{});
 
 }  // namespace

@@ -14,16 +14,16 @@
 
 namespace larkspan::model {
 
-/// What all values of a body that is read share.
+/// The state that all values of one body share while it is read.
 struct JSONReading {
-    /// What all lists and maps of a body may hold together, and how much of it may be records with a row of their own.
-    /// A screen shows at once what it gets, and each takes its time there.
+    /// The most entries of all lists and maps of a body together, and the most records that have a row each. A screen
+    /// shows all of them at once, and each takes time there.
     static constexpr std::size_t mostEntries = 100'000;
     static constexpr std::size_t mostRecords = 20'000;
 
     /// The moment of decoding.
     support::Time now;
-    /// In the lists and maps that have been read.
+    /// The number of entries in the lists and maps read so far.
     std::size_t entries = 0;
     std::size_t records = 0;
 
@@ -31,8 +31,8 @@ struct JSONReading {
     void failIfTooLong() const;
 };
 
-/// A value of a parsed body and its place in it. It reads as exactly one type, strictly: no text is taken for a number,
-/// no number for a boolean. What it is not, it throws as a `DecodingError`. Lives on the stack of its reader only.
+/// A value of a parsed body and its place in it. It is read as exactly one type: a text is never accepted as a number,
+/// nor a number as a boolean; a mismatch throws a `DecodingError`. Exists on the stack of its reader only.
 class JSONValue {
 public:
     /// One key of an object as it was sent, with its value.
@@ -41,14 +41,14 @@ public:
         simdjson::dom::element element;
     };
 
-    /// The root of a body; `reading` outlives all that is read from it.
+    /// The root of a body; `reading` must outlive everything that is read from it.
     JSONValue(simdjson::dom::element root, JSONReading& reading)
         : element_(root)
         , reading_(reading)
     {
     }
 
-    /// A value inside of `parent`, at a key or an index.
+    /// A value in `parent`, at a key or an index.
     JSONValue(const JSONValue& parent, const Member& member)
         : element_(member.element)
         , path_(&parent.path_, member.wireKey)
@@ -77,24 +77,24 @@ public:
     bool boolean() const;
     double number() const;
 
-    /// The integer that this is, if it is one within 64 bits. A number with a fraction of zero is one too (`1.0`,
-    /// `1e3`), as long as a double can still tell it from its neighbours (below 2^53).
+    /// The value as an integer of 64 bits, if it is one. A number with a fraction of zero counts (`1.0`, `1e3`) if a
+    /// double represents it exactly (below 2^53).
     std::optional<std::int64_t> asInteger() const;
 
-    /// As `asInteger`; any other number is corrupted.
+    /// As `asInteger`; throws `dataCorrupted` for any other number.
     std::int64_t integer() const;
 
     simdjson::dom::array list() const;
-    /// A list of records with a row of their own.
+    /// A list of records, each of which has a row on screen.
     simdjson::dom::array recordList() const;
-    /// An object whose keys are entries.
+    /// An object whose keys count as entries.
     simdjson::dom::object map() const;
 
-    /// Puts each key that converts to one of the names of `keys` at that name's place in `found`, which has as many.
-    /// Where several keys convert to one name the first counts, whatever the others hold.
+    /// Stores each member whose key converts to one of the names of `keys` at that name's place in `found`, which has
+    /// as many. If several keys convert to one name, the first counts, whatever the others hold.
     void find(KnownKeys& keys, std::span<std::optional<Member>> found) const;
 
-    /// The value of the object's key spelled exactly `wireKey`; nothing if this is no object or has none.
+    /// The value of the object's key spelled exactly `wireKey`; empty if this is no object or has no such key.
     std::optional<simdjson::dom::element> exactly(std::string_view wireKey) const;
 
     [[noreturn]] void failMissing(std::string_view keyName) const;

@@ -5,7 +5,7 @@
 
 namespace larkspan::model {
 
-/// Ids as one text, the way the service takes a list of them: parted by commas, in their order.
+/// The ids as one text, separated by commas in their order, as the service expects a list of them.
 std::string joinedIds(const std::vector<std::string>& ids);
 
 }  // namespace larkspan::model

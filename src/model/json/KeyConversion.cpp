@@ -4,7 +4,7 @@ namespace larkspan::model {
 
 namespace {
 
-// The C library's functions would ask the process's locale.
+// The C library's functions depend on the process's locale.
 bool isSmall(char letter)
 {
     return letter >= 'a' && letter <= 'z';
@@ -29,7 +29,7 @@ char raised(char letter)
 
 std::string_view fromSnakeCase(std::string_view wireKey, std::string& buffer)
 {
-    // Most keys are one word, so this is what a long list of records asks again and again.
+    // Most keys are one word, so this is the usual case in a long list of records.
     if (wireKey.find('_') == std::string_view::npos) return wireKey;
 
     const auto begin = wireKey.find_first_not_of('_');

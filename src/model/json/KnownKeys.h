@@ -8,8 +8,8 @@
 
 namespace larkspan::model {
 
-/// Which of a record's key names the keys of its objects convert to. The objects of a list mostly have the same keys in
-/// the same order, so what a key converted to is kept, and looked for behind the key that was met before.
+/// Maps the keys of a record's objects to the record's key names. The objects of a list mostly have the same keys in
+/// the same order, so each conversion is kept, and looked up after the one of the previous key.
 class KnownKeys {
 public:
     explicit KnownKeys(std::span<const std::string_view> keyNames)
@@ -18,7 +18,7 @@ public:
     }
 
     /// The place of the key name that `wireKey` converts to, or the number of names if it is none of them. The bytes of
-    /// `wireKey` must outlive this.
+    /// `wireKey` must outlive this object.
     std::size_t placeOf(std::string_view wireKey)
     {
         for (std::size_t looks = 0; looks < count_; ++looks) {
@@ -38,7 +38,7 @@ private:
     std::size_t learn(std::string_view wireKey);
 
     std::span<const std::string_view> keyNames_;
-    // Objects with more keys are the service's future or somebody's malice, and right all the same.
+    // Objects with more keys are read correctly too, only more slowly.
     std::array<Known, 32> known_;
     std::size_t count_ = 0;
     std::size_t next_ = 0;

@@ -19,7 +19,7 @@ struct Number {
     bool isInteger = false;
 };
 
-/// Whether `token` is a number as JSON writes them, as a whole.
+/// Whether the whole of `token` is a number in JSON's grammar.
 Number grammarOf(std::string_view token)
 {
     const auto skipDigits = [&token] {
@@ -60,8 +60,7 @@ bool isTooSmallForADouble(std::string_view token)
     return parser.parse(token.data(), token.size()).get(number) == simdjson::SUCCESS;
 }
 
-/// The standard's reader does not say whether a number is too large or too small; the small ones are zero to the
-/// parser.
+/// `from_chars` does not say whether a number is too large or too small; the parser reads the small ones as zero.
 bool isWithinADouble(std::string_view token)
 {
     double number = 0;
@@ -71,7 +70,7 @@ bool isWithinADouble(std::string_view token)
 
 void repair(std::span<char> token)
 {
-    // Neither a double nor an integer runs out of its range in fewer characters.
+    // No shorter number is out of the range of a double or an integer.
     if (token.size() < mark.size()) return;
     const std::string_view text(token.data(), token.size());
     const auto [isNumber, isInteger] = grammarOf(text);
@@ -80,12 +79,12 @@ void repair(std::span<char> token)
         const auto rest = std::ranges::copy(mark, token.begin()).out;
         std::fill(rest, token.end(), ' ');
     } else if (isInteger) {
-        // The last two of at least nineteen digits are below what a double tells apart.
+        // Of at least nineteen digits, the last two do not change a double.
         std::ranges::copy(std::string_view("e2"), token.end() - 2);
     }
 }
 
-/// Where the string that begins at `at` is over.
+/// The end of the string that starts at `at`.
 std::size_t endOfString(std::string_view body, std::size_t at)
 {
     for (++at; at < body.size() && body[at] != '"'; ++at) {

@@ -4,7 +4,7 @@
 
 namespace larkspan::model {
 
-/// Types as a value, to go through or to look one up in.
+/// A list of types, to iterate over or to search.
 template <typename... Types>
 struct TypeList {
     template <typename Type>

@@ -7,16 +7,16 @@
 
 #include "model/json/WireRow.h"
 
-/// A field of a record that comes from the wire or goes there, declared and described at once:
+/// Declares a field of a record together with its form on the wire:
 ///
 ///     WIRE_FIELD(std::string, name);
 ///     WIRE_FIELD(std::optional<support::Time>, resolvedAt, key("endedAt"));
 ///
-/// Its key name is its own unless a `key` says otherwise. An optional field may be missing on the wire, and any other
-/// fails the record then, unless there is an `otherwise`. An `identifier` may be an integer there, and an optional
-/// field that is `forgiving` may be anything.
+/// Its key name is the field's name unless a `key` is given. An optional field may be missing on the wire; any other
+/// missing field fails the record unless it has an `otherwise`. An `identifier` may be an integer on the wire, and an
+/// optional field that is `forgiving` may be anything.
 ///
-/// A class cannot count its members, so a row is found by the line that its field stands on; see `WireTable.h`.
+/// A class cannot enumerate its members, so a row is found by the source line of its field; see `WireTable.h`.
 #define WIRE_FIELD(Type, name, ...)                                                                                    \
     static_assert(__LINE__ <= ::larkspan::model::lastLine, "a header is never as long as this");                       \
     template <typename Record>                                                                                         \
@@ -33,7 +33,7 @@ inline constexpr int lastLine = 400;
 template <int line>
 using Line = std::integral_constant<int, line>;
 
-/// The key name of a field that is called differently on the wire.
+/// The key name of a field whose name on the wire is different.
 struct Key {
     std::string_view name;
 };
@@ -43,17 +43,17 @@ constexpr Key key(std::string_view name)
     return {name};
 }
 
-/// A text that may stand as an integer on the wire.
+/// A text that may be an integer on the wire.
 struct Identifier {};
 
 inline constexpr Identifier identifier;
 
-/// An optional field that is absent where its value does not read.
+/// An optional field that is absent if its value cannot be read.
 struct Forgiving {};
 
 inline constexpr Forgiving forgiving;
 
-/// What a field is until it is read, and if it is missing.
+/// The value of a field until it is read, and if it is missing.
 template <typename Value>
 struct Otherwise {
     Value value;

@@ -30,21 +30,21 @@ struct DefaultedRow {
     Value otherwise;
 };
 
-/// As `RequiredRow`, with an integer taken as well and kept as its decimal text.
+/// As `RequiredRow`, but an integer is accepted as well and kept as its decimal text.
 template <typename Record>
 struct IdentifierRow {
     std::string_view key;
     std::string Record::* field;
 };
 
-/// As `OptionalRow`, and a value that does not read leaves the field absent too.
+/// As `OptionalRow`, but a value that cannot be read leaves the field absent too.
 template <typename Record, typename Field>
 struct ForgivingRow {
     std::string_view key;
     std::optional<Field> Record::* field;
 };
 
-/// `derive` works out fields of the record from what the key holds and from the rows above, which are read already.
+/// `derive` computes fields of the record from the key's value and from the rows above, which have been read.
 template <typename Record>
 struct DerivedRow {
     std::string_view key;

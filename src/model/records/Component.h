@@ -14,11 +14,11 @@ struct Component {
     WIRE_FIELD(std::string, id, identifier);
     WIRE_FIELD(std::string, name);
     WIRE_FIELD(std::optional<std::string>, description);
-    /// The service's word as it comes; requests call it `status` as well, answers call it otherwise.
+    /// The service's word, unchanged. In requests its key is `status` as well, in answers another one.
     WIRE_FIELD(std::string, status, key("monitorState"), otherwise("unknown"));
-    /// Without blanks around it; a blank id is none.
+    /// Without surrounding blanks; absent if the id is blank.
     std::optional<std::string> groupId{};
-    /// As it comes, whether it is a URL or not.
+    /// Unchanged, whether it is a URL or not.
     WIRE_FIELD(std::optional<std::string>, url);
 
     static void readGroup(Component& component, const KeyedValue& componentGroupId);
@@ -27,7 +27,7 @@ struct Component {
     bool operator==(const Component&) const = default;
 };
 
-/// A list of components in an envelope of its own.
+/// A list of components in its own envelope.
 struct ComponentsResponse {
     using List = std::vector<Component>;
 

@@ -13,13 +13,13 @@ namespace larkspan::model {
 struct ComponentGroup {
     WIRE_FIELD(std::string, id);
     WIRE_FIELD(std::string, name);
-    /// Absent where the service does not say, which is not the same as none.
+    /// Absent if the service does not say, which differs from an empty list.
     WIRE_FIELD(std::optional<std::vector<Component>>, components);
 
     bool operator==(const ComponentGroup&) const = default;
 };
 
-/// A list of groups in an envelope of its own.
+/// A list of groups in its own envelope.
 struct ComponentGroupsResponse {
     using List = std::vector<ComponentGroup>;
 

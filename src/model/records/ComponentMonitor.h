@@ -8,7 +8,7 @@
 
 namespace larkspan::model {
 
-/// A monitor as it stands under a component.
+/// A monitor in the list of a component's monitors.
 struct ComponentMonitor {
     WIRE_FIELD(std::string, id, identifier);
     WIRE_FIELD(std::string, name);

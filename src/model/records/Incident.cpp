@@ -4,7 +4,7 @@
 
 namespace larkspan::model {
 
-/// Any text but the empty one acknowledges; it is no date to us.
+/// Any text but the empty one means acknowledged; it need not be a date.
 void Incident::readAcknowledgement(Incident& incident, const KeyedValue& acknowledgedAt)
 {
     const auto text = acknowledgedAt.optional<std::string_view>();

@@ -13,7 +13,7 @@ namespace larkspan::model {
 /// An incident of one of the account's pages.
 struct Incident {
     WIRE_FIELD(std::string, id);
-    /// From the state and the acknowledgement alone: an incident that has ended may still be `active`.
+    /// Derived from the state and the acknowledgement only: an incident that has ended may still be `active`.
     IncidentStatus status = IncidentStatus::active;
     WIRE_FIELD(std::string, title);
     WIRE_FIELD(std::optional<std::string>, message);
@@ -25,7 +25,7 @@ struct Incident {
     WIRE_FIELD(std::optional<std::string>, componentId);
     WIRE_FIELD(std::optional<std::string>, statusPageId);
     WIRE_FIELD(std::optional<std::string>, severityName);
-    /// The state's name as the service words it.
+    /// The state's name in the service's words.
     WIRE_FIELD(std::optional<std::string>, incidentState);
 
     static void readAcknowledgement(Incident& incident, const KeyedValue& acknowledgedAt);

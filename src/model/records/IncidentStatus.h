@@ -4,10 +4,10 @@
 
 namespace larkspan::model {
 
-/// The status of an incident; `completed` comes from no answer of the service.
+/// The status of an incident; no answer of the service results in `completed`.
 enum class IncidentStatus { active, acknowledged, resolved, completed };
 
-/// The word: "active", "acknowledged", "resolved", "completed".
+/// The word of the status: "active", "acknowledged", "resolved", "completed".
 std::string_view rawText(IncidentStatus status);
 
 }  // namespace larkspan::model

@@ -8,7 +8,7 @@ namespace larkspan::model {
 
 namespace {
 
-/// The dates decide; the service's own word counts only where none of them can.
+/// The dates decide; the service's word counts only if they cannot.
 std::string statusOf(const Maintenance& maintenance, const KeyedValue& status)
 {
     const auto now = status.now();
@@ -23,7 +23,7 @@ std::string statusOf(const Maintenance& maintenance, const KeyedValue& status)
 
 }  // namespace
 
-/// The ids come in one text, parted by commas; empty ones are dropped and blanks belong to an id.
+/// The ids are one text, separated by commas; empty ones are dropped, and blanks are part of an id.
 void Maintenance::splitComponentIds(Maintenance& maintenance, const KeyedValue& affectedComponents)
 {
     const auto text = affectedComponents.optional<std::string_view>();

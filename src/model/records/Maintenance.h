@@ -15,8 +15,8 @@ struct Maintenance {
     WIRE_FIELD(std::string, id, identifier);
     WIRE_FIELD(std::string, title);
     WIRE_FIELD(std::optional<std::string>, message);
-    /// "scheduled", "in_progress" or "completed" by the dates and the moment of decoding; without a start and not yet
-    /// over, whatever the service says.
+    /// "scheduled", "in_progress" or "completed" by the dates and the moment of decoding; without a start, and if the
+    /// end is not past, the service's word.
     std::string status{};
     WIRE_FIELD(std::optional<support::Time>, scheduledFor, key("startAt"));
     WIRE_FIELD(std::optional<support::Time>, startedAt);

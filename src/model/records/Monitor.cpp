@@ -32,13 +32,13 @@ MonitorStatus statusOf(std::string_view state)
 
 }  // namespace
 
-/// A monitor of which the service does not say so is not paused.
+/// A monitor is not paused unless the service says so.
 void Monitor::readPause(Monitor& monitor, const KeyedValue& enabled)
 {
     monitor.isPaused = enabled.optional<bool>() == false;
 }
 
-/// The state of a paused monitor is not even looked at, whatever stands there.
+/// The state of a paused monitor is ignored, whatever its type.
 void Monitor::deriveStatus(Monitor& monitor, const KeyedValue& state)
 {
     if (monitor.isPaused)

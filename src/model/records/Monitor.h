@@ -17,12 +17,12 @@ struct Monitor {
     WIRE_FIELD(std::string, id, identifier);
     WIRE_FIELD(MonitorType, type, otherwise(MonitorType::custom));
     WIRE_FIELD(std::string, name);
-    /// As it comes, whether it is a URL or not.
+    /// Unchanged, whether it is a URL or not.
     WIRE_FIELD(std::optional<std::string>, url, key("target"));
-    /// May be `paused` while `isPaused` is false, if the service says so of a monitor that is enabled.
+    /// May be `paused` while `isPaused` is false, if the service reports this state for an enabled monitor.
     MonitorStatus status = MonitorStatus::unknown;
     bool isPaused = false;
-    /// Always absent: the service tells no such time.
+    /// Always absent: the service reports no such time.
     std::optional<support::Time> lastCheckTime{};
     WIRE_FIELD(std::optional<support::Time>, configUpdatedAt, key("updatedAt"));
     WIRE_FIELD(std::optional<std::int64_t>, intervalSeconds);

@@ -19,20 +19,20 @@ struct LatencyPoint {
     bool operator==(const LatencyPoint&) const = default;
 };
 
-/// How a monitor stands seen from one region.
+/// A monitor's state as seen from one region.
 struct RegionState {
     WIRE_FIELD(std::string, regionId);
     WIRE_FIELD(std::optional<std::string>, regionName);
     WIRE_FIELD(std::string, status);
-    /// As the service words it; no date to us.
+    /// In the service's words; not read as a date.
     WIRE_FIELD(std::optional<std::string>, updated);
     WIRE_FIELD(double, avgMs);
 
     bool operator==(const RegionState&) const = default;
 };
 
-/// A monitor's figures over some span of time. Each field is read alone: one that does not read is absent and spoils
-/// nothing else, so that a screen shows what there is.
+/// A monitor's metrics over a span of time. Each field is read separately: one that cannot be read is absent and does
+/// not affect the others, so that a screen shows what is available.
 struct MonitorMetricsWindow {
     WIRE_FIELD(std::optional<double>, avgMs, forgiving);
     WIRE_FIELD(std::optional<double>, uptimePercentage, forgiving);

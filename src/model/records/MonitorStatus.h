@@ -4,7 +4,7 @@
 
 namespace larkspan::model {
 
-/// How a monitor stands.
+/// The state of a monitor.
 enum class MonitorStatus { operational, degraded, down, paused, unknown };
 
 template <>

@@ -4,7 +4,7 @@
 
 namespace larkspan::model {
 
-/// What a monitor checks.
+/// The kind of thing that a monitor checks.
 enum class MonitorType { http, tcp, dns, smtp, custom, api, site };
 
 template <>

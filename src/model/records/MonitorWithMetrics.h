@@ -8,7 +8,7 @@
 
 namespace larkspan::model {
 
-/// A monitor's windows over each span of time.
+/// A monitor's windows, one for each span of time.
 struct MonitorMetricsWindows {
     WIRE_FIELD(std::optional<MonitorMetricsWindow>, oneHour, key("1h"));
     WIRE_FIELD(std::optional<MonitorMetricsWindow>, twentyFourHours, key("24h"));
@@ -23,7 +23,7 @@ struct MonitorWithMetrics {
     WIRE_FIELD(std::string, id);
     WIRE_FIELD(std::string, name);
     WIRE_FIELD(std::optional<std::string>, target);
-    /// Always absent: a key name with an underscore is met by no wire key once that is converted. Nothing needs it.
+    /// Always absent: no converted wire key equals a key name with an underscore. Nothing needs the field.
     WIRE_FIELD(std::optional<std::string>, componentId, key("component_id"));
     WIRE_FIELD(MonitorMetricsWindows, metrics);
 

@@ -12,7 +12,7 @@
 
 namespace larkspan::model {
 
-/// One period's figures of a page.
+/// The figures of a page for one period.
 struct StatusPageMetric {
     WIRE_FIELD(std::string, period);
     WIRE_FIELD(std::optional<double>, uptime);

@@ -7,7 +7,7 @@
 
 namespace larkspan::model {
 
-/// How often a page was looked at in some period.
+/// The number of views of a page in a period.
 struct StatusPageAnalytics {
     WIRE_FIELD(std::string, period);
     WIRE_FIELD(std::int64_t, viewCount);
@@ -15,7 +15,7 @@ struct StatusPageAnalytics {
     bool operator==(const StatusPageAnalytics&) const = default;
 };
 
-/// How many people are told of what happens to a page.
+/// The number of people who are notified of a page's events.
 struct SubscriberCount {
     WIRE_FIELD(std::int64_t, count);
 

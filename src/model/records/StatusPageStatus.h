@@ -20,7 +20,7 @@ struct RawTexts<StatusPageStatus> {
     };
 };
 
-/// The label: "Operational", "Degraded", "Down", "Maintenance", "Unknown".
+/// The label of the status: "Operational", "Degraded", "Down", "Maintenance", "Unknown".
 std::string_view displayName(StatusPageStatus status);
 
 }  // namespace larkspan::model

@@ -15,7 +15,7 @@ struct Team {
     bool operator==(const Team&) const = default;
 };
 
-/// That a user belongs to a team.
+/// The membership of a user in a team.
 struct TeamMembership {
     WIRE_FIELD(std::string, teamId);
     WIRE_FIELD(std::string, userId);

@@ -36,7 +36,8 @@ bool isUnreserved(char character)
         || static_cast<unsigned char>(character) >= 0x80;
 }
 
-/// Whether `part` holds nothing but unreserved characters, sub-delimiters, percent escapes and what `allowed` adds.
+/// Whether `part` consists of unreserved characters, sub-delimiters, percent escapes and the characters of `allowed`
+/// only.
 bool isMadeOf(std::string_view part, std::string_view allowed)
 {
     for (std::size_t at = 0; at < part.size(); ++at) {
@@ -50,7 +51,7 @@ bool isMadeOf(std::string_view part, std::string_view allowed)
     return true;
 }
 
-/// Cuts `rest` at the first `delimiter` and gives what lies behind it, if there is one.
+/// Cuts `rest` at the first `delimiter` and returns what follows it, if there is one.
 std::optional<std::string_view> cutBehind(std::string_view& rest, char delimiter)
 {
     const auto at = rest.find(delimiter);
@@ -78,7 +79,7 @@ bool isPort(std::string_view text)
     return true;
 }
 
-/// The host of `authority` (`user@host:port`), or nothing if one of the three is malformed.
+/// The host of `authority` (`user@host:port`), empty if one of the three is malformed.
 std::optional<std::string_view> hostOf(std::string_view authority)
 {
     auto host = authority;

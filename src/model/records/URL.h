@@ -6,11 +6,11 @@
 
 namespace larkspan::model {
 
-/// A text that is a valid URL: a URI reference by RFC 3986, absolute or relative, not empty, where letters beyond ASCII
-/// count as unreserved (RFC 3987). The text is kept as it came.
+/// A text that is a valid URL: a URI reference by RFC 3986, absolute or relative, not empty, in which letters beyond
+/// ASCII count as unreserved (RFC 3987). The text is kept unchanged.
 class URL {
 public:
-    /// Absent if `text` is no valid URL.
+    /// The URL in `text`; empty if it is not valid.
     static std::optional<URL> parse(std::string_view text);
 
     const std::string& text() const { return text_; }
