@@ -9,7 +9,7 @@ class Clock {
 public:
     virtual ~Clock() = default;
 
-    /// May be called from any thread.
+    /// Any thread.
     virtual support::Time now() const = 0;
 };
 

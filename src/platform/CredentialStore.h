@@ -6,14 +6,14 @@
 
 namespace larkspan::platform {
 
-/// Where a secret stands; these two attributes and no others.
+/// The attributes that identify a secret; these two and no others.
 struct CredentialItem {
     std::string_view service;
     std::string_view account;
 };
 
-/// The user's store of secrets. Calls may block on the store and on its prompt, so they are made on the
-/// client's executor, never on the main one; each ends within a deadline of the implementation's.
+/// The user's store of secrets. Calls may block on the store and on its prompt, so they are made on the client's
+/// executor, never on the main one; the implementation limits how long each takes.
 class CredentialStore {
 public:
     virtual ~CredentialStore() = default;
@@ -21,14 +21,14 @@ public:
     /// The item's bytes; absent if there is none or the store cannot give it.
     virtual std::optional<std::string> find(const CredentialItem& item) = 0;
 
-    /// Adds the item, and says whether it is stored now.
+    /// Adds the item; returns whether it is stored.
     virtual bool add(const CredentialItem& item, const std::string& secret) = 0;
 
-    /// Removes the item if it is there.
+    /// Removes the item if it exists.
     virtual void remove(const CredentialItem& item) = 0;
 
-    /// The user has done something that needs the secret: a prompt of the store's that they dismissed before may come
-    /// again, once. Any thread.
+    /// Allows the store to show a prompt once more after the user dismissed one. Call it when the user does something
+    /// that needs the secret. Any thread.
     virtual void allowPromptAgain() = 0;
 };
 

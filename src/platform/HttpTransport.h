@@ -24,12 +24,12 @@ struct HttpRequest {
 };
 
 struct HttpResponse {
-    /// Absent where the answer was not HTTP.
+    /// Absent if the answer was not HTTP.
     std::optional<int> status;
     std::string body;
 };
 
-/// Sends requests to the service and nowhere else. Everything happens on the client's executor.
+/// Sends requests to the service and nowhere else. Called on the client's executor, on which completions run too.
 class HttpTransport {
 public:
     using Result = std::variant<HttpResponse, URLError::Code>;
@@ -38,8 +38,8 @@ public:
 
     /// Sends `request` and calls `complete` once, never inside this call. A write is sent once, whatever happens
     /// to the connection. Redirects are followed within the origin of the URL only, and for a write only where the
-    /// status says how to go on (303, 307, 308); any other is a status code.
-    /// A stop ends the request with `cancelled`. A transport that goes away drops `complete` uncalled.
+    /// status says how to go on (303, 307, 308); any other is returned as its status code.
+    /// A stop ends the request with `cancelled`. A destroyed transport does not call `complete`.
     virtual void send(HttpRequest request, std::stop_token stop, support::UniqueFunction<void(Result)> complete) = 0;
 };
 

@@ -4,7 +4,7 @@
 
 namespace larkspan::platform {
 
-/// Opens addresses in the user's own browser. Main thread only.
+/// Opens addresses in the user's browser. Main thread only.
 class LinkOpener {
 public:
     virtual ~LinkOpener() = default;

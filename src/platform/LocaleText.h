@@ -10,11 +10,11 @@
 
 namespace larkspan::platform {
 
-/// How the user's locale writes moments and orders names, and what the clocks of the user's time zone show. All texts
-/// are UTF-8. Main thread only.
+/// Formats moments and orders names by the user's locale, and converts moments to the user's time zone. All texts are
+/// UTF-8. Main thread only.
 class LocaleText {
 public:
-    /// How a clock of twelve hours calls them.
+    /// The words of a clock of twelve hours, such as "AM" and "PM".
     struct DayHalves {
         std::string beforeNoon;
         std::string afterNoon;
@@ -28,36 +28,36 @@ public:
     /// The time of day without the date, in the user's time zone.
     virtual std::string timeOnly(support::Time moment) const = 0;
 
-    /// Both in few letters and without the year, for a moment of these days: "Nov 20, 9:30 AM".
+    /// Date and time abbreviated and without the year, for moments close to today: "Nov 20, 9:30 AM".
     virtual std::string dayAndTime(support::Time moment) const = 0;
 
-    /// How far the user's time zone is ahead of UTC at `moment`.
+    /// The offset of the user's time zone from UTC at `moment`, positive to the east.
     virtual std::chrono::seconds utcOffset(support::Time moment) const = 0;
 
-    /// How the user's time zone is called at `moment`, such as "CET"; empty if it has no name.
+    /// The name of the user's time zone at `moment`, such as "CET"; empty if it has none.
     virtual std::string zoneName(support::Time moment) const = 0;
 
     virtual std::chrono::weekday firstDayOfWeek() const = 0;
 
-    /// In a few letters, as it stands over a column.
+    /// The abbreviated name, as in a column's head.
     virtual std::string weekdayName(std::chrono::weekday day) const = 0;
 
-    /// The two as they stand over a calendar, such as "November 2026".
+    /// The heading of a calendar, such as "November 2026".
     virtual std::string monthAndYear(std::chrono::year_month month) const = 0;
 
-    /// Absent where the clock counts twenty-four hours.
+    /// Absent if the locale's clock has twenty-four hours.
     virtual std::optional<DayHalves> dayHalves() const = 0;
 
-    /// The order of two names in a list; the case of letters makes no difference.
+    /// The order of two names in a list; the case of letters is ignored.
     virtual std::weak_ordering compareIgnoringCase(std::string_view left, std::string_view right) const = 0;
 
-    /// What the user's calendar and clock show at `moment`.
+    /// The date and time of day in the user's time zone at `moment`.
     std::chrono::local_time<support::Time::duration> localTime(support::Time moment) const
     {
         return std::chrono::local_time<support::Time::duration>((moment + utcOffset(moment)).time_since_epoch());
     }
 
-    /// The calendar day that the user's time zone has at `moment`.
+    /// The calendar day in the user's time zone at `moment`.
     std::chrono::local_days day(support::Time moment) const
     {
         return std::chrono::floor<std::chrono::days>(localTime(moment));

@@ -4,12 +4,12 @@
 
 namespace larkspan::platform {
 
-/// Tells whether the computer has a usable network.
+/// Reports whether the computer has a usable network.
 class NetworkPathMonitor {
 public:
     virtual ~NetworkPathMonitor() = default;
 
-    /// Calls `update` with whether the path is satisfied, soon and after each change, on any thread.
+    /// Calls `update` with whether the path is satisfied, soon after this call and after each change, on any thread.
     virtual void start(std::function<void(bool isSatisfied)> update) = 0;
 };
 

@@ -6,7 +6,7 @@
 
 namespace larkspan::platform {
 
-/// A row of the menu of the panel's item. Its texts are literal.
+/// A row of the menu of the panel's item. Its texts are shown literally.
 struct MenuRow {
     enum class Kind { information, command, separator };
     enum class Action { none, refreshNow, openDashboard, openStatusPage, openIncident, checkForUpdates, quitApp };
@@ -20,7 +20,7 @@ struct MenuRow {
     /// The letter that triggers the row together with Ctrl while the menu is open; empty for none.
     std::string keyEquivalent = {};
     Dot dot = Dot::none;
-    /// Tooltip of the row, and what its dot means to those who do not see it.
+    /// The row's tooltip, which also describes its dot to users who cannot see it.
     std::string toolTip = {};
 
     bool operator==(const MenuRow&) const = default;
@@ -30,7 +30,7 @@ struct MenuRow {
 class StatusItem {
 public:
     struct Button {
-        /// Drawn in the panel's own text colour.
+        /// Drawn in the panel's text colour.
         std::string symbolName = {};
         std::string accessibilityDescription = {};
         std::string toolTip = {};
@@ -40,16 +40,16 @@ public:
 
     virtual ~StatusItem() = default;
 
-    /// Whether a panel shows the item just now, so that the user can get at its menu.
+    /// Whether a panel shows the item now, so that the user can open its menu.
     virtual bool isShown() const = 0;
-    /// Calls `changed` from now on after each change of `isShown`, and no earlier callback any more.
+    /// Calls `changed` after each later change of `isShown`; replaces the previous callback.
     virtual void followShown(std::function<void()> changed) = 0;
 
-    /// Puts the item into the panel. `perform` hears of each command row that the user chooses.
+    /// Puts the item into the panel. `perform` is called with each command row that the user chooses.
     virtual void show(std::function<void(const MenuRow& row)> perform) = 0;
     virtual void setButton(const Button& button) = 0;
 
-    /// Replaces the rows. A menu that is open changes in place.
+    /// Replaces the rows. An open menu changes in place.
     virtual void setMenu(const std::vector<MenuRow>& rows) = 0;
 };
 

@@ -6,7 +6,7 @@
 
 namespace larkspan::platform {
 
-/// A running timer; destroying it stops it, also from within its own firing.
+/// A running timer; destroying it stops it, also from within its callback.
 class Timer {
 public:
     virtual ~Timer() = default;
@@ -17,7 +17,7 @@ class Timers {
 public:
     virtual ~Timers() = default;
 
-    /// Calls `fire` on the main thread once each `period`, the first time one period from now.
+    /// Calls `fire` on the main thread every `period`, for the first time one period from now.
     [[nodiscard]] virtual std::unique_ptr<Timer> every(std::chrono::milliseconds period, std::function<void()> fire)
         = 0;
 };

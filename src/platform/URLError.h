@@ -4,7 +4,7 @@
 
 namespace larkspan::platform {
 
-/// A failure on the way to the service or back: no usable answer came.
+/// A failure of a request without a usable answer.
 class URLError : public support::LocalizedError {
 public:
     enum class Code {

@@ -6,32 +6,32 @@
 
 namespace larkspan::platform {
 
-/// What a look for updates found.
+/// The result of a check for updates.
 struct UpdateCheck {
     enum class Finding {
         upToDate,
         updateAvailable,
-        /// This copy of the program did not come from a package, so nobody knows of newer ones.
+        /// This copy of the program is not from a package, so newer versions are unknown.
         notPackaged,
-        /// There is no service here that knows packages.
+        /// This system has no service that knows packages.
         noPackageService,
         failed,
     };
 
     Finding finding = Finding::failed;
-    /// Empty where unknown; the second stands with `updateAvailable` only.
+    /// Empty if unknown; `availableVersion` is set with `updateAvailable` only.
     std::string installedVersion = {};
     std::string availableVersion = {};
 
     bool operator==(const UpdateCheck&) const = default;
 };
 
-/// The way in which this desktop's programs are kept up to date. Main thread only.
+/// Checks for updates in the way that this desktop updates its programs. Main thread only.
 class Updater {
 public:
     virtual ~Updater() = default;
 
-    /// Looks for a newer version of the program and calls `complete` once, later; it installs nothing.
+    /// Looks for a newer version of the program and calls `complete` once, asynchronously; installs nothing.
     virtual void check(support::UniqueFunction<void(UpdateCheck)> complete) = 0;
 };
 

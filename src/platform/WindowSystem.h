@@ -5,7 +5,7 @@
 
 namespace larkspan::platform {
 
-/// What closing a window asks, and what came of minimising it; without one a window closes.
+/// Decides whether a window closes, and is told if it was not minimised. A window without a delegate closes.
 class WindowDelegate {
 public:
     virtual ~WindowDelegate() = default;
@@ -13,7 +13,7 @@ public:
     /// Whether the window may close now.
     virtual bool windowShouldClose() = 0;
 
-    /// The window was to be minimised, and this desktop minimises none: it stands where it stood.
+    /// Called if the window could not be minimised because this desktop minimises none; the window has not changed.
     virtual void windowDidNotMiniaturize() = 0;
 };
 
@@ -26,18 +26,18 @@ public:
     virtual bool canBecomeKeyWindow() const = 0;
     virtual void setDelegate(std::weak_ptr<WindowDelegate> delegate) = 0;
     virtual void miniaturize() = 0;
-    /// Takes the window off the screen and out of the desktop's lists, until it is brought forward.
+    /// Removes the window from the screen and from the desktop's lists until it is brought to the front.
     virtual void hide() = 0;
     virtual void deminiaturize() = 0;
     virtual void makeKeyAndOrderFront() = 0;
 };
 
-/// The program among the desktop's programs. Main thread only.
+/// The program and its windows on the desktop. Main thread only.
 class WindowSystem {
 public:
     virtual ~WindowSystem() = default;
 
-    /// The program's windows, in the order of their making.
+    /// The program's windows in order of creation.
     virtual std::vector<std::shared_ptr<Window>> windows() = 0;
     virtual void activateIgnoringOtherApps() = 0;
     virtual void terminate() = 0;
