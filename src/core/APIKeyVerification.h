@@ -4,10 +4,10 @@
 
 namespace larkspan::core {
 
-/// What is known of a key once the service was asked about it.
+/// The outcome of asking the service about a key.
 enum class APIKeyVerificationResult { valid, invalid, offline, timedOut, serverError, unknown };
 
-/// Why a verification failed, told apart by the code of the failure.
+/// The reason why a verification failed, by the code of the failure.
 APIKeyVerificationResult classifiedFailure(const std::exception_ptr& failure);
 
 }  // namespace larkspan::core

@@ -38,7 +38,7 @@ Task<std::vector<StatusPage>> withOverview(api::KestruneAPI& api, std::vector<St
         auto fetching = api.fetchStatusPageStatuses();
         entries = co_await std::move(fetching);
     } catch (...) {
-        // The overview only refines what the pages say themselves, so its loss is no failure of the cycle.
+        // The overview only refines the status of the pages, so its failure does not fail the cycle.
         co_return pages;
     }
     co_return mergedPages(std::move(pages), entries);
@@ -58,7 +58,7 @@ Task<AccountLists> withIncidentsAndMaintenances(api::KestruneAPI& api, platform:
         failure = std::current_exception();
     }
     if (failure) {
-        // The incidents' error is the one to show, so the other fetch must have ended before it travels on.
+        // The incidents' error is the one to show, so the other fetch must end before it is rethrown.
         stop.request_stop();
         auto ending = maintenances.settled();
         co_await std::move(ending);

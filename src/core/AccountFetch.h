@@ -17,19 +17,19 @@ class KestruneAPI;
 
 namespace larkspan::core {
 
-/// What one cycle brings back.
+/// The lists that one cycle fetches.
 struct AccountLists {
     std::vector<model::StatusPage> statusPages;
     std::vector<model::Incident> incidents;
     std::vector<model::Maintenance> maintenances;
 };
 
-/// Fetches the whole account, all or nothing, but for the status overview: without it the pages keep the
-/// status that they came with. Runs on `main`.
+/// Fetches the whole account or fails. Only the status overview may fail: the pages then keep the status that they came
+/// with. Runs on `main`.
 support::Task<AccountLists> fetchAccount(api::KestruneAPI& api, platform::Executor& main);
 
-/// `pages` in their order, each with the status that `entries` gives for its id. The same id twice in `entries`
-/// ends the process.
+/// `pages` in their order, each with the status of its id in `entries`. An id that occurs twice in `entries` ends the
+/// process.
 std::vector<model::StatusPage> mergedPages(
     std::vector<model::StatusPage> pages, const std::vector<model::PageStatusEntry>& entries);
 

@@ -125,14 +125,14 @@ void AppStateManager::tellOfChanges()
         changeNotifications_.notifyNewIncidents(*incidents);
         changeNotifications_.notifyNewMaintenances(*maintenances);
     } else {
-        // What exists when the program starts, or when a new key is first used, is no news.
+        // Records that exist when the program starts, or when a new key is first used, are not new to the user.
         changeNotifications_.seed(*incidents, *maintenances);
     }
 }
 
 void AppStateManager::endInFailure(std::exception_ptr failure)
 {
-    // The lists stay: old data beside an error serves the reader better than none.
+    // The lists are kept: old data with an error is more useful than none.
     refreshError = std::move(failure);
     isLoading = false;
     isFetching_ = false;

@@ -41,11 +41,11 @@ class KestruneAPI;
 
 namespace larkspan::core {
 
-/// The account as last fetched, the poll that keeps it fresh, and the panel's item that mirrors it. Everything that the
-/// tray and the dashboard show comes from its published fields. Main thread only; its tasks keep it alive.
+/// The account as last fetched, the poll that keeps it up to date, and the panel's item that shows it. Everything that
+/// the panel and the dashboard show is in its published fields. Main thread only; its tasks keep it alive.
 class AppStateManager final : public support::Observable, public std::enable_shared_from_this<AppStateManager> {
 public:
-    /// What it works with; all of it must outlive the tasks that run here.
+    /// The services that it uses; all must outlive its tasks.
     struct Ports {
         platform::Executor& main;
         platform::Timers& timers;
@@ -62,67 +62,67 @@ public:
     using Interval = std::chrono::duration<double>;
     static constexpr Interval shortestInterval{30.0};
 
-    /// Asks for notification authorization and starts to watch the network. Fetches nothing yet.
+    /// Asks for permission to notify and starts to watch the network. Fetches nothing yet.
     static std::shared_ptr<AppStateManager> make(const Ports& ports);
 
     support::Published<std::vector<model::StatusPage>> statusPages{*this};
     support::Published<OverallStatus> overallStatus{*this, OverallStatus::unknown};
-    /// Those of the whole account, as the service lists them; a change on the service shows with the next cycle.
+    /// All incidents of the account as the service lists them; a change on the service is visible after the next cycle.
     support::Published<std::vector<model::Incident>> incidents{*this};
     support::Published<std::vector<model::Maintenance>> maintenances{*this};
-    /// A cycle runs and there is nothing to show yet.
+    /// Whether a cycle runs while there is nothing to show yet.
     support::Published<bool> isLoading{*this, false};
     /// The end of the last cycle that succeeded.
     support::Published<std::optional<support::Time>> lastRefresh{*this};
-    /// Why the latest cycle failed; null if it did not. Cleared when a cycle begins.
+    /// The error of the latest cycle; null if it succeeded. Cleared when a cycle starts.
     support::Published<std::exception_ptr> refreshError{*this};
     support::Published<bool> isReachable{*this, true};
-    /// A cycle has succeeded since the start or since the key was deleted.
+    /// Whether a cycle has succeeded since the start or since the key was deleted.
     support::Published<bool> hasCompletedInitialFetch{*this, false};
 
-    /// One cycle; it never throws. During a running cycle it does nothing at all.
+    /// Runs one cycle; never throws. Does nothing while another cycle runs.
     support::Task<void> refresh();
 
-    /// The user asked for a refresh: starts a cycle and returns at once. That is worth a prompt of the credential
-    /// store, which a poll isn't.
+    /// Starts a cycle that the user asked for and returns at once. Unlike a poll, it allows the credential store to
+    /// show a prompt.
     void refreshNow();
 
-    /// Starts or restarts the poll; its first cycle comes one interval from now.
+    /// Starts or restarts the poll; its first cycle starts one interval from now.
     void startPollTimer();
 
-    /// How often the lists have landed, so that one which came again is told from one that stayed.
+    /// How often the lists have been published, which tells a list that was fetched again from one that was not.
     std::size_t publishedLists() const { return publishedLists_; }
 
     Interval refreshInterval() const { return refreshInterval_; }
 
-    /// Polls at `interval`, or at the shortest one allowed, counted from now. Forgotten when the program ends.
+    /// Polls every `interval`, or at the shortest one allowed, counted from now. Not kept when the program ends.
     void setRefreshInterval(Interval interval);
 
-    /// Asks the service about `key`, trimmed. Neither the store nor any field is touched; it never throws.
+    /// Asks the service about the trimmed `key`. Changes neither the store nor any field; never throws.
     support::Task<APIKeyVerificationResult> verifyAPIKey(std::string key);
 
-    /// Forgets the account after its key was deleted. A running cycle may still publish what it fetches.
+    /// Clears the account after its key was deleted. A running cycle may still publish what it fetches.
     void clearAccountData();
 
-    /// Puts the item into the panel and keeps it in step with every change. Called once, when the program has started.
+    /// Puts the item into the panel and updates it with every change. Called once, when the program has started.
     void setupStatusItem(std::weak_ptr<MainWindowLifecycleDelegate> windowRules);
 
-    /// Builds the item and its menu anew; without an item it does nothing.
+    /// Builds the item's icon and menu again; does nothing without an item.
     void rebuildMenu();
 
-    /// What the menu's rows do.
+    /// The actions of the menu's rows.
     void openDashboard();
     void openStatusPage(const std::string& id);
     void openIncident(const std::string& id);
     void checkForUpdates();
-    /// Ends the program. Where something would be lost with it the user is asked first, in the window.
+    /// Ends the program. If something would be lost, the user is asked first, in the window.
     void quitApp();
     void guardQuitting(std::weak_ptr<QuitGuard> guard) { quitGuard_ = std::move(guard); }
 
-    /// Present once the item is set up.
+    /// Null until the item is set up.
     const std::shared_ptr<UpdaterController>& updaterController() const { return updaterController_; }
 
-    /// Where the menu says which record it wants shown.
+    /// Carries the menu's requests to show a record.
     InProcessNotifications& inProcessNotifications() { return inProcessNotifications_; }
 
 private:

@@ -24,7 +24,7 @@ void AppStateManager::setupStatusItem(std::weak_ptr<MainWindowLifecycleDelegate>
 
 std::function<void()> AppStateManager::rebuildingMenuNextTurn()
 {
-    // A notice comes before its change, which the next turn sees.
+    // A notice is sent before its change, so the menu is built in the next turn.
     return [&main = ports_.main, weak = weak_from_this()] {
         main.post([weak] {
             if (const auto self = weak.lock()) self->rebuildMenu();
@@ -93,7 +93,7 @@ void AppStateManager::checkForUpdates()
 {
     if (!updaterController_) return;
     updaterController_->checkForUpdates();
-    // What it finds is told in the window, which may be minimised.
+    // The result is shown in the window, which may be minimised.
     openDashboard();
 }
 

@@ -10,8 +10,8 @@
 
 namespace larkspan::core {
 
-/// Tells the user of incidents and maintenances not seen before. Records are told apart by id alone, so a change
-/// of a known one raises nothing; ids are never forgotten, so one that comes back raises nothing either.
+/// Notifies the user of incidents and maintenances that were not seen before. Records are compared by id only, so a
+/// change of a known one raises nothing; ids are never forgotten, so a record that reappears raises nothing either.
 class ChangeNotifications {
 public:
     explicit ChangeNotifications(platform::NotificationCenter& center)
@@ -19,7 +19,7 @@ public:
     {
     }
 
-    /// Takes what exists for known, in place of all that was, and raises nothing.
+    /// Replaces the known records by these, and raises nothing.
     void seed(const std::vector<model::Incident>& incidents, const std::vector<model::Maintenance>& maintenances);
 
     /// Raises a notification for each new incident that is active.
@@ -28,7 +28,7 @@ public:
     /// Raises a notification for each new maintenance that is scheduled or in progress.
     void notifyNewMaintenances(const std::vector<model::Maintenance>& maintenances);
 
-    /// Knows nothing any more.
+    /// Forgets all records.
     void clear();
 
 private:

@@ -14,7 +14,7 @@ support::Subscription InProcessNotifications::observe(std::string_view name, Obs
 void InProcessNotifications::post(std::string_view name, const std::string& object)
 {
     std::erase_if(listeners_, [](const auto& listener) { return listener.expired(); });
-    // A copy, since an observer may subscribe or leave.
+    // A copy, since an observer may subscribe or unsubscribe.
     for (const auto& weak : std::vector(listeners_)) {
         const auto listener = weak.lock();
         if (listener && listener->name == name) listener->observer(object);

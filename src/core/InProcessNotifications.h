@@ -10,18 +10,17 @@
 
 namespace larkspan::core {
 
-/// Notices by name from one part of the program to whichever other listens, so that neither knows the other.
-/// Main thread only.
+/// Sends named notices from one part of the program to another, so that neither depends on the other. Main thread only.
 class InProcessNotifications {
 public:
-    /// A page is to be shown; the object is its id.
+    /// Asks for a page to be shown; the object is its id.
     static constexpr std::string_view openStatusPage = "openStatusPage";
-    /// An incident is to be shown; the object is its id.
+    /// Asks for an incident to be shown; the object is its id.
     static constexpr std::string_view openIncident = "openIncident";
 
     using Observer = std::function<void(const std::string& object)>;
 
-    /// Calls `observer` for each notice called `name`, as long as the subscription lives.
+    /// Calls `observer` for each notice named `name`, as long as the subscription exists.
     [[nodiscard]] support::Subscription observe(std::string_view name, Observer observer);
 
     void post(std::string_view name, const std::string& object);

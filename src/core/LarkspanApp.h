@@ -10,13 +10,13 @@
 
 namespace larkspan::core {
 
-/// The running program: its one state object, its one window's rules, and the order in which they start.
-/// Main thread only. Made before the event loop runs; its start-up happens in the loop's first turns.
+/// The running program: its state object, the rules of its window, and the order in which they start. Main thread only.
+/// Constructed before the event loop runs; start-up happens in the loop's first turns.
 class LarkspanApp final : public support::Observable {
 public:
     explicit LarkspanApp(const AppStateManager::Ports& ports);
 
-    /// The about box is up.
+    /// Whether the about box is shown.
     support::Published<bool> showingAbout{*this, false};
 
     const std::shared_ptr<AppStateManager>& appState() const { return appState_; }
@@ -24,9 +24,9 @@ public:
 
     void showDashboardWindow() { core::showDashboardWindow(windows_, windowLifecycleDelegate_.get()); }
 
-    /// The user wants the program to end: it asks where something would be lost.
+    /// Ends the program for the user; asks first if something would be lost.
     void quitApp() { appState_->quitApp(); }
-    /// Ends the program. Nothing is saved: there is nothing to save.
+    /// Ends the program without asking. Nothing is saved: there is nothing to save.
     void terminate() { windows_.terminate(); }
 
 private:

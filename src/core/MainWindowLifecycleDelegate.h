@@ -8,8 +8,8 @@
 
 namespace larkspan::core {
 
-/// The rules of the one window: closing it minimises it, or hides it where the desktop minimises no windows, and
-/// whatever needs it brings it back. Main thread only.
+/// The rules of the window: closing minimises it, or hides it if the desktop minimises no windows, and whatever needs
+/// it shows it again. Main thread only.
 class MainWindowLifecycleDelegate final : public platform::WindowDelegate,
                                           public std::enable_shared_from_this<MainWindowLifecycleDelegate> {
 public:
@@ -19,18 +19,18 @@ public:
     void applicationDidFinishLaunching();
     void applicationDidBecomeActive();
 
-    /// The program was started again, or picked in the launcher, while it runs. Always handled.
+    /// Called when the program is started again, or chosen in the launcher, while it runs. Always returns true.
     bool applicationShouldHandleReopen(bool hasVisibleWindows);
 
     bool windowShouldClose() override;
 
-    /// Hides the window, for as long as a panel shows the item that brings it back.
+    /// Hides the window, but only while a panel shows the item that can show it again.
     void windowDidNotMiniaturize() override;
 
-    /// Takes the first window that is visible or could be the active one, unless one is held already.
+    /// Takes the first window that is visible or can become active, unless it has one already.
     void adoptDashboardWindow();
 
-    /// Adopts if need be, and brings the window forward if there is one.
+    /// Adopts a window if necessary, and brings it to the front if there is one.
     void bringDashboardWindowForward();
 
 private:
@@ -43,7 +43,8 @@ private:
     bool isHidden_ = false;
 };
 
-/// Activates the program and brings the dashboard forward; with no `delegate`, every window that can be active.
+/// Activates the program and brings the dashboard to the front; without a `delegate`, every window that can become
+/// active.
 void showDashboardWindow(platform::WindowSystem& windows, MainWindowLifecycleDelegate* delegate);
 
 }  // namespace larkspan::core

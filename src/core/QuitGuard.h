@@ -4,13 +4,13 @@
 
 namespace larkspan::core {
 
-/// Whoever has something that would be lost with the program. Main thread only.
+/// Knows whether something would be lost if the program ended. Main thread only.
 class QuitGuard {
 public:
     virtual ~QuitGuard() = default;
 
-    /// Asks the user, and calls `quit` once nothing is lost by it or its loss is confirmed. False, and nothing done,
-    /// where nothing would be lost.
+    /// Asks the user and calls `quit` when nothing would be lost or the loss is confirmed. Returns false and does
+    /// nothing if nothing would be lost.
     virtual bool asksBeforeQuitting(std::function<void()> quit) = 0;
 };
 

@@ -12,7 +12,7 @@
 
 namespace larkspan::core {
 
-/// What the panel's item is built from.
+/// The data that the panel's item is built from.
 struct StatusMenuState {
     const std::vector<model::StatusPage>& statusPages;
     const std::vector<model::Incident>& incidents;

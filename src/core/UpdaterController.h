@@ -8,7 +8,7 @@
 
 namespace larkspan::core {
 
-/// The user's questions for updates, one at a time, and what came of the last one. Main thread only.
+/// The user's checks for updates, one at a time, and the result of the last one. Main thread only.
 class UpdaterController final : public support::Observable, public std::enable_shared_from_this<UpdaterController> {
 public:
     explicit UpdaterController(platform::Updater& updater)
@@ -16,12 +16,12 @@ public:
     {
     }
 
-    /// The user is being told: of the check while it runs, then of its finding, until they dismiss it.
+    /// Whether the dialog is shown: with the running check, then with its result, until the user dismisses it.
     support::Published<bool> isShowing{*this, false};
-    /// Absent while the check runs.
+    /// The result; absent while the check runs.
     support::Published<std::optional<platform::UpdateCheck>> finding{*this};
 
-    /// Asked again while it runs, it goes on with the check that runs.
+    /// Shows the dialog and starts a check, unless one is running.
     void checkForUpdates();
     void dismiss() { isShowing = false; }
 
