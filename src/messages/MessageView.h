@@ -11,8 +11,8 @@
 
 namespace larkspan::incidents {
 
-/// The message of an incident or a maintenance, and the question before one of its links is followed: whoever writes
-/// messages chooses what a link reads, so the user is told where it leads. Main thread only.
+/// The message of an incident or a maintenance, and the question before one of its links is opened: the author of a
+/// message chooses a link's text, so the user is told where it leads. Main thread only.
 class MessageView final : public support::Observable {
 public:
     explicit MessageView(platform::LinkOpener& opener)
@@ -23,14 +23,14 @@ public:
     static constexpr presentation::Confirmation linkConfirmation{
         .title = "Open Link?", .text = {}, .confirm = "Open", .cancel = "Cancel"};
 
-    /// The link that the user is asked about; absent while there is no question.
+    /// The link that the user is asked about; absent if there is no question.
     support::Published<std::optional<MarkdownLink>> linkInQuestion{*this};
 
-    /// The rows of `source`, made anew for each call.
+    /// The rows of `source`, computed by each call.
     static MarkdownRows rowsOf(const std::string& source);
 
     void follow(const MarkdownLink& link) { linkInQuestion = link; }
-    /// The question in words: "This link leads to status.example."
+    /// The text of the question: "This link leads to status.example."
     std::string questionText() const;
     void openLink();
     void cancelLink() { linkInQuestion = std::nullopt; }

@@ -11,7 +11,7 @@ namespace larkspan::incidents {
 
 namespace {
 
-/// `digits` are none but those of the base.
+/// `digits` consists of digits of `base` only.
 std::string characterOf(std::string_view digits, int base)
 {
     std::uint32_t code = 0;

@@ -5,7 +5,8 @@
 
 namespace larkspan::incidents {
 
-/// What "&amp;", "&#38;" or "&#x26;" stands for. A name that HTML does not know stands for itself.
+/// The characters of a reference such as "&amp;", "&#38;" or "&#x26;". A name that HTML does not define is returned as
+/// it is.
 std::string decodedCharacterReference(std::string_view reference);
 
 }  // namespace larkspan::incidents

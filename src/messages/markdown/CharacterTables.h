@@ -5,7 +5,7 @@
 
 namespace larkspan::incidents {
 
-// Generated from what Python knows of HTML and Unicode; see character_tables.py.
+// Generated from Python's tables of HTML and Unicode; see character_tables.py.
 
 struct NamedCharacter {
     std::string_view name;
@@ -20,8 +20,8 @@ struct CharacterRange {
     char32_t last;
 };
 
-/// The characters that are drawn on or joined with the one before: marks, joiners, the later parts of Hangul syllables,
-/// modifiers and tags of emoji. Sorted.
+/// The characters that are drawn on or joined with the previous one: marks, joiners, the later parts of Hangul
+/// syllables, modifiers and tags of emoji. Sorted.
 std::span<const CharacterRange> joiningCharacters();
 
 }  // namespace larkspan::incidents

@@ -13,13 +13,13 @@ namespace larkspan::incidents {
 
 namespace {
 
-/// Longer than any body that is taken. The counters of md4c hold far more.
+/// Longer than any body that is accepted. The counters of md4c allow far more.
 constexpr std::size_t longestText = 64 * 1024 * 1024;
 constexpr std::string_view replacementCharacter = "\uFFFD";
 
-/// md4c reads whole documents. It sees the text as one line behind a vertical tab, and with vertical tabs for line
-/// ends: a line that begins so begins no block, md4c trims none of it, and delimiters count as standing beside white
-/// space. Each character keeps its place, so what comes back is found in the text itself.
+/// md4c reads whole documents. It is given the text as one line that starts with a vertical tab, with vertical tabs for
+/// line ends: such a line starts no block and is not trimmed, and delimiters count as being next to white space. Each
+/// character keeps its offset, so what md4c returns is found in the text itself.
 class DisguisedText {
 public:
     explicit DisguisedText(std::string_view text)
@@ -34,7 +34,7 @@ public:
 
     std::string_view line() const { return line_; }
 
-    /// What stands in the text where `part`, a view into `line()`, stands in the line.
+    /// The part of the text at the offsets of `part`, a view into `line()`.
     std::string_view original(std::string_view part) const
     {
         const auto begin = static_cast<std::size_t>(part.data() - line_.data());
@@ -50,7 +50,7 @@ private:
     std::string line_;
 };
 
-/// Gathers the runs that md4c tells of.
+/// Collects the runs that md4c reports.
 class RunCollector {
 public:
     explicit RunCollector(std::string_view text)
@@ -115,7 +115,8 @@ private:
         }
     }
 
-    /// A backslash before a line end makes the break a hard one and is not shown. An escaped backslash comes alone.
+    /// A backslash before a line end makes the break a hard one and is not shown. An escaped backslash is reported
+    /// alone.
     void addNormal(std::string_view text)
     {
         for (std::size_t at = 0; (at = text.find('\\', at)) != std::string_view::npos;) {
@@ -130,7 +131,7 @@ private:
         append(text);
     }
 
-    /// md4c tells of a NUL apart, but not within code.
+    /// md4c reports a NUL separately, but not within code.
     void addCode(std::string_view text)
     {
         for (auto at = text.find('\0'); at != std::string_view::npos; at = text.find('\0')) {
@@ -182,7 +183,7 @@ InlineText verbatim(std::string text)
     return found;
 }
 
-/// What markup begins with, or a NUL.
+/// The bytes with which markup starts, and NUL.
 constexpr auto markupBytes = [] {
     std::array<bool, 256> markup{};
     for (const char byte : {'\\', '*', '_', '~', '`', '[', '<', '&', '\0'})

@@ -16,7 +16,7 @@ struct InlineStyles {
     bool operator==(const InlineStyles&) const = default;
 };
 
-/// A stretch of `InlineText::text` in one style; `link` is an index of `InlineText::destinations`.
+/// A part of `InlineText::text` in one style; `link` is an index of `InlineText::destinations`.
 struct InlineRun {
     std::size_t length = 0;
     InlineStyles styles = {};
@@ -25,20 +25,20 @@ struct InlineRun {
     bool operator==(const InlineRun&) const = default;
 };
 
-/// Text without its inline markup. The runs follow each other from its begin to its end; neighbours differ in style or
+/// Text without its inline markup. The runs cover the text in order; neighbours differ in style or
 /// link, and none is empty.
 struct InlineText {
     std::string text;
     std::vector<InlineRun> runs;
-    /// Where the links lead, in their order and as the source has it: each may be anything.
+    /// The links' destinations in their order, as in the source: each may be anything.
     std::vector<std::string> destinations;
 
     bool operator==(const InlineText&) const = default;
 };
 
-/// Reads the inline markup of CommonMark, and "~" and "~~" for what is struck through. There are no blocks in `text`,
-/// no link references and no HTML, which is text like any other; an image is its description. Line feeds and blanks
-/// stay as they are. A text that cannot be read is shown with its markup.
+/// Reads the inline markup of CommonMark, with "~" and "~~" for struck-through text. Blocks, link references and HTML
+/// are not interpreted; an image becomes its description. Line feeds and blanks are kept. A text that cannot be read is
+/// returned with its markup.
 InlineText inlineMarkdownText(std::string text);
 
 }  // namespace larkspan::incidents

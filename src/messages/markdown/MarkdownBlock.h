@@ -14,7 +14,7 @@ struct MarkdownHeading {
     bool operator==(const MarkdownHeading&) const = default;
 };
 
-/// The lines as they stood, joined with line feeds.
+/// The unchanged lines, joined with line feeds.
 struct MarkdownParagraph {
     std::string text;
 
@@ -33,7 +33,7 @@ struct MarkdownOrderedList {
     bool operator==(const MarkdownOrderedList&) const = default;
 };
 
-/// The text of one line; lines that follow each other are quotes of their own.
+/// The text of one line; consecutive lines are separate quotes.
 struct MarkdownQuote {
     std::string text;
 
@@ -52,7 +52,7 @@ struct MarkdownTable {
 using MarkdownBlock = std::variant<MarkdownHeading, MarkdownParagraph, MarkdownUnorderedList, MarkdownOrderedList,
     MarkdownQuote, MarkdownTable>;
 
-/// Every text has blocks: a line that fits no rule is paragraph text.
+/// Every text can be parsed: a line that matches no rule is paragraph text.
 std::vector<MarkdownBlock> parseMarkdownBlocks(std::string_view source);
 
 }  // namespace larkspan::incidents

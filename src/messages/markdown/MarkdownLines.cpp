@@ -12,7 +12,7 @@ namespace {
 
 bool isWholeNumber(std::string_view text)
 {
-    // from_chars takes a minus, but no plus.
+    // from_chars accepts a minus, but no plus.
     if (text.starts_with('+')) {
         text.remove_prefix(1);
         if (text.starts_with('-')) return false;

@@ -6,7 +6,7 @@
 
 namespace larkspan::incidents {
 
-/// Each with its blank, without which it is no marker.
+/// With the blank that belongs to each marker.
 inline constexpr std::array<std::string_view, 3> unorderedMarkers{"- ", "* ", "+ "};
 
 struct HeadingLine {
@@ -19,10 +19,10 @@ struct HeadingLine {
 /// One to six "#", a blank and a text.
 std::optional<HeadingLine> parseHeadingLine(std::string_view trimmedLine);
 
-/// The text behind one of `unorderedMarkers`.
+/// The text after one of `unorderedMarkers`.
 std::optional<std::string_view> parseUnorderedItem(std::string_view trimmedLine);
 
-/// The text behind a whole number, a dot and a blank.
+/// The text after an integer, a dot and a blank.
 std::optional<std::string_view> parseOrderedItem(std::string_view trimmedLine);
 
 }  // namespace larkspan::incidents

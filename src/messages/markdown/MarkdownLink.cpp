@@ -18,7 +18,7 @@ bool isControl(char byte)
     return static_cast<unsigned char>(byte) < ' ' || byte == '\x7F';
 }
 
-/// `rest` of a URL, behind its host, with those characters escaped that people write but a URL cannot hold.
+/// `rest`, the part of a URL after its host, with characters escaped that people write but URLs do not allow.
 std::string escaped(std::string_view rest)
 {
     constexpr std::string_view digits = "0123456789ABCDEF";

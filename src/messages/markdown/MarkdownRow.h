@@ -9,8 +9,8 @@
 
 namespace larkspan::incidents {
 
-/// One row of a message on screen, small enough to be made when it scrolls into view. A long text goes on in the rows
-/// below, which then have no gap.
+/// One row of a message on screen, small enough to be created when it scrolls into view. A long text continues in the
+/// next rows, which have no gap.
 struct MarkdownRow {
     enum class Kind {
         title,  ///< a heading of level 1
@@ -25,16 +25,16 @@ struct MarkdownRow {
     };
 
     Kind kind;
-    /// Of an item: its bullet or number, which only its first row shows; the others are indented by it.
+    /// For an item: its bullet or number, which only its first row shows; the others are indented by its width.
     std::string label = {};
-    /// Of all rows but a table's.
+    /// For all rows but a table's.
     MarkdownText text = {};
-    /// Of a table's rows, from the left; where there are fewer than columns, the rest is empty.
+    /// For a table's rows, from the left; if there are fewer cells than columns, the rest is empty.
     std::vector<MarkdownText> cells = {};
-    /// Of a table's rows: which of `MarkdownRows::tables` it is of.
+    /// For a table's rows: the index of the table in `MarkdownRows::tables`.
     std::size_t table = 0;
     bool continuesPrevious = false;
-    /// In points, to the row above.
+    /// The distance to the row above, in points.
     int gap = 0;
 
     bool isOfTable() const { return kind == Kind::tableHeader || kind == Kind::tableDivider || kind == Kind::tableRow; }
@@ -51,7 +51,8 @@ struct MarkdownColumns {
         auto operator<=>(const Text&) const = default;
     };
 
-    /// For each column, the texts of those cells that may be its widest: it is as wide as one of them is drawn.
+    /// For each column, the texts of the cells that may be its widest: the column is as wide as the widest of them when
+    /// drawn.
     std::vector<std::vector<Text>> widestTexts;
 
     bool operator==(const MarkdownColumns&) const = default;

@@ -12,7 +12,7 @@ bool holdsPipe(std::string_view line)
     return line.find('|') != std::string_view::npos;
 }
 
-/// Gives the cells of a line one after the other.
+/// Returns the cells of a line one after the other.
 class CellReader {
 public:
     explicit CellReader(std::string_view line)

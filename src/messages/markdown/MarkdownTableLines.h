@@ -13,20 +13,20 @@ namespace larkspan::incidents {
 
 struct TableLines {
     MarkdownTable table;
-    /// The first line that is no longer of the table.
+    /// The first line after the table.
     std::size_t nextIndex;
 };
 
-/// The table that begins at `lines[index]`, if one does.
+/// The table that starts at `lines[index]`, if any.
 std::optional<TableLines> parseTableBlock(std::span<const std::string_view> lines, std::size_t index);
 
-/// Whether `parseTableBlock` gives a table, which takes a look at two lines only.
+/// Whether a table starts at `lines[index]`; reads two lines only.
 bool beginsTable(std::span<const std::string_view> lines, std::size_t index);
 
-/// The texts between the pipes of `line`, one at least.
+/// The texts between the pipes of `line`, at least one.
 std::vector<std::string> parseTableCells(std::string_view line);
 
-/// Three or more of "-" and ":", with blanks wherever they like.
+/// Three or more of "-" and ":", with blanks anywhere.
 bool isTableSeparatorCell(std::string_view cell);
 
 }  // namespace larkspan::incidents

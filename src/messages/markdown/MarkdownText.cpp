@@ -19,7 +19,7 @@ std::size_t lengthWithoutLineEnd(std::string_view text)
     return text.size() - (support::isLineEnd(last.code) ? last.length : 0);
 }
 
-/// Walks over a text's runs and styles what it passes.
+/// Iterates over a text's runs and styles the text.
 class PieceReader {
 public:
     explicit PieceReader(const InlineText& text)
@@ -29,7 +29,7 @@ public:
         for (const auto& destination : text.destinations) links_.push_back(MarkdownLink::parse(destination));
     }
 
-    /// The piece that goes on with `plain`, of which the first `shown` bytes are to be seen.
+    /// The next piece, with the plain text `plain`, of which the first `shown` bytes are shown.
     MarkdownText read(std::string plain, std::size_t shown)
     {
         MarkdownText piece{{}, std::move(plain), {}};
@@ -63,7 +63,7 @@ private:
 
     std::vector<std::optional<MarkdownLink>> links_;
     std::vector<InlineRun>::const_iterator run_;
-    /// How much of the run is behind.
+    /// The number of bytes of the current run that have been read.
     std::size_t passed_ = 0;
 };
 

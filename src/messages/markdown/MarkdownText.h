@@ -8,19 +8,19 @@
 
 namespace larkspan::incidents {
 
-/// What one text item shows.
+/// The content of one text item.
 struct MarkdownText {
     /// For Text.StyledText; an href of "2" is `links[2]`.
     std::string styled;
-    /// The same in plain words, for who cannot see it.
+    /// The same as plain text, for assistive technologies.
     std::string plain;
     std::vector<MarkdownLink> links;
 
     bool operator==(const MarkdownText&) const = default;
 
-    /// `text` for one item after the other, none of which is longer than an item may be; at least one. Their plain
-    /// texts are the whole when put together: the line end at which a piece is cut ends its plain text, but is not
-    /// shown, since the next item begins on a line of its own.
+    /// Splits `text` into at least one piece, none of which is longer than an item may be. Joined, the plain texts are
+    /// the whole text: a line end at which the text is cut is the end of a piece's plain text, but is not shown, since
+    /// the next item starts on a new line.
     static std::vector<MarkdownText> piecesOf(InlineText text);
 };
 

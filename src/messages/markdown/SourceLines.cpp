@@ -10,7 +10,7 @@ namespace larkspan::incidents {
 
 namespace {
 
-/// The bytes with which a line end begins.
+/// The bytes with which a line end starts.
 constexpr auto suspects = [] {
     std::array<bool, 256> begins{};
     for (std::size_t byte = '\n'; byte <= '\r'; ++byte) begins[byte] = true;

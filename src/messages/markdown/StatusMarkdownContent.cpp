@@ -51,7 +51,7 @@ public:
     void operator()(const MarkdownTable& table) { appendTable(content_, table, blockGap()); }
 
 private:
-    /// The first block has nothing above it; a table has a little room of its own below its last row.
+    /// The first block has nothing above it; a table already has some space below its last row.
     int blockGap() const
     {
         if (content_.rows.empty()) return 0;

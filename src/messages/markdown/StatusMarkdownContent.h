@@ -10,16 +10,16 @@ namespace larkspan::incidents {
 ///
 ///     source -> parseMarkdownBlocks -> inlineMarkdownText of each text -> MarkdownText::piecesOf -> rows
 ///
-/// Whatever the source is, the rows are made in linear time, hold no more than the source gives, and each is of bounded
-/// size: a list's item or a table's row has a row of its own, a long text has several, and a table too wide for one row
-/// goes on below it as a table of its own, with the columns that are left.
+/// For any source, the rows are computed in linear time, contain no more than the source, and each has a bounded size:
+/// each item of a list and each row of a table is a separate row, a long text has several rows, and a table too wide
+/// for one row is continued by another table with the remaining columns.
 class StatusMarkdownContent {
 public:
     explicit StatusMarkdownContent(std::string source);
 
     const std::string& source() const { return source_; }
 
-    /// Made anew for each call.
+    /// Computed by each call.
     MarkdownRows rows() const;
 
 private:

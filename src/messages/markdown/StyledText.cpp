@@ -16,11 +16,11 @@ constexpr std::string_view zeroWidthSpace = "\u200B";
 constexpr std::string_view noBreakSpace = "&nbsp;";
 constexpr std::string_view replacementCharacter = "\uFFFD";
 constexpr int tabWidth = 4;
-// U+2068 takes the direction of the text in it and keeps it to that; U+2069 ends it.
+// U+2068 isolates text with its own direction; U+2069 ends the isolation.
 constexpr std::string_view isolate = "\u2068";
 constexpr std::string_view isolateEnd = "\u2069";
 
-/// Letters and the like, of which StyledText knows nothing but that they are text.
+/// Letters and other bytes that have no meaning for StyledText but themselves.
 constexpr auto plainBytes = [] {
     std::array<bool, 256> plain{};
     for (std::size_t byte = '!'; byte <= '~'; ++byte) plain[byte] = true;
@@ -33,7 +33,7 @@ bool changesDirection(char32_t character)
     return (character >= U'\u202A' && character <= U'\u202E') || (character >= U'\u2066' && character <= U'\u2069');
 }
 
-/// U+FFFC stands for an embedded object, of which there are none.
+/// U+FFFC stands for an embedded object, which do not occur here.
 bool isUnshowable(char32_t character)
 {
     return character < U' ' || (character >= 0x7F && character < 0xA0) || character == U'\uFFFC';
@@ -98,8 +98,7 @@ void StyledTextWriter::addCharacters(std::string_view text)
     }
 }
 
-/// Most texts are words with single blanks between them, which stand for themselves: so much of `text` is added at
-/// once.
+/// Most texts are words with single blanks between them, which need no escaping; they are added at once.
 std::size_t StyledTextWriter::addPlainBytes(std::string_view text)
 {
     std::size_t length = 0;

@@ -16,7 +16,7 @@ constexpr std::size_t mostColumns = 64;
 constexpr int gapOfRows = 7;
 constexpr int gapOfTables = 10;
 
-/// Appends the rows of as many columns of a table as one row holds.
+/// Appends the rows for as many columns of a table as fit in one row.
 class ColumnsWriter {
 public:
     ColumnsWriter(MarkdownRows& content, std::size_t columns)
@@ -27,7 +27,7 @@ public:
         content_.tables.emplace_back();
     }
 
-    /// A cell that is too long for one item goes on in the row below.
+    /// A cell that is too long for one item continues in the next row.
     void add(Kind kind, Cells texts, int gap)
     {
         std::vector<std::vector<MarkdownText>> columns;
@@ -40,7 +40,7 @@ public:
         for (std::size_t line = 0; line < height; ++line) addLine(kind, columns, line, line == 0 ? gap : 0);
     }
 
-    /// Behind the last row.
+    /// Called after the last row.
     void addColumns()
     {
         for (const auto& column : widest_) content_.tables[table_].widestTexts.push_back(column.texts());
@@ -91,7 +91,8 @@ void appendTable(MarkdownRows& content, const MarkdownTable& table, int gap)
         for (const auto& row : rows) writer.add(Kind::tableRow, upTo(row, columns), gapOfRows);
         writer.addColumns();
 
-        // Only rows that have more to show go on, or many short rows would be repeated for each of many columns.
+        // Only rows that have more cells continue; otherwise many short rows would be repeated for each of many
+        // columns.
         headers = headers.subspan(columns);
         for (auto& row : rows) row = behind(row, columns);
         std::erase_if(rows, [](Cells row) { return row.empty(); });

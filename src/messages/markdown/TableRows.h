@@ -5,10 +5,10 @@
 
 namespace larkspan::incidents {
 
-/// In points, above a table's headers and below its last row.
+/// The space above a table's headers and below its last row, in points.
 inline constexpr int tablePadding = 2;
 
-/// Appends the rows that show `table`, `gap` points below what is there. Cells beyond the number of headers are not
+/// Appends the rows that show `table`, `gap` points below the rows so far. Cells beyond the number of headers are not
 /// shown.
 void appendTable(MarkdownRows& content, const MarkdownTable& table, int gap);
 

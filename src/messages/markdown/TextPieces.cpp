@@ -34,7 +34,7 @@ bool areDrawnApart(char32_t before, char32_t after)
 
 std::size_t firstPieceEnd(std::string_view text)
 {
-    // No character is shorter than its bytes, so most texts need no look.
+    // No text has more characters than bytes, so most texts need not be searched.
     if (text.size() <= longestPiece) return text.size();
 
     std::size_t behindLineEnd = 0;

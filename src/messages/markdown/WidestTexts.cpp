@@ -19,7 +19,7 @@ constexpr auto widthsOfAscii = [] {
 
 std::size_t roughWidth(char32_t character)
 {
-    // From here on stand the scripts of East Asia, and behind them the emoji.
+    // The scripts of East Asia start here, followed by the emoji.
     constexpr char32_t firstWide = 0x1100;
     if (character < widthsOfAscii.size()) return widthsOfAscii[character];
     return character < firstWide ? 2 : 4;

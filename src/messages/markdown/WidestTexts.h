@@ -10,8 +10,8 @@
 
 namespace larkspan::incidents {
 
-/// The texts of a column that may be the widest when they are drawn. What a letter takes is roughly known here, so the
-/// few that come first by that are kept, and measured where the font is.
+/// Keeps the texts of a column that may be the widest when drawn. The width of letters is known only roughly here, so
+/// the few widest by that estimate are kept, to be measured with the font.
 class WidestTexts {
 public:
     static constexpr std::size_t most = 32;
@@ -27,7 +27,7 @@ private:
     std::set<std::pair<std::size_t, Text>> texts_;
 };
 
-/// In quarters of a wide character, such as "語".
+/// The estimated width, in quarters of a wide character such as "語".
 std::size_t roughWidth(std::string_view text);
 
 }  // namespace larkspan::incidents

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Writes the tables behind CharacterTables.h as C++.
+"""Writes the tables of CharacterTables.h as C++.
 
 usage: character_tables.py OUTPUT
 """
