@@ -16,10 +16,10 @@
 
 namespace larkspan::simulator {
 
-/// What a key may do: everything, or nothing although it is known.
+/// The rights of a key: everything, or nothing although the key is known.
 enum class KeyRights { full, none };
 
-/// An account of the service, in memory.
+/// An account of the service in memory.
 struct Account {
     StatusPage* findPage(std::string_view id);
     Incident* findIncident(std::string_view id);
@@ -30,15 +30,15 @@ struct Account {
     Team* findTeam(std::string_view id);
     OnCallSchedule* findOnCallSchedule(std::string_view id);
 
-    /// An id that nothing else has.
+    /// Returns a new, unique id.
     std::string issueId(const std::string& prefix);
 
-    /// Puts the page to the state that its open incidents, or else its maintenances in progress, make it have.
+    /// Sets the page's state from its open incidents or, if it has none, from its maintenances in progress.
     void followEvents(const std::optional<std::string>& pageId, support::Time now);
 
     std::map<std::string, KeyRights, std::less<>> keys;
     std::vector<StatusPage> statusPages;
-    /// Newest first, as the maintenances.
+    /// Newest first, like the maintenances.
     std::vector<Incident> incidents = {};
     std::vector<IncidentState> incidentStates = ordinaryIncidentStates();
     std::vector<Maintenance> maintenances = {};

@@ -10,13 +10,14 @@ struct ComponentGroup {
     std::string id;
     std::string name;
     std::string statusPageId;
-    /// Whether the service lists the group's components along with it.
+    /// Whether the service includes the group's components in its record.
     bool listsComponents = false;
 };
 
-/// A named part of a page. `state` is the word sent, whatever it is; `groupId` may be that of a group that is gone.
+/// A named part of a page. `state` is sent as it is, even if no such state exists; `groupId` may be that of a deleted
+/// group.
 struct Component {
-    /// Digits alone travel as a number, as the service's own ids do.
+    /// An id of digits only is sent as a number, as the service does.
     std::string id;
     std::string name;
     std::optional<std::string> description;

@@ -8,12 +8,12 @@
 
 namespace larkspan::simulator {
 
-/// Incidents of these pages that agree with how each of them stands at `now`: an open one where a page is degraded
-/// or down, and resolved ones of the last weeks. As many in all as there are pages, or a few more; newest first.
+/// Incidents of these pages that agree with each page's state at `now`: an open one for a page that is degraded or
+/// down, and resolved ones of the last weeks. Altogether as many as there are pages, or a few more; newest first.
 std::vector<Incident> seededIncidents(const std::vector<StatusPage>& pages, support::Time now);
 
-/// Likewise: one in progress where a page is under maintenance, completed ones of the last weeks, and for each fourth
-/// page one that is to come.
+/// Maintenances in the same way: one in progress for a page under maintenance, completed ones of the last weeks, and a
+/// scheduled one for each fourth page.
 std::vector<Maintenance> seededMaintenances(const std::vector<StatusPage>& pages, support::Time now);
 
 }  // namespace larkspan::simulator

@@ -4,13 +4,13 @@
 
 namespace larkspan::simulator {
 
-/// What somebody on duty writes.
+/// Texts as people on call write them.
 struct EventText {
     const char* title;
     const char* message;
 };
 
-/// A believable one for each number; they repeat after a while.
+/// A realistic text for each number; the texts repeat after a while.
 const EventText& incidentText(std::size_t number);
 const EventText& maintenanceText(std::size_t number);
 

@@ -8,7 +8,8 @@ namespace larkspan::simulator {
 
 struct Account;
 
-/// What a page's first component and its monitors say of how the page stands. Nobody sees it of the others.
+/// The state of a page in the words of its first component and of that component's monitors. The other components do
+/// not show it.
 struct HealthWords {
     const char* component;
     const char* monitor;
@@ -16,7 +17,7 @@ struct HealthWords {
 
 HealthWords healthWords(PageHealth health);
 
-/// Lets the page's first component and its monitors say so.
+/// Sets the page's first component and its monitors to this state.
 void showHealth(Account& account, std::string_view pageId, PageHealth health);
 
 }  // namespace larkspan::simulator

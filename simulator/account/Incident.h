@@ -8,14 +8,14 @@
 
 namespace larkspan::simulator {
 
-/// One stage of an account's incident workflow. An incident begins in the first one and ends with the last one.
+/// One stage of an account's incident workflow. An incident starts in the first one and ends in the last one.
 struct IncidentState {
     int id = 0;
     std::string stage;
     int sortOrder = 0;
 };
 
-/// What an account has until somebody changes it: Investigating, Identified, Monitoring, Resolved.
+/// The default stages of an account: Investigating, Identified, Monitoring, Resolved.
 std::vector<IncidentState> ordinaryIncidentStates();
 
 struct Incident {

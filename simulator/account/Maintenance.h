@@ -10,17 +10,17 @@ namespace larkspan::simulator {
 enum class MaintenancePhase { scheduled, inProgress, completed };
 
 struct Maintenance {
-    /// Where the maintenance stands by its dates; without an end it goes on.
+    /// The phase by the maintenance's dates; without an end it stays in progress.
     MaintenancePhase phaseAt(support::Time now) const;
 
-    /// When the account was last looked at.
+    /// Whether the maintenance was in progress when the account was last read.
     bool isUnderWay() const { return lastPhase == MaintenancePhase::inProgress; }
 
-    /// Digits alone travel as a number, as the service's own ids do.
+    /// An id of digits only is sent as a number, as the service does.
     std::string id;
     std::string title;
     std::optional<std::string> message;
-    /// The word sent in place of the one for its phase.
+    /// The word that is sent instead of the one for its phase.
     std::optional<std::string> status;
     std::optional<support::Time> startAt;
     std::optional<support::Time> startedAt;
@@ -31,7 +31,7 @@ struct Maintenance {
     std::optional<std::string> affectedComponents;
     std::optional<std::string> affectedMonitorIds;
     std::optional<std::string> statusPageId;
-    /// Where it stood when the account was last looked at.
+    /// The phase when the account was last read.
     MaintenancePhase lastPhase = MaintenancePhase::scheduled;
 };
 

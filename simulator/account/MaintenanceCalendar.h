@@ -4,17 +4,17 @@
 
 namespace larkspan::simulator {
 
-/// Puts a draft with title and dates into the account as a new maintenance and returns it. Pages follow what happens to
-/// their maintenances here and below.
+/// Adds a draft with title and dates to the account as a new maintenance and returns it. These functions also update
+/// the state of the maintenance's page.
 Maintenance& schedule(Account& account, Maintenance draft, support::Time now);
 
-/// Somebody changed the maintenance.
+/// Call it after the maintenance was changed.
 void amended(Account& account, Maintenance& maintenance, support::Time now);
 
-/// `maintenance` is one of the account's, and gone afterwards.
+/// `maintenance` must be one of the account's; the reference is invalid afterwards.
 void removeMaintenance(Account& account, const Maintenance& maintenance, support::Time now);
 
-/// Lets maintenances start and end that have come to it since this was last called.
+/// Starts and ends the maintenances whose time has come since the last call.
 void letMaintenancesPass(Account& account, support::Time now);
 
 }  // namespace larkspan::simulator

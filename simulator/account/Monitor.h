@@ -7,33 +7,33 @@
 
 namespace larkspan::simulator {
 
-/// How the service words a monitor's metrics, which is not always the way that it should.
+/// The form of a monitor's metrics on the wire, which may differ from the documented one.
 enum class MetricsForm {
     words,
     /// Trends are signed numbers.
     numbers,
-    /// Some figures are left out.
+    /// Some figures are missing.
     gaps,
-    /// Some figures are of another type.
+    /// Some figures have another type.
     malformed,
-    /// There are points, and no latency beside them.
+    /// Points without latency figures.
     noLatency,
-    /// There is a window, and nothing in it.
+    /// An empty window.
     empty,
-    /// There is no window.
+    /// No window.
     missing,
 };
 
-/// A check of some target. `state` is the word sent, whatever it is.
+/// A check of some target. `state` is sent as it is, even if no such state exists.
 struct Monitor {
     bool isPaused() const { return enabled == false; }
 
-    /// Digits alone travel as a number, as the service's own ids do.
+    /// An id of digits only is sent as a number, as the service does.
     std::string id;
     std::string name;
     std::optional<std::string> type;
     std::optional<std::string> target;
-    /// Absent where the service does not say; the monitor runs then.
+    /// Absent if the service does not say; the monitor runs then.
     std::optional<bool> enabled;
     std::optional<std::string> state;
     std::optional<support::Time> createdAt;

@@ -14,7 +14,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Of so much time at most one sample is an outlier, however many there are.
+/// In each period of this length at most one sample is an outlier, however many samples there are.
 constexpr auto timeOfAnOutlier = 15min;
 
 struct Place {
@@ -26,7 +26,7 @@ struct Place {
 constexpr std::array<Place, 4> places{{{"eu-west", "Europe (Dublin)", 0.8},
     {"us-east", "North America (Virginia)", 1.1}, {"ap-south", "Asia (Mumbai)", 1.6}, {"sa-east", nullptr, 1.9}}};
 
-/// Chance that is the same each time: numbers from 0 to 1 of a monitor's own.
+/// Repeatable random numbers from 0 to 1, different for each monitor.
 class Dice {
 public:
     explicit Dice(std::string_view id)
@@ -51,7 +51,7 @@ double rounded(double value, double steps)
     return std::round(value * steps) / steps;
 }
 
-/// How much longer an answer takes in trouble.
+/// The factor by which answers take longer in trouble.
 double troubleOf(const Monitor& monitor)
 {
     if (monitor.state == "down") return 6;
@@ -64,7 +64,7 @@ double partOfDay(support::Time time)
     return std::chrono::duration<double, std::ratio<86'400>>(sinceMidnight).count();
 }
 
-/// What is slow at one time is slow at the next: chance of each hour, and between two hours a bit of both.
+/// Neighbouring samples are similar: a random value for each hour, interpolated in between.
 double driftAt(support::Time time, const Dice& dice)
 {
     const auto hour = std::chrono::floor<std::chrono::hours>(time);
@@ -109,7 +109,7 @@ double averageOf(Samples samples)
     return sum / static_cast<double>(samples.size());
 }
 
-/// Whoever waits up to 300 ms is content, and up to four times that half so.
+/// Users are satisfied up to 300 ms, and tolerate up to four times that.
 double apdexOf(Samples samples)
 {
     double content = 0;

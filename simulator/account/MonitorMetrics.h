@@ -8,7 +8,7 @@
 
 namespace larkspan::simulator {
 
-/// What the checks of a monitor found over some span of time.
+/// The results of a monitor's checks over a span of time.
 struct MonitorMetrics {
     struct Sample {
         int milliseconds;
@@ -25,9 +25,9 @@ struct MonitorMetrics {
 
     double averageMs = 0;
     double uptimePercentage = 0;
-    /// Against the span before, in percentage points.
+    /// Compared with the previous span, in percentage points.
     double uptimeChange = 0;
-    /// Of the span's second half against its first, in percent.
+    /// The span's second half compared with its first, in percent.
     double responseTimeChange = 0;
     std::optional<std::string> state;
     support::Time updated;
@@ -37,9 +37,9 @@ struct MonitorMetrics {
     double apdexChange = 0;
 };
 
-/// The figures of the `span` up to `now`, or for a paused monitor up to its pause: response times that rise and fall
-/// with the day and from hour to hour, with outliers, and with trouble in the last hours if the monitor is in any. As
-/// time passes the samples move on and stay what they are.
+/// The metrics of the `span` that ends at `now`, or for a paused monitor at its pause: response times that vary over
+/// the day and from hour to hour, with outliers, and with trouble in the last hours if the monitor has any. As time
+/// passes, samples keep their values.
 MonitorMetrics metricsOf(const Monitor& monitor, std::chrono::minutes span, support::Time now);
 
 }  // namespace larkspan::simulator

@@ -23,7 +23,7 @@ constexpr std::array forms{MetricsForm::words, MetricsForm::numbers, MetricsForm
     MetricsForm::numbers, MetricsForm::malformed, MetricsForm::words, MetricsForm::empty, MetricsForm::numbers,
     MetricsForm::words, MetricsForm::missing, MetricsForm::noLatency};
 
-/// One for each quarter of an hour of a day, for each five minutes or for each minute.
+/// A day in steps of a quarter of an hour, of five minutes or of one minute.
 constexpr std::array sampleCounts{96, 288, 96, 1'440, 96};
 
 struct Check {
@@ -56,7 +56,7 @@ std::optional<std::string> orNothing(const char* text)
     return text ? std::optional<std::string>(text) : std::nullopt;
 }
 
-/// Fills an account, page by page; `place` counts a page's own records and the account's records number them.
+/// Fills an account page by page; `place` counts within a page, numbers run through the whole account.
 class Filler {
 public:
     Filler(Account& account, support::Time now)
@@ -114,7 +114,7 @@ private:
         monitor.name = component.name + ' ' + check.name;
         monitor.type = orNothing(check.type);
         monitor.target = orNothing(check.target);
-        // A paused one says so, and of those that run not each is said to.
+        // Paused monitors say so; not all of the running ones do.
         if (number % 9 == 5)
             monitor.enabled = false;
         else if (number % 4 != 3)
@@ -132,7 +132,7 @@ private:
         monitor.samplesPerWindow = sampleCounts[number % sampleCounts.size()];
     }
 
-    /// `component` has one monitor, the latest.
+    /// `component` has one monitor, the one added last.
     void show(PageHealth health, Component& component)
     {
         if (health == PageHealth::operational) return;

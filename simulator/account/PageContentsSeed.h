@@ -4,8 +4,8 @@
 
 namespace larkspan::simulator {
 
-/// Gives each of the account's pages believable groups, components and monitors; the same for the same pages. Behind
-/// the first hundred pages each has one component with one monitor, so that a large account does not grow larger still.
+/// Adds realistic groups, components and monitors to each of the account's pages, always the same for the same pages.
+/// Pages after the first hundred have one component with one monitor each, to limit the size of a large account.
 void addPageContents(Account& account, support::Time now);
 
 }  // namespace larkspan::simulator

@@ -6,7 +6,7 @@
 
 namespace larkspan::simulator {
 
-/// Puts `prefix` before the ids of the account's pages and of all that they hold, also where one names another.
+/// Prepends `prefix` to the ids of the account's pages and all their records, also where one record refers to another.
 void prefixIds(Account& account, const std::string& prefix);
 
 }  // namespace larkspan::simulator

@@ -10,17 +10,18 @@
 
 namespace larkspan::simulator {
 
-/// How many pages a name stands for: "empty", "tiny", "small", "large", or a number up to 100,000.
+/// The number of pages for a name: "empty", "tiny", "small", "large", or a number up to 100,000.
 std::optional<std::size_t> seedSize(std::string_view name);
 
-/// Believable pages, each name and id once; the same for the same count. All are operational but for
-/// a degraded one in each nine, a down one in each eleven and one under maintenance in each thirteen.
+/// Realistic pages with unique names and ids, always the same for the same count. All are operational except one
+/// degraded in nine, one down in eleven and one under maintenance in thirteen.
 std::vector<StatusPage> seededPages(std::size_t count);
 
-/// One such page under a name of its own.
+/// One such page with the given name.
 StatusPage seededPage(std::size_t index, std::string name, PageHealth health);
 
-/// So many believable pages, and events, components and monitors of theirs by the time `now`; no keys.
+/// An account with this number of realistic pages, with their events, components and monitors at the time `now`;
+/// without keys.
 Account seededAccount(std::size_t pages, support::Time now);
 
 }  // namespace larkspan::simulator

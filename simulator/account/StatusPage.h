@@ -9,7 +9,7 @@
 
 namespace larkspan::simulator {
 
-/// How a page stands; each resource words it in a vocabulary of its own.
+/// The state of a page; each resource of the service has its own words for it.
 enum class PageHealth { operational, degraded, majorOutage, maintenance };
 
 struct PageMetric {
@@ -18,15 +18,15 @@ struct PageMetric {
     std::optional<std::int64_t> incidents;
 };
 
-/// A status page of the account. `status` and `overview` are the words sent, whatever they are,
-/// so that an account can be put into states that the service should never reach.
+/// A status page of the account. `status` and `overview` are sent as they are, so that an account can be put into
+/// states that the service should never reach.
 struct StatusPage {
     struct Overview {
         std::string code;
         std::string label;
     };
 
-    /// Puts both words to what the service says of a page in that state.
+    /// Sets both words to those of the service for a page in this state.
     void setHealth(PageHealth health);
 
     std::string id;

@@ -12,12 +12,12 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// Lets one turn happen to a page.
+/// Applies one turn of the story to a page.
 struct Teller {
     Account& account;
     const std::string& pageId;
     support::Time when;
-    /// Tells one turn's words from another's.
+    /// Selects the turn's texts.
     std::size_t number;
 
     void operator()(const story::IncidentOpens& turn) const
@@ -59,7 +59,7 @@ struct Teller {
         schedule(account, std::move(draft), when);
     }
 
-    /// The oldest, for it has been worked on the longest.
+    /// The oldest one, which has been worked on the longest.
     Incident* openOne(const std::string& severity) const
     {
         const auto isMeant = [&](const Incident& incident) {

@@ -9,7 +9,7 @@
 
 namespace larkspan::simulator {
 
-/// What can happen to a page. An incident is known by its severity; where the page has no such open one, nothing
+/// The turns of a story. An incident is identified by its severity; if the page has no such open incident, nothing
 /// happens.
 namespace story {
 
@@ -35,27 +35,27 @@ struct MaintenanceIsPlanned {
 using StoryTurn = std::variant<story::IncidentOpens, story::IncidentIsAcknowledged, story::IncidentIsResolved,
     story::MaintenanceIsPlanned>;
 
-/// Something that happens to a page at some time after the story's start.
+/// A turn that happens to a page at some time after the story's start.
 struct StoryEvent {
     std::chrono::milliseconds at;
     std::string pageId;
     StoryTurn turn;
 };
 
-/// What happens to an account as time passes, over and over, worded differently each time. It is told by the clock,
-/// when somebody looks, so it needs no timer.
+/// The changes of an account over time, repeated with different texts. They are applied when the account is read, by
+/// the clock, so no timer is needed.
 class Storyline {
 public:
-    /// `events` in order of their times, which lie within `period`, the time until the story starts again.
+    /// `events` must be in order of their times, which are within `period`, the time until the story starts again.
     Storyline(std::vector<StoryEvent> events, std::chrono::milliseconds period);
 
-    /// Ten minutes of an ordinary day for the pages "page-1" to "page-4". Whoever looks once a minute sees each step:
-    /// incidents open, are looked into and resolved, maintenances are planned, start and end. It ends with
-    /// "page-2" down in two incidents, one minor and one major, and "page-3" 10 s into a maintenance of 200 s, and it
-    /// starts best so.
+    /// Ten minutes of an ordinary day for the pages "page-1" to "page-4". A client that polls once a minute sees each
+    /// step: incidents are opened, worked on and resolved, maintenances are planned, start and end. At the end "page-2"
+    /// is down with two incidents, one minor and one major, and "page-3" is 10 s into a maintenance of 200 s; the
+    /// account should start in the same state.
     static Storyline ordinaryDay();
 
-    /// Lets everything happen that is due `elapsed` after the start and has not happened yet, in order.
+    /// Applies, in order, everything that is due `elapsed` after the start and has not been applied yet.
     void tellUpTo(std::chrono::milliseconds elapsed, support::Time now, Account& account);
 
 private:

@@ -19,13 +19,13 @@ struct TeamMembership {
     std::optional<std::string> role;
 };
 
-/// Who is on call for a team, in turns.
+/// The people who are on call for a team in turn.
 struct OnCallSchedule {
     std::string id;
     std::string teamId;
 };
 
-/// The duty of the key's owner.
+/// The on-call duty of the key's owner.
 struct OnCallDuty {
     bool isOnCall = false;
     std::string userId = "user-1";
@@ -33,7 +33,7 @@ struct OnCallDuty {
     std::optional<std::string> teamId;
     std::optional<support::Time> shiftStart;
     std::optional<support::Time> shiftEnd;
-    /// Whether the shift was taken over from somebody else.
+    /// Whether the shift was taken over from another person.
     std::optional<bool> overrideActive;
 };
 
@@ -45,7 +45,7 @@ struct Staff {
     OnCallDuty duty;
 };
 
-/// Two teams of three, of whose first the key's owner is on call at `now`.
+/// Two teams of three people; the key's owner is on call for the first one at `now`.
 Staff ordinaryStaff(support::Time now);
 
 }  // namespace larkspan::simulator

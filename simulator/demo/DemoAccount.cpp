@@ -18,7 +18,7 @@ DemoAccount::DemoAccount(
 void DemoAccount::stop()
 {
     worker_.stop();
-    // What waited for an answer unwinds over the worker, which runs nothing any more.
+    // Tasks that waited for an answer unwind on the worker, which runs nothing any more.
     transport_.reset();
     worker_.stop();
 }

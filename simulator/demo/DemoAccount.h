@@ -11,24 +11,24 @@
 
 namespace larkspan::simulator {
 
-/// A small account that lives by `clock`, the road to it, and a store that holds its key already: what the
-/// application needs of the outside to show itself without service, network or key.
+/// A small account that changes with `clock`, a transport to it, and a store that already contains its key: all that
+/// the application needs to run without service, network or key.
 class DemoAccount {
 public:
-    /// The key that the account knows and that stands in the store.
+    /// The key that the account accepts and the store contains.
     static constexpr const char* key = "demo";
 
-    /// `item` is where the application looks for its key; `latency` is what each answer takes, as over a network.
+    /// `item` is the item in which the application looks for its key; `latency` is the delay of each answer.
     DemoAccount(const platform::Clock& clock, const platform::CredentialItem& item, std::chrono::milliseconds latency);
 
     Service& service() { return service_; }
     platform::CredentialStore& credentialStore() { return credentialStore_; }
     platform::HttpTransport& transport() { return *transport_; }
 
-    /// Where the transport completes: the executor for the application's client.
+    /// The executor of the application's client, on which the transport completes.
     platform::Executor& executor() { return worker_; }
 
-    /// Ends transport and executor and drops what is under way: the application ends. Call it once.
+    /// Ends transport and executor and drops all requests. Call it once, when the application ends.
     void stop();
 
 private:

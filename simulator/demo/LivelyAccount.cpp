@@ -40,7 +40,7 @@ Account livelyAccount(const std::string& key, support::Time now)
     slowPayouts.statusPageId = "page-2";
     openIncident(account, std::move(slowPayouts), now - 12min);
 
-    // With something always to come, the account would never be seen to be well.
+    // If some maintenance were always scheduled, the account would never be shown as operational.
     std::erase_if(account.maintenances,
         [](const Maintenance& maintenance) { return maintenance.lastPhase == MaintenancePhase::scheduled; });
     for (auto& maintenance : account.maintenances) {

@@ -4,8 +4,8 @@
 
 namespace larkspan::simulator {
 
-/// Four pages in the middle of things: one works, one is down in two incidents, one is under maintenance and one has
-/// not been looked at yet. `Storyline::ordinaryDay` goes on from here.
+/// Four pages: one works, one is down with two incidents, one is under maintenance and one is not touched by the story
+/// yet. `Storyline::ordinaryDay` continues from this state.
 Account livelyAccount(const std::string& key, support::Time now);
 
 }  // namespace larkspan::simulator

@@ -8,7 +8,7 @@
 
 namespace larkspan::simulator {
 
-/// Secrets that end with the process. Used from one thread, as the port says.
+/// Keeps secrets until the process ends. One thread at a time, as the port requires.
 class MemoryCredentialStore final : public platform::CredentialStore {
 public:
     std::optional<std::string> find(const platform::CredentialItem& item) override;

@@ -21,13 +21,13 @@ int main(int argc, char* argv[])
     const QString activationToken = adapters::launchActivationToken();
     chooseRenderer();
     const QGuiApplication qt(argc, argv);
-    // Behind the window's own title.
+    // Appended to the window's title.
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Demo"));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.kestrune.larkspan"));
-    // The desktop knows the program's icon once that is installed; the demo runs without.
+    // The desktop knows an installed program's icon; the demo is not installed.
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/com.kestrune.larkspan.svg")));
 
-    // A name of its own, so that it runs beside the program.
+    // A separate name, so that the demo can run beside the program.
     adapters::SingleInstance instance(QDBusConnection::sessionBus(), QStringLiteral("com.kestrune.larkspan.demo"));
     if (instance.claim(activationToken) == adapters::SingleInstance::Standing::second) return 0;
     lookUpFonts();

@@ -54,7 +54,7 @@ Arrival arrival(Reply reply, std::chrono::milliseconds timeout)
     auto after = delivery.delay;
     if (sendsBody(delivery.ending) && delivery.dripPause > 0ms) {
         if (delivery.dripPause > patience) return {std::min(delivery.delay + patience, timeout), Code::timedOut};
-        // A pause follows each drop but the last; beyond the timeout their number no longer matters.
+        // A pause follows each drop but the last; after the timeout their number no longer matters.
         const auto drops = bodyBytesTaken(reply) / delivery.dripBytes;
         after += delivery.dripPause * std::min<std::uint64_t>(drops, static_cast<std::uint64_t>(timeout.count()));
     }

@@ -6,7 +6,7 @@
 
 namespace larkspan::simulator {
 
-/// Work that runs after a while. May be asked from any thread.
+/// Runs work after a delay. Any thread.
 class Delays {
 public:
     virtual ~Delays() = default;

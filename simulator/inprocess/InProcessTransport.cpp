@@ -13,7 +13,7 @@ namespace larkspan::simulator {
 using platform::HttpRequest;
 using platform::URLError;
 
-/// What is under way. Posted work and stop callbacks hold it weakly, so that all of it ends with the transport.
+/// The requests under way. Posted work and stop callbacks refer to it weakly, so that it ends with the transport.
 class InProcessTransport::Exchanges : public std::enable_shared_from_this<Exchanges> {
 public:
     using Complete = support::UniqueFunction<void(Result)>;
@@ -32,7 +32,7 @@ public:
             finishLater(id, URLError::Code::cancelled);
             return;
         }
-        // Outside the lock: the callback may run at once, here or on another thread.
+        // Not under the lock: the callback may run at once, here or on another thread.
         auto stopping = std::make_unique<StopCallback>(stop, [self = weak_from_this(), id] {
             if (const auto exchanges = self.lock()) exchanges->finishLater(id, URLError::Code::cancelled);
         });
@@ -51,7 +51,7 @@ public:
 
     void drop()
     {
-        // Destroyed behind the lock: what is dropped unwinds tasks, which may do anything.
+        // Destroyed after the lock is released, since dropped exchanges unwind tasks that may do anything.
         std::map<int, Exchange> dropped;
         const std::scoped_lock lock(mutex_);
         dropped.swap(underWay_);

@@ -10,17 +10,17 @@
 
 namespace larkspan::simulator {
 
-/// The road to a `Service` in the same process. Faults become what the network would make of them.
+/// A transport to a `Service` in the same process. Faults have the results that they would have over a network.
 class InProcessTransport final : public platform::HttpTransport {
 public:
-    /// Completes on `executor`; all three outlive the transport and what it has posted.
+    /// Completions run on `executor`. All three must outlive the transport and the work that it has posted.
     InProcessTransport(Service& service, platform::Executor& executor, Delays& delays);
     ~InProcessTransport() override;
 
     void send(
         platform::HttpRequest request, std::stop_token stop, support::UniqueFunction<void(Result)> complete) override;
 
-    /// While given, no request reaches the service, and each fails so. May be called from any thread.
+    /// Fails each request with `code` before it reaches the service, until called without one. Any thread.
     void failConnections(std::optional<platform::URLError::Code> code);
 
 private:

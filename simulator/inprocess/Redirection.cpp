@@ -31,8 +31,8 @@ std::optional<std::string> targetWithin(const std::string& origin, const Reply& 
     return std::nullopt;
 }
 
-/// The request that follows a redirect; absent where the reply stands. A write is repeated only where it is told that
-/// it has to be sent elsewhere as it is.
+/// The request that follows a redirect; empty if the reply is the answer. A write is repeated only if the status says
+/// that it has to be sent unchanged to the new place.
 std::optional<Request> afterRedirect(const Request& request, const std::string& origin, const Reply& reply)
 {
     const int status = reply.status;

@@ -5,8 +5,8 @@
 
 namespace larkspan::simulator {
 
-/// Has the service answer a request, its redirects followed within its origin, ten at most. The last answer comes back;
-/// its delay is that of all answers together.
+/// Sends a request to the service and follows redirects within its origin, ten at most. Returns the last answer; its
+/// delay is the sum of all delays.
 Reply answerWithRedirects(Service& service, const platform::HttpRequest& request);
 
 }  // namespace larkspan::simulator

@@ -59,7 +59,7 @@ void WorkerThread::run(const std::stop_token& stop)
 
 void WorkerThread::drop()
 {
-    // What is destroyed may post again: a task unwinds by way of its executor.
+    // Destroyed work may post again: a task unwinds on its executor.
     std::unique_lock lock(mutex_);
     while (!queue_.empty()) {
         auto left = std::exchange(queue_, {});

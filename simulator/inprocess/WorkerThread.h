@@ -11,13 +11,14 @@
 
 namespace larkspan::simulator {
 
-/// A thread that runs what it is given, at once or after a while. What is left when it goes away is destroyed unrun.
+/// A thread that runs work at once or after a delay. Work that is left on destruction is destroyed without being run.
 class WorkerThread final : public platform::Executor, public Delays {
 public:
     WorkerThread();
     ~WorkerThread() override;
 
-    /// Ends the thread and destroys unrun what is left, also what came since an earlier stop.
+    /// Ends the thread and destroys the remaining work without running it, also work that was posted after an earlier
+    /// stop.
     void stop();
 
     void post(support::UniqueFunction<void()> work) override;

@@ -12,14 +12,14 @@
 
 namespace larkspan::simulator {
 
-/// A JSON value; an object keeps the order of its members.
+/// A JSON value. Objects keep the order of their members.
 class Json {
 public:
     using Array = std::vector<Json>;
     using Member = std::pair<std::string, Json>;
     using Object = std::vector<Member>;
 
-    /// The text was no JSON; the message says why.
+    /// Thrown if a text is not JSON; the message says why.
     class Malformed : public std::runtime_error {
     public:
         using std::runtime_error::runtime_error;
@@ -61,7 +61,7 @@ public:
 
     static Json object(std::initializer_list<Member> members) { return Json(Object(members)); }
 
-    /// Throws `Malformed`.
+    /// Throws `Malformed` if `text` is not JSON.
     static Json parse(std::string_view text);
 
     std::string text() const;
@@ -75,7 +75,7 @@ public:
     std::optional<std::int64_t> integer() const;
     std::optional<bool> boolean() const;
 
-    /// The member of an object under `key`; null where there is none.
+    /// The member of an object with this key; null if there is none.
     const Json* find(std::string_view key) const;
 
     bool operator==(const Json&) const = default;

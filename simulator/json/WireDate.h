@@ -8,10 +8,10 @@
 
 namespace larkspan::simulator {
 
-/// A moment as the service writes it: ISO 8601 in UTC, with milliseconds only where it has some.
+/// `time` as the service writes it: ISO 8601 in UTC, with milliseconds only if they are not zero.
 std::string wireDate(support::Time time);
 
-/// A moment as clients write it: ISO 8601 in UTC in whole seconds, "2026-03-01T09:30:00Z".
+/// Reads a time as clients write it: ISO 8601 in UTC with whole seconds, "2026-03-01T09:30:00Z".
 std::optional<support::Time> readWireDate(std::string_view text);
 
 }  // namespace larkspan::simulator

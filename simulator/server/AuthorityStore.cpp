@@ -39,7 +39,7 @@ std::string keyText(const Identity& identity)
     return textOf(bio.get());
 }
 
-/// Writes the whole file under a name of its own first, so that nobody ever reads half of it.
+/// Writes a temporary file, so that nobody ever reads half of a file.
 fs::path writeBeside(const fs::path& file, const std::string& text, mode_t mode)
 {
     auto name = file.string() + ".XXXXXX";
@@ -66,8 +66,8 @@ Identity read(const fs::path& file)
     return identity;
 }
 
-/// Key and certificate stand in one file, which appears at once or not at all: of two simulators that
-/// start for the first time together, one makes the authority and both use it.
+/// Key and certificate are in one file, which appears at once or not at all: if two simulators start for the first time
+/// together, one creates the authority and both use it.
 Identity readOrMake(const fs::path& file)
 {
     if (!fs::exists(file)) {

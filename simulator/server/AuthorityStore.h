@@ -6,10 +6,11 @@
 
 namespace larkspan::simulator {
 
-/// The simulator's own authority, made on first use and kept in a directory, so that a machine trusts it once.
+/// The simulator's own certificate authority, created on first use and kept in a directory, so that a machine has to
+/// trust it only once.
 class AuthorityStore {
 public:
-    /// Makes the directory where it is missing. Throws std::runtime_error with a sentence.
+    /// Creates the directory if it is missing. Throws std::runtime_error with a sentence.
     explicit AuthorityStore(std::filesystem::path directory);
 
     const Identity& authority() const { return authority_; }
@@ -22,7 +23,7 @@ private:
     Identity authority_;
 };
 
-/// Where the authority is kept unless told: in the user's data directory.
+/// The default directory of the authority, in the user's data directory.
 std::filesystem::path defaultAuthorityDirectory();
 
 }  // namespace larkspan::simulator

@@ -7,19 +7,19 @@
 
 namespace larkspan::simulator {
 
-/// A certificate and the key to it.
+/// A certificate and its key.
 struct Identity {
     X509Pointer certificate;
     KeyPointer key;
 };
 
-/// When a certificate is valid, counted from now.
+/// The validity of a certificate, counted from now.
 struct Validity {
     std::chrono::seconds from;
     std::chrono::seconds until;
 };
 
-/// An authority of its own making, good for ten years.
+/// A self-signed authority, valid for ten years.
 Identity makeAuthority(const std::string& name);
 
 /// A server's certificate for `subjectAltName`, in OpenSSL's notation ("DNS:localhost,IP:127.0.0.1").

@@ -11,7 +11,7 @@ namespace larkspan::simulator {
 
 namespace {
 
-/// Whether one of `events` came within the time; an error counts as one.
+/// Whether one of `events` occurs within the time; an error counts as one.
 bool comes(int socket, short events, std::chrono::milliseconds within)
 {
     pollfd watched{socket, events, 0};

@@ -7,34 +7,34 @@
 
 namespace larkspan::simulator {
 
-/// A client's connection over TLS, down to how it ends. Whatever waits is woken by a shutdown of the socket.
+/// A client's TLS connection, including the way in which it ends. A shutdown of the socket ends all waits.
 class Connection {
 public:
-    /// Owns the socket.
+    /// Takes ownership of the socket.
     Connection(int socket, SSL_CTX* context);
 
-    /// Ends it in the way that was asked for last, and in good order unless another was.
+    /// Ends the connection in the way that was requested last, by default with an orderly close.
     ~Connection();
 
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
-    /// Agrees on TLS; false if the client would not.
+    /// Performs the TLS handshake; returns false if it fails.
     bool accept();
 
-    /// Whether bytes of the client are there or come within that time; its going away counts too.
+    /// Whether bytes from the client are available within that time; the end of the connection counts too.
     bool hasBytes(std::chrono::milliseconds within) const;
 
-    /// How many came, 0 if no more will.
+    /// Returns the number of bytes read, 0 at the end.
     std::size_t read(void* data, std::size_t size);
 
-    /// False if the client is gone.
+    /// Returns false if the client is gone.
     bool write(std::string_view bytes);
 
-    /// Lets time pass; false if the connection ended meanwhile.
+    /// Waits; returns false if the connection ended meanwhile.
     bool pause(std::chrono::milliseconds time) const;
 
-    /// The client shall not be told that this is the end.
+    /// Ends the connection without telling the client that nothing follows.
     void endAbruptly() { ending_ = Ending::abrupt; }
 
     void endByReset() { ending_ = Ending::reset; }

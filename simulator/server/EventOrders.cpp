@@ -23,7 +23,7 @@ Step stepTo(const std::string& status)
     throw BadOrder("No incident is \"" + status + "\".");
 }
 
-/// Moves the dates so that the clock says the same.
+/// Moves the dates so that they give the same status.
 void bringTo(Maintenance& maintenance, const std::string& status, support::Time now)
 {
     if (status == "scheduled") {
@@ -98,7 +98,7 @@ std::vector<IncidentState> readStates(const RequestBody& order)
     return states;
 }
 
-/// The handler of orders that add something to the account and answer its id.
+/// The handler of orders that add a record to the account and answer with its id.
 Handler adding(Service& service, Json (*add)(Account&, const RequestBody&, support::Time))
 {
     return [&service, add](const Call& call) {
@@ -109,7 +109,7 @@ Handler adding(Service& service, Json (*add)(Account&, const RequestBody&, suppo
     };
 }
 
-/// The handler of orders that change what the path names by its id.
+/// The handler of orders that change the record with the id in the path.
 Handler changing(Service& service, void (*apply)(Account&, const std::string&, const RequestBody&, support::Time))
 {
     return [&service, apply](const Call& call) {

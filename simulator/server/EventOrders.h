@@ -5,7 +5,7 @@
 
 namespace larkspan::simulator {
 
-/// The part of the control that makes incidents and maintenances happen, as `Control` tells.
+/// The orders about incidents and maintenances; see `Control`.
 void addEventOrders(Router& router, Service& service);
 
 }  // namespace larkspan::simulator

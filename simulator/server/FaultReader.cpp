@@ -7,7 +7,7 @@ namespace larkspan::simulator {
 
 namespace {
 
-/// The members of an order, each read by its name and kind.
+/// Reads the members of an order by name and type.
 class Members {
 public:
     explicit Members(const Json& json)

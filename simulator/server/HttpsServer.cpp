@@ -22,7 +22,7 @@ using boost::asio::ip::tcp;
 
 constexpr auto idleTime = 30s;
 
-/// For the calling thread. A client that goes away in the middle is an ordinary thing.
+/// For the calling thread, since clients may disconnect at any time.
 void ignoreBrokenPipes()
 {
     sigset_t signals;
@@ -42,7 +42,7 @@ tcp::acceptor acceptorOn(int port, boost::asio::thread_pool& threads)
 
 }  // namespace
 
-/// Takes connections and serves each in a thread of its own.
+/// Accepts connections and serves each in its own thread.
 class HttpsServer::Listener {
 public:
     Listener(Service& service, ServerCertificates& certificates, int port)
@@ -92,7 +92,7 @@ private:
         }
     }
 
-    /// Wakes every thread that waits for its client.
+    /// Wakes every thread that waits for a client.
     void endConnections()
     {
         const std::scoped_lock lock(mutex_);
@@ -119,7 +119,8 @@ private:
     std::mutex mutex_;
     std::set<int> open_;
     bool isEnding_ = false;
-    // As many as connections at once: one that hangs or is idle keeps its thread, and the control must not wait for it.
+    // One for each connection at a time: a hanging or idle connection keeps its thread, and the control must not wait
+    // for it.
     boost::asio::thread_pool threads_{64};
     tcp::acceptor acceptor_;
 };

@@ -10,11 +10,11 @@ namespace larkspan::simulator {
 /// The service and its control over HTTPS on 127.0.0.1.
 class HttpsServer {
 public:
-    /// Takes connections at once; port 0 means any that is free. Throws std::runtime_error with a sentence.
-    /// The service and the certificates outlive the server.
+    /// Accepts connections at once; port 0 means any free one. Throws std::runtime_error with a sentence. The service
+    /// and the certificates must outlive the server.
     HttpsServer(Service& service, ServerCertificates& certificates, int port);
 
-    /// Ends all connections, whatever they wait for.
+    /// Ends all connections, also those that wait.
     ~HttpsServer();
 
     int port() const;

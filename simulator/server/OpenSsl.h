@@ -10,7 +10,7 @@
 
 namespace larkspan::simulator {
 
-/// Frees what OpenSSL has made.
+/// Frees an object of OpenSSL.
 template <auto Free>
 struct OpenSslFree {
     template <typename Object>
@@ -25,7 +25,7 @@ using KeyPointer = std::unique_ptr<EVP_PKEY, OpenSslFree<EVP_PKEY_free>>;
 using SslContextPointer = std::unique_ptr<SSL_CTX, OpenSslFree<SSL_CTX_free>>;
 using SslPointer = std::unique_ptr<SSL, OpenSslFree<SSL_free>>;
 
-/// Throws where OpenSSL reports that it could not do `what`.
+/// Throws if OpenSSL could not do `what`.
 inline void requireSuccess(bool succeeded, const char* what)
 {
     if (!succeeded) throw std::runtime_error(std::string("OpenSSL could not ") + what);

@@ -37,7 +37,7 @@ bool readPort(Options& options, const std::string& value)
 
 bool readHost(Options& options, const std::string& value)
 {
-    // Anything else would say more than a name in the certificate.
+    // Other characters have a meaning in the notation of the certificate's names.
     constexpr const char* ofNames = "abcdefghijklmnopqrstuvwxyz0123456789.-";
     options.host = value;
     return !value.empty() && value.find_first_not_of(ofNames) == std::string::npos;

@@ -10,7 +10,7 @@
 
 namespace larkspan::simulator {
 
-/// What `larkspan-simulator` was asked to be.
+/// The options of `larkspan-simulator`.
 struct Options {
     int port = 0;
     std::string host = "localhost";
@@ -22,7 +22,7 @@ struct Options {
     bool isLiving = false;
 };
 
-/// What to tell the person instead of starting.
+/// The text to print instead of starting.
 struct Explanation {
     std::string text;
     bool isError;

@@ -6,7 +6,7 @@
 
 namespace larkspan::simulator {
 
-/// `text` and so many blanks behind it, as a gzip stream.
+/// `text` followed by `blanks` blanks, as a gzip stream.
 std::string packed(std::string_view text, std::uint64_t blanks);
 
 }  // namespace larkspan::simulator

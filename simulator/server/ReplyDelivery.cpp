@@ -38,7 +38,7 @@ std::string headOf(const Reply& reply)
     return std::move(text).str();
 }
 
-/// Sends a body piece by piece, up to where its delivery cuts it.
+/// Sends a body in pieces, up to the place where its delivery cuts it.
 class BodyDelivery {
 public:
     BodyDelivery(const Delivery& delivery, Connection& connection)
@@ -47,7 +47,7 @@ public:
     {
     }
 
-    /// False if no more of the body follows.
+    /// Returns false if no more of the body is to be sent.
     bool send(std::string_view bytes)
     {
         while (!bytes.empty()) {

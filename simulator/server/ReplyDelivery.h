@@ -5,7 +5,7 @@
 
 namespace larkspan::simulator {
 
-/// Sends the answer to the request as its delivery says. False if the connection ends with it.
+/// Sends the reply as its delivery says. Returns false if the connection ends with it.
 bool deliver(Reply reply, const Request& request, Connection& connection);
 
 }  // namespace larkspan::simulator

@@ -14,7 +14,7 @@ namespace {
 namespace http = boost::beast::http;
 using boost::system::error_code;
 
-/// A connection as the library reads from one.
+/// A connection as a stream that Beast can read.
 class ReadStream {
 public:
     explicit ReadStream(Connection& connection)

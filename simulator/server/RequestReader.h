@@ -10,19 +10,19 @@
 
 namespace larkspan::simulator {
 
-/// The requests that come over a connection, one after the other.
+/// Reads the requests of a connection one after the other.
 class RequestReader {
 public:
-    /// The connection outlives the reader.
+    /// The connection must outlive the reader.
     explicit RequestReader(Connection& connection)
         : connection_(connection)
     {
     }
 
-    /// Nothing where none begins within that time, the client goes away, or what it sends is not HTTP.
+    /// The next request; empty if none starts within that time, the client disconnects or does not send HTTP.
     std::optional<Request> next(std::chrono::milliseconds within);
 
-    /// Whether the client wants another answer on this connection behind the one to its last request.
+    /// Whether the client keeps the connection open after the answer to its last request.
     bool isKept() const { return isKept_; }
 
 private:

@@ -10,21 +10,21 @@
 
 namespace larkspan::simulator {
 
-/// What the server shows to who connects; all but the first are refused by a careful client.
+/// The kinds of certificate that the server presents; careful clients refuse all but the first.
 enum class CertificateKind { valid, expired, wrongName, untrusted };
 
-/// "valid", "expired", "wrong-name", "untrusted".
+/// The kind with this name: "valid", "expired", "wrong-name" or "untrusted".
 std::optional<CertificateKind> certificateKind(std::string_view name);
 
-/// One TLS context for each kind. The kind in use may change at any time, from any thread.
+/// A TLS context for each kind. The kind in use may be changed at any time from any thread.
 class ServerCertificates {
 public:
-    /// The valid certificate is good for this machine and for `host`.
+    /// The valid certificate names this machine and `host`.
     ServerCertificates(const Identity& authority, CertificateKind kind, const std::string& host = "localhost");
 
     void use(CertificateKind kind) { kind_ = kind; }
 
-    /// For a new connection.
+    /// The context for a new connection.
     SSL_CTX* context() const { return contexts_[static_cast<std::size_t>(kind_.load())].get(); }
 
 private:

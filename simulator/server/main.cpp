@@ -12,7 +12,7 @@ namespace {
 
 using namespace larkspan;
 
-/// Signals wait for `waitForSignal`, in this thread and all that it starts.
+/// Blocks the signals for `waitForSignal` in this thread and all that it starts.
 sigset_t holdSignals()
 {
     sigset_t signals;

@@ -8,7 +8,7 @@ namespace larkspan::simulator {
 
 struct Account;
 
-/// The status with which the service turns the request away, if it does: 401 unless both headers carry the same known
+/// The status with which the service refuses the request, if it does: 401 unless both headers contain the same known
 /// key, 403 for a key without rights.
 std::optional<int> refusal(const Request& request, const Account& account);
 

@@ -77,7 +77,7 @@ Answer updateGroup(const Call& call)
     return ok(wireGroup(group, call.account));
 }
 
-/// The group's components stay where they are, under the id of a group that is gone.
+/// The group's components are kept with the id of the deleted group.
 Answer deleteGroup(const Call& call)
 {
     const auto id = named(call).id;

@@ -29,8 +29,8 @@ Answer listComponents(const Call& call)
     return {.result = std::move(components), .envelope = "components"};
 }
 
-/// Puts the component into the group that the body names, or out of any. One that belongs to no page yet goes to the
-/// group's.
+/// Moves the component into the group that the body names, or out of its group. A component without a page gets the
+/// group's page.
 void moveToGroup(Component& component, const std::optional<std::string>& groupId, Account& account)
 {
     component.groupId = groupId;
@@ -68,8 +68,8 @@ void changeState(Component& component, const std::optional<std::string>& state)
     component.state = state;
 }
 
-/// A component is put as it is to be: name and status stay where they are left out, for there is none without, but
-/// without a description or a group it has none any more.
+/// The body replaces the component: a missing name or status is kept, since each component has them, but a missing
+/// description or group is removed.
 Answer updateComponent(const Call& call)
 {
     auto& component = named(call);
@@ -78,7 +78,7 @@ Answer updateComponent(const Call& call)
     if (const auto name = body.textNotBlank("name")) changed.name = *name;
     changed.description = body.text("description");
     changeState(changed, body.text("status"));
-    // The group may be gone in the meantime, and a component that stays in it is left alone.
+    // The group may have been deleted; a component that stays in it is not changed.
     const auto groupId = body.text("group_id");
     if (groupId != component.groupId) moveToGroup(changed, groupId, call.account);
     component = std::move(changed);

@@ -12,18 +12,18 @@ namespace larkspan::simulator {
 
 using Headers = std::vector<std::pair<std::string, std::string>>;
 
-/// A request as it arrived.
+/// A request as received.
 struct Request {
-    /// The header's value, its name in any case; the first where it is repeated.
+    /// The header's value, ignoring the case of `name`; the first one if it is repeated.
     std::optional<std::string_view> header(std::string_view name) const;
 
     /// The target up to its "?".
     std::string_view path() const;
 
-    /// The first value of that name in the query, its percent-encoding undone.
+    /// The first value of that name in the query, percent-decoded.
     std::optional<std::string> query(std::string_view name) const;
 
-    /// What stands between the commas of that value; nothing where there is none or it is empty.
+    /// That value split at its commas; empty if it is missing or empty.
     std::vector<std::string> queryList(std::string_view name) const;
 
     std::string method;
@@ -32,29 +32,29 @@ struct Request {
     std::string body;
 };
 
-/// How an answer travels; whoever carries it to the client obeys this.
+/// The way in which an answer is sent to the client.
 struct Delivery {
     enum class Ending {
         whole,
-        /// The connection ends behind `bodyBytes` of the body, without a reset.
+        /// The connection ends after `bodyBytes` of the body, without a reset.
         truncated,
-        /// The connection is reset behind `bodyBytes` of the body.
+        /// The connection is reset after `bodyBytes` of the body.
         reset,
         /// The connection ends before the first byte of the answer.
         closedBeforeFirstByte,
-        /// Nothing ever comes, and the connection stays open.
+        /// Nothing is sent, and the connection stays open.
         hanging,
-        /// The answer is some text that is not HTTP.
+        /// The answer is a text that is not HTTP.
         notHttp,
     };
 
     Ending ending = Ending::whole;
     std::uint64_t bodyBytes = 0;
-    /// The end of the body is told by the end of the connection only.
+    /// Only the end of the connection marks the end of the body.
     bool hidesLength = false;
-    /// Before the first byte.
+    /// The delay before the first byte.
     std::chrono::milliseconds delay{0};
-    /// Behind each `dripBytes` of the body; no drip where this is zero.
+    /// The pause after each `dripBytes` of the body; zero for none.
     std::chrono::milliseconds dripPause{0};
     std::uint64_t dripBytes = 1;
 };
@@ -67,9 +67,9 @@ struct Reply {
     std::string contentType = "application/json";
     Headers headers;
     std::string body;
-    /// So many blanks follow the body, which nobody should have to hold in memory.
+    /// The number of blanks that follow the body, which need not be kept in memory.
     std::uint64_t padding = 0;
-    /// Where the client takes gzip, the body travels so.
+    /// Whether the body is sent as gzip to a client that accepts it.
     bool isPacked = false;
     Delivery delivery;
 };

@@ -6,7 +6,7 @@ namespace larkspan::simulator {
 
 namespace {
 
-/// The list of a result: the result itself, or the first list that an envelope holds.
+/// The list of a result: the result itself, or the first list in an envelope.
 Json::Array* listWithin(Json& result)
 {
     if (auto* list = result.array()) return list;

@@ -11,10 +11,10 @@
 
 namespace larkspan::simulator {
 
-/// What can be wrong with an answer. Some faults change what the answer says, some how it travels.
+/// The possible faults of an answer. Some change its content, some its delivery.
 namespace fault {
 
-/// Another status, with an error body as the service sends it.
+/// Another status, with an error body as from the service.
 struct Status {
     int code = 500;
 };
@@ -31,12 +31,12 @@ struct Drip {
     std::chrono::milliseconds pause{1'000};
 };
 
-/// Where a cut says no number of bytes, it falls in the middle of the body.
+/// Without a number of bytes, the cut is in the middle of the body.
 struct Reset {
     std::optional<std::uint64_t> afterBodyBytes = {};
 };
 
-/// With its length hidden, the body looks whole to all who miss the end of TLS.
+/// With its length hidden, the body seems complete to clients that do not check the end of TLS.
 struct Truncation {
     std::optional<std::uint64_t> afterBodyBytes = {};
     bool hidesLength = false;
@@ -46,32 +46,32 @@ struct ClosedBeforeFirstByte {};
 
 struct NotHttp {};
 
-/// Another body under the status that the answer has.
+/// Another body with the answer's own status.
 struct Body {
     std::string text;
     std::string contentType = "application/json";
 };
 
-/// A body that is no JSON and no UTF-8 either.
+/// A body that is neither JSON nor UTF-8.
 struct Garbage {};
 
 /// Lists arrive as objects and objects as lists.
 struct WrongShape {};
 
-/// The middle element of the list lacks its id.
+/// The middle element of the list has no id.
 struct BadElement {};
 
 struct DeepNesting {
     std::size_t depth = 10'000;
 };
 
-/// Packed, it travels as a few kilobytes.
+/// If packed, only a few kilobytes are sent.
 struct HugeBody {
     std::uint64_t bytes = 200'000'000;
     bool isPacked = false;
 };
 
-/// A Location within the origin is a path.
+/// A location within the origin is a path.
 struct Redirect {
     std::string location;
     int code = 302;
@@ -83,10 +83,10 @@ using Fault = std::variant<fault::Status, fault::Delay, fault::Hang, fault::Drip
     fault::ClosedBeforeFirstByte, fault::NotHttp, fault::Body, fault::Garbage, fault::WrongShape, fault::BadElement,
     fault::DeepNesting, fault::HugeBody, fault::Redirect>;
 
-/// Lets the fault have its way with what an answer says, before it becomes text.
+/// Applies the fault to the result of an answer, before it becomes text.
 void spoil(const Fault& fault, Json& result);
 
-/// Lets the fault have its way with an answer that is complete.
+/// Applies the fault to a complete answer.
 void spoil(const Fault& fault, Reply& reply);
 
 }  // namespace larkspan::simulator

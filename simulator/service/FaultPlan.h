@@ -8,23 +8,24 @@
 
 namespace larkspan::simulator {
 
-/// A fault and the requests that it befalls.
+/// A fault and the requests that it affects.
 struct FaultRule {
     Fault fault;
-    /// Without a query; empty means every path, as an empty method means every method.
+    /// Without a query; empty for every path, as an empty method is for every method.
     std::string path = {};
     std::string method = {};
-    /// After so many requests it is over; absent, it lasts.
+    /// The number of requests after which the fault ends; absent for no end.
     std::optional<int> times = {};
 };
 
-/// The faults that are to come.
+/// The faults of future requests.
 class FaultPlan {
 public:
     void add(FaultRule rule);
     void clear() { rules_.clear(); }
 
-    /// The faults that befall this request, in the order they were added; those that are counted count it.
+    /// The faults of this request in the order in which they were added; counts the request for those with a number of
+    /// times.
     std::vector<Fault> take(const Request& request);
 
 private:

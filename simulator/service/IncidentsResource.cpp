@@ -64,7 +64,7 @@ Answer createIncident(const Call& call)
     draft.message = body.text("message");
     if (const auto page = body.text("status_page_id")) draft.statusPageId = knownPage(call.account, *page);
     draft.componentId = body.text("component_id");
-    // Neither is part of the record, but both belong to the request.
+    // Neither is part of the record, but both are part of the request.
     static_cast<void>(body.text("monitor_id"));
     static_cast<void>(body.requiredFlag("notify_subscribers"));
     return {201, wireIncident(openIncident(call.account, std::move(draft), call.now), call.account)};

@@ -7,7 +7,7 @@
 
 namespace larkspan::simulator {
 
-/// What was looked for by the id in the path; a `Refusal` with the status 404 where there is no such record.
+/// Returns the record that was found by the id in the path; throws a `Refusal` with the status 404 if there is none.
 template <typename Record>
 Record& known(Record* record)
 {
@@ -15,14 +15,15 @@ Record& known(Record* record)
     return *record;
 }
 
-/// The id of a page that a request's body names; a `Refusal` with the status 422 where the account has no such page.
+/// Returns the id of a page from a request's body; throws a `Refusal` with the status 422 if the account has no such
+/// page.
 inline std::string knownPage(Account& account, const std::string& id)
 {
     if (!account.findPage(id)) throw Refusal(422, "There is no such status page.");
     return id;
 }
 
-/// The same for a page that a query names, with the status 400.
+/// The same for a page in a query, with the status 400.
 inline std::string knownPageOfQuery(Account& account, const std::optional<std::string>& id)
 {
     if (!id || !account.findPage(*id)) throw Refusal(400, "There is no such status page.");

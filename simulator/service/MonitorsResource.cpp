@@ -57,7 +57,7 @@ Json wireWithMetrics(const Monitor& monitor, support::Time now)
     });
 }
 
-/// One answer for whoever asks for the monitors under components and for whoever wants their metrics too.
+/// Requests for the monitors under components, with or without their metrics, have the same answer.
 Answer listUnderComponents(const Call& call)
 {
     const auto components = call.request.queryList("component_ids");
@@ -69,7 +69,7 @@ Answer listUnderComponents(const Call& call)
     return {.result = Json::object({{"monitors", monitors}, {"data", monitors}}), .isWhole = true};
 }
 
-/// A monitor that nobody knows has no window, which is no failure.
+/// An unknown monitor has no window, which is not an error.
 Answer listMetrics(const Call& call)
 {
     const auto range = call.request.query("range").value_or("");
@@ -90,7 +90,7 @@ Monitor& named(const Call& call)
     return known(call.account.findMonitor(call.wildcards.front()));
 }
 
-/// Its result comes later, with the state of a monitor that had none so far.
+/// The result comes later, as the state of a monitor that had none so far.
 Answer runMonitor(const Call& call)
 {
     auto& monitor = named(call);

@@ -11,7 +11,7 @@
 
 namespace larkspan::simulator {
 
-/// Ends a request with this status and a sentence under "error".
+/// Thrown to end a request with this status and a sentence under "error".
 class Refusal : public std::runtime_error {
 public:
     Refusal(int status, const std::string& sentence);
@@ -22,7 +22,7 @@ private:
     int status_;
 };
 
-/// The object that a request brings. Whatever is wrong with it throws a `Refusal` with the status 422. Null counts as
+/// The JSON object in a request's body. Anything wrong with it throws a `Refusal` with the status 422. Null counts as
 /// absent.
 class RequestBody {
 public:

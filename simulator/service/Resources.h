@@ -6,7 +6,7 @@ namespace larkspan::simulator {
 
 class Router;
 
-// The routes of each resource, each in the source of its name.
+// The routes of each resource, each in the source file of that name.
 void addComponentGroupsRoutes(Router& router);
 void addComponentsRoutes(Router& router);
 void addIncidentsRoutes(Router& router);

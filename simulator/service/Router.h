@@ -15,28 +15,28 @@ namespace larkspan::simulator {
 
 struct Account;
 
-/// A request on its way into a handler.
+/// A request as a handler receives it.
 struct Call {
     const Request& request;
     Account& account;
-    /// What stood in the path where the route has a "*", in order.
+    /// The segments of the path that match the "*" of the route, in order.
     std::vector<std::string> wildcards;
     support::Time now;
 };
 
-/// What a handler answers: a status and the result, which is put into its shape later. A status outside 200 to 299
-/// carries its result as it is.
+/// The answer of a handler: a status and the result, which is wrapped later. With a status outside 200 to 299 the
+/// result is not wrapped.
 struct Answer {
     int status = 200;
     std::optional<Json> result = {};
     Headers headers = {};
-    /// The key under which a list may come in place of "data"; empty where the service knows none for it.
+    /// The key that a list may have instead of "data"; empty if the service has none for it.
     std::string_view envelope = {};
-    /// Whether the result comes as it is, whatever shape was asked for.
+    /// Whether the result is never wrapped, whatever shape was requested.
     bool isWhole = false;
 };
 
-/// The answer to a request that did what it asked for.
+/// The answer to a successful request.
 inline Answer ok(Json result)
 {
     return {200, std::move(result)};
@@ -44,13 +44,13 @@ inline Answer ok(Json result)
 
 using Handler = std::function<Answer(const Call&)>;
 
-/// From method and path to the handler.
+/// Finds the handler for a method and a path.
 class Router {
 public:
-    /// In `pattern` a "*" stands for any one segment of the path that is not empty.
+    /// In `pattern`, "*" matches any one segment of the path that is not empty.
     void add(std::string method, std::string_view pattern, Handler handler);
 
-    /// 404 where no route has the path, 405 where none of those has the method.
+    /// Answers 404 if no route has the path, 405 if none of those has the method.
     Answer route(const Request& request, Account& account, support::Time now) const;
 
 private:

@@ -16,27 +16,26 @@ namespace larkspan::simulator {
 struct Account;
 class Storyline;
 
-/// How results are wrapped; `inOwnEnvelope` wraps a list that has none of its own under "data".
+/// The wrapping of results; `inOwnEnvelope` wraps lists without their own envelope under "data".
 enum class ResultShape { underData, bare, inOwnEnvelope };
 
-/// The shape of that name: "data", "bare" or "own".
+/// The shape with this name: "data", "bare" or "own".
 std::optional<ResultShape> resultShape(std::string_view name);
 
-/// The service over one account: its rules, the faults that somebody asked for, and a record of what it was sent.
-/// Every operation may be called from any thread.
+/// The service for one account: its rules, the requested faults, and a record of the requests. Any thread.
 class Service {
 public:
-    /// `clock` outlives the service.
+    /// `clock` must outlive the service.
     explicit Service(Account account, const platform::Clock& clock = wallClock());
     ~Service();
 
     /// Answers a request and records it.
     Reply answer(const Request& request);
 
-    /// Looks at the account or changes it.
+    /// Reads or changes the account.
     void withAccount(const std::function<void(Account&)>& use);
 
-    /// Lets a story happen to the account, from now on.
+    /// Applies a story to the account from now on.
     void live(Storyline story);
 
     support::Time now() const;
@@ -46,12 +45,12 @@ public:
     void inject(FaultRule rule);
     void clearFaults();
 
-    /// What was sent, oldest first; of a very long record the oldest part is gone.
+    /// The requests received, oldest first; of very many, the oldest are dropped.
     std::vector<Request> received() const;
     void forgetReceived();
 
 private:
-    // Behind a pointer, so that whoever carries requests need not know what an account holds.
+    // Behind a pointer, so that code that carries requests need not include the account.
     struct State;
     const std::unique_ptr<State> state_;
 };

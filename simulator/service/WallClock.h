@@ -4,7 +4,7 @@
 
 namespace larkspan::simulator {
 
-/// The system's clock, for as long as the process lives.
+/// The system's clock; the reference stays valid until the process ends.
 const platform::Clock& wallClock();
 
 }  // namespace larkspan::simulator

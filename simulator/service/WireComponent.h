@@ -5,7 +5,7 @@
 
 namespace larkspan::simulator {
 
-/// A component as the service sends it, alone and within its group.
+/// A component as the service sends it, alone or within its group.
 Json wireComponent(const Component& component);
 
 }  // namespace larkspan::simulator

@@ -7,7 +7,7 @@
 
 namespace larkspan::simulator {
 
-/// A window of metrics as the service sends it in that form; nothing where it sends none.
+/// A window of metrics as the service sends it in this form; empty if it sends none.
 std::optional<Json> wireWindow(const MonitorMetrics& metrics, MetricsForm form);
 
 /// The same without the samples and the regions, for lists of many windows.

@@ -12,7 +12,7 @@
 
 namespace larkspan::simulator {
 
-/// What a record has under one key; nothing where it is absent.
+/// The value of a record for one key; may be absent.
 class WireValue {
 public:
     template <typename Value>
@@ -39,13 +39,13 @@ private:
     std::optional<Json> json_;
 };
 
-/// A record on the wire, key by key; what is absent is left out.
+/// A record on the wire, key by key; absent values are left out.
 Json wireRecord(std::initializer_list<std::pair<const char*, WireValue>> fields);
 
-/// An id as the service sends it: as a number where it is one.
+/// An id as the service sends it: as a number if it consists of digits.
 Json wireId(const std::string& id);
 
-/// What `wire` makes of each of the records.
+/// The result of `wire` for each of the records.
 template <typename Record, typename Wire>
 Json wireList(const std::vector<Record>& records, Wire wire)
 {
