@@ -1,5 +1,5 @@
-// Reads texts from the standard input, each ended by a NUL, and writes what inlineMarkdownText makes of them as HTML,
-// ended in the same way. Each run has its own tags.
+// Reads texts from standard input, each ended by a NUL, and writes the results of inlineMarkdownText as HTML, ended in
+// the same way. Each run has its own tags.
 
 #include <iostream>
 #include <iterator>

@@ -1,4 +1,4 @@
-"""The examples of CommonMark 0.30 that come out otherwise, by the reason why they are meant to."""
+"""The examples of CommonMark 0.30 with an intentionally different result, by reason."""
 
 DIFFERENCES = {
     "a message has no HTML, so a tag is text, and what is markup in it counts": [

@@ -22,7 +22,7 @@ def the_simulator():
 
 @pytest.fixture
 def the_service(the_simulator):
-    """Whole, with three pages."""
+    """The service without faults and with three pages."""
     the_simulator.reset()
     return the_simulator
 
@@ -46,7 +46,7 @@ def stored_key(the_keyring):
 
 @pytest.fixture
 def start(the_session, the_display):
-    """Starts the program, or its demo; it ends with the test."""
+    """Starts the program or its demo, which ends with the test."""
     from contextlib import ExitStack
     with ExitStack() as started:
         yield lambda binary=program.BINARY: started.enter_context(program.program(the_session, the_display, binary))
@@ -54,7 +54,7 @@ def start(the_session, the_display):
 
 @pytest.fixture
 def pages(start, stored_key, the_service):
-    """The list of pages; the first has an incident, a maintenance and a component."""
+    """The list of pages; the first page has an incident, a maintenance and a component."""
     page = service.PAGES[0]["id"]
     the_service.incident = the_service.open_incident("Login errors", page=page)
     the_service.maintenance = the_service.plan_maintenance("Database upgrade", page=page)

@@ -1,4 +1,4 @@
-"""A display in memory with a window manager, and the program's window on it as the manager sees it."""
+"""A display in memory with a window manager, and the program's window as the manager sees it."""
 
 import os
 import subprocess
@@ -40,11 +40,11 @@ class Display:
         return self._ask("xdotool", "getactivewindow").strip()
 
     def press_close_button(self, window: str) -> None:
-        """What the window manager sends when the button in the title bar is pressed."""
+        """Sends what the window manager sends when the button in the title bar is pressed."""
         self._ask("wmctrl", "-i", "-c", hex(int(window)))
 
     def activate(self, window: str) -> None:
-        """What a taskbar asks for when the window is picked there."""
+        """Sends what a taskbar sends when the window is chosen there."""
         self._ask("wmctrl", "-i", "-a", hex(int(window)))
 
     def has_icon(self, window: str) -> bool:
@@ -54,7 +54,7 @@ class Display:
         self._ask("xdotool", "type", "--delay", "5", text)
 
     def drag(self, places: list[tuple[int, int]]) -> None:
-        """Holds the button pressed from the first place to the last; at one place alone that is a click."""
+        """Holds the mouse button from the first place to the last; with one place only, this is a click."""
         (x, y), *further = places
         self._ask("xdotool", "mousemove", str(x), str(y), "mousedown", "1")
         for x, y in further:

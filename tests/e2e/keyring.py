@@ -1,4 +1,4 @@
-"""The desktop's keyring, as its user and other programs handle it."""
+"""The desktop's keyring, as its user and other programs use it."""
 
 import subprocess
 from contextlib import contextmanager
@@ -26,7 +26,7 @@ class Keyring:
                        input=key, env=self._session.surroundings, check=True)
 
     def store_what_is_no_text(self, secret: bytes) -> None:
-        """As another program may; `secret-tool` refuses to."""
+        """Stores a secret that is not a text, as another program may; `secret-tool` refuses to."""
         properties = {
             "org.freedesktop.Secret.Item.Label": "another program's",
             "org.freedesktop.Secret.Item.Attributes": dbus.Dictionary(dict(zip(ITEM[::2], ITEM[1::2])), signature="ss"),
@@ -48,7 +48,7 @@ class Keyring:
         self._call("org.freedesktop.Secret.Service", "Lock", "ao", ([dbus.ObjectPath(COLLECTION)],))
 
     def unlock(self) -> None:
-        """As the keyring's own manager would, without a prompt."""
+        """Unlocks the keyring without a prompt, as its own manager would."""
         self._call("org.gnome.keyring.InternalUnsupportedGuiltRiddenInterface", "UnlockWithMasterPassword", "o(oayays)",
                    (dbus.ObjectPath(COLLECTION), self._secret(PASSWORD.encode())))
 
@@ -62,7 +62,7 @@ class Keyring:
 
 @contextmanager
 def keyring(session: Session) -> Iterator[Keyring]:
-    """A fresh and unlocked one."""
+    """A new, unlocked keyring."""
     with running("gnome-keyring-daemon", "--foreground", "--components=secrets", "--unlock", env=session.surroundings,
                  stdin=subprocess.PIPE, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL) as daemon:
         daemon.stdin.write(PASSWORD.encode())

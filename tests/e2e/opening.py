@@ -1,4 +1,4 @@
-"""The ways by keyboard to what a test is about."""
+"""The ways by keyboard to the screens that tests are about."""
 
 from display import Display
 from screen import Screen
@@ -6,7 +6,7 @@ from service import NAMES
 
 
 def first_page(start, display: Display, pages: list[str] = NAMES) -> Screen:
-    """Starts the program, and from its list opens the first page."""
+    """Starts the program and opens the first page of its list."""
     screen = start().screen
     screen.wait_for_rows(pages)
     display.press_key("Return")
@@ -20,7 +20,7 @@ def tab(screen: Screen, display: Display, number: int, rows: list[str]) -> None:
 
 
 def first_event(screen: Screen, display: Display, title: str) -> None:
-    """The incident or maintenance that stands first in the tab."""
+    """Opens the first incident or maintenance in the tab."""
     display.press_key("Tab")
     screen.wait_for_focus("Back")
     for _ in range(3):

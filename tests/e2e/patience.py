@@ -1,4 +1,4 @@
-"""Waiting for what happens elsewhere."""
+"""Waiting for events in other processes."""
 
 import time
 from typing import Callable, TypeVar
@@ -7,7 +7,7 @@ Value = TypeVar("Value")
 
 
 def eventually(look: Callable[[], Value], what: Callable[[], str] | str, seconds: float = 10) -> Value:
-    """The first true answer of `look`; fails with the words of `what` when it stays untrue."""
+    """Returns the first true result of `look`; fails with the words of `what` if there is none in time."""
     deadline = time.monotonic() + seconds
     while True:
         found = look()

@@ -1,4 +1,4 @@
-"""What a desktop has beside the program: its panel and its notification server, each in a process of its own."""
+"""The desktop's panel and notification server, each in its own process."""
 
 import json
 import subprocess
@@ -16,7 +16,7 @@ DESKTOP = Path(__file__).resolve().parent.parent / "desktop"
 
 
 class Panel:
-    """It shows status items, and does with the newest one what its user does."""
+    """A panel that shows status items, and acts on the newest one as its user does."""
 
     def __init__(self, process: subprocess.Popen) -> None:
         self._process = process
@@ -25,7 +25,7 @@ class Panel:
         eventually(lambda: self._ask("registrations"), "no item is registered with the panel")
 
     def tool_tip(self) -> str:
-        """The icon's words, title and text."""
+        """The texts of the icon's tool tip: title and text."""
         return " ".join(self._ask("item")["ToolTip"][2:]).strip()
 
     def rows(self) -> list[str]:
@@ -50,7 +50,7 @@ class Panel:
 
 
 class Notices:
-    """A notification server that shows nothing and remembers what it was to show."""
+    """A notification server that shows nothing and records its notices."""
 
     def __init__(self, process: subprocess.Popen) -> None:
         self._lines: list[str] = []

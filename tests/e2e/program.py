@@ -1,4 +1,4 @@
-"""The shipped program, started as a user's desktop starts it."""
+"""The shipped program, started as by a user's desktop."""
 
 import os
 import signal
@@ -31,7 +31,7 @@ class Program:
         return self.display.window(self.process.pid)
 
     def terminate(self) -> int:
-        """Its exit code after being asked to end."""
+        """Asks the program to end and returns its exit code."""
         self.process.send_signal(signal.SIGTERM)
         return self.process.wait(5)
 
@@ -47,5 +47,5 @@ def program(session: Session, display: Display, binary: Path = BINARY) -> Iterat
 
 
 def start_again(first: Program) -> int:
-    """The exit code of a second start in the same session."""
+    """Starts the program again in the same session and returns the exit code."""
     return subprocess.run([str(first.binary)], env=first.surroundings, timeout=10, check=False).returncode

@@ -1,4 +1,4 @@
-"""The program's window as a screen reader has it."""
+"""The program's window as a screen reader sees it."""
 
 import os
 import subprocess
@@ -37,7 +37,7 @@ def is_seen(thing: Thing) -> bool:
 
 
 class Changes:
-    """What is told on the accessibility bus of one thing's state."""
+    """The events on the accessibility bus about the state of one object."""
 
     def __init__(self, address: str, path: str, state: str) -> None:
         self._told = f'string "{state}"'
@@ -48,7 +48,7 @@ class Changes:
         self._process = self._monitor.__enter__()
         os.set_blocking(self._process.stdout.fileno(), False)
         self._text = b""
-        # It has said what it is called itself once it listens.
+        # It reports its own bus name as soon as it listens.
         eventually(lambda: "NameAcquired" in self._read(), "nobody listens")
         return self
 
@@ -71,15 +71,15 @@ class Screen:
         self._process_id = process_id
 
     def things(self) -> list[Thing]:
-        """All that shows, in reading order."""
+        """All visible objects in reading order."""
         try:
             return [thing for owner in self._owners() for thing in self._below(owner, ROOT, is_seen)]
         except dbus.DBusException:
-            # Something went away while it was read, so what was read is no one moment's state.
+            # An object disappeared while the tree was read, so the result is inconsistent.
             return []
 
     def everything_said(self) -> list[str]:
-        """Every word that a program on the accessibility bus can get out of the window, shown or not."""
+        """Every text that a program on the accessibility bus can read from the window, shown or not."""
         said = []
         for owner in self._owners():
             for thing in self._below(owner, ROOT, lambda _: True):
@@ -95,7 +95,7 @@ class Screen:
         return text in self.texts()
 
     def rows(self) -> list[str]:
-        """The list's rows from top to bottom; the tree has them in the order in which they were made."""
+        """The list's rows from top to bottom; the tree has them in order of creation."""
         rows = [thing for thing in self.things() if thing.role == "list item"]
         try:
             return [thing.name for thing in sorted(rows, key=self._top)]
@@ -106,7 +106,7 @@ class Screen:
         eventually(lambda: self.shows(text), lambda: f"\"{text}\" does not show; this does: {self.texts()}", seconds)
 
     def wait_until_gone(self, text: str, seconds: float = 10) -> None:
-        # An empty window is one that could not be read.
+        # An empty result means that the window could not be read.
         eventually(lambda: (shown := self.texts()) and text not in shown, lambda: f"\"{text}\" still shows: {self.texts()}", seconds)
 
     def wait_for_rows(self, names: list[str], seconds: float = 10) -> None:
@@ -116,7 +116,7 @@ class Screen:
         return self._find(lambda thing: thing.role == "push button" and thing.name == name, f"button \"{name}\"")
 
     def disabled(self, role: str = "push button") -> list[str]:
-        """The names of those of a role that show but cannot be pressed."""
+        """The names of the visible objects of a role that are disabled."""
         return [thing.name for thing in self.things()
                 if thing.role == role and not (thing.is_in(ENABLED) and thing.is_in(SENSITIVE))]
 
@@ -124,29 +124,29 @@ class Screen:
         eventually(lambda: self.disabled(role) == names, lambda: f"disabled are {self.disabled(role)}; this shows: {self.texts()}")
 
     def changes_of(self, name: str, state: str) -> "Changes":
-        """From now on, how often the button of that name is told to have changed in that state."""
-        # Qt tells only what somebody has asked for.
+        """Counts from now on the events that the state of the button with that name has changed."""
+        # Qt sends only the events that somebody has asked for.
         self._call("org.a11y.atspi.Registry", REGISTRY, "org.a11y.atspi.Registry", "RegisterEvent", "s", ("object:state-changed",))
         time.sleep(1)
         return Changes(self._address, self.button(name).path, state)
 
     def place(self, name: str) -> tuple[int, int, int, int]:
-        """Where it is on the display: left, top, width and height."""
+        """Its place on the display: left, top, width and height."""
         return self._extents(self._find(lambda thing: thing.name == name, f"\"{name}\""))
 
     def press(self, name: str) -> None:
         self._act(self.button(name))
 
     def choose(self, name: str) -> None:
-        """A row of the open menu."""
+        """Chooses a row of the open menu."""
         self._act(self._find(lambda thing: thing.role == "menu item" and thing.name == name, f"row \"{name}\""))
 
     def menu(self) -> list[str]:
-        """The commands and the words of the open menu, without the lines between them."""
+        """The commands and texts of the open menu, without the separators."""
         return [thing.name for thing in self.things() if thing.role == "menu item"]
 
     def focused(self) -> str:
-        """The name of what has the keyboard; a sheet around it counts as focused too."""
+        """The name of the item with the focus; a sheet that contains it is reported as focused too."""
         return next((thing.name for thing in reversed(self.things()) if thing.is_in(FOCUSED)), "")
 
     def wait_for_focus(self, name: str) -> None:

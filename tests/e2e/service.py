@@ -1,4 +1,4 @@
-"""The stand-in of the service, and what a test orders it to do."""
+"""The service's stand-in, and the orders that a test gives it."""
 
 import json
 import os
@@ -29,7 +29,7 @@ class Service:
         self._command = [str(Path(os.environ["LARKSPAN_E2E_BINARIES"], "larkspan-simulator")), "--host", name, "--port", str(port),
                          "--key", KEY, "--directory", str(Path(os.environ["LARKSPAN_E2E_WORLD"], "authority"))]
         self._process: subprocess.Popen | None = None
-        # The certificate that it shows may be the fault that a test is about.
+        # The server's certificate may be the fault that a test is about.
         self._trust = ssl.create_default_context()
         self._trust.check_hostname = False
         self._trust.verify_mode = ssl.CERT_NONE
@@ -40,7 +40,7 @@ class Service:
         self._process = subprocess.Popen(self._command, stdout=subprocess.PIPE, text=True)
         self._process.stdout.readline()
         authority = Path(self._process.stdout.readline().strip().removeprefix("authority: "))
-        # In the world of the tests only, where /etc is their own.
+        # In the environment of the tests only, which has its own /etc.
         BUNDLE.write_bytes(authority.read_bytes())
 
     def stop(self) -> None:
@@ -60,7 +60,7 @@ class Service:
         self._order("PUT", "pages", {"pages": pages})
 
     def seed(self, name: str, **details: str) -> None:
-        """An account with all that one can have, believable and the same each time."""
+        """Sets up an account with everything that an account can have, realistic and always the same."""
         self._order("PUT", "pages", {"seed": name, **details})
         self.forget()
 
@@ -68,22 +68,22 @@ class Service:
         self._order("PATCH", f"pages/{page}", values)
 
     def open_incident(self, title: str, **details: str) -> str:
-        """Its id."""
+        """Opens an incident and returns its id."""
         return self._order("POST", "incidents", {"title": title, **details})["id"]
 
     def resolve_incident(self, incident: str) -> None:
         self._order("PATCH", f"incidents/{incident}", {"status": "resolved"})
 
     def plan_maintenance(self, title: str, **details: str) -> str:
-        """Its id."""
+        """Plans a maintenance and returns its id."""
         return self._order("POST", "maintenances", {"title": title, **details})["id"]
 
     def add_component_group(self, name: str, page: str) -> str:
-        """Its id."""
+        """Adds a component group and returns its id."""
         return self._ask("POST", "component-groups", {"name": name, "status_page_id": page})["id"]
 
     def add_component(self, name: str, group: str) -> str:
-        """Its id."""
+        """Adds a component and returns its id."""
         return str(self._ask("POST", "components", {"name": name, "group_id": group})["id"])
 
     def delete_component(self, component: str) -> None:
@@ -99,7 +99,7 @@ class Service:
         self._order("DELETE", "faults")
 
     def forget(self) -> None:
-        """What it was sent so far."""
+        """Forgets the requests so far."""
         self._order("DELETE", "requests")
 
     def requests(self) -> list[dict]:
@@ -109,7 +109,7 @@ class Service:
         return self._send(method, f"simulator/{what}", order)
 
     def _ask(self, method: str, what: str, body: dict | None = None):
-        """As another client of the account would; its answer, if that says anything."""
+        """Sends a request as another client of the account would; returns the body of its answer, if any."""
         answer = self._send(method, f"user/api/{what}", body, {"Authorization": f"Bearer {KEY}", "X-API-KEY": KEY})
         return answer.get("data", answer) if answer else None
 

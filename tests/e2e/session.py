@@ -1,4 +1,5 @@
-"""A desktop session: a home, a message bus that starts only what the test wants, and the accessibility bus."""
+"""A desktop session: a home directory, a message bus that starts only what the test wants, and the accessibility
+bus."""
 
 import os
 import subprocess

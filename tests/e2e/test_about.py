@@ -1,4 +1,4 @@
-"""About the program, and whether there is a newer one."""
+"""The about box and the check for updates."""
 
 import pytest
 

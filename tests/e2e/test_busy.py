@@ -1,4 +1,5 @@
-"""What a screen reader is told of what cannot be pressed while an order runs, in every screen that orders something."""
+"""The state of buttons that are disabled while an action runs, as a screen reader sees it, on every screen with
+actions."""
 
 import pytest
 
@@ -7,7 +8,7 @@ from patience import eventually
 
 
 def wait_for_all_disabled(screen, names: list[str]) -> None:
-    """All buttons of a screen in which an order runs, in whatever order they are read."""
+    """Waits until all buttons of the screen in which an action runs are disabled, in any order."""
     eventually(lambda: set(screen.disabled()) == set(names), lambda: f"disabled are {screen.disabled()}")
 
 

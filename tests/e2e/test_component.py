@@ -1,4 +1,4 @@
-"""A component edited, moved to another group and deleted with the keyboard, and what the service is sent."""
+"""A component edited, moved to another group and deleted with the keyboard, and the requests to the service."""
 
 import json
 
@@ -44,13 +44,13 @@ def opened(page, the_display, the_service):
 
 
 def sent(the_service) -> list[tuple[str, str, dict | None]]:
-    """What came of components: method, target and body."""
+    """The requests about components: method, target and body."""
     return [(request["method"], request["target"], json.loads(request["body"]) if request["body"] else None)
             for request in the_service.requests() if request["target"].startswith(f"{API}/component")]
 
 
 def wait_for_list(screen, *names: str) -> None:
-    """Headings and rows, in reading order, below the title of the page."""
+    """Waits for these headings and rows, in reading order, below the title of the page."""
     def listed() -> list[str]:
         return [thing.name for thing in screen.things() if thing.role in ("heading", "list item")][1:]
     eventually(lambda: listed() == list(names), lambda: f"the list reads {listed()}")

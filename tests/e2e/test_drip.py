@@ -1,4 +1,4 @@
-"""A service that never falls silent and never comes to an end: one minute is the program's patience."""
+"""A service that keeps sending and never ends: the program waits for one minute."""
 
 import time
 

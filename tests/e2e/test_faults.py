@@ -1,4 +1,4 @@
-"""What the dashboard says when the service or the road to it fails, and that it keeps what it had."""
+"""The dashboard's texts when the service or the connection to it fails, and the data that it keeps."""
 
 from contextlib import ExitStack
 from typing import NamedTuple

@@ -1,4 +1,5 @@
-"""Ids that hold an underscore, which is also what parts the words of a key on the wire: each reaches the service as it came."""
+"""Ids with an underscore, which also separates the words of a key on the wire: each is sent back to the service
+unchanged."""
 
 import json
 
@@ -28,7 +29,7 @@ def tab(start, stored_key, the_service, the_display):
 
 
 def expect_sent(the_service, method: str, target: str) -> dict | None:
-    """The body of that request, once it has come."""
+    """Waits for that request and returns its body."""
     def found():
         return [request for request in the_service.requests() if (request["method"], request["target"]) == (method, target)]
     eventually(found, lambda: f"no {method} {target} came, but {[(each['method'], each['target']) for each in the_service.requests()]}")
@@ -36,7 +37,7 @@ def expect_sent(the_service, method: str, target: str) -> dict | None:
 
 
 def choose(screen, the_display, picker: str, name: str) -> None:
-    """With the keyboard, by its first letter, of the picker that comes next."""
+    """Chooses an entry of the next picker by its first letter."""
     the_display.press_key("Tab")
     screen.wait_for_focus(picker)
     the_display.press_key("Return")

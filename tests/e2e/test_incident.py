@@ -1,4 +1,4 @@
-"""An incident worked on by keyboard and screen reader, from its creation to its deletion, and what the service is sent."""
+"""An incident from its creation to its deletion, with keyboard and screen reader, and the requests to the service."""
 
 import json
 
@@ -22,14 +22,14 @@ def page(start, stored_key, the_service, the_display):
 
 @pytest.fixture
 def opened(page, the_display, the_service):
-    """That incident, opened."""
+    """The screen of that incident."""
     opening.first_event(page, the_display, "Login errors")
     the_service.forget()
     return page
 
 
 def sent(the_service) -> list[tuple[str, str, dict | None]]:
-    """What came beside the polls: method, target and body."""
+    """The requests other than polls: method, target and body."""
     polls = {f"{V1}/status-pages", f"{V1}/incidents", f"{V1}/maintenances", "/user/api/status-pages/status"}
     return [(request["method"], request["target"], json.loads(request["body"]) if request["body"] else None)
             for request in the_service.requests() if request["method"] != "GET" or request["target"] not in polls]

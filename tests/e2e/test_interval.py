@@ -1,4 +1,4 @@
-"""How often the program looks."""
+"""The interval of the program's polls."""
 
 import time
 

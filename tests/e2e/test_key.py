@@ -1,4 +1,4 @@
-"""The key: absent, unusable, locked away, and back again."""
+"""The key: absent, unusable, locked, and available again."""
 
 import pytest
 

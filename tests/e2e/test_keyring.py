@@ -1,4 +1,4 @@
-"""A keyring that is locked, goes away or was never there. Each test has a session of its own."""
+"""A keyring that is locked, disappears or does not exist. Each test has its own session."""
 
 import pytest
 

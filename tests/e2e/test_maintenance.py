@@ -1,4 +1,4 @@
-"""A maintenance by keyboard and screen reader, from its planning to its deletion, and what the service is sent."""
+"""A maintenance from its planning to its deletion, with keyboard and screen reader, and the requests to the service."""
 
 import json
 from datetime import datetime, timedelta, timezone
@@ -27,7 +27,7 @@ def is_now(text: str) -> bool:
 
 @pytest.fixture
 def page(start, stored_key, the_service, the_display):
-    """The tab "Maintenances" of the first page, which has one that begins in an hour and lasts one."""
+    """The tab "Maintenances" of the first page, which has one that starts in an hour and lasts one hour."""
     the_service.plan_maintenance("Database upgrade", page=PAGE)
     screen = opening.first_page(start, the_display)
     opening.tab(screen, the_display, 5, ["Database upgrade"])
@@ -36,14 +36,14 @@ def page(start, stored_key, the_service, the_display):
 
 @pytest.fixture
 def opened(page, the_display, the_service):
-    """That maintenance, opened."""
+    """The screen of that maintenance."""
     opening.first_event(page, the_display, "Database upgrade")
     the_service.forget()
     return page
 
 
 def writes(the_service) -> list[tuple[str, str, dict | None]]:
-    """Method, target and body of what was not only asked for."""
+    """The requests that write: method, target and body."""
     return [(request["method"], request["target"], json.loads(request["body"]) if request["body"] else None)
             for request in the_service.requests() if request["method"] != "GET"]
 

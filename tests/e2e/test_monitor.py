@@ -1,4 +1,4 @@
-"""A page's monitors worked on in their list, in their metrics and on their own screen, and what the service is sent."""
+"""A page's monitors in their list, with their metrics and on their own screen, and the requests to the service."""
 
 import pytest
 
@@ -52,7 +52,7 @@ def expect_sent(the_service, *expected: tuple[str, str]) -> None:
 
 
 def selected(screen) -> str:
-    """What is told of the selected sample: its value and its time."""
+    """The accessible text of the selected sample: its value and its time."""
     return next((thing.name for thing in screen.things() if thing.role == "tool tip"), "")
 
 

@@ -1,4 +1,4 @@
-"""Notices of what is new in the account; a session without a notification server comes first."""
+"""Notices of new records in the account; the first session has no notification server."""
 
 import pytest
 
@@ -11,7 +11,7 @@ MAINTENANCE = {"title": "New disks", "page": "docs", "message": "Sunday night."}
 
 
 def refresh(screen, the_service) -> None:
-    """A whole cycle, until the maintenances of the account, which come last, have been fetched and shown."""
+    """Runs a whole cycle, until the maintenances of the account, which are last, have been fetched and shown."""
     before = len(the_service.requests())
     screen.press("Refresh Now")
     eventually(lambda: len(the_service.requests()) >= before + 4, "the program does not fetch anew")

@@ -1,4 +1,4 @@
-"""A status page opened with the keyboard alone, its overview read, and left again."""
+"""A status page that is opened with the keyboard only, its overview, and the way back."""
 
 import opening
 from service import NAMES, PAGES

@@ -1,4 +1,5 @@
-"""What a screen reader is told of what cannot be pressed, in every screen that has such a thing, and of what a sheet covers."""
+"""The state of disabled items on every screen that has some, and of items that a sheet covers, as a screen reader
+sees them."""
 
 import opening
 from patience import eventually

@@ -1,11 +1,11 @@
-"""Who draws the window: the program by itself, whatever graphics the machine has."""
+"""The window is drawn in software, whatever graphics the machine has."""
 
 import re
 from pathlib import Path
 
 from service import NAMES
 
-# The drivers' own libraries; the thin ones that only look for a driver come with Qt.
+# The drivers' own libraries; those that only look for a driver come with Qt.
 DRIVER = re.compile(r"/dri/|libgallium|swrast|libLLVM|lib(GLX|EGL)_(mesa|nvidia)|libvulkan|libgbm")
 
 

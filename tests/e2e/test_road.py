@@ -1,4 +1,4 @@
-"""The road to the service: gone, leading elsewhere, or not to be trusted."""
+"""The connection to the service: lost, redirected, or not to be trusted."""
 
 from pathlib import Path
 
@@ -12,7 +12,7 @@ HOSTS = Path("/etc/hosts")
 
 @pytest.fixture
 def hosts():
-    """The tests' own table of hosts, put right again afterwards."""
+    """The tests' own table of hosts, restored afterwards."""
     before = HOSTS.read_text(encoding="utf-8")
     yield HOSTS
     HOSTS.write_text(before, encoding="utf-8")
@@ -22,7 +22,7 @@ def test_a_host_without_an_address_is_told_and_found_again(start, stored_key, th
     known = hosts.read_text(encoding="utf-8")
     hosts.write_text("127.0.0.1 localhost\n", encoding="utf-8")
     screen = start().screen
-    # Nothing leads out of the world of the tests, and that is what the user should look into.
+    # The tests' environment has no network, which is what the user should check.
     screen.wait_for("The computer is not connected to the network.")
 
     hosts.write_text(known, encoding="utf-8")

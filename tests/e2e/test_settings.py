@@ -1,4 +1,4 @@
-"""The settings: where the key comes from, as its user types it, and where it goes."""
+"""The settings: where the key comes from, how it is typed, and where it goes."""
 
 import pytest
 
@@ -12,11 +12,11 @@ ASKS = "Are you sure you want to delete your API key? You will need to enter it 
 
 
 def type_key(screen, the_display, key: str) -> None:
-    """Into the open sheet, with nothing but the keyboard."""
+    """Types the key into the open sheet with the keyboard only."""
     screen.wait_for_focus(FIELD)
     the_display.type_text(key)
     the_display.press_key("Tab")
-    # A button that has nothing to save takes no focus.
+    # The button takes no focus while there is nothing to save.
     screen.wait_for_focus("Save & Verify")
 
 
@@ -99,7 +99,7 @@ def test_delete_takes_the_key_out_of_the_keyring_and_the_pages_off_the_window(sh
     sheet.wait_until_gone("API key saved")
     eventually(lambda: the_keyring.lookup() == b"", "the key is still in the keyring")
 
-    # Behind the sheet, so it does not show yet.
+    # It is behind the sheet, so it is not visible yet.
     eventually(lambda: "No Status Pages" in sheet.everything_said(), "the pages are still in the window")
 
     sheet.press("Done")

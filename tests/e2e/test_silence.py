@@ -1,4 +1,4 @@
-"""A service that takes the request and says nothing: half a minute is the program's patience."""
+"""A service that accepts the request and sends nothing: the program waits for half a minute."""
 
 from service import NAMES
 from test_day import STALE

@@ -1,4 +1,4 @@
-"""The item in the panel, and the same rows where there is no panel."""
+"""The item in the panel, and the same rows on a desktop without a panel."""
 
 import pytest
 

@@ -1,8 +1,8 @@
 """usage: world.py BINARIES HOST COMMAND...
 
-Runs a command in a world of its own, made of namespaces that end with it: no network but loopback, where the service's
-HOST is this machine, and an /etc of its own, whose bundle of authorities it may write. So the very program that users
-get talks verified HTTPS to a stand-in, and the machine's settings are never touched.
+Runs a command in its own namespaces, which end with it: without a network but loopback, where the service's HOST
+is this machine, and with its own /etc, whose bundle of authorities it may write. So the program that users get
+uses verified HTTPS to a stand-in, and the machine's settings are never touched.
 """
 
 import fcntl
@@ -19,10 +19,10 @@ CANNOT_BE_HERE = 77
 
 
 def namespaces() -> list[str] | None:
-    """The command that gives a process mounts and a network of its own; none where the machine forbids that."""
+    """The command that gives a process its own mounts and network; None if the machine forbids that."""
     own = ["unshare", "--mount", "--net"]
-    # The user stays who they are, since the bus asks. Root needs no such thing, but in a plain chroot
-    # the mounts cannot be cut off from those outside.
+    # The user id is kept, since the bus checks it. Root does not need that, but in a plain chroot the mounts cannot be
+    # separated from those outside.
     ways = [[*own, "--propagation", "unchanged"]] if os.geteuid() == 0 else []
     ways = [own, *ways] if os.geteuid() == 0 else [["unshare", "--map-current-user", "--keep-caps", *own[1:]]]
     for way in ways:
@@ -32,7 +32,7 @@ def namespaces() -> list[str] | None:
 
 
 def run(binaries: str, host: str, command: list[str]) -> int:
-    """The command's exit code."""
+    """Runs the command and returns its exit code."""
     if not shutil.which("unshare"):
         sys.exit("unshare is missing; it is in the package util-linux.")
     way = namespaces()
@@ -41,12 +41,12 @@ def run(binaries: str, host: str, command: list[str]) -> int:
         return CANNOT_BE_HERE
     with tempfile.TemporaryDirectory(prefix="larkspan-e2e-") as world:
         etc = Path(world, "etc")
-        # What the user may not read, no program of theirs needs.
+        # Programs of the user do not need files that the user may not read.
         subprocess.run(["cp", "--archive", "/etc/.", etc], stderr=subprocess.DEVNULL, check=False)
         name = host.partition(":")[0]
         (etc / "hosts").unlink(missing_ok=True)
         (etc / "hosts").write_text(f"127.0.0.1 localhost {name}\n", encoding="utf-8")
-        # A link would lead out of this copy.
+        # A symbolic link would lead out of this copy.
         bundle = etc / "ssl/certs/ca-certificates.crt"
         authorities = bundle.read_bytes()
         bundle.unlink()
@@ -55,7 +55,7 @@ def run(binaries: str, host: str, command: list[str]) -> int:
             "LARKSPAN_E2E_BINARIES": binaries,
             "LARKSPAN_E2E_HOST": host,
             "LARKSPAN_E2E_WORLD": world,
-            # What the machine's own services and settings say must decide nothing here.
+            # The machine's own services and settings must have no influence here.
             "DBUS_SYSTEM_BUS_ADDRESS": f"unix:path={world}/no-system-bus",
         }
         for name in list(surroundings):

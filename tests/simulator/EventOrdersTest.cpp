@@ -23,7 +23,7 @@ protected:
         return found;
     }
 
-    /// What the service says of the only maintenance.
+    /// The status of the only maintenance from the service.
     std::string maintenanceStatus()
     {
         const auto reply = service_.answer(samples::request("/user/api/v1/maintenances"));

@@ -11,7 +11,7 @@
 
 namespace larkspan::simulator {
 
-/// What came of a request.
+/// The result of a request.
 struct HttpsResult {
     CURLcode code = CURLE_OK;
     long status = 0;
@@ -19,17 +19,17 @@ struct HttpsResult {
     std::string head;
 };
 
-/// A client that trusts one authority and lets each connection be used for several requests.
+/// A client that trusts one authority and reuses connections.
 class HttpsClient {
 public:
     HttpsClient(std::string base, std::filesystem::path authority);
 
-    /// How long an answer may take, two seconds unless told.
+    /// Sets how long an answer may take; two seconds by default.
     void setPatience(std::chrono::milliseconds patience) { patience_ = patience; }
 
     HttpsResult send(const Request& request);
 
-    /// An order to the simulator's control, trusting whatever certificate it shows.
+    /// Sends an order to the simulator's control, with any certificate accepted.
     HttpsResult order(const std::string& method, const std::string& path, const std::string& body = {});
 
 private:

@@ -95,7 +95,7 @@ INSTANTIATE_TEST_SUITE_P(EachKind, HttpsCertificate,
 
 enum class Outcome { whole, timedOut, connectionLost, notHttp, other };
 
-/// What of a connection's end libcurl tells apart differs from one release to the next.
+/// Releases of libcurl differ in which ends of a connection they distinguish.
 Outcome outcomeOf(CURLcode code)
 {
     switch (code) {

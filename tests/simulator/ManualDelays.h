@@ -8,7 +8,7 @@
 
 namespace larkspan::simulator {
 
-/// Delays that end as the test lets time pass.
+/// Delays that end as the test advances the time.
 class ManualDelays final : public Delays {
 public:
     void after(std::chrono::milliseconds wait, support::UniqueFunction<void()> work) override

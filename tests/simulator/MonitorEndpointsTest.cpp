@@ -11,7 +11,7 @@ using namespace std::chrono_literals;
 const std::string featurePath = "/user/api/monitors";
 const std::string monitorsPath = "/user/api/v1/monitors";
 
-/// An account with a monitor "7" that runs under the component "1", and one, "m", that is paused under none.
+/// An account with a monitor "7" that runs under the component "1", and a paused monitor "m" under none.
 class MonitorEndpoints : public ServedAccount {
 protected:
     MonitorEndpoints()

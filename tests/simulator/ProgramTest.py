@@ -34,7 +34,7 @@ class Program(unittest.TestCase):
         authority = process.stdout.readline().strip().removeprefix("authority: ")
 
         headers = {"Authorization": "Bearer a-secret", "X-API-Key": "a-secret"}
-        # The number and not the name, which a machine without a hosts file does not know.
+        # The number, since a machine without a hosts file does not know the name.
         address = address.replace("localhost", "127.0.0.1")
         request = urllib.request.Request(address + "/user/api/v1/status-pages", headers=headers)
         trust = ssl.create_default_context(cafile=authority)

@@ -14,7 +14,7 @@ inline const std::string keyWithoutRights = "kst_read_nothing";
 inline const std::string pagesPath = "/user/api/v1/status-pages";
 inline const std::string overviewPath = "/user/api/status-pages/status";
 
-/// An account of so many seeded pages with a key that may do everything and one that may do nothing.
+/// An account with this number of seeded pages, a key with all rights and one without any.
 inline Account account(std::size_t pages = 3)
 {
     return {{{key, KeyRights::full}, {keyWithoutRights, KeyRights::none}}, seededPages(pages)};
@@ -26,7 +26,7 @@ inline Request request(std::string target, std::string method = "GET", const std
     return {std::move(method), std::move(target), {{"Authorization", "Bearer " + withKey}, {"X-API-Key", withKey}}, {}};
 }
 
-/// A request with a body, in which an apostrophe stands for each quotation mark.
+/// A request with a body, written with apostrophes in place of quotation marks.
 inline Request requestWithBody(const std::string& target, const std::string& method, std::string body)
 {
     std::ranges::replace(body, '\'', '"');

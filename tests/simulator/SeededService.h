@@ -14,7 +14,7 @@
 
 namespace larkspan::simulator {
 
-/// The service over a seeded account of twelve pages with all that is on them, read as the client reads it.
+/// The service over a seeded account of twelve pages with all their records, read as by the client.
 class SeededService : public testing::Test {
 protected:
     SeededService()

@@ -11,7 +11,7 @@
 
 namespace larkspan::simulator {
 
-/// A request that the service refuses, and how.
+/// A request that the service refuses, and its answer.
 struct RefusalRow {
     std::string name;
     std::string method;
@@ -26,16 +26,16 @@ inline std::string nameOf(const testing::TestParamInfo<RefusalRow>& row)
     return row.param.name;
 }
 
-/// The service over an account of three pages, by a clock that stands until it is moved.
+/// The service over an account of three pages, with a clock that the test moves.
 class ServedAccount : public testing::Test {
 protected:
-    /// In the body an apostrophe stands for each quotation mark.
+    /// The body is written with apostrophes in place of quotation marks.
     Reply send(const std::string& method, const std::string& target, const char* body = "")
     {
         return service_.answer(samples::requestWithBody(target, method, body));
     }
 
-    /// A text of the record or the refusal that the reply brings.
+    /// A text of the record or refusal in the reply.
     static std::string field(const Reply& reply, const char* key)
     {
         const auto json = Json::parse(reply.body);
@@ -50,7 +50,7 @@ protected:
         return status;
     }
 
-    /// `listPath` is where the records are that the refused request must leave alone.
+    /// `listPath` is the path of the records that the refused request must not change.
     void expectRefusal(const RefusalRow& row, const std::string& listPath)
     {
         const auto before = send("GET", listPath).body;

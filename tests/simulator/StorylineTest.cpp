@@ -100,7 +100,7 @@ TEST_F(Story, OfAPageThatIsGoneChangesNothing)
     EXPECT_TRUE(account_.incidents.empty());
 }
 
-/// What somebody sees who looks at the living account of the demo once a minute.
+/// The demo's account as a client sees it that polls once a minute.
 class OrdinaryDay : public testing::Test {
 protected:
     std::string seenAt(std::chrono::milliseconds elapsed)

@@ -6,7 +6,7 @@
 
 namespace larkspan::simulator {
 
-/// A directory of the test's own, gone with it.
+/// A temporary directory, deleted with the object.
 class TemporaryDirectory {
 public:
     TemporaryDirectory()

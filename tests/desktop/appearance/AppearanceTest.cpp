@@ -20,7 +20,7 @@ using peers::turnFor;
 using peers::turnUntil;
 using namespace std::chrono_literals;
 
-/// The portal of a desktop with these settings, each as GROUP/KEY=VALUE.
+/// A desktop's portal with these settings, each as GROUP/KEY=VALUE.
 class Portal : public peers::Peer {
 public:
     Portal(const peers::PrivateBus& bus, const QStringList& settings)
@@ -106,7 +106,7 @@ TEST_P(EachSetting, SaysWhatItSays)
     const Portal portal(bus, {setting, "org.freedesktop.appearance/color-scheme=1"});
     const Appearance appearance(bus.connect());
 
-    // The answer about colours shows that the portal has been heard.
+    // The answer about colours shows that the portal has answered.
     ASSERT_TRUE(turnUntil([&] { return appearance.isDark(); }));
     turnFor(50ms);
 

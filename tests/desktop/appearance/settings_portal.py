@@ -1,7 +1,8 @@
 #!/usr/bin/python3
-"""The desktop's settings portal with the settings of the arguments, each GROUP/KEY=VALUE with a Python literal.
+"""A desktop's settings portal with the settings of its arguments, each GROUP/KEY=VALUE with a Python literal.
 
-Says "ready" when it is. A line GROUP/KEY=VALUE on standard input changes a setting and is repeated when that is done.
+Prints "ready" when it is. A line GROUP/KEY=VALUE on standard input changes a setting and is printed when that is
+done.
 """
 
 import ast

@@ -37,7 +37,8 @@ void collectRings(const QQuickItem& item, std::vector<QRectF>& rings)
     for (const auto* const child : item.childItems()) collectRings(*child, rings);
 }
 
-/// What of the smallest thing that holds both is read as one: a calendar before the clock beside it.
+/// The two parts, of the smallest item that contains both, that are each read as a whole: a calendar before the clock
+/// beside it.
 std::pair<QRectF, QRectF> blocksOf(const QQuickItem& one, const QQuickItem& other)
 {
     const auto blockIn = [](const QQuickItem& item, const QQuickItem& opposite) {
@@ -103,7 +104,7 @@ bool strikesText(const QQuickWindow& window, const QRectF& ring, const QQuickIte
         isFloating = isFloating || each->property("floats").toBool();
         if (each->parentItem()->inherits("QQuickOverlay")) layer = each;
     }
-    // Of a line of text, its uppermost and lowest parts are free.
+    // The top and the bottom of a line of text are free of ink.
     const auto words = [layer, isFloating](const ShownText& text) {
         if (text.layer != layer || text.scrollsItself || isFloating != (text.floating != nullptr)) return QRectF();
         return text.seen.adjusted(0, 3, 0, -3);

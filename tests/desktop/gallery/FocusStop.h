@@ -10,19 +10,19 @@ class QQuickWindow;
 
 namespace larkspan::gallery {
 
-/// Where Tab has led to.
+/// The stop that Tab has reached.
 struct FocusStop {
-    /// What has the keyboard, and the whole that it is a part of, such as a calendar of its day.
+    /// The item with the focus, and the whole of which it is a part, such as the calendar of a day.
     const QQuickItem* holder = nullptr;
     const QQuickItem* whole = nullptr;
     QString name{};
     bool isHeading = false;
-    /// In a menu that is up; a menu marks its current row by a colour and not by a ring.
+    /// Whether it is in an open menu, which marks its current row by a colour and not by a ring.
     bool isInMenu = false;
-    /// The holder's place in the window, and what of that is seen.
+    /// The holder's place in the window, and its visible part.
     QRectF place{};
     QRectF seen{};
-    /// The most of it that could be seen at once.
+    /// The most of its height that can be visible at once.
     qreal mostHeight = 0;
     /// All rings in the window.
     std::vector<QRectF> rings{};
@@ -30,11 +30,11 @@ struct FocusStop {
 
 FocusStop focusIn(const QQuickWindow& window);
 
-/// Whether a reader comes to `next` later than to `before`, both where they stand now: rows go down, lines to the
-/// right, and what stands in another comes after it.
+/// Whether `next` is read after `before` at their current places: rows from top to bottom, lines from left to right,
+/// and an item after the one that contains it.
 bool isReadAfter(const QQuickItem& next, const QQuickItem& before);
 
-/// Whether the line of a ring runs through words.
+/// Whether the line of a ring crosses a text.
 bool strikesText(const QQuickWindow& window, const QRectF& ring, const QQuickItem& holder);
 
 }  // namespace larkspan::gallery

@@ -17,7 +17,7 @@ namespace larkspan::gallery {
 namespace {
 
 constexpr int mostStops = 80;
-/// What a ring may stand away from what it surrounds: it may leave out the padding above a text.
+/// The largest distance of a ring from the item that it surrounds: it may leave out the padding above a text.
 constexpr qreal mostDistance = 30;
 
 using Findings = std::set<std::string>;
@@ -66,12 +66,12 @@ protected:
         return focusIn(window);
     }
 
-    /// From the first stop that the key leads to until it is there again.
+    /// The stops from the first one that the key reaches until it is reached again.
     static Round goRound(QQuickWindow& window, Qt::Key key)
     {
         Round round;
         auto stop = step(window, key);
-        // While an order runs there may be nothing to reach.
+        // While an action runs there may be no stop.
         if (!stop.holder || stop.isInMenu || !stop.whole->activeFocusOnTab()) return round;
         const auto* const first = stop.holder;
         do {

@@ -12,7 +12,7 @@ namespace larkspan::gallery {
 
 namespace {
 
-/// Whether two texts lie on one another; lines that touch do not.
+/// Whether two texts overlap; lines that touch do not.
 bool overlap(const ShownText& one, const ShownText& other)
 {
     if (one.layer != other.layer || one.floating != other.floating) return false;
@@ -43,7 +43,7 @@ Findings findingsIn(const QQuickWindow& window)
 
 class TextOfAScene : public testing::TestWithParam<Scene> {
 protected:
-    /// What stays: on a machine that is busy a list may still be on its way to its places.
+    /// Counts only what persists: on a busy machine a list may still be moving to its place.
     void look(const ShownScene::Look& look)
     {
         const ShownScene shown(GetParam(), look, main);

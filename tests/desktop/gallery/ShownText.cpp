@@ -37,7 +37,7 @@ bool isScrolling(const QQuickItem& item)
     return item.inherits("QQuickFlickable");
 }
 
-/// What scrolls, with its margins.
+/// The length of the scrolled content with its margins.
 qreal lengthOf(const QQuickItem& item, const char* content, const char* before, const char* behind)
 {
     return item.property(content).toReal() + item.property(before).toReal() + item.property(behind).toReal();

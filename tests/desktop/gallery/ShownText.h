@@ -13,21 +13,21 @@ namespace larkspan::gallery {
 /// A text on the screen.
 struct ShownText {
     QString text{};
-    /// Where it is painted, in the window.
+    /// The place where it is painted, in the window.
     QRectF painted{};
-    /// What of that is seen: a list that scrolls may show a part of it.
+    /// The visible part of that: a scrolling list may show a part only.
     QRectF seen{};
-    /// What of it no scrolling can bring into sight, in words; empty as it should be.
+    /// A description of the part that no scrolling makes visible; empty if there is none.
     QString cut{};
-    /// A field's own, which goes under the field's frame where it is longer.
+    /// Whether it is the text of a field, which may continue beyond the field's frame.
     bool scrollsItself = false;
-    /// The item that it floats in over what stands below, if it does so by design.
+    /// The item in which it floats over others by design, if any.
     const QQuickItem* floating = nullptr;
-    /// The popup that it stands in, or the window itself.
+    /// The popup that contains it, or the window itself.
     const QQuickItem* layer = nullptr;
 };
 
-/// All that is seen of texts in a window.
+/// All texts that are visible in a window.
 std::vector<ShownText> textsOf(const QQuickWindow& window);
 
 }  // namespace larkspan::gallery

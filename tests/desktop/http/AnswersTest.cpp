@@ -9,7 +9,7 @@ namespace {
 using testing::IsEmpty;
 using testing::UnorderedElementsAreArray;
 
-/// What every request carries for the protocol's sake, whatever its method.
+/// The headers that the protocol requires in every request.
 std::vector<std::string> headersOfTheProtocol(const FaultServer& server)
 {
     return {"Host: 127.0.0.1:" + std::to_string(server.port()), "Accept-Encoding: deflate, gzip, br, zstd"};

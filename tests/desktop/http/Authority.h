@@ -21,22 +21,22 @@ struct OpenSslRelease {
 using PrivateKey = std::unique_ptr<EVP_PKEY, detail::OpenSslRelease>;
 using CertificateHandle = std::unique_ptr<X509, detail::OpenSslRelease>;
 
-/// What a server shows of itself.
+/// A server's certificate and key.
 struct Identity {
     PrivateKey key;
     CertificateHandle certificate;
 };
 
-/// What a certificate says.
+/// The terms of a certificate.
 struct CertificateTerms {
-    /// A key of the strength that everybody took for enough in the last century.
+    /// Whether the key is as short as was usual in the 1990s.
     bool hasWeakKey = false;
     std::string subjectAlternativeName = "IP:127.0.0.1,DNS:localhost";
     std::chrono::seconds validFrom = -std::chrono::hours(1);
     std::chrono::seconds validUntil = std::chrono::hours(1);
 };
 
-/// A private authority, made anew for each run of the tests, with its bundle in a file of its own.
+/// A private authority, created for each run of the tests, with its bundle in a file.
 class Authority {
 public:
     explicit Authority(const char* name = "Authority of the tests");

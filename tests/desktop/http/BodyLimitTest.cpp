@@ -11,7 +11,7 @@ using Code = URLError::Code;
 
 constexpr std::size_t mebibyte = 1024 * 1024;
 
-/// Sends `total` bytes, or as many as are taken, and counts them.
+/// Sends `total` bytes, or as many as are accepted, and counts them.
 struct Flood {
     std::string head;
     std::size_t total;

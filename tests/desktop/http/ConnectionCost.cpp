@@ -1,5 +1,5 @@
-// Prints what a request costs the client's thread, in milliseconds of CPU: over a fresh connection, verified against
-// the system's whole bundle, and over a kept one.
+// Prints the CPU time of a request on the client's thread, in milliseconds: over a new connection, verified with the
+// system's whole bundle, and over a kept one.
 #include <ctime>
 
 #include <cstdio>
@@ -16,7 +16,7 @@ namespace {
 
 using namespace larkspan;
 
-/// The system's bundle with the test's authority behind it.
+/// The system's bundle with the test's authority appended.
 class WholeBundle {
 public:
     explicit WholeBundle(const adapters::Authority& authority)

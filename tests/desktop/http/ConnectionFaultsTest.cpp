@@ -45,7 +45,7 @@ TEST_P(EachFault, EndsTheRequestWithItsCodeAndNoPartOfABody)
     EXPECT_THAT(send(get(server.url())), fails(GetParam().code));
 }
 
-/// Says `text` and then ends the stream in the way given.
+/// Sends `text` and then ends the stream with `end`.
 FaultServer::Script says(std::string text, void (Conversation::*end)())
 {
     return [text = std::move(text), end](Conversation& peer, const auto&) {

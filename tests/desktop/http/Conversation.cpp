@@ -60,7 +60,7 @@ void Conversation::cut()
 {
     isOpen_ = false;
     shutdown(socket_, SHUT_WR);
-    // Closed with bytes unread, the connection would break instead of ending.
+    // If closed with bytes unread, the connection would be reset instead of ended.
     std::array<char, 4096> rest;
     while (recv(socket_, rest.data(), rest.size(), 0) > 0) {}
 }
@@ -71,7 +71,7 @@ void Conversation::reset()
     const linger atOnce{.l_onoff = 1, .l_linger = 0};
     setsockopt(socket_, SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
     const int nothing = ::socket(AF_INET, SOCK_STREAM, 0);
-    // The number stays taken until the server has stopped using it.
+    // The descriptor stays in use until the server has stopped using it.
     dup2(nothing, socket_);
     ::close(nothing);
 }

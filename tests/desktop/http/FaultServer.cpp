@@ -18,7 +18,7 @@ namespace {
 SSL_CTX* newContext(const Identity& identity, FaultServer::TlsVersions versions)
 {
     auto* context = SSL_CTX_new(TLS_server_method());
-    // What is too weak for the library's own taste is to be the client's to refuse.
+    // The library must allow weak keys and ciphers here, so that the client is the one to refuse them.
     SSL_CTX_set_security_level(context, 0);
     SSL_CTX_set_min_proto_version(context, versions.lowest);
     SSL_CTX_set_max_proto_version(context, versions.highest);

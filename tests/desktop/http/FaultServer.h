@@ -18,19 +18,19 @@
 
 namespace larkspan::adapters {
 
-/// A request as it arrived.
+/// A request as received.
 struct ReceivedRequest {
     std::string line;
     std::vector<std::string> headers;
     std::string body;
-    /// Which of the server's connections it came on, from 1.
+    /// The number of the server's connection on which it came, from 1.
     int connection = 0;
 
     /// The value of a header, its name in lower case; absent if the request has none.
     std::optional<std::string> header(std::string_view name) const;
 };
 
-/// One TLS connection in the hands of a test's script. What is written to a peer that is gone is lost silently.
+/// One TLS connection for a test's script. Writes to a peer that has disconnected are ignored.
 class Conversation {
 public:
     Conversation(int socket, SSL* tls);
@@ -40,16 +40,16 @@ public:
 
     bool write(std::string_view bytes);
 
-    /// A whole answer, on a connection that stays.
+    /// Sends a complete answer; the connection stays open.
     void answer(std::string_view status, std::string_view body = {}, std::string_view moreHeaders = {});
 
-    /// The orderly end: TLS says that nothing follows.
+    /// Ends the connection in order: TLS announces the end.
     void close();
-    /// The stream ends and TLS says nothing.
+    /// Ends the stream without an announcement by TLS.
     void cut();
-    /// The connection breaks.
+    /// Resets the connection.
     void reset();
-    /// Says nothing until the peer goes, or the server.
+    /// Sends nothing until the peer or the server ends.
     void hang();
 
     bool isOpen() const { return isOpen_; }
@@ -70,10 +70,10 @@ private:
     bool isOpen_ = true;
 };
 
-/// An HTTPS server on loopback that answers as each test scripts it, faults included.
+/// An HTTPS server on loopback that answers with the test's script, including faults.
 class FaultServer {
 public:
-    /// Called for each request, on the thread of its connection, which waits for the next request afterwards.
+    /// Called for each request on the thread of its connection, which then waits for the next request.
     using Script = std::function<void(Conversation&, const ReceivedRequest&)>;
 
     struct TlsVersions {
@@ -86,19 +86,19 @@ public:
     FaultServer(const FaultServer&) = delete;
     FaultServer& operator=(const FaultServer&) = delete;
 
-    /// From now on connections are taken and nothing is said on them.
+    /// From now on accepts connections and sends nothing on them.
     void stopShakingHands() { isMute_ = true; }
 
     int port() const { return port_; }
     std::string url(const std::string& target = "/") const;
 
-    /// Every request that arrived whole, in order.
+    /// Every complete request, in order.
     std::vector<ReceivedRequest> requests() const;
 
-    /// How many handshakes have succeeded.
+    /// The number of handshakes that have succeeded.
     int handshakes() const { return handshakes_; }
 
-    /// How many connections have arrived, whatever became of them.
+    /// The number of connections, whatever became of them.
     int connections() const { return connections_; }
 
 private:

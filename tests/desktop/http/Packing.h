@@ -4,7 +4,7 @@
 
 namespace larkspan::adapters {
 
-/// `text` as Content-Encoding gzip has it.
+/// `text` in the Content-Encoding gzip.
 std::string gzip(const std::string& text);
 
 }  // namespace larkspan::adapters

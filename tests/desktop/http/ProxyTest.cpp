@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 
 const FaultServer::Script welcome = [](Conversation& peer, const auto&) { peer.answer("200 OK", "hello"); };
 
-/// A desktop whose settings name one proxy for everything.
+/// A desktop with one proxy for everything.
 class FixedProxy : public ProxySettings {
 public:
     explicit FixedProxy(std::string proxy)
@@ -46,7 +46,7 @@ private:
     std::atomic<bool> hasBeenAsked_{false};
 };
 
-/// A variable of the environment, for a while.
+/// Sets a variable of the environment while it exists.
 class Variable {
 public:
     Variable(const char* name, const std::string& value)

@@ -72,7 +72,7 @@ INSTANTIATE_TEST_SUITE_P(Writes, EachMethodAndStatus,
         MethodRow{"DELETE", 301, {}}, MethodRow{"DELETE", 302, {}}, MethodRow{"DELETE", 303, "GET"},
         MethodRow{"DELETE", 307, "DELETE"}, MethodRow{"POST", 201, {}}));
 
-/// Sends whoever asks for anything but /end to `location`.
+/// Redirects every request but those for /end to `location`.
 FaultServer::Script redirects(std::string location, std::string status = "302 Found")
 {
     return [location = std::move(location), status](Conversation& peer, const ReceivedRequest& request) {

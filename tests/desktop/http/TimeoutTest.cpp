@@ -32,7 +32,7 @@ const FaultServer::Script hangs = [](Conversation& peer, const auto&) { peer.han
 
 class TimeLimit : public Transport {
 protected:
-    /// The code that the request fails with, if it does so no sooner than after `least` and not long past it.
+    /// Expects the request to time out no sooner than after `least` and not much later.
     void expectTimeOut(HttpRequest request, std::chrono::milliseconds least)
     {
         const auto start = Clock::now();

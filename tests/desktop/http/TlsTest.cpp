@@ -95,7 +95,7 @@ TEST(SystemCertificateBundle, IsAFileThatExists)
     EXPECT_TRUE(std::ifstream(systemCertificateBundle()).good()) << systemCertificateBundle();
 }
 
-/// A directory of its own, gone at the end with what a test put there.
+/// A temporary directory, deleted with its content at the end.
 class Scratch {
 public:
     Scratch() { directory_ = mkdtemp(directory_.data()); }
@@ -135,7 +135,7 @@ int exitCodeOf(const std::string& test, const std::vector<std::string>& variable
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-// Run only by the test below, in an environment that would have them go wrong.
+// Run only by the test below, in an environment that tries to make them fail.
 class DISABLED_InAHostileEnvironment : public Transport {};
 
 TEST_F(DISABLED_InAHostileEnvironment, AStrangerIsNotTrusted)

@@ -34,7 +34,7 @@ HttpRequest get(std::string url)
 
 Transport::Transport()
 {
-    // The tests' servers are not behind the proxy of whoever runs them.
+    // The tests' servers are not behind the proxy of the person who runs the tests.
     for (const auto* name : {"https_proxy", "HTTPS_PROXY", "all_proxy", "ALL_PROXY", "no_proxy", "NO_PROXY"})
         unsetenv(name);
     settings.certificateBundle = authority().bundle();

@@ -23,18 +23,18 @@ using Result = platform::HttpTransport::Result;
 
 const Authority& authority();
 
-/// What a server at 127.0.0.1 and localhost shows, vouched for by `authority()`.
+/// The certificate and key of a server at 127.0.0.1 and localhost, issued by `authority()`.
 const Identity& identity();
 
 HttpRequest request(std::string method, std::string url, std::optional<std::string> body = std::nullopt);
 HttpRequest get(std::string url);
 
-/// A transport with the time limits of a test, on a loop of its own.
+/// A transport with the time limits of a test, on its own loop.
 class Transport : public testing::Test {
 protected:
     Transport();
 
-    /// Made with the settings as they stand when it is first wanted.
+    /// Created by the first call, with the settings at that time.
     CurlTransport& transport();
     void dropTransport() { transport_.reset(); }
 
@@ -48,10 +48,10 @@ private:
     std::optional<CurlTransport> transport_;
 };
 
-/// An answer with this status and body.
+/// Matches an answer with this status and body.
 testing::Matcher<const Result&> answers(int status, const testing::Matcher<const std::string&>& body = testing::_);
 
-/// No answer, for this reason.
+/// Matches a failure with this code.
 testing::Matcher<const Result&> fails(URLError::Code code);
 
 }  // namespace larkspan::adapters

@@ -20,7 +20,7 @@ public:
 
     std::string url() const { return "http://127.0.0.1:" + std::to_string(port_); }
 
-    /// The heads of the requests that it has got, each as one text.
+    /// The heads of the received requests, each as one text.
     std::vector<std::string> heads() const;
 
 private:

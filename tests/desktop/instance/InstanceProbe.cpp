@@ -1,5 +1,5 @@
 // usage: larkspan_instance_probe NAME
-// A program that does nothing but be the one instance of that name, and says what happens to it.
+// Claims to be the single instance of that name, and prints what happens to it.
 
 #include <QCoreApplication>
 

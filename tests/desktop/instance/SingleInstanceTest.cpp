@@ -20,7 +20,7 @@ using peers::PrivateBus;
 
 const auto programName = QStringLiteral("com.kestrune.larkspan");
 
-/// Another process that starts the program.
+/// A process that starts as another instance of the program.
 class Start : public peers::Peer {
 public:
     explicit Start(const QString& busAddress, const QString& tokenVariable = {}, const QString& token = {},
@@ -125,7 +125,7 @@ TEST(SingleInstance, AFirstThatDoesNotAnswerIsReplacedAndQuitsWhenItWakes)
     ASSERT_EQ(successor.hear(), "first");
     stuck.signal(SIGCONT);
 
-    // It answers the call that it was woken by, although nobody waits any more.
+    // It answers the call that woke it, although nobody waits any more.
     EXPECT_EQ(stuck.hear(), "activated");
     EXPECT_EQ(stuck.hear(), "replaced");
     EXPECT_TRUE(stuck.endsWell());

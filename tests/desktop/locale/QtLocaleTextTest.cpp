@@ -25,14 +25,14 @@ support::Time momentOf(std::chrono::year_month_day date, std::chrono::minutes ut
 constexpr auto autumn = std::chrono::year{2026} / 11 / 20;
 constexpr auto endOfSummerTime = std::chrono::year{2026} / 10 / 25;
 
-/// As its reader sees it: of which kind a blank is differs from one release of the locales' data to the next.
+/// The text as readers see it: the kind of a blank differs between releases of the locales' data.
 std::string seen(const std::string& text)
 {
     static const QRegularExpression blank("\\h");
     return QString::fromStdString(text).replace(blank, " ").toStdString();
 }
 
-/// Lives in `zone` for one test.
+/// Sets the time zone for one test.
 class InTheZone {
 public:
     explicit InTheZone(const char* zone) { live(zone); }

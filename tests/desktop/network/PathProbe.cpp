@@ -1,4 +1,4 @@
-// A program that does nothing but watch the network, and says what it sees.
+// Watches the network and prints what it sees.
 
 #include <QCoreApplication>
 

@@ -15,7 +15,7 @@ namespace {
 using peers::Peer;
 using peers::PrivateBus;
 
-/// The states of NetworkManager, with its own numbers.
+/// The states of NetworkManager with their numbers.
 enum class State : unsigned {
     unknown = 0,
     asleep = 10,
@@ -34,7 +34,7 @@ QProcessEnvironment environmentOf(const PrivateBus& bus)
     return environment;
 }
 
-/// NetworkManager's interface on the bus, without a network behind it.
+/// NetworkManager's interface on the bus, without a network.
 class NetworkManager : public Peer {
 public:
     NetworkManager(const PrivateBus& bus, State state)
@@ -60,7 +60,7 @@ private:
     const PrivateBus& bus_;
 };
 
-/// The program, which watches.
+/// The program that watches the network.
 class Watching : public Peer {
 public:
     explicit Watching(const PrivateBus& bus)

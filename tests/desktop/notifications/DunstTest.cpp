@@ -26,7 +26,7 @@ protected:
         return dunstctl.readAllStandardOutput().trimmed();
     }
 
-    /// What the user has seen, the newest first.
+    /// The notices that the user has seen, the newest first.
     QJsonArray history()
     {
         control("close-all");

@@ -8,21 +8,21 @@
 
 namespace larkspan::peers {
 
-/// A notification server with these capabilities and ways (see notification_server.py), ready.
+/// A notification server with these capabilities and options (see notification_server.py), ready for use.
 class NotificationServer : public Peer {
 public:
     explicit NotificationServer(const PrivateBus& bus, const QStringList& capabilitiesAndWays = {});
 
-    /// The next notice that it is handed; empty if none comes in time.
+    /// The next notice that it receives; empty if none comes in time.
     QJsonObject notice();
 
-    /// What it has been asked and handed by now and nobody heard, in short: "asked" or a notice's summary.
+    /// What it has been asked and given so far and was not read yet, in short: "asked" or a notice's summary.
     QStringList soFar();
 
-    /// The user closes the notice that the server knows by this id.
+    /// Closes the notice with this id of the server, as the user.
     void close(int notice);
 
-    /// It answers from now on.
+    /// Lets it answer from now on.
     void open() { tell("open\n"); }
 };
 

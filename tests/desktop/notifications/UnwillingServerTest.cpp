@@ -21,7 +21,7 @@ platform::NotificationRequest incident(const std::string& title, const std::stri
     return {.identifier = "incident-" + title, .title = title, .body = body};
 }
 
-/// A notification server that doesn't do what it is there for.
+/// A notification server that does not do its job.
 class UnwillingServer : public testing::Test {
 protected:
     peers::PrivateBus bus;

@@ -1,9 +1,10 @@
 #!/usr/bin/python3
-"""A notification server with the capabilities of the arguments; it shows nothing and says what it is asked.
+"""A notification server with the capabilities of the arguments; it shows nothing and prints what it is asked.
 
-Says "ready" when it is, "asked" for each question about its capabilities and a line of JSON for each notice. With
-"-mute" among the arguments it doesn't tell its capabilities, with "-gated" it answers no notice until a line "open"
-comes on standard input. A line "close ID" there closes a notice and is repeated when that is done.
+Prints "ready" when it is, "asked" for each question about its capabilities and a line of JSON for each notice.
+With "-mute" among the arguments it does not answer about its capabilities, with "-gated" it answers no notice
+until a line "open" comes on standard input. A line "close ID" there closes a notice and is printed when that is
+done.
 """
 
 import json

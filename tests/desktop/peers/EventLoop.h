@@ -9,12 +9,12 @@
 
 namespace larkspan::peers {
 
-/// Turns the event loop until `condition` holds; false if it doesn't within `patience`.
+/// Runs the event loop until `condition` holds; returns false if it does not within `patience`.
 template <typename Condition>
 bool turnUntil(Condition condition, std::chrono::milliseconds patience = std::chrono::seconds(10))
 {
     const QDeadlineTimer deadline(patience);
-    // What is waited for may happen in another process, without an event here.
+    // The condition may change in another process, without an event here.
     QTimer tick;
     tick.start(std::chrono::milliseconds(5));
     while (!condition()) {
@@ -24,7 +24,7 @@ bool turnUntil(Condition condition, std::chrono::milliseconds patience = std::ch
     return true;
 }
 
-/// Turns the event loop for `duration`.
+/// Runs the event loop for `duration`.
 inline void turnFor(std::chrono::milliseconds duration)
 {
     turnUntil([] { return false; }, duration);

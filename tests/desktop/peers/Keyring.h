@@ -12,7 +12,7 @@
 
 namespace larkspan::peers {
 
-/// The real gnome-keyring on a private bus, with a home of its own. Ends with the object.
+/// The real gnome-keyring on a private bus, with its own home directory. Ends with the object.
 class Keyring {
 public:
     static constexpr auto password = "correct horse";
@@ -26,22 +26,22 @@ public:
     /// Unlocks without a prompt, as a login does.
     void unlock() const;
 
-    /// Stores a secret with `secret-tool`, which takes attributes as names and values in turn.
+    /// Stores a secret with `secret-tool`, which takes attributes as alternating names and values.
     void store(const QStringList& attributes, const QByteArray& secret) const;
 
     /// Removes the unlocked items that have these attributes with `secret-tool`.
     void clear(const QStringList& attributes) const;
 
-    /// Stores a secret in a second keyring, which is locked then and has the same password.
+    /// Stores a secret in a second keyring with the same password, and locks it.
     void storeInALockedKeyring(const QStringList& attributes, const QString& secret) const;
 
-    /// What `secret-tool lookup` prints.
+    /// The output of `secret-tool lookup`.
     QByteArray lookUp(const QStringList& attributes) const;
 
-    /// How many items have this service, locked or not.
+    /// The number of items with this service, locked or not.
     qsizetype count(const QString& service) const;
 
-    /// The attributes of the one item that has this service.
+    /// The attributes of the only item with this service.
     QVariantMap attributes(const QString& service) const;
 
     void signal(int number) { daemon_->signal(number); }

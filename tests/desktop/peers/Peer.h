@@ -6,22 +6,22 @@
 
 namespace larkspan::peers {
 
-/// A program that a test runs against, and what it says on its output. Ends with the object.
+/// A program that a test needs, and its output. Ends with the object.
 class Peer {
 public:
     Peer(const QString& program, const QStringList& arguments, const QProcessEnvironment& environment);
     ~Peer();
 
-    /// Hands it all of its input.
+    /// Writes `input` to its standard input.
     void tell(const QByteArray& input);
 
-    /// Hands it one line, and hears its answer.
+    /// Writes one line to its standard input, and returns its next line of output.
     QString ask(const QByteArray& line);
 
     /// The next line of its output; empty if none comes in time.
     QString hear();
 
-    /// What it has said by now and has not been heard yet.
+    /// The lines of output so far that have not been read yet.
     QStringList heardByNow();
 
     bool hasEnded() const { return process_.state() == QProcess::NotRunning; }

@@ -7,7 +7,7 @@
 
 namespace larkspan::peers {
 
-/// A message bus of a test's own, on which nothing runs or is started unasked. Ends with the object.
+/// A private message bus, on which nothing runs or is started unless a test asks for it. Ends with the object.
 class PrivateBus {
 public:
     PrivateBus();
@@ -18,10 +18,10 @@ public:
     /// A new connection to the bus.
     QDBusConnection connect() const;
 
-    /// Waits until somebody owns `name`; false if nobody does in time.
+    /// Waits until `name` has an owner; returns false if it has none in time.
     bool awaitOwner(const QString& name) const;
 
-    /// Ends the bus before its time.
+    /// Ends the bus early.
     void stop();
 
 private:

@@ -4,7 +4,7 @@
 
 #include <ostream>
 
-/// So that a failed test shows words; found by its name, in Qt's own namespace.
+/// Makes failed tests print readable texts; found by its name, in Qt's namespace.
 inline void PrintTo(const QString& text, std::ostream* out)
 {
     *out << '"' << text.toStdString() << '"';

@@ -94,7 +94,7 @@ void TrayHost::click(int id)
 QJsonValue TrayHost::ask(const QJsonArray& command)
 {
     const auto answer = process_.ask(QJsonDocument(command).toJson(QJsonDocument::Compact));
-    // A document is never a lone value.
+    // A document cannot be a single value.
     return QJsonDocument::fromJson(("[" + answer + "]").toUtf8()).array().at(0);
 }
 

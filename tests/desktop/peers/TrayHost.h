@@ -9,14 +9,14 @@
 
 namespace larkspan::peers {
 
-/// A desktop's panel in a process of its own: the list of items, and what a user and a host do with the newest one.
+/// A desktop's panel in its own process: the list of items, and what a user and a host do with the newest one.
 /// Bytes are hexadecimal text. Ends with the object.
 class TrayHost {
 public:
-    /// Without a host there is the list alone, which nobody shows.
+    /// Without a host there is only the list, which nobody shows.
     explicit TrayHost(const PrivateBus& bus, bool hasHost = true);
 
-    /// Whether an item is registered within `patience`.
+    /// Waits for an item; returns false if none is registered within `patience`.
     bool seesItem(std::chrono::milliseconds patience = std::chrono::seconds(10));
     int registrations();
     /// The bus name of the newest item.
@@ -37,7 +37,7 @@ public:
     QJsonValue callMenu(const QString& method, const QString& signature, const QJsonArray& arguments);
     void click(int id);
 
-    /// It answers nothing until `SIGCONT`.
+    /// Sends a signal to it; after `SIGSTOP` it answers nothing until `SIGCONT`.
     void signal(int number) { process_.signal(number); }
 
 private:

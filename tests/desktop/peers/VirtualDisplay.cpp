@@ -18,7 +18,7 @@ VirtualDisplay::VirtualDisplay()
     const auto answerArgument = std::to_string(answer[1]);
     server_ = fork();
     if (server_ == 0) {
-        // A test that crashes leaves no server behind.
+        // A test that crashes must leave no server running.
         prctl(PR_SET_PDEATHSIG, SIGKILL);
         close(answer[0]);
         execlp("Xvfb", "Xvfb", "-displayfd", answerArgument.c_str(), "-screen", "0", "1280x900x24", "-nolisten", "tcp",

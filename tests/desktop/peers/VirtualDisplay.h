@@ -6,7 +6,7 @@
 
 namespace larkspan::peers {
 
-/// An X server that shows to nobody, made the display of this process. Make it before the application object.
+/// An X server without a screen, as the display of this process. Construct it before the application object.
 class VirtualDisplay {
 public:
     VirtualDisplay();

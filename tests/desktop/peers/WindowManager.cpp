@@ -16,7 +16,7 @@ WindowManager::WindowManager()
     for (const auto* const name : {"XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"}) environment.remove(name);
     process_.setProcessEnvironment(environment);
     process_.start("openbox", {"--sm-disable"});
-    // It owns the screen before it takes care of windows, and forgets those that are mapped in between.
+    // It owns the screen before it manages windows, and ignores those that are mapped in between.
     const auto takesCareOfWindows = [] {
         X11Peer peer;
         const auto window = peer.showWindow();

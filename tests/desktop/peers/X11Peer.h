@@ -10,7 +10,7 @@
 
 namespace larkspan::peers {
 
-/// Another client of the X server: sees what the window manager made of a window, and acts as a panel does.
+/// Another client of the X server, which sees how the window manager treats a window, and acts as a panel does.
 class X11Peer {
 public:
     enum class State : std::uint32_t { normal = 1, iconic = 3 };
@@ -21,17 +21,17 @@ public:
     X11Peer& operator=(const X11Peer&) = delete;
 
     bool hasWindowManager() const;
-    /// Absent while the window manager doesn't manage it.
+    /// Empty while the window manager does not manage the window.
     std::optional<State> state(xcb_window_t window) const;
     xcb_window_t activeWindow() const;
 
     /// Presses the window's close button.
     void pressClose(xcb_window_t window) const;
 
-    /// Shows a window of its own, which the window manager focuses.
+    /// Shows another window, which the window manager focuses.
     xcb_window_t showWindow();
 
-    /// What programs have said since about the end of their launch.
+    /// The messages by which programs have announced the end of their launch so far.
     QStringList endedLaunches();
 
 private:

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Stores a secret in a keyring of its own, beside the default one, and locks that.
+"""Stores a secret in a second keyring beside the default one, and locks it.
 
 Usage: store_in_locked_keyring.py PASSWORD SECRET NAME VALUE [NAME VALUE...]
 """

@@ -1,13 +1,13 @@
 #!/usr/bin/python3
-"""A desktop's panel: owns the list of status items, and does with the newest one what it is told.
+"""A desktop's panel: owns the list of status items, and acts on the newest one as it is told.
 
-Says "ready" when it is. Each line of standard input is a JSON array and is answered with one line of JSON:
+Prints "ready" when it is. Each line of standard input is a JSON array and is answered with one line of JSON:
 ["item"]                                the item's properties
 ["menu", method, signature, arguments]  the answer to a call of the item's menu, {"error": name} for a refusal
 ["call", method, signature, arguments]  the same of the item itself
-["signals"]                             what the item and its menu have signalled since this was asked last
+["signals"]                             the signals of the item and its menu since the last request
 ["registrations"]                       the bus names under which items were registered
-["hosts", true]                         says whether somebody shows the items
+["hosts", true]                         sets whether a host shows the items
 """
 
 import json
@@ -80,7 +80,7 @@ class Watcher(dbus.service.Object):
     def ask(self, path, interface, method, signature, arguments, take):
         if not self.registrations:
             return self.answer({"error": "no item"})
-        # Not a blocking call: its answer would overtake the signals that were sent before it.
+        # Not a blocking call, whose answer would overtake the signals that were sent before it.
         self.bus.call_async(
             self.registrations[-1],
             path,

@@ -14,7 +14,7 @@
 
 namespace larkspan::adapters {
 
-/// A desktop's portal whose settings are the test's.
+/// A desktop's portal with the test's settings.
 class FakePortal : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.ProxyResolver")
@@ -52,7 +52,7 @@ protected:
     std::optional<std::string> find(const std::string& url = "https://service.test/path")
     {
         std::optional<std::string> found;
-        // As the client asks: from a thread of its own.
+        // As the client does, from another thread.
         std::jthread([&] { proxies.findProxy(url, [&](std::string proxy) { found = std::move(proxy); }); }).join();
         peers::turnUntil([&] { return found.has_value(); });
         return found;

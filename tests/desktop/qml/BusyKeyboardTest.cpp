@@ -11,7 +11,7 @@ namespace {
 
 using platform::HttpResponse;
 
-/// A page with a header and a field, worked by keyboard while something is done.
+/// A page with a header and a field, used with the keyboard while an action runs.
 class BusyPage : public testing::Test, public KitWindow {
 protected:
     BusyPage()
@@ -70,7 +70,7 @@ TEST_F(BusyPage, TakesNoKeyWhoeverHasTheKeyboardAndGivesItBackWhereItWas)
     EXPECT_EQ(property("returns").toInt(), 1);
 }
 
-/// An incident of page "a", with an order to it that the service has not answered yet.
+/// An incident of page "a" with an action that the service has not answered yet.
 class BusyIncident : public IncidentsOnScreen {
 protected:
     BusyIncident()

@@ -29,7 +29,7 @@ protected:
 
     QQuickItem& list() const { return item(Role::List, QStringLiteral("Status Pages")); }
 
-    /// The row that the keyboard is on.
+    /// The row with the focus.
     QString current() const
     {
         for (const auto& thing : things()) {
@@ -118,7 +118,7 @@ TEST_F(ListOnScreen, TheRingShowsToThoseWhoUseTheKeyboard)
     }
 }
 
-/// What a screen reader finds in the rows of lists, of the menu and of links.
+/// The rows of lists, of the menu and of links as a screen reader finds them.
 class RowsOnScreen : public ListOnScreen {
 protected:
     /// The names of the labels below `row`, in their order.
@@ -146,7 +146,7 @@ protected:
         return texts;
     }
 
-    /// Rows are what has a role of these and a description or stands in a list.
+    /// An item counts as a row if it has one of these roles, and a description or a place in a list.
     void expectEachLabelInTheTree(Role role, int least)
     {
         int rows = 0;

@@ -8,10 +8,10 @@ namespace {
 
 using platform::HttpResponse;
 
-/// Screens that are left, or lose their page, while the service has not answered yet.
+/// Screens that are left, or whose page is removed, while the service has not answered yet.
 class IncidentsClosedInMidRequest : public IncidentsOnScreen {
 protected:
-    /// The page goes from the account while it is open.
+    /// Removes the page from the account while it is open.
     void losePage()
     {
         servePages({"b"}, {});

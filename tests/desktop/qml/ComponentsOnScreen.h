@@ -29,7 +29,7 @@ inline std::string inGroup(const std::string& id)
     return R"(, "component_group_id": ")" + id + "\"";
 }
 
-/// The components of page "a", reached and worked with the keyboard alone.
+/// The components of page "a", opened and used with the keyboard only.
 class ComponentsOnScreen : public testing::Test, public Screen {
 protected:
     ComponentsOnScreen()
@@ -63,7 +63,7 @@ protected:
         press(Qt::Key_4, Qt::ControlModifier);
     }
 
-    /// The first component, by its letter.
+    /// Opens the first component by its letter.
     void open(Qt::Key letter = Qt::Key_R)
     {
         item(Role::List, QStringLiteral("Components")).forceActiveFocus(Qt::TabFocusReason);
@@ -85,7 +85,7 @@ protected:
         press(Qt::Key_Space);
     }
 
-    /// Types in place of what stands in the field.
+    /// Replaces the text of a field by typing.
     void retype(const char* field, const char* text)
     {
         auto& entry = item(Role::EditableText, QString::fromUtf8(field));
@@ -120,7 +120,7 @@ protected:
         return interface ? interface->text(QAccessible::Name) : QString();
     }
 
-    /// "METHOD url" of what was sent.
+    /// "METHOD url" of each request.
     std::vector<std::string> sent() const
     {
         std::vector<std::string> lines;

@@ -57,7 +57,7 @@ TEST_F(AboutOnScreen, ShowsTheProgramsIconInItsOwnColours)
         icon = window().grabWindow().copy(item.mapRectToScene(item.boundingRect()).toRect());
     });
     ASSERT_FALSE(icon.isNull());
-    // Below the lighter wing, inside the tile.
+    // Below the lighter wing, in the tile.
     EXPECT_EQ(icon.pixelColor(icon.width() / 5, icon.height() * 17 / 20), QColor(0x1a, 0x5b, 0xbd));
     EXPECT_NE(icon.pixelColor(0, 0), QColor(0x1a, 0x5b, 0xbd)) << "its corners are round";
 }

@@ -10,10 +10,10 @@ namespace larkspan {
 
 namespace {
 
-/// What the ring says while an incident is worked on by keyboard and mouse.
+/// The focus ring while an incident is edited with keyboard and mouse.
 class RingOnScreen : public IncidentsOnScreen {
 protected:
-    /// The rings that are seen.
+    /// The visible rings.
     std::vector<QQuickItem*> rings() const
     {
         std::vector<QQuickItem*> found;
@@ -24,7 +24,7 @@ protected:
         return found;
     }
 
-    /// The name of what the one ring is around; empty where there is no ring or more than one.
+    /// The name of the item with the ring; empty if there is no ring or more than one.
     QString ringed() const
     {
         const auto all = rings();

@@ -33,7 +33,7 @@ protected:
         settle();
     }
 
-    /// What the picker offers, from above.
+    /// The entries of the picker, from top to bottom.
     QStringList offers(const char* picker)
     {
         focusOn(picker);
@@ -43,7 +43,7 @@ protected:
         return rows;
     }
 
-    /// Takes the entry `down` rows below the chosen one.
+    /// Chooses the entry `down` rows below the current one.
     void take(const char* picker, int down)
     {
         focusOn(picker);

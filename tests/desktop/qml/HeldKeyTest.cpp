@@ -148,7 +148,8 @@ TEST_F(HeldKey, GoesThroughAList)
         QAccessible::queryAccessibleInterface(&item(Role::ListItem, QStringLiteral("Slow checkout")))->state().focused);
 }
 
-/// A press that began before the alert came up, where its button then stands or for whoever had the keyboard then.
+/// A press that started before the alert appeared, at the place of the alert's button or in the item that had the
+/// focus.
 class PressBeforeAnAlert : public HeldKey {
 protected:
     PressBeforeAnAlert()

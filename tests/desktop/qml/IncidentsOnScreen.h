@@ -12,7 +12,7 @@
 
 namespace larkspan {
 
-/// The incidents of page "a", reached and worked with the keyboard alone.
+/// The incidents of page "a", opened and used with the keyboard only.
 class IncidentsOnScreen : public testing::Test, public Screen {
 protected:
     using Role = QAccessible::Role;
@@ -75,7 +75,7 @@ protected:
     bool isEnabled(const char* button) const { return item(Role::Button, QString::fromUtf8(button)).isEnabled(); }
     bool asks(const char* title) const { return names(Role::Dialog).contains(QString::fromUtf8(title)); }
 
-    /// "METHOD url" of what was sent.
+    /// "METHOD url" of each request.
     std::vector<std::string> sent() const
     {
         std::vector<std::string> lines;

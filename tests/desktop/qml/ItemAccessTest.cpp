@@ -8,7 +8,7 @@ namespace larkspan {
 
 namespace {
 
-/// A window with a button, and over it a sheet with one and an alert.
+/// A window with a button, covered by a sheet with a button and by an alert.
 class WhatAScreenReaderIsTold : public testing::Test, public KitWindow {
 protected:
     WhatAScreenReaderIsTold()
@@ -54,7 +54,7 @@ protected:
     {
         return QAccessible::queryAccessibleInterface(&item(QString::fromLatin1(name)))->state();
     }
-    /// All that was pressed so far, after an assistive technology has pressed this.
+    /// All that has been pressed, after an assistive technology has pressed `name`.
     QStringList pressed(const char* name)
     {
         auto* const actions

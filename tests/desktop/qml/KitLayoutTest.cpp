@@ -30,7 +30,7 @@ protected:
         bool operator==(const Line&) const = default;
     };
 
-    /// What is drawn around the box, from below.
+    /// The lines around the box, in order of painting.
     std::vector<Line> lines() const
     {
         std::vector<Line> found;

@@ -12,7 +12,7 @@ namespace larkspan {
 
 KitWindow::KitWindow(const QString& body)
 {
-    // As the program does, before anything asks for an item's account.
+    // As the program does, before anything asks for an item's accessible interface.
     bridge::tellAccessibilityWhatIsOutOfReach();
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
     QQmlComponent component(&engine_);

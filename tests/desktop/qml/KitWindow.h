@@ -9,16 +9,16 @@
 
 namespace larkspan {
 
-/// A window with a piece of QML of the test's own in it, made of the kit's parts.
+/// A window with the test's own piece of QML, made of the kit's parts.
 class KitWindow {
 public:
-    /// `body` stands inside a `Window` of 480 by 440 points. Fails the test where the QML does not load.
+    /// `body` is the content of a `Window` of 480 by 440 points. Fails the test if the QML does not load.
     explicit KitWindow(const QString& body);
 
     void settle();
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
-    /// What the body calls by `objectName`; fails the test if there is none.
+    /// The item with this `objectName`; fails the test if there is none.
     QQuickItem& item(const QString& objectName) const;
     QQuickWindow& window() const { return *window_; }
     QVariant property(const char* name) const { return window_->property(name); }

@@ -14,7 +14,7 @@ namespace larkspan {
 namespace {
 
 constexpr int mostRecords = 20'000;
-// Without a place to break, where the time for a text grows with its square.
+// Without a place to break, for which the layout takes quadratic time.
 const std::string megabyte(1'000'000, 'x');
 
 std::string member(const std::string& key, const std::string& text)
@@ -29,7 +29,8 @@ std::vector<std::string> each(std::string (*record)(const std::string&, const st
     return records;
 }
 
-// A third of it or less on an idle machine; some texts took two minutes before they were shown in part.
+// In seconds; at least three times what an idle machine needs. Some texts took two minutes before they were shown in
+// part.
 constexpr double aMoment = 3;
 
 TEST_F(IncidentsOnScreen, AMegabyteInAnIncidentIsShownInAMoment)

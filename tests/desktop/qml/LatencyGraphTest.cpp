@@ -15,7 +15,7 @@ namespace {
 
 using bridge::LatencyGraphValue;
 
-/// A graph of 408 points' width, 4 of them free on each side, in a list that scrolls; its samples' values are
+/// A graph of 408 points' width, 4 of them empty on each side, in a scrolling list; the values of its samples are
 /// "10", "20" and so on.
 class LatencyGraphOnScreen : public testing::Test, public KitWindow {
 protected:
@@ -53,7 +53,7 @@ protected:
         select(std::nullopt);
     }
 
-    /// As the row does that holds the selection.
+    /// As the row that holds the selection does.
     void select(std::optional<int> index)
     {
         selected_ = index;
@@ -93,7 +93,7 @@ protected:
     QQuickItem& list() const { return item(QStringLiteral("list")); }
     QAccessibleInterface& accessible() const { return *QAccessible::queryAccessibleInterface(&graph()); }
 
-    /// The texts that stand in the graph.
+    /// The texts in the graph.
     QStringList texts() const { return names(QAccessible::StaticText); }
 
     QStringList names(QAccessible::Role role) const
@@ -248,7 +248,7 @@ TEST_F(LatencyGraphOnScreen, AScreenReaderCanMoveTheSelection)
 
 TEST_F(LatencyGraphOnScreen, TellsOfEachChangeOfItsValue)
 {
-    // What Qt passes on to the screen reader, where one listens.
+    // The signal that Qt passes on to a listening screen reader.
     const QSignalSpy told(&graph(), SIGNAL(valueChanged()));
     select(3);
     select(4);

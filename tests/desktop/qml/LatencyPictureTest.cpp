@@ -20,7 +20,7 @@ QImage picture(const std::vector<std::int64_t>& values, int scale = 1)
     return latencyPicture(*curve, QSize(width, height) * scale, {blue, tint, 2.0 * scale, 4.0 * scale, 8.0 * scale});
 }
 
-/// How opaque the column is, from top to bottom.
+/// The opacities of a column, from top to bottom.
 std::vector<int> column(const QImage& image, int x)
 {
     std::vector<int> alphas;
@@ -28,7 +28,7 @@ std::vector<int> column(const QImage& image, int x)
     return alphas;
 }
 
-/// How many pixels of line the column holds, those that it covers in part as parts.
+/// The number of pixels of line in the column, including fractions of partly covered ones.
 double lineIn(const QImage& image, int x)
 {
     double sum = 0;
@@ -38,7 +38,7 @@ double lineIn(const QImage& image, int x)
     return sum;
 }
 
-/// The first row of the column that is all line; -1 if there is none.
+/// The first row of the column that the line covers fully; -1 if there is none.
 int rowOfLine(const QImage& image, int x)
 {
     const auto alphas = column(image, x);

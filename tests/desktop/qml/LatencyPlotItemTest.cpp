@@ -34,7 +34,7 @@ protected:
         show(std::nullopt);
     }
 
-    /// Shows the curve with that selection and returns how often it was painted by now.
+    /// Shows the curve with that selection and returns how often it has been painted.
     int show(std::optional<int> selected)
     {
         plot_.setGraph(LatencyGraphValue::of(monitors::LatencyGraph::of(curve_, selected, locale_)));

@@ -10,7 +10,7 @@
 int main(int argc, char** argv)
 {
     testing::InitGoogleTest(&argc, argv);
-    // What Qt says of the environment would be no word about the program.
+    // Qt's warnings about the environment are not about the program.
     const QTemporaryDir runtime;
     qputenv("XDG_RUNTIME_DIR", runtime.path().toUtf8());
     qputenv("LC_ALL", "C.UTF-8");

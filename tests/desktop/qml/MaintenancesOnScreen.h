@@ -14,7 +14,7 @@ namespace larkspan {
 
 inline constexpr auto workURL = "https://service.example/user/api/v1/maintenances/1";
 
-// It is nine in the morning of the twentieth of November 2026.
+// The time is nine in the morning of 20 November 2026.
 inline const std::string isScheduled = R"(, "start_at": "2026-11-20T10:00:00Z", "end_at": "2026-11-20T12:00:00Z")";
 inline const std::string isInProgress = R"(, "start_at": "2026-11-20T08:00:00Z", "end_at": "2026-11-20T12:00:00Z")";
 inline const std::string isCompleted = R"(, "start_at": "2026-11-20T07:00:00Z", "end_at": "2026-11-20T08:30:00Z")";
@@ -24,7 +24,7 @@ inline std::string work(const std::string& id, const std::string& title, const s
     return R"({"id": ")" + id + R"(", "title": ")" + title + R"(", "status_page_id": "a")" + rest + "}";
 }
 
-/// The maintenances of page "a", reached and worked with the keyboard alone.
+/// The maintenances of page "a", opened and used with the keyboard only.
 class MaintenancesOnScreen : public testing::Test, public Screen {
 protected:
     using Role = QAccessible::Role;
@@ -79,7 +79,7 @@ protected:
         press(Qt::Key_Space);
     }
 
-    /// Goes down the open menu to that row and takes it.
+    /// Moves down the open menu to that row and chooses it.
     void chooseInMenu(const char* name)
     {
         for (int rows = 0; rows < 5; ++rows) {
@@ -124,7 +124,7 @@ protected:
         return interface ? interface->text(QAccessible::Name) : QString();
     }
 
-    /// "METHOD url body" of what was sent.
+    /// "METHOD url body" of each request.
     Sent sent() const
     {
         Sent lines;

@@ -21,7 +21,7 @@ void collect(const QQuickItem& item, const char* property, const QVariant& value
     }
 }
 
-/// A size of the type scale is told with two decimals.
+/// Sizes of the type scale have two decimals.
 double rounded(double size)
 {
     return std::round(size * 100) / 100;

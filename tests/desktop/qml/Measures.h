@@ -12,20 +12,20 @@
 
 namespace larkspan {
 
-/// Where things stand, and how large they are, in points of the window.
+/// The place and size of an item, in points of the window.
 QRectF frameOf(const QQuickItem& item);
 double gapBeside(const QQuickItem& left, const QQuickItem& right);
 double gapBelow(const QQuickItem& upper, const QQuickItem& lower);
 
-/// What of the item's place is painted in another colour than its left upper corner.
+/// The part of the item that is painted in another colour than its upper left corner.
 QRectF inkOf(const QQuickItem& item);
 
 QFont fontOf(const QQuickItem& text);
-/// The size of its font, as a part of the desktop's.
+/// The size of the text's font, relative to the desktop's.
 double sizeOf(const QQuickItem& text);
 QColor colorOf(const QQuickItem& item);
 
-/// What is seen below `root` and has that property with that value, such as a symbol's `name`; in the order of
+/// The visible items below `root` that have this property with this value, such as a symbol's `name`, in order of
 /// painting.
 std::vector<QQuickItem*> partsOf(const QQuickItem& root, const char* property, const QVariant& value);
 /// The first of those; never null, since the test fails if there is none.
@@ -34,7 +34,7 @@ QQuickItem* partOf(const QQuickItem& root, const char* property, const QVariant&
 /// The tinted shape around the word of a pill or a badge.
 const QQuickItem& shapeAround(const QQuickItem& word);
 
-/// How much wider and higher a pill is than its word, and how strong its tint.
+/// The size of a pill beyond that of its word, and the strength of its tint.
 struct PillMeasures {
     double beside;
     double aboveAndBelow;

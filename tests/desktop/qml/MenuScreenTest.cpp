@@ -35,7 +35,7 @@ protected:
     QQuickItem& button() const { return item(Role::Button, QStringLiteral("Menu")); }
     bool isOpen() const { return !names(Role::MenuItem).isEmpty(); }
 
-    /// The row that the keyboard is on.
+    /// The row with the focus.
     QString current() const
     {
         for (const auto& thing : things()) {

@@ -17,7 +17,7 @@ namespace {
 
 class MessageLayout : public MessageOnScreen {
 protected:
-    /// The line of the list in which a text stands.
+    /// The line of the list that contains a text.
     static const QQuickItem& lineOf(const QQuickItem& text) { return *text.parentItem(); }
 
     static double baselineOf(const QQuickItem& text) { return frameOf(text).top() + text.baselineOffset(); }
@@ -118,7 +118,7 @@ TEST_F(MessageLayout, DrawsInlineMarkupAndKeepsLineEndsAndBlanks)
     EXPECT_LT(drawn.at("code").font().pointSizeF(), drawn.at("slanted").font().pointSizeF());
 }
 
-/// The program in a font of the test's own, in which a "1" is narrower than every other digit.
+/// Shows the program in the test's own font, in which "1" is narrower than every other digit.
 class FontWithANarrowOne {
 protected:
     FontWithANarrowOne()

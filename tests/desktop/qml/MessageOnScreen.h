@@ -9,10 +9,10 @@
 
 namespace larkspan {
 
-/// An opened incident with a message of the test's own.
+/// An opened incident with the test's own message.
 class MessageOnScreen : public IncidentsOnScreen {
 protected:
-    /// `message` is what stands between the quotes of JSON.
+    /// `message` is the text between the quotes of a JSON string.
     void open(const std::string& message)
     {
         serve({incident("1", "Login errors", R"(, "message": ")" + message + '"')});
@@ -22,7 +22,7 @@ protected:
 
     QQuickItem& rows() const { return item(Role::List, QStringLiteral("Description")); }
 
-    /// The scrolled lines of the message's tables that are in sight, from the top.
+    /// The visible lines of the message's tables, from top to bottom.
     std::vector<QQuickItem*> tableLines() const
     {
         std::vector<QQuickItem*> lines;

@@ -32,7 +32,7 @@ void PrintTo(const LongMessage& message, std::ostream* out)
 
 class LongMessageOnScreen : public MessageOnScreen, public testing::WithParamInterface<LongMessage> {};
 
-/// A text item lays out a megabyte without a place to break in half a minute, so no message is one item.
+/// A single text item takes half a minute to lay out a megabyte without a place to break.
 TEST_P(LongMessageOnScreen, IsShownAndScrolledToItsEndInBoundedTimeAndItems)
 {
     const auto message = GetParam().text();
@@ -68,7 +68,7 @@ protected:
         open(table + R"(\n\nbetween\n\n)" + table);
     }
 
-    /// How far each line of the two tables is scrolled, from the top.
+    /// The scroll position of each line of the two tables, from top to bottom.
     std::vector<qreal> places() const
     {
         std::vector<qreal> found;

@@ -9,7 +9,7 @@ namespace {
 
 class MonitorDetailLayout : public MonitorsOnScreen {
 protected:
-    /// The service tells no time of a last check, so the record gets one here.
+    /// The service reports no time of a last check, so the record is given one here.
     MonitorDetailLayout()
     {
         auto& opened = *(*dashboard->openedPage)->monitors()->viewModel;
@@ -21,7 +21,7 @@ protected:
 
     QQuickItem& label(const char* text) const { return item(Role::StaticText, QString::fromUtf8(text)); }
     QQuickItem& heading(const char* text) const { return item(Role::Heading, QString::fromUtf8(text)); }
-    /// The group under that title.
+    /// The group with this title.
     const QQuickItem& group(const char* title) const { return *heading(title).parentItem()->parentItem(); }
 };
 

@@ -15,14 +15,14 @@ class MonitorLayout : public MonitorsOnScreen {
 protected:
     QQuickItem& label(const char* text) const { return item(Role::StaticText, QString::fromUtf8(text)); }
     QQuickItem& button(const char* name) const { return item(Role::Button, QString::fromUtf8(name)); }
-    /// The first monitor's.
+    /// The row of the first monitor.
     QQuickItem& row() const { return item(Role::ListItem, QStringLiteral("Gateway")); }
     static QQuickItem& symbol(const QQuickItem& root, const char* name)
     {
         return *partOf(root, "name", QString::fromUtf8(name));
     }
 
-    /// Metrics are there, but closed, so that their badges show.
+    /// Loads metrics and closes them, so that their badges show.
     void showBadges()
     {
         openMetrics();

@@ -29,7 +29,7 @@ inline std::string monitor(const std::string& id, const std::string& name, const
 
 inline const std::string paused = R"(, "enabled": false)";
 
-/// The monitors of page "a", reached and worked with the keyboard alone.
+/// The monitors of page "a", opened and used with the keyboard only.
 class MonitorsOnScreen : public testing::Test, public Screen {
 protected:
     using Role = QAccessible::Role;

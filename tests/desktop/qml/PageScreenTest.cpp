@@ -11,7 +11,7 @@ namespace {
 
 using Role = QAccessible::Role;
 
-/// A page with all that a page can have, opened from its row with the keyboard.
+/// A page with everything that a page can have, opened from its row with the keyboard.
 class PageOnScreen : public testing::Test, public Screen {
 protected:
     PageOnScreen()

@@ -4,7 +4,7 @@
 
 namespace larkspan {
 
-/// What `work` takes of the processor, in seconds: other tests run beside the one that asks.
+/// The CPU time of `work` in seconds, which does not depend on other tests that run meanwhile.
 template <typename Work>
 double secondsOf(Work work)
 {

@@ -9,7 +9,7 @@ namespace larkspan {
 
 namespace {
 
-/// A list that is pulled down with the mouse or a finger, and let go.
+/// A list that is pulled down with the mouse or a finger, and released.
 class PulledList : public IncidentsOnScreen {
 protected:
     void pull(int distance)
@@ -24,7 +24,7 @@ protected:
         settle();
     }
 
-    /// Enters the list anew.
+    /// Opens the list again.
     void show(int status, const std::string& body)
     {
         press(Qt::Key_1, Qt::ControlModifier);

@@ -22,7 +22,7 @@ protected:
         transport.requests.clear();
     }
 
-    /// Clicks where the button stands, faster than anything can answer.
+    /// Clicks at the place of the button, faster than anything can answer.
     void click(const char* name)
     {
         auto& button = item(Role::Button, QString::fromLatin1(name));
@@ -31,7 +31,7 @@ protected:
         settle();
     }
 
-    /// How many buttons with this name there are.
+    /// The number of buttons with this name.
     int count(const char* name) const { return static_cast<int>(names(Role::Button).count(QString::fromLatin1(name))); }
 };
 

@@ -18,7 +18,7 @@ void collect(QAccessibleInterface* interface, std::vector<Screen::Thing>& things
     for (int child = 0; child < interface->childCount(); ++child) collect(interface->child(child), things);
 }
 
-/// What the key types.
+/// The text that the key types.
 QString textOf(Qt::Key key)
 {
     if (key == Qt::Key_Return || key == Qt::Key_Enter) return QStringLiteral("\r");

@@ -16,15 +16,15 @@
 
 namespace larkspan {
 
-/// The real window over a fake account, read and worked as a person with keyboard and screen reader would.
+/// The real window over a fake account, read and used as a person with keyboard and screen reader would.
 class Screen : public fakes::PolledAccount {
 public:
     Screen();
 
-    /// Lets both threads of the program and the window come to rest.
+    /// Runs until both threads of the program and the window are idle.
     void settle();
 
-    /// What a screen reader would find: each accessible thing that is not hidden, in reading order.
+    /// The objects that a screen reader finds: all accessible ones that are not hidden, in reading order.
     struct Thing {
         QAccessible::Role role;
         QString name;
@@ -35,22 +35,22 @@ public:
     QStringList names(QAccessible::Role role) const;
     bool shows(const QString& text) const;
 
-    /// The thing with that role and name; fails the test if there is none.
+    /// The item with that role and name; fails the test if there is none.
     QQuickItem& item(QAccessible::Role role, const QString& name) const;
 
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    /// Holds the key down so long that it is repeated five times.
+    /// Holds the key down until it has been repeated five times.
     void hold(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    /// One repeat of a key that was pressed before: as a keyboard does, it is let go and pressed again.
+    /// One repeat of a key that was pressed before: released and pressed again, as by a keyboard.
     void repeat(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
-    /// Every item of the window, popups included.
+    /// Calls `look` for every item of the window, including popups.
     void visit(const std::function<void(QQuickItem&)>& look) const;
 
     QQuickWindow& window() { return mainWindow.window(); }
     int requestCount() const { return static_cast<int>(transport.requests.size()); }
 
-    /// Who shows the about box in the program.
+    /// The owner of the about box in the program.
     struct AboutOwner : support::Observable {
         support::Published<bool> showingAbout{*this, false};
     };

@@ -157,7 +157,7 @@ TEST_F(TitleInOneLine, HasItsHeightWhateverTheTitle)
     }
 }
 
-/// Of a screen without a way back.
+/// The title of a screen without a way back.
 class TitleOfAScreen : public testing::Test, public KitWindow {
 protected:
     TitleOfAScreen()
@@ -189,7 +189,7 @@ protected:
         return found == all.end() ? nullptr : *found;
     }
 
-    /// The tool tip that is up.
+    /// The tool tip that is shown.
     QString tip() const
     {
         for (const auto* each : window().findChildren<QObject*>()) {
@@ -232,7 +232,7 @@ TEST_F(TitleOfAScreen, ThatStandsElsewhereTooGoesWhereThereIsNoRoom)
     EXPECT_TRUE(title()->isVisible());
 }
 
-/// A box and its neighbours; `typed` is what the box last said of its text.
+/// A box and its neighbours; `typed` is the text that the box reported last.
 class BoxOfText : public testing::Test, public KitWindow {
 protected:
     BoxOfText()

@@ -32,7 +32,7 @@ protected:
         open();
     }
 
-    /// Lets the window come to rest while the keyring has not answered yet.
+    /// Runs until the window is idle while the keyring has not answered yet.
     void settleWithoutTheClient()
     {
         for (int turn = 0; turn < 3; ++turn) {
@@ -59,7 +59,7 @@ protected:
         press(Qt::Key_Space);
     }
 
-    /// The service's answer to whoever asks about a key.
+    /// Sets the service's answer to questions about a key.
     void answerKey(int status) { transport.script(pagesURL, status, "[]"); }
 
     bool hasField() const { return names(Role::EditableText).contains(fieldName); }

@@ -77,7 +77,7 @@ TEST_F(SettingsOnScreen, TheAmpersandOfAButtonIsShownAndIsNoKey)
         if (item.inherits("QQuickText") && item.isVisible()) isShown |= item.property("text") == saveLabel;
     });
     EXPECT_TRUE(isShown);
-    // Qt gives a button its key when it comes in sight.
+    // Qt assigns a button its shortcut when it becomes visible.
     auto& save = button(saveLabel);
     save.setVisible(false);
     save.setVisible(true);

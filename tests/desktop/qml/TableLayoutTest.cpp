@@ -15,7 +15,7 @@ namespace {
 
 class TableLayout : public MessageOnScreen {
 protected:
-    /// The line of a table in which a text stands.
+    /// The line of a table that contains a text.
     static const QQuickItem& lineOf(const QQuickItem& text)
     {
         const auto* line = &text;
@@ -68,7 +68,7 @@ TEST_F(TableLayout, HasSixteenPointsBetweenColumnsAsWideAsTheirWidestText)
     EXPECT_EQ(frameOf(words("Region")).left(), frameOf(lineOf(words("Region"))).left());
 }
 
-/// The program with letters of another size, which the desktop chooses before it starts.
+/// The program with another font size, which the desktop sets before the program starts.
 class ChosenSize : public testing::WithParamInterface<double> {
 protected:
     ChosenSize()
@@ -168,7 +168,7 @@ TEST_F(TableLayout, HasTwoPointsAboveItAndBelow)
 
 class EndOfAMessage : public TableLayout {
 protected:
-    /// What is free between the last text and what stands below the message.
+    /// The space between the last text and the item below the message.
     double roomBelow(const char* message, const char* last)
     {
         open(message);

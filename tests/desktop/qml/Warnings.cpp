@@ -11,7 +11,7 @@ namespace larkspan {
 
 namespace {
 
-// Qt's threads complain, too.
+// Messages come from Qt's threads, too.
 std::mutex mutex;
 QStringList heard;
 QStringList expected;

@@ -6,13 +6,13 @@
 
 namespace larkspan {
 
-/// Whatever QML or Qt complains of while a test runs fails that test, unless it was expected.
+/// Fails a test if QML or Qt prints a warning while it runs, unless the warning was expected.
 class Warnings final : public testing::EmptyTestEventListener {
 public:
-    /// Listens from now on, for as long as the process lives; every message still goes to standard error.
+    /// Watches from now on until the process ends; every message is still printed on standard error.
     static void watch();
 
-    /// The test that runs makes Qt say something that holds these words, and fails if it does not.
+    /// Expects a message that contains these words; the running test fails if there is none.
     static void expect(const QString& words);
 
 private:

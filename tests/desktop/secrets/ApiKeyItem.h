@@ -7,7 +7,7 @@
 namespace larkspan::adapters {
 
 inline constexpr platform::CredentialItem apiKey{.service = "KestruneAPIKeyService", .account = "KestruneAPIKey"};
-/// The same as names and values in turn, as `secret-tool` takes them.
+/// The same as alternating names and values, as `secret-tool` takes them.
 inline const QStringList apiKeyAttributes{"service", "KestruneAPIKeyService", "account", "KestruneAPIKey"};
 
 }  // namespace larkspan::adapters

@@ -11,13 +11,13 @@
 namespace larkspan::adapters {
 namespace {
 
-/// Tells what the keyring is asked for, by whomever.
+/// Records all calls to the keyring, from any client.
 class KeyringCalls : public testing::Test {
 protected:
     KeyringCalls()
     {
         keyring_.store(apiKeyAttributes, "key-1");
-        // The monitor is at work once it has told of a call.
+        // The bus monitor is ready once it has reported a call.
         peers::turnUntil([this] {
             store_.find(apiKey);
             return !callsByNow().isEmpty();
@@ -87,7 +87,7 @@ TEST(KeyringThatWasOpenedBeforehand, IsAskedForNoFurtherSessionByTheFirstRead)
         {"--address", sessionBus().address(), "--profile", "type='method_call',member='OpenSession'"},
         QProcessEnvironment::systemEnvironment());
 
-    // The monitor is at work once it has told of another store's session.
+    // The bus monitor is ready once it has reported another store's session.
     EXPECT_TRUE(peers::turnUntil([&] {
         SecretServiceStore().open();
         return !monitor.heardByNow().filter("OpenSession").empty();

@@ -26,7 +26,7 @@ protected:
         keyring.lock();
     }
 
-    /// Looks for the key as the client does, on a thread of its own, while this one lives on.
+    /// Looks for the key as the client does, on another thread, while this one goes on.
     std::future<std::optional<std::string>> findElsewhere()
     {
         return std::async(std::launch::async, [this] { return store.find(apiKey); });
@@ -206,7 +206,7 @@ TEST_F(LockedKeyring, RemovingAsksEvenIfAPollsPromptWasDismissed)
     EXPECT_EQ(keyring.count("KestruneAPIKeyService"), 0);
 }
 
-/// The key is in a keyring that is not the default one and is locked, while the default one is unlocked.
+/// The key is in a locked keyring beside the default one, which is unlocked.
 class LockedKeyringBesideTheDefaultOne : public testing::Test {
 protected:
     LockedKeyringBesideTheDefaultOne() { keyring.storeInALockedKeyring(apiKeyAttributes, "key-1"); }

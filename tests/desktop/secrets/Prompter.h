@@ -8,7 +8,7 @@
 
 namespace larkspan::adapters {
 
-/// The desktop's password dialog, and the user before it. Says "prompt" when it opens and "closed" when it is gone.
+/// The desktop's password dialog and its user. Prints "prompt" when the dialog opens and "closed" when it has closed.
 class Prompter : public peers::Peer {
 public:
     explicit Prompter(const QStringList& answer)

@@ -34,7 +34,7 @@ TEST_F(SecretServiceStoreTest, AddsExactlyTheTwoAttributes)
     ASSERT_TRUE(store.add(apiKey, "key-1"));
 
     auto attributes = keyring.attributes("KestruneAPIKeyService");
-    // What the daemon itself says of an item without a schema, once it has read its file again.
+    // The daemon adds this to an item without a schema when it reads its file again.
     if (attributes.value("xdg:schema") == "org.freedesktop.Secret.Generic") attributes.remove("xdg:schema");
     EXPECT_EQ(attributes, (QVariantMap{{"service", "KestruneAPIKeyService"}, {"account", "KestruneAPIKey"}}));
 }

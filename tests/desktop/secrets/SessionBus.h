@@ -4,7 +4,7 @@
 
 namespace larkspan::adapters {
 
-/// The session bus of this process. GLib finds one and keeps it, so all tests of a process share it.
+/// The session bus of this process. GLib keeps the first bus that it finds, so all tests of a process share it.
 peers::PrivateBus& sessionBus();
 
 }  // namespace larkspan::adapters

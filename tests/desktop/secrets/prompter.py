@@ -1,10 +1,10 @@
 #!/usr/bin/python3
-"""Stands in for the desktop's password dialog, as gnome-keyring asks for it.
+"""A stand-in for the desktop's password dialog, as gnome-keyring asks for it.
 
 Usage: prompter.py answer PASSWORD | dismiss | wait
 
-Says "ready" when it is, and "prompt" for each dialog that a user would see. With "wait" the dialog stands until a
-line arrives on standard input: "dismiss", or "answer PASSWORD".
+Prints "ready" when it is, and "prompt" for each dialog that a user would see. With "wait" the dialog stays open
+until a line arrives on standard input: "dismiss", or "answer PASSWORD".
 """
 
 import ctypes
@@ -18,7 +18,7 @@ from gi.repository import GLib
 PROMPTER = "org.gnome.keyring.internal.Prompter"
 CALLBACK = PROMPTER + ".Callback"
 
-# The password crosses the bus encrypted; the library that the real dialog uses does that.
+# The password is sent over the bus encrypted, by the library that the real dialog uses.
 gcr = ctypes.CDLL("libgcr-base-3.so.1")
 gcr.gcr_secret_exchange_new.restype = ctypes.c_void_p
 gcr.gcr_secret_exchange_new.argtypes = [ctypes.c_char_p]

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
-"""A Secret Service that never answers one of its methods, named in the first argument; "hello" for all of them.
+"""A Secret Service that never answers the method named in the first argument; "hello" for all methods.
 
-Says "ready" when it is, and each call that it swallows.
+Prints "ready" when it is, and each call that it does not answer.
 """
 
 import sys

@@ -9,7 +9,7 @@
 namespace larkspan::adapters {
 namespace {
 
-/// Any program of the session may call the item.
+/// Calls to the item by any program of the session.
 class HostileBusTest : public TrayTest {
 protected:
     HostileBusTest()

@@ -12,7 +12,7 @@ namespace larkspan::adapters {
 
 class MenuTest : public TrayTest {
 protected:
-    /// A panel that shows these rows.
+    /// A panel with these rows.
     std::unique_ptr<peers::TrayHost> panelWith(const std::vector<platform::MenuRow>& rows)
     {
         item.setMenu(rows);

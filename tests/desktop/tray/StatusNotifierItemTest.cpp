@@ -19,7 +19,7 @@ class StatusNotifierItemTest : public TrayTest {
 protected:
     StatusNotifierItemTest()
     {
-        // Whatever is installed on this machine.
+        // Hides what is installed on this machine.
         qputenv("XDG_DATA_HOME", "/nowhere");
         qputenv("XDG_DATA_DIRS", "/nowhere");
     }
@@ -115,7 +115,7 @@ TEST_F(StatusNotifierItemTest, EachStatusHasAShapeOfItsOwn)
 TEST_F(StatusNotifierItemTest, ThePaintedIconFollowsTheDesktopsColours)
 {
     const auto host = panelWith("checkmark.circle.fill");
-    // Its left edge is inside the disk, its centre in the mark.
+    // The left edge of the icon is in the disk, its centre in the mark.
     const auto color = [&] {
         const auto pixmaps = host->item().value("IconPixmap").toArray();
         return image(pixmaps.at(5)).pixelColor(6, 32);
@@ -151,7 +151,7 @@ TEST_F(StatusNotifierItemTest, SaysWhatItIs)
     EXPECT_EQ(properties.value("ItemIsMenu"), true);
     EXPECT_EQ(properties.value("Menu"), "/MenuBar");
     EXPECT_EQ(properties.value("IconAccessibleDesc"), "In words");
-    // The second text of a tool tip is markup to hosts, so ours is the first.
+    // Hosts read the second text of a tool tip as markup, so the program sets the first.
     EXPECT_EQ(properties.value("ToolTip"), QJsonArray({"", QJsonArray(), "Kestrune: fine", ""}));
 }
 

@@ -42,7 +42,7 @@ inline platform::MenuRow page(std::string id, std::string name)
         .toolTip = "Operational"};
 }
 
-/// A menu with these pages, as the program builds it.
+/// The menu that the program builds for these pages.
 inline std::vector<platform::MenuRow> menuOf(const std::vector<platform::MenuRow>& pages)
 {
     using Action = platform::MenuRow::Action;
@@ -56,7 +56,7 @@ inline std::vector<platform::MenuRow> menuOf(const std::vector<platform::MenuRow
     return rows;
 }
 
-/// An item on a bus of its own, without a panel at first.
+/// An item on a private bus, without a panel at first.
 class TrayTest : public testing::Test {
 protected:
     void show()
@@ -64,7 +64,7 @@ protected:
         item.show([this](const platform::MenuRow& row) { performed.push_back(row); });
     }
 
-    /// A panel that has the item, and has heard nothing of it yet.
+    /// A panel that has the item and has received no signal of it yet.
     std::unique_ptr<peers::TrayHost> panel()
     {
         auto host = std::make_unique<peers::TrayHost>(bus);

@@ -33,7 +33,7 @@ using namespace std::chrono_literals;
 
 constexpr auto installed = R"("Resolve": [["Package", 1, "larkspan;1.0.0-1;amd64;installed", ""], ["Finished", 1, 5]])";
 
-/// PackageKit with a play to act (see package_kit.py).
+/// PackageKit with a script (see package_kit.py).
 class PackageKit : public peers::Peer {
 public:
     PackageKit(const peers::PrivateBus& bus, const std::string& play)
@@ -69,7 +69,7 @@ protected:
         check(updater);
         EXPECT_TRUE(answers.empty());
         turnUntil([&] { return !answers.empty(); });
-        // Whatever else it has to say.
+        // Time for any further output.
         turnFor(50ms);
         EXPECT_EQ(answers.size(), 1U);
         return answers.empty() ? UpdateCheck{} : answers.front();

@@ -1,9 +1,9 @@
 #!/usr/bin/python3
-"""PackageKit with a play to act: the argument is JSON, for each method of a transaction a list of steps.
+"""A fake PackageKit that follows a script: its argument is JSON, a list of steps for each method of a transaction.
 
-A step is a signal with its arguments (["Package", 1, "larkspan;1.0;amd64;installed", ""]), ["fail", NAME] for an error
-as the method's answer, or ["die"]. A method without a list finishes with success and nothing found; an empty list hangs.
-Says "ready" when it is, and then each method that is called with its arguments as JSON.
+A step is a signal with its arguments (["Package", 1, "larkspan;1.0;amd64;installed", ""]), ["fail", NAME] for an
+error as the method's answer, or ["die"]. A method without a list finishes successfully with no result; an empty
+list hangs. Prints "ready" when it is, and then each method call with its arguments as JSON.
 """
 
 import json

@@ -7,7 +7,7 @@
 int main(int argc, char** argv)
 {
     testing::InitGoogleTest(&argc, argv);
-    // The build asks for the names on machines without the peers of the tests.
+    // The build lists the tests on machines without the tests' peers, too.
     if (testing::GTEST_FLAG(list_tests)) return RUN_ALL_TESTS();
     const larkspan::peers::VirtualDisplay display;
     const QGuiApplication application(argc, argv);

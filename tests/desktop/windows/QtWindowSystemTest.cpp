@@ -264,7 +264,7 @@ TEST_F(WindowWithoutAWindowManager, EndOfTheSessionIsNotHeldUpByAWindowThatMinim
 {
     adopted->setDelegate(delegate);
     QTimer::singleShot(0, [] {
-        // What the platform's session client sends when the session manager says "die".
+        // The event that Qt sends when the session manager ends the program.
         QEvent quit(QEvent::Quit);
         QCoreApplication::sendEvent(qApp, &quit);
         EXPECT_TRUE(quit.isAccepted());
@@ -305,7 +305,7 @@ TEST(QtWindowSystem, ListsItsWindowsInTheOrderOfTheirMakingWhileTheyExist)
     second.reset();
 
     EXPECT_EQ(system.windows(), (std::vector{windows[0], windows[2]}));
-    // Whoever still holds a lost window may call it.
+    // A holder of a lost window may still call it.
     windows[1]->miniaturize();
     windows[1]->deminiaturize();
     windows[1]->makeKeyAndOrderFront();

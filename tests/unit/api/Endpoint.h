@@ -42,7 +42,7 @@ std::string resultOf(fakes::ScriptedService& service, support::Task<T> task)
     }
 }
 
-/// One call of an operation, the answer that it gets, the request that it makes and what `resultOf` it is.
+/// A call of an operation, the answer to it, the request that it sends and the `resultOf` it.
 struct EndpointRow {
     std::string name;
     std::function<std::string(fakes::ScriptedService&)> call;

@@ -34,7 +34,7 @@ ComponentGroup group(const std::string& id)
     return made;
 }
 
-/// The titles; a heading's stands in brackets.
+/// The titles; those of headings in brackets.
 Words shown(const std::vector<ComponentRow>& rows)
 {
     Words words;

@@ -26,7 +26,7 @@ inline std::string groupRecord(const std::string& id)
     return R"({"id": ")" + id + R"(", "name": "Group )" + id + R"("})";
 }
 
-/// A service whose page "p" has the components and the groups that the test says.
+/// A service whose page "p" has the test's components and groups.
 class ComponentsOfAPage : public fakes::ScriptedService {
 public:
     static constexpr auto listURL = "https://service.example/user/api/components?status_page_id=p";

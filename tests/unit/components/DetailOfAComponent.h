@@ -12,12 +12,12 @@
 
 namespace larkspan::components {
 
-/// A component "7" on the screen, and the effects that its owner hears of.
+/// A component "7" on the screen, and the effects that are reported to its owner.
 class DetailOfAComponent : public testing::Test, public ComponentsOfAPage {
 protected:
     DetailOfAComponent() { serveGroups({groupRecord("a"), groupRecord("b")}); }
 
-    /// With the groups, where the service gives them; the requests for them are forgotten.
+    /// With the groups, if the service returns them; the requests for them are forgotten.
     std::shared_ptr<ComponentDetailView> opened(const std::string& rest = "")
     {
         ComponentDetailView::Owner owner{

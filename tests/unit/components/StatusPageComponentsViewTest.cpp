@@ -38,7 +38,7 @@ protected:
         transport.requests.clear();
     }
 
-    /// The titles; a heading's stands in brackets.
+    /// The titles; those of headings in brackets.
     Words shown() const
     {
         Words words;
@@ -179,7 +179,7 @@ protected:
         open("1");
     }
 
-    /// Answers the edit that waits.
+    /// Answers the edit under way.
     void answer(const std::string& record)
     {
         transport.answer(HttpResponse{200, record});

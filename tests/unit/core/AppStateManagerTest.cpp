@@ -42,7 +42,7 @@ TEST_F(Refresh, ConstructionAsksForAuthorizationOnceWatchesTheNetworkAndFetchesN
     EXPECT_TRUE(transport.requests.empty());
 }
 
-/// Notifications and the network, which write down in which order they are turned to.
+/// Notifications and the network, which record the order of calls.
 class Outside final : public platform::NotificationCenter, public platform::NetworkPathMonitor {
 public:
     void requestAuthorization() override { order.emplace_back("authorization"); }

@@ -18,7 +18,7 @@ class ChangesOfTheAccount : public testing::Test, public PolledAccount {
 protected:
     ChangesOfTheAccount() { servePages({"p"}, {{"p", "operational"}}); }
 
-    /// One cycle over these records; gives the identifiers of the notices it raised, sorted.
+    /// Runs one cycle over these records; returns the identifiers of the notices that it raised, sorted.
     std::vector<std::string> cycle(
         const std::vector<std::string>& incidents, const std::vector<std::string>& maintenances = {})
     {

@@ -46,7 +46,7 @@ Maintenance maintenanceWith(const std::string& status)
     return maintenance;
 }
 
-/// The members of `all` that the bits of `subset` name.
+/// The members of `all` that the bits of `subset` select.
 template <typename All>
 auto chosen(const All& all, unsigned subset)
 {
@@ -65,7 +65,7 @@ auto recordsOf(const Statuses& statuses, Make make)
     return records;
 }
 
-/// The decision table, in its order: the first rule whose facts hold gives the result.
+/// The decision table in its order: the first rule that applies gives the result.
 OverallStatus expected(const std::vector<StatusPageStatus>& pages, const std::vector<IncidentStatus>& incidents,
     const std::vector<std::string>& maintenances, bool hasError)
 {

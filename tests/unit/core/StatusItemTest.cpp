@@ -24,7 +24,7 @@ protected:
         state->setupStatusItem(rules);
     }
 
-    /// The user picks the row with this title.
+    /// Chooses the row with this title, as the user.
     void choose(const std::string& title)
     {
         const auto row = std::ranges::find(statusItem.rows, title, &MenuRow::title);
@@ -57,7 +57,7 @@ TEST_F(StatusItemOfTheAccount, SetUpShowsAFirstMenuAtOnce)
             "Check for Updates\u2026", "-", "Quit"}));
 }
 
-/// A place for the rows where nothing shows the button: no panel, but the window's menu.
+/// A place for the rows without a button: the window's menu, where there is no panel.
 class ItemWithoutAButton final : public platform::StatusItem {
 public:
     bool isShown() const override { return false; }

@@ -64,7 +64,7 @@ protected:
             .now = now};
     }
 
-    /// Between the separator below the pages and the commands.
+    /// The titles between the separator below the pages and the commands.
     std::vector<std::string> incidentTitles() const
     {
         std::vector<std::string> titles;

@@ -6,7 +6,7 @@
 
 namespace larkspan::fakes {
 
-/// Berlin around the day on which its clocks are put forward, from 02:00 to 03:00.
+/// Berlin around the day on which its clocks are put forward from 02:00 to 03:00.
 inline FakeLocaleText berlinInSpring()
 {
     using namespace std::chrono_literals;
@@ -19,7 +19,7 @@ inline FakeLocaleText berlinInSpring()
     return locale;
 }
 
-/// Berlin around the day on which its clocks are put back, from 03:00 to 02:00.
+/// Berlin around the day on which its clocks are put back from 03:00 to 02:00.
 inline FakeLocaleText berlinInAutumn()
 {
     using namespace std::chrono_literals;

@@ -9,7 +9,7 @@
 
 namespace larkspan::fakes {
 
-/// A store in memory that counts what it is asked and can refuse to add.
+/// A store in memory that counts its calls and can refuse to add.
 class FakeCredentialStore final : public platform::CredentialStore {
 public:
     using Attributes = std::pair<std::string, std::string>;

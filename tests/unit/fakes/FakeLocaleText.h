@@ -11,9 +11,9 @@
 
 namespace larkspan::fakes {
 
-/// The locale of the unit tests, the same on every machine: "2026-11-20", "09:30" and "11-20 09:30", weeks from Monday
-/// on, plain Latin letters in order, and a time zone that is `offset` ahead of UTC, from `change` on
-/// `offsetAfterChange`.
+/// The locale of the unit tests, the same on every machine: "2026-11-20", "09:30" and "11-20 09:30", weeks that start
+/// on Monday, plain Latin letters in order, and a time zone that is `offset` ahead of UTC, and `offsetAfterChange` from
+/// `change` on.
 class FakeLocaleText final : public platform::LocaleText {
 public:
     std::string dateOnly(support::Time moment) const override { return written(moment).substr(0, 10); }

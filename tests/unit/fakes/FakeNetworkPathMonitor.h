@@ -7,7 +7,7 @@
 
 namespace larkspan::fakes {
 
-/// A network that the test connects and cuts.
+/// A network that the test connects and disconnects.
 class FakeNetworkPathMonitor final : public platform::NetworkPathMonitor {
 public:
     void start(std::function<void(bool isSatisfied)> handler) override { update = std::move(handler); }

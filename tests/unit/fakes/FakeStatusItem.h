@@ -9,7 +9,7 @@
 
 namespace larkspan::fakes {
 
-/// An item that keeps what it was last given and how often.
+/// An item that records what it was given last and how often.
 class FakeStatusItem final : public platform::StatusItem {
 public:
     bool isShown() const override { return hasPanel; }
@@ -29,7 +29,7 @@ public:
         return found;
     }
 
-    /// The panel comes or goes.
+    /// Adds or removes the panel.
     void setPanel(bool isThere)
     {
         hasPanel = isThere;

@@ -12,7 +12,7 @@
 
 namespace larkspan::fakes {
 
-/// A transport that keeps what was sent and answers as the test says: from a script by URL, or by hand.
+/// A transport that records requests and answers them as the test says: from a script by URL, or by hand.
 class FakeTransport final : public platform::HttpTransport {
 public:
     struct Pending {
@@ -38,17 +38,17 @@ public:
         executor_.post([result = scripted->second, complete = std::move(complete)]() mutable { complete(result); });
     }
 
-    /// From now on each request for `url` is answered with `result`; without a script it waits for `answer`.
+    /// Answers each later request for `url` with `result`; without a script, requests wait for `answer`.
     void script(const std::string& url, Result result) { answers_.insert_or_assign(url, std::move(result)); }
     void script(const std::string& url, int status, std::string body)
     {
         script(url, platform::HttpResponse{.status = status, .body = std::move(body)});
     }
 
-    /// From now on requests for `url` wait again.
+    /// Makes later requests for `url` wait again.
     void forget(const std::string& url) { answers_.erase(url); }
 
-    /// Answers the oldest waiting request.
+    /// Completes the oldest waiting request.
     void answer(Result result)
     {
         if (pending.empty()) throw std::logic_error("no request is waiting");

@@ -9,7 +9,7 @@
 
 namespace larkspan::fakes {
 
-/// A window that writes down what is asked of it.
+/// A window that records calls.
 class FakeWindow final : public platform::Window {
 public:
     bool isVisible() const override { return visible; }

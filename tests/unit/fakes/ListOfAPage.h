@@ -13,7 +13,7 @@
 
 namespace larkspan::fakes {
 
-/// The screen of a list of page "p", before a service that lists at `listURL` what the test says.
+/// The screen of a list of page "p", with a service whose list at `listURL` is the test's.
 template <typename Screen>
 class ListOfAPage : public testing::Test, public PageComponents {
 protected:
@@ -49,7 +49,7 @@ protected:
     std::shared_ptr<Screen> view;
 };
 
-/// Of the lists that a test holds to one sentence.
+/// The name of a list in the tests that apply to all lists.
 struct NameOfAList {
     template <typename List>
     static std::string GetName(int /*place*/)

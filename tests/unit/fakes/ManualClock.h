@@ -4,7 +4,7 @@
 
 namespace larkspan::fakes {
 
-/// A clock that stands until the test moves it.
+/// A clock that only the test moves.
 class ManualClock final : public platform::Clock {
 public:
     support::Time now() const override { return time; }

@@ -9,7 +9,7 @@
 
 namespace larkspan::fakes {
 
-/// An executor turned by the test's hand.
+/// An executor that runs work only when the test says so.
 class ManualExecutor final : public platform::Executor {
 public:
     ~ManualExecutor() override { drop(); }
@@ -20,7 +20,7 @@ public:
         queue_.push_back(std::move(work));
     }
 
-    /// Runs the oldest piece of work; false if there was none.
+    /// Runs the oldest piece of work; returns false if there was none.
     bool runOne()
     {
         auto work = next();
@@ -29,7 +29,7 @@ public:
         return true;
     }
 
-    /// Runs until nothing is left, and counts the pieces.
+    /// Runs work until nothing is left; returns the number of pieces.
     int run()
     {
         int count = 0;
@@ -37,7 +37,7 @@ public:
         return count;
     }
 
-    /// Destroys what is queued without running it, and what that queues in turn.
+    /// Destroys the queued work without running it, and the work which that queues in turn.
     void drop()
     {
         while (next()) {}

@@ -11,7 +11,7 @@
 
 namespace larkspan::fakes {
 
-/// Timers that fire as the test lets time pass.
+/// Timers that fire as the test advances the time.
 class ManualTimers final : public platform::Timers {
 public:
     std::unique_ptr<platform::Timer> every(std::chrono::milliseconds period, std::function<void()> fire) override
@@ -21,7 +21,7 @@ public:
         return std::make_unique<RunningTimer>(std::move(state));
     }
 
-    /// Lets `span` pass, firing what falls due in its order.
+    /// Advances the time by `span` and fires the due timers in order.
     void advance(std::chrono::milliseconds span)
     {
         const auto end = now_ + span;

@@ -15,7 +15,7 @@
 
 namespace larkspan::fakes {
 
-/// The screen of one record, in front of a service, and what its owner hears of it.
+/// The screen of one record with its service, and the calls to its owner.
 template <typename Detail>
 class OpenedDetail : public testing::Test, public ScriptedService {
 protected:

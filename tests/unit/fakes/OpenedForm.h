@@ -12,13 +12,13 @@
 
 namespace larkspan::fakes {
 
-/// The form of a new event on the page "p", and what its owner hears of it.
+/// The form of a new event on the page "p", and the calls to its owner.
 template <typename Form>
 class OpenedForm : public testing::Test, public PageComponents {
 protected:
     using Words = std::vector<std::string>;
 
-    /// `answer` is what the service sends back from `eventsURL`.
+    /// `answer` is the service's answer from `eventsURL`.
     OpenedForm(std::string eventsURL, std::string answer)
         : created(std::move(answer))
         , eventsURL_(std::move(eventsURL))
@@ -27,7 +27,7 @@ protected:
 
     virtual std::shared_ptr<Form> made() = 0;
 
-    /// With the components there to choose from.
+    /// The opened form, with the components loaded.
     std::shared_ptr<Form> opened()
     {
         form = made();
@@ -56,7 +56,7 @@ protected:
         effects.push_back(effect + (form && *form->action->isInProgress ? " while busy" : ""));
     }
 
-    /// The body of the request after "Save" was pressed.
+    /// Presses "Save" and returns the body of the request.
     std::string saved()
     {
         transport.script(eventsURL_, 200, created);

@@ -22,7 +22,7 @@ namespace larkspan::fakes {
 struct PolledAccount : ScriptedService {
     using Codes = std::vector<std::pair<std::string, std::string>>;
 
-    /// An account without incidents and maintenances, until the test says otherwise.
+    /// An account without incidents and maintenances, until the test adds some.
     PolledAccount()
     {
         serveIncidents({});
@@ -35,7 +35,7 @@ struct PolledAccount : ScriptedService {
             + "}";
     }
 
-    /// One without dates has the status that `rest` gives.
+    /// A maintenance without dates has the status in `rest`.
     static std::string maintenance(const std::string& id, const std::string& title, const std::string& rest = "")
     {
         return R"({"id": ")" + id + R"(", "title": ")" + title + R"(")" + rest + "}";
@@ -48,7 +48,7 @@ struct PolledAccount : ScriptedService {
 
     std::shared_ptr<core::AppStateManager> remade() { return core::AppStateManager::make(ports()); }
 
-    /// Runs one cycle as far as it gets.
+    /// Runs one cycle as far as possible.
     void refresh()
     {
         state->refreshNow();
@@ -66,7 +66,7 @@ struct PolledAccount : ScriptedService {
         return R"({"status_pages": [)" + entries + "]}";
     }
 
-    /// From now on the service has these pages, named after their ids, and this overview.
+    /// Gives the service these pages, named after their ids, and this overview.
     void servePages(const std::vector<std::string>& ids, const Codes& codes)
     {
         std::string pages;
@@ -77,13 +77,13 @@ struct PolledAccount : ScriptedService {
         transport.script(overviewURL, 200, overview(codes));
     }
 
-    /// From now on the service has the incidents in this list of JSON objects.
+    /// Gives the service these incidents, a list of JSON objects.
     void serveIncidents(const std::vector<std::string>& incidents)
     {
         transport.script(incidentsURL, 200, list(incidents));
     }
 
-    /// The same for maintenances.
+    /// Gives the service these maintenances, a list of JSON objects.
     void serveMaintenances(const std::vector<std::string>& maintenances)
     {
         transport.script(maintenancesURL, 200, list(maintenances));

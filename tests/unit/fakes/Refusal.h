@@ -7,7 +7,7 @@
 
 namespace larkspan::fakes {
 
-/// A way in which the service fails a request, and the words that the user sees.
+/// A way in which a request fails, and the words that the user sees.
 struct Refusal {
     platform::HttpTransport::Result answer;
     std::string alert;

@@ -10,7 +10,7 @@
 
 namespace larkspan::fakes {
 
-/// Takes the place of any field when fields are counted.
+/// Converts to any field, to count fields.
 struct AnyField {
     template <typename T>
     operator T() const;
@@ -75,7 +75,7 @@ auto fieldsOf(const T& row)
 template <typename T>
 concept Row = std::is_aggregate_v<T> && std::is_class_v<T>;
 
-/// A row as a failed test shows it: each field as itself, which else would be so many bytes.
+/// Prints a row in a failed test field by field, instead of as bytes.
 template <Row T>
 void PrintTo(const T& row, std::ostream* out)
 {
@@ -94,7 +94,7 @@ void PrintTo(const T& row, std::ostream* out)
 
 }  // namespace larkspan::fakes
 
-// A printer is found where the row itself is declared.
+// Printers are found in the namespace of the row.
 
 namespace larkspan::presentation {
 using fakes::PrintTo;

@@ -23,7 +23,7 @@ class KestruneAPI;
 
 namespace larkspan::fakes {
 
-/// A client on a fake service, with a key stored, and both threads of the program in the test's hand.
+/// A client of a fake service, with a stored key, and both threads of the program under the test's control.
 struct ScriptedService {
     static constexpr auto host = "service.example";
     static constexpr auto pagesURL = "https://service.example/user/api/v1/status-pages";
@@ -36,7 +36,7 @@ struct ScriptedService {
     ScriptedService& operator=(const ScriptedService&) = delete;
     ~ScriptedService();
 
-    /// Turns both executors until neither has work left.
+    /// Runs both executors until neither has work left.
     void run()
     {
         while (main.run() + client.run() > 0) {}
@@ -45,7 +45,7 @@ struct ScriptedService {
     /// "METHOD path" of each request.
     std::vector<std::string> sent() const;
 
-    /// The result of `task`, or its exception; fails loudly if it did not end.
+    /// Runs `task` and returns its result or rethrows its exception; throws if it does not end.
     template <typename T>
     T result(support::Task<T> task)
     {
@@ -56,7 +56,7 @@ struct ScriptedService {
         return outcome.take();
     }
 
-    /// The words of the failure that `task` ends with.
+    /// Runs `task` and returns the words of its failure.
     template <typename T>
     std::string failure(support::Task<T> task)
     {
@@ -74,7 +74,7 @@ struct ScriptedService {
     FakeCredentialStore credentials;
     ManualClock clock;
 
-    /// Behind a pointer, so that a test which calls none of its operations need not know them.
+    /// Behind a pointer, so that tests that call none of its operations need not include them.
     const std::unique_ptr<api::KestruneAPI> ownAPI;
     api::KestruneAPI& api;
 

@@ -11,7 +11,7 @@
 
 namespace larkspan::fakes {
 
-/// A thread with a queue, for what must be shown across real threads.
+/// A thread with a queue, for tests that need real threads.
 class ThreadExecutor final : public platform::Executor {
 public:
     ThreadExecutor()
@@ -38,7 +38,7 @@ public:
         changed_.notify_all();
     }
 
-    /// Blocks the caller until `done`, asked on this thread, is true.
+    /// Blocks the caller until `done`, called on this thread, returns true.
     void waitUntil(std::function<bool()> done)
     {
         std::mutex mutex;

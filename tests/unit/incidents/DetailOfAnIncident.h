@@ -24,7 +24,7 @@ inline std::string record(const std::string& rest = "")
 inline const std::string acknowledged = R"(, "acknowledged_at": "x")";
 inline const std::string resolved = R"(, "incident_state_id": "4", "ended_at": "2026-11-20T08:30:00Z")";
 
-/// An incident "7" on the screen, whose owner hands back what it is told.
+/// An incident "7" on the screen, whose owner passes its changes back.
 class DetailOfAnIncident : public fakes::OpenedDetail<IncidentDetailView> {
 protected:
     using Action = IncidentDetailView::DetailAction;

@@ -20,7 +20,7 @@ inline std::string record(const std::string& rest = "")
     return R"({"id": "7", "title": "Upgrade", "status_page_id": "p")" + rest + "}";
 }
 
-// It is nine in the morning.
+// The time is nine in the morning.
 inline const std::string isScheduled = R"(, "start_at": "2026-11-20T10:00:00Z", "end_at": "2026-11-20T12:00:00Z")";
 inline const std::string isInProgress = R"(, "start_at": "2026-11-20T08:00:00Z", "end_at": "2026-11-20T12:00:00Z")";
 inline const std::string isCompleted = R"(, "start_at": "2026-11-20T07:00:00Z", "end_at": "2026-11-20T08:30:00Z")";
@@ -48,7 +48,7 @@ protected:
 
     void answer(const std::string& rest) { transport.script(recordURL, 200, record(rest)); }
 
-    /// With their bodies.
+    /// The requests with their bodies.
     Words sent() const
     {
         Words lines = ScriptedService::sent();

@@ -17,7 +17,7 @@ namespace {
 using fakes::ManualExecutor;
 using fakes::ThreadExecutor;
 
-/// Neither default-made nor copied, as results may be.
+/// Cannot be default-constructed or copied, like some results.
 struct Parcel {
     explicit Parcel(int number)
         : content(std::make_unique<int>(number))

@@ -14,7 +14,7 @@ TEST(EqualsIgnoringCase, LooksPastTheCaseOfLettersAndNothingElse)
     EXPECT_FALSE(equalsIgnoringCase("resolve", "resolved"));
     EXPECT_FALSE(equalsIgnoringCase("resolved ", "resolved"));
     EXPECT_FALSE(equalsIgnoringCase("in-progress", "in_progress"));
-    // Differ from their neighbours by the bit that parts the cases of letters.
+    // These differ by the bit that distinguishes the cases of letters.
     EXPECT_FALSE(equalsIgnoringCase("@[", "`{"));
     EXPECT_FALSE(equalsIgnoringCase("re\u017folved", "resolved"));
 }

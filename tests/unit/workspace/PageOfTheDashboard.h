@@ -37,7 +37,7 @@ protected:
         return form;
     }
 
-    /// One cycle after which the account has only these pages.
+    /// Runs one cycle, after which the account has only these pages.
     void cycleWith(const std::vector<std::string>& pages)
     {
         servePages(pages, {});

@@ -34,7 +34,8 @@ protected:
         return opened();
     }
 
-    /// Opened with no key stored, `text` entered and "Save & Verify" pressed, as far as that gets.
+    /// The settings without a stored key, after `text` was entered and "Save & Verify" was pressed, as far as that
+    /// runs.
     std::shared_ptr<Settings> enteredWithoutKey(std::string text)
     {
         auto settings = openedWithoutKey();

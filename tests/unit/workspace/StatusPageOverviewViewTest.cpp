@@ -55,7 +55,7 @@ protected:
         state->maintenances = std::move(maintenances);
     }
 
-    /// The titles of what goes on.
+    /// The titles of the current events.
     std::vector<std::string> activity() const
     {
         std::vector<std::string> titles;

@@ -16,7 +16,7 @@ namespace {
 
 using namespace std::string_literals;
 
-/// A source of about `size` bytes: one text over and over, then another.
+/// A source of about `size` bytes: one text repeated, then another.
 struct Hostile {
     std::string first;
     std::string second = {};
@@ -46,8 +46,8 @@ std::clock_t processorTime(const std::string& source)
 
 class HostileMarkdown : public testing::TestWithParam<Hostile> {};
 
-/// Eight times the text costs eight times the work, and 64 times if each character looks at all others; a hundredth of
-/// a second is neither. A machine that is busy otherwise gets more than one try.
+/// Eight times the text takes eight times the work in linear time, and 64 times in quadratic time; less than a
+/// hundredth of a second passes in any case. A busy machine gets more than one try.
 TEST_P(HostileMarkdown, TakesLinearTime)
 {
     const auto small = GetParam().source(8'000);

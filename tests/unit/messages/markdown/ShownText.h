@@ -11,11 +11,11 @@
 
 namespace larkspan::incidents {
 
-/// Reads styled text as a screen would, as a check of it.
+/// Reads styled text as it would be shown, to check it.
 class ShownText {
 public:
-    /// What is to be seen: blanks are spaces and breaks line feeds. Absent if there is any markup but the writer's own,
-    /// if its tags do not nest, or if a link has no destination.
+    /// The visible text: blanks are spaces and breaks are line feeds. Empty if there is markup other than the writer's
+    /// own, if tags do not nest, or if a link has no destination.
     static std::optional<std::string> of(const MarkdownText& text)
     {
         ShownText shown(text);
@@ -26,7 +26,7 @@ public:
         return shown.seen_;
     }
 
-    /// What is to be seen of a plain text, by the same measure.
+    /// The visible text of a plain text, in the same form.
     static std::string ofPlain(std::string_view plain)
     {
         std::string seen;
@@ -52,7 +52,8 @@ private:
     {
     }
 
-    /// What a link may not hold, what isolates it, and what the writer puts in for a break.
+    /// The characters that a link may not contain, those that isolate it, and the one that the writer inserts for a
+    /// break.
     static bool isInvisible(char32_t code)
     {
         return code == U'\u200B' || (code >= U'\u202A' && code <= U'\u202E')

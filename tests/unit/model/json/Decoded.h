@@ -20,21 +20,21 @@ T decoded(std::string_view body, support::Time now = fakes::ManualClock().time)
     return JSONDecoder(clock).decodeResult<T>(std::string(body));
 }
 
-/// The list in `body` in one of the three shapes of a list with an envelope of its own.
+/// The list in `body` in one of the three shapes of a list with its own envelope.
 template <typename Envelope>
 typename Envelope::List decodedList(std::string_view body)
 {
     return JSONDecoder(fakes::ManualClock()).decodeList<Envelope>(std::string(body));
 }
 
-/// The result that `body` is as a whole.
+/// The result in `body` as a whole.
 template <typename T>
 T decodedBare(std::string_view body)
 {
     return JSONDecoder(fakes::ManualClock()).decodeBare<T>(std::string(body));
 }
 
-/// What a failed decoding says.
+/// The error of a failed decoding.
 struct DecodingFailure {
     DecodingError::Kind kind;
     std::string path;
@@ -48,7 +48,7 @@ inline void PrintTo(const DecodingFailure& failure, std::ostream* out)
     *out << "kind " << static_cast<int>(failure.kind) << " at '" << failure.path << "': " << failure.description;
 }
 
-/// How `decode` fails to read `body`; the test fails if it reads it after all.
+/// The error of `decode` for `body`; the test fails if there is none.
 template <typename Decode>
 DecodingFailure failureOfDecoding(Decode decode, std::string_view body)
 {
@@ -61,21 +61,21 @@ DecodingFailure failureOfDecoding(Decode decode, std::string_view body)
     return {};
 }
 
-/// How `body` fails to be a `T`, in either result shape.
+/// The error when `body` is read as a `T`, in either result shape.
 template <typename T>
 DecodingFailure failureOf(std::string_view body)
 {
     return failureOfDecoding([](std::string_view text) { decoded<T>(text); }, body);
 }
 
-/// How `body` fails to be a list in any of its three shapes.
+/// The error when `body` is read as a list in any of its three shapes.
 template <typename Envelope>
 DecodingFailure failureOfList(std::string_view body)
 {
     return failureOfDecoding(decodedList<Envelope>, body);
 }
 
-/// How `body` fails to be a `T` as a whole.
+/// The error when `body` as a whole is read as a `T`.
 template <typename T>
 DecodingFailure failureOfBare(std::string_view body)
 {

@@ -130,7 +130,7 @@ TEST_P(NumberOutOfRange, IsNoList)
 
 TEST_P(NumberOutOfRange, InATextIsText)
 {
-    // Behind an escaped backslash and an escaped quote.
+    // After an escaped backslash and an escaped quote.
     const auto body = R"([{"id":"p1","more":)" + number + R"(,"name":"\\\" )" + number + R"( \\"}])";
     const bool isKept = decoded<Pages>(body).at(0).name == "\\\" " + number + " \\";
     EXPECT_TRUE(isKept);

@@ -10,7 +10,7 @@ namespace {
 
 using Components = std::vector<Component>;
 
-/// A list of one component that has the required keys and `more`.
+/// A list of one component with the required keys and `more`.
 std::string componentWith(const std::string& more)
 {
     return R"([{"id":"c1","name":"API")" + (more.empty() ? more : ',' + more) + "}]";

@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 
 const support::Time halfPastNine = std::chrono::sys_days{2026y / 3 / 1} + 9h + 30min;
 
-/// An incident that has the required keys and `more`.
+/// An incident with the required keys and `more`.
 std::string incidentWith(const std::string& more)
 {
     return R"({"id":"i1","title":"Slow","created_at":"2026-03-01T09:30:00Z")" + (more.empty() ? more : ',' + more)

@@ -18,7 +18,7 @@ const std::string atNow = "\"2026-03-01T12:00:00Z\"";
 const std::string after = "\"2026-03-01T12:00:00.001Z\"";
 const std::string longAfter = "\"2026-03-02T12:00:00Z\"";
 
-/// A maintenance that has the required keys and `more`.
+/// A maintenance with the required keys and `more`.
 std::string maintenanceWith(const std::string& more)
 {
     return R"({"id":"m1","title":"Upgrade")" + (more.empty() ? more : ',' + more) + '}';

@@ -12,7 +12,7 @@ using namespace std::chrono_literals;
 
 using Monitors = std::vector<Monitor>;
 
-/// A list of one monitor that has the required keys and `more`.
+/// A list of one monitor with the required keys and `more`.
 std::string monitorWith(const std::string& more)
 {
     return R"([{"id":"m1","name":"Health")" + (more.empty() ? more : ',' + more) + "}]";

@@ -12,7 +12,7 @@ using namespace std::chrono_literals;
 
 using Pages = std::vector<StatusPage>;
 
-/// A list of one page that has the required keys and `more`.
+/// A list of one page with the required keys and `more`.
 std::string pageWith(const std::string& more)
 {
     return R"([{"id":"p1","name":"Public")" + (more.empty() ? more : ',' + more) + "}]";
@@ -23,7 +23,7 @@ StatusPage pageDecodedWith(const std::string& more)
     return decoded<Pages>(pageWith(more)).at(0);
 }
 
-/// Fails as `{"data": [...]}`, where the first attempt's error names the place.
+/// Fails in the shape `{"data": [...]}`, for which the first attempt's error names the place.
 DecodingFailure failureWith(const std::string& more)
 {
     return failureOf<Pages>("{\"data\":" + pageWith(more) + '}');

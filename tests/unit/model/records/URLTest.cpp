@@ -49,7 +49,7 @@ TEST_P(InvalidURL, IsAbsent)
     EXPECT_FALSE(URL::parse(GetParam()));
 }
 
-// Each class of characters at its first and last one, and beside them.
+// The first and the last character of each class, and their neighbours.
 INSTANTIATE_TEST_SUITE_P(AtTheBoundsOfACharacterClass, ValidURL,
     testing::Values(ValidRow{"a:x", ""}, ValidRow{"z:x", ""}, ValidRow{"A:x", ""}, ValidRow{"Z:x", ""},
         ValidRow{"a0:x", ""}, ValidRow{"a9:x", ""}, ValidRow{"https://azAZ09.example", "azAZ09.example"},

@@ -15,7 +15,7 @@ namespace {
 using platform::HttpResponse;
 using Choices = std::vector<Choice>;
 
-/// A form in which "API" was chosen and then "Cron", before the monitors of either have come.
+/// A form in which "API" and then "Cron" was chosen before the monitors of either arrived.
 template <typename Form>
 class MonitorsOfTwoComponents : public Form {
 protected:
@@ -35,7 +35,7 @@ protected:
         this->run();
     }
 
-    /// From now on the monitors that were asked for last are answered first.
+    /// Lets the last request for monitors be answered first.
     void crossTheAnswers() { std::swap(this->transport.pending.front(), this->transport.pending.back()); }
 
     Choices offered() const { return this->form->selection->monitorChoices("None"); }

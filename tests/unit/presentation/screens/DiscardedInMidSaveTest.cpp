@@ -10,7 +10,7 @@ namespace {
 
 using platform::HttpResponse;
 
-/// A text whose loss the user confirms before the service has said what came of saving it.
+/// A text whose loss the user confirms before the service has answered the request to save it.
 template <typename Record>
 class DiscardedInMidSave : public EditedRecord<Record> {
 protected:
@@ -56,7 +56,7 @@ TYPED_TEST(DiscardedInMidSave, LeavesOnceAlsoWhereTheSaveIsRefused)
     EXPECT_EQ(this->detail().action->alert.words(), "Server returned HTTP status code 422.");
 }
 
-/// Those that can be left while they are saved.
+/// The records that can be left while they are saved.
 template <typename Record>
 class LeftInMidSave : public DiscardedInMidSave<Record> {
 protected:

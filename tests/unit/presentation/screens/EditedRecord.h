@@ -65,7 +65,7 @@ protected:
     static constexpr auto textField = "description";
 };
 
-/// The record "1" of a list with "2", opened, and in its editor a text that the service does not have.
+/// The opened record "1" of a list with "1" and "2", with an unsaved text in its editor.
 template <typename Record>
 class EditedRecord : public Record {
 protected:
@@ -80,7 +80,7 @@ protected:
         this->transport.requests.clear();
     }
 
-    /// The record as the service has it once the text is saved.
+    /// The record as the service returns it once the text is saved.
     std::string saved() const
     {
         return this->record("1", std::string(R"(, ")") + Record::textField + R"(": ")" + text + "\"");

@@ -39,7 +39,7 @@ Outcome failure()
 
 class ListOfAScreen : public testing::Test {
 protected:
-    /// Ends the load that is the oldest but `place`.
+    /// Ends the load at `place`, counted from the oldest.
     void answer(std::size_t place, Outcome outcome)
     {
         auto chosen = pending->begin() + static_cast<std::ptrdiff_t>(place);

@@ -24,7 +24,7 @@ protected:
         this->openForm();
         this->run();
         this->transport.requests.clear();
-        // Some events are sent to where their list is.
+        // Some events are sent to the URL of their list.
         this->transport.forget(this->listURL);
     }
 

@@ -21,7 +21,7 @@ using Lists = testing::Types<incidents::IncidentsOfAPage, maintenances::Maintena
 template <typename List>
 class RecordsOnAPage : public List {
 protected:
-    /// The service refuses the list from now on.
+    /// Makes the service refuse the list from now on.
     void refuse() { this->transport.script(this->listURL, 500, ""); }
 
     Content content() const { return this->view->content(); }

@@ -18,7 +18,7 @@ struct Record {
 
 using Records = std::vector<Record>;
 
-/// The name of the record that each row leads to.
+/// The names of the records that the rows lead to.
 std::vector<std::string> namesBehindRowsOf(const Records& records)
 {
     std::vector<std::string> names;

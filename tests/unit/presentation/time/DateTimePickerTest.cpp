@@ -17,7 +17,7 @@ using namespace std::chrono_literals;
 using std::chrono::sys_days;
 using Words = std::vector<std::string>;
 
-/// On the twentieth of November 2026 at nine, a Friday; the picker stands at 45 seconds past half past nine.
+/// On Friday, 20 November 2026 at 09:00; the picker is set to 09:30:45.
 class PickerOfAMoment : public testing::Test {
 protected:
     std::string chosen() const { return picker.date() + " " + picker.time(); }
