@@ -65,8 +65,8 @@ Application::Application(adapters::MainExecutor& main, ServiceAccess service)
 
 Application::~Application()
 {
-    // Screens and timers first, so that nothing new begins. What still waits for an answer unwinds once the road to the
-    // service is gone, by way of both executors, and must have done so while they and the client exist.
+    // Screens and timers first, so that nothing new starts. Tasks that still wait for an answer unwind on both
+    // executors once the transport is gone, and must have done so while the executors and the client exist.
     window_.reset();
     app_.reset();
     service_.stop();

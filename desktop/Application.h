@@ -31,33 +31,33 @@ namespace larkspan {
 
 class MainWindow;
 
-/// The road to the service, which the program and its demo take differently.
+/// The access to the service, which differs between the program and its demo.
 struct ServiceAccess {
     std::string host;
     platform::Executor& client;
     platform::HttpTransport& transport;
     platform::CredentialStore& credentials;
-    /// The key that works, where the settings are to tell it; empty where it is the user's own.
+    /// The key that works, for the settings to show; empty if it is the user's own.
     std::string demoKey = {};
-    /// Drops what is under way and ends the client's executor. Called once, at the end.
+    /// Drops all requests and ends the client's executor. Called once, at the end.
     std::function<void()> stop;
 };
 
-/// The program, put together over a `QGuiApplication` and taken apart again. Main thread only.
+/// The program on top of a `QGuiApplication`: constructs its parts and destroys them in order. Main thread only.
 class Application final : public QObject {
 public:
-    /// `main` is the executor of this thread, and nothing else runs on it once the application has gone.
+    /// `main` is the executor of this thread; nothing else may run on it once the application is destroyed.
     Application(adapters::MainExecutor& main, ServiceAccess service);
     ~Application() override;
 
-    /// Shows the window and runs until its user, a signal or a start that has taken over `instance` asks the program to
-    /// end.
+    /// Shows the window and runs until the user, a signal or another process that has taken over `instance` ends the
+    /// program.
     int run(adapters::SingleInstance& instance);
 
 private:
-    /// The user started the program again: its window comes forward.
+    /// Brings the window to the front because the user started the program again.
     void reopen(const QString& activationToken);
-    /// Ends the program, also in mid-request.
+    /// Ends the program, even during a request.
     void quit() { app_->terminate(); }
     void showAppearance();
 

@@ -2,7 +2,7 @@
 
 namespace larkspan {
 
-/// What is fixed when the program is built.
+/// The settings that are fixed when the program is built.
 struct BuildSettings {
     /// The service's host, as host or host:port.
     static constexpr auto serviceHost = LARKSPAN_SERVICE_HOST;
@@ -10,7 +10,7 @@ struct BuildSettings {
     static constexpr auto version = LARKSPAN_VERSION;
     static constexpr auto buildNumber = LARKSPAN_BUILD_NUMBER;
 
-    /// Where the about box leads.
+    /// The addresses in the about box.
     static constexpr auto websiteAddress = LARKSPAN_WEBSITE;
     static constexpr auto communityAddress = LARKSPAN_COMMUNITY;
     static constexpr auto organisationAddress = LARKSPAN_ORGANISATION;

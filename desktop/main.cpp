@@ -36,7 +36,7 @@ int main(int argc, char* argv[])
     adapters::PortalProxies proxies(QDBusConnection::sessionBus(), main);
     adapters::SecretServiceStore credentials;
     std::optional<adapters::ClientLoop> client(std::in_place);
-    // The keyring agrees on a cipher with its client, and may have to be started: both go on while the screens load.
+    // The keyring may have to be started, and negotiates a cipher: both happen while the screens load.
     client->post([&credentials] { credentials.open(); });
     adapters::CurlTransport transport(*client, {.proxies = &proxies});
     Application application(main,

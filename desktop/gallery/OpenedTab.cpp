@@ -12,7 +12,7 @@ workspace::StatusPageDetailView& openTab(Stage& stage, workspace::StatusPageDeta
     model::StatusPage page;
     page.id = "a";
     page.name = "Acme Cloud";
-    // With a key a load begins, and as nothing answers it does not end.
+    // With a key a load starts, which does not end as nothing answers.
     stage.storeKey();
     stage.state().statusPages = std::vector{page};
     stage.state().lastRefresh = now() - 12s;

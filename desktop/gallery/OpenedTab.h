@@ -9,8 +9,7 @@
 
 namespace larkspan::gallery {
 
-/// Opens a page of the account at one of its tabs. What the tab's screen loads goes on for as long as the scene lets
-/// it.
+/// Opens a page of the account at one of its tabs. The tab's screen keeps loading until the scene ends that.
 workspace::StatusPageDetailView& openTab(Stage& stage, workspace::StatusPageDetailView::Tab tab);
 
 /// A scene of a tab, whose screen is `view` of the page.
@@ -21,8 +20,8 @@ std::function<void(Stage&)> sceneOfTab(workspace::StatusPageDetailView::Tab tab,
     return [tab, view, arrange = std::move(arrange)](Stage& stage) { arrange(*(openTab(stage, tab).*view)()); };
 }
 
-/// A scene of the form of a new event, which `open` brings up over the list that `list` has filled. What there is to
-/// choose from has arrived.
+/// A scene of the form of a new event, which `open` opens over the list that `list` has filled. The choices have been
+/// loaded.
 template <typename View, typename Form>
 std::function<void(View&)> withForm(void (*list)(View& view), void (View::*open)(), std::function<void(Form&)> arrange)
 {
@@ -34,7 +33,7 @@ std::function<void(View&)> withForm(void (*list)(View& view), void (View::*open)
     };
 }
 
-/// The list of a tab with one record, which `open` brings in front of it.
+/// The list of a tab with one record, which `open` opens in front of it.
 template <typename View, typename Record, typename Detail>
 std::function<void(View&)> withDetail(
     Record shown, void (View::*open)(const std::string&), std::function<void(Detail&)> arrange)

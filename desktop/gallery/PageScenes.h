@@ -6,7 +6,7 @@
 
 namespace larkspan::gallery {
 
-/// A page, opened: its tabs and its overview.
+/// An opened page: its tabs and its overview.
 std::vector<Scene> pageScenes();
 
 }  // namespace larkspan::gallery

@@ -153,7 +153,7 @@ void offline(AppStateManager& state)
     state.isReachable = false;
 }
 
-/// A scene of the account's state alone.
+/// A scene that sets only the account's state.
 std::function<void(Stage&)> with(std::function<void(AppStateManager&)> arrange)
 {
     return [arrange = std::move(arrange)](Stage& stage) { arrange(stage.state()); };
@@ -161,7 +161,7 @@ std::function<void(Stage&)> with(std::function<void(AppStateManager&)> arrange)
 
 void nothing(Stage&) {}
 
-/// A scene of the settings sheet over a quiet day.
+/// A scene of the settings sheet over an account without events.
 std::function<void(Stage&)> settings(std::function<void(workspace::Settings&)> arrange)
 {
     return [arrange = std::move(arrange)](Stage& stage) {
@@ -192,7 +192,7 @@ void ofTheDemo(Stage& stage)
 
 void looking(workspace::Settings& sheet)
 {
-    // The stage's store answers at once; one that asks for a password does not.
+    // The stage's store answers at once, unlike a store that asks for a password.
     QTimer::singleShot(20, [settings = sheet.shared_from_this()] { settings->isLooking = true; });
 }
 

@@ -9,7 +9,7 @@
 
 namespace larkspan::gallery {
 
-/// A state of the program, and how it looks when a person sees it.
+/// A state of the program, and the settings for showing it.
 struct Scene {
     std::string name;
     std::function<void(Stage&)> arrange;

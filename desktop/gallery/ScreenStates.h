@@ -6,11 +6,11 @@
 
 namespace larkspan::gallery {
 
-// The states that screens of several kinds have. A list has begun its first load, which does not end by itself.
+// The states that several screens have. Here a list has started its first load, which does not end by itself.
 
 inline constexpr auto asItComesUp = [](auto&) {};
 
-/// The list's load has brought nothing.
+/// The list's load has returned no record.
 inline constexpr auto empty = [](auto& list) { list.viewModel->isLoading = false; };
 
 /// The list's load has failed.
@@ -19,10 +19,10 @@ inline constexpr auto failed = [](auto& list) {
     list.viewModel->error = std::make_exception_ptr(api::APIError::httpStatus(503));
 };
 
-/// A request of the screen runs.
+/// An action of the screen is running.
 inline constexpr auto working = [](auto& screen) { screen.action->isInProgress = true; };
 
-/// The service has refused a request of the screen.
+/// The service has refused an action of the screen.
 inline constexpr auto refused
     = [](auto& screen) { screen.action->alert.raise("Server returned HTTP status code 409."); };
 

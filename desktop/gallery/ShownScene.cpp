@@ -18,7 +18,7 @@ using namespace std::chrono_literals;
 constexpr auto timeBetweenLooks = 30ms;
 constexpr int mostLooks = 50;
 
-/// Until the window looks the same twice; there is no motion to wait for.
+/// Waits until the window looks the same twice; there is no motion to wait for.
 void settle(QQuickWindow& window)
 {
     QImage before;
@@ -55,7 +55,7 @@ ShownScene::ShownScene(const Scene& scene, const Look& look, adapters::MainExecu
     if (!scene.pressed.empty()) press(QString::fromStdString(scene.pressed));
 }
 
-/// Puts the text that a scene's sheet knows of into its field, as a hand would have.
+/// Types the text that a scene's sheet already knows into its field.
 void ShownScene::typeWhatIsKnown()
 {
     const auto& settings = stage_.dashboard().settings();

@@ -10,7 +10,7 @@
 
 namespace larkspan::gallery {
 
-/// A scene in a window that stands still, for a picture or a look at what is in it.
+/// A scene in a window without motion, to be rendered or examined.
 class ShownScene {
 public:
     struct Look {
@@ -18,7 +18,7 @@ public:
         QSize size{};
         double fontPointSize = 10;
 
-        /// As the scene wants it, in light colours.
+        /// The scene's own look, in light colours.
         static Look of(const Scene& scene) { return {false, {scene.width, scene.height}, scene.fontPointSize}; }
     };
 

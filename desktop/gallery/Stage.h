@@ -21,7 +21,7 @@
 
 namespace larkspan::gallery {
 
-/// Nothing outside: the scenes set every state themselves.
+/// Ports without a system: the scenes set every state themselves.
 struct NoOutside final : platform::HttpTransport,
                          platform::CredentialStore,
                          platform::NotificationCenter,
@@ -46,13 +46,13 @@ struct NoOutside final : platform::HttpTransport,
     std::optional<std::string> storedKey;
 };
 
-/// What the clock of every stage says.
+/// The time of every stage's clock.
 inline support::Time now()
 {
     return adapters::SystemClock().now();
 }
 
-/// All that the window shows, with nothing behind it.
+/// Everything that the window shows, without a system behind it.
 class Stage : private support::Observable {
 public:
     explicit Stage(adapters::MainExecutor& main);

@@ -50,7 +50,7 @@ private:
 
 int main(int argc, char* argv[])
 {
-    // A process has one scale, so the second one gets a process of its own.
+    // A process has only one scale, so the second scale needs a second process.
     if (!qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) {
         for (const char* scale : {"1", "2", "3"}) {
             qputenv("QT_SCALE_FACTOR", scale);
@@ -60,7 +60,7 @@ int main(int argc, char* argv[])
         return 0;
     }
 
-    // The pictures need no display, and are the same wherever they are made.
+    // The pictures need no display, and are the same on every machine.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     larkspan::chooseRenderer();
     const QGuiApplication qt(argc, argv);

@@ -2,8 +2,8 @@
 
 namespace larkspan {
 
-/// Has the machine's fonts looked up on a thread of its own, which is ready before the first text is laid out. Called
-/// once the application is there.
+/// Looks up the machine's fonts on another thread, so that they are known before the first text is laid out. Call it
+/// after the application object is made.
 void lookUpFonts();
 
 }  // namespace larkspan

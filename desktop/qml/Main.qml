@@ -62,7 +62,7 @@ Window {
         window: window
     }
     Shortcut {
-        // Also while a sheet or a dialog is up.
+        // Also while a sheet or a dialog is shown.
         context: Qt.ApplicationShortcut
         sequences: ["Ctrl+Q"]
         autoRepeat: false

@@ -11,7 +11,7 @@
 Q_IMPORT_QML_PLUGIN(LarkspanPlugin)
 Q_IMPORT_QML_PLUGIN(Larkspan_BridgePlugin)
 
-// In no header of Qt; its documentation of key sequences says to declare it.
+// Not in a header of Qt; the documentation of QKeySequence says to declare it.
 QT_BEGIN_NAMESPACE
 void qt_set_sequence_auto_mnemonic(bool isOn);
 QT_END_NAMESPACE
@@ -26,7 +26,7 @@ MainWindow::MainWindow(Content content, platform::Executor& main)
 {
     bridge::hideSecretsFromAccessibility();
     bridge::tellAccessibilityWhatIsOutOfReach();
-    // A text stands for itself: with mnemonics, "Save & Verify" is pressed by Alt and the space bar.
+    // Captions have no mnemonics: otherwise Alt and the space bar would press "Save & Verify".
     qt_set_sequence_auto_mnemonic(false);
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
     engine_.setInitialProperties({
@@ -43,7 +43,7 @@ MainWindow::MainWindow(Content content, platform::Executor& main)
         const bool isSeen = visibility != QWindow::Minimized && visibility != QWindow::Hidden;
         isSeen ? screenUpdates_.release() : screenUpdates_.hold();
     });
-    // Named only in QML, so a string is the one way to reach it.
+    // Declared only in QML, so it can be connected only by a string.
     connect(window_, SIGNAL(quitRequested()), this, SIGNAL(quitRequested()));
 }
 

@@ -20,17 +20,17 @@ class QQuickWindow;
 
 namespace larkspan {
 
-/// The one window with all its screens. Hidden until somebody shows it. Main thread only.
+/// The window with all its screens. Hidden at first. Main thread only.
 class MainWindow final : public QObject {
     Q_OBJECT
 
 public:
-    /// What the screens show; what is a reference outlives the window.
+    /// The content of the screens; references must outlive the window.
     struct Content {
         std::shared_ptr<workspace::Dashboard> dashboard;
         std::shared_ptr<core::UpdaterController> updates;
         const workspace::AboutKestruneView& about;
-        /// Whether the about box is up: a field of `aboutOwner`.
+        /// Whether the about box is shown: a field of `aboutOwner`.
         support::Published<bool>& showingAbout;
         support::Observable& aboutOwner;
         bridge::MenuBridge& menu;
@@ -42,7 +42,7 @@ public:
     bridge::AppearanceBridge& appearance() { return appearance_; }
 
 signals:
-    /// The user asked from the window that the program end.
+    /// Emitted when the user quits the program in the window.
     void quitRequested();
 
 private:

@@ -2,8 +2,8 @@
 
 namespace larkspan {
 
-/// Lets all windows be drawn by Qt Quick itself instead of a graphics driver, unless the environment asks for another
-/// way (`QT_QUICK_BACKEND`, `QSG_RHI_BACKEND`). Called before the first window.
+/// Makes Qt Quick draw all windows in software instead of with a graphics driver, unless the environment selects
+/// another renderer (`QT_QUICK_BACKEND`, `QSG_RHI_BACKEND`). Call it before the first window is made.
 void chooseRenderer();
 
 }  // namespace larkspan

@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// What comes up over the window as a whole.
+// The sheets and dialogs over the whole window.
 Item {
     id: sheets
     required property DashboardBridge dashboard

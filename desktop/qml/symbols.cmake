@@ -1,4 +1,4 @@
-# Each symbol that the program shows, and the file of the distribution's icon set that draws it.
+# Each symbol of the program, and its file in the distribution's icon set.
 set(LARKSPAN_SYMBOLS
     "antenna.radiowaves.left.and.right broadcast"
     "arrow.clockwise                arrow-clockwise"

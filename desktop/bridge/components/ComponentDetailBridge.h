@@ -15,7 +15,7 @@
 
 namespace larkspan::bridge {
 
-/// An opened component for QML; worded and decided by `components::ComponentDetailView`.
+/// An opened component for QML; texts and decisions are those of `components::ComponentDetailView`.
 class ComponentDetailBridge : public larkspan::bridge::EditableDetailBridge {
     Q_OBJECT
     QML_ELEMENT
@@ -28,7 +28,7 @@ class ComponentDetailBridge : public larkspan::bridge::EditableDetailBridge {
     Q_PROPERTY(QString description READ description NOTIFY changed)
     Q_PROPERTY(QString editedName READ editedName NOTIFY changed)
     Q_PROPERTY(QList<QString> statuses READ statuses CONSTANT)
-    /// The place of the edited status among them; -1 if it is none of them.
+    /// The index of the edited status in `statuses`; -1 if it is not one of them.
     Q_PROPERTY(int selectedStatus READ selectedStatus NOTIFY changed)
     Q_PROPERTY(QString editedDescription READ editedDescription NOTIFY changed)
     Q_PROPERTY(bool showsGroupPicker READ showsGroupPicker NOTIFY changed)

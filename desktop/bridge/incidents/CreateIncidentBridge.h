@@ -9,7 +9,7 @@
 
 namespace larkspan::bridge {
 
-/// The form of a new incident for QML; worded and decided by `incidents::CreateIncidentView`.
+/// The form of a new incident for QML; texts and decisions are those of `incidents::CreateIncidentView`.
 class CreateIncidentBridge : public larkspan::bridge::EventFormBridge {
     Q_OBJECT
     QML_ELEMENT

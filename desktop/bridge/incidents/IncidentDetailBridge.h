@@ -14,7 +14,7 @@
 
 namespace larkspan::bridge {
 
-/// An opened incident for QML; worded and decided by `incidents::IncidentDetailView`.
+/// An opened incident for QML; texts and decisions are those of `incidents::IncidentDetailView`.
 class IncidentDetailBridge : public larkspan::bridge::EditableDetailBridge {
     Q_OBJECT
     QML_ELEMENT

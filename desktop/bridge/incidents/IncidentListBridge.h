@@ -14,13 +14,13 @@
 
 namespace larkspan::bridge {
 
-/// A page's incidents for QML; worded and decided by `incidents::StatusPageIncidentsView`.
-/// The base has its whole name, since QML's tools look for the one that is written here.
+/// A page's incidents for QML; texts and decisions are those of `incidents::StatusPageIncidentsView`.
+/// The base is named in full, since QML's tools look for the name as it is written here.
 class IncidentListBridge : public larkspan::bridge::ListBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
-    /// The incident that is open, and the form of a new one; null while there is none.
+    /// The opened incident, and the form of a new one; each is null if there is none.
     Q_PROPERTY(larkspan::bridge::IncidentDetailBridge* detail READ detail NOTIFY changed)
     Q_PROPERTY(larkspan::bridge::CreateIncidentBridge* form READ form NOTIFY changed)
 

@@ -7,7 +7,7 @@ namespace larkspan::bridge {
 
 namespace {
 
-/// Presses what has the keyboard, or leads out of it.
+/// Whether the key presses the item with the focus, or leaves it.
 bool isPress(const QKeyEvent& event)
 {
     switch (event.key()) {

@@ -7,13 +7,13 @@
 
 namespace larkspan::bridge {
 
-/// A key that is held down presses once, whatever has the keyboard by the time it is repeated: an order would else be
-/// given again as soon as its button is enabled, and the alert that tells how it ended dismissed unread. Text takes
-/// each repeat, and so does what moves.
+/// Makes a key that is held down press only once, whatever has the focus when the key is repeated: otherwise an action
+/// would run again as soon as its button is enabled, and the alert about its end would be dismissed unread. Typing and
+/// moving follow each repeat.
 class HeldKeys : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    /// Whose keys these are, those of its popups included.
+    /// The window whose keys are filtered, including those of its popups.
     Q_PROPERTY(QQuickWindow* window READ window WRITE setWindow NOTIFY windowChanged)
 
 public:

@@ -9,7 +9,7 @@ namespace larkspan::bridge {
 
 namespace {
 
-/// Also held while the mouse is used.
+/// Modifiers are also held while the mouse is used.
 bool isModifier(int key)
 {
     switch (key) {
@@ -33,7 +33,7 @@ InputHand::InputHand(QObject* parent)
 bool InputHand::eventFilter(QObject* receiver, QEvent* event)
 {
     switch (event->type()) {
-    // A shortcut is all that is heard of its keys.
+    // The keys of a shortcut cause no other event.
     case QEvent::ShortcutOverride:
     case QEvent::KeyPress:
         if (!isModifier(static_cast<const QKeyEvent*>(event)->key())) follow(true);

@@ -5,8 +5,8 @@
 
 namespace larkspan::bridge {
 
-/// Whether the user works with the keyboard now: what was pressed last, in whatever window, sheet or menu. The ring
-/// shows to those who do.
+/// Whether the user works with the keyboard now: whether a key was pressed last, in any window, sheet or menu. The
+/// focus ring is shown only then.
 class InputHand : public QObject {
     Q_OBJECT
     QML_ELEMENT

@@ -13,7 +13,7 @@ namespace larkspan::bridge {
 
 namespace {
 
-/// What all popups of the window stand in, each as a child; null while there is none.
+/// The item whose children are the window's popups; null if there is none.
 const QQuickItem* overlayOf(const QQuickWindow& window)
 {
     const auto layers = window.contentItem()->childItems();
@@ -23,16 +23,16 @@ const QQuickItem* overlayOf(const QQuickWindow& window)
 
 bool isModal(const QQuickItem& layer)
 {
-    // A popup owns the item that it shows.
+    // The popup is the parent object of the item that it shows.
     return layer.isVisible() && layer.parent() && layer.parent()->property("modal").toBool();
 }
 
-/// Whether something modal is up that the item does not stand in, nor over.
+/// Whether a modal popup is open that neither contains the item nor is beneath it.
 bool isCovered(const QQuickItem& item)
 {
     const auto* const overlay = item.window() ? overlayOf(*item.window()) : nullptr;
     if (!overlay) return false;
-    // Of two at one height the later one is in front.
+    // Of two with the same z the later one is in front.
     std::multimap<qreal, const QQuickItem*> byHeight;
     for (const auto* const layer : overlay->childItems()) byHeight.emplace(layer->z(), layer);
     for (const auto& [height, layer] : byHeight | std::views::reverse) {
@@ -42,10 +42,10 @@ bool isCovered(const QQuickItem& item)
     return false;
 }
 
-/// Qt's own account of an item, completed.
+/// Qt's accessible interface of an item, completed.
 class ItemAccess final : public QAccessibleInterface, public QAccessibleActionInterface {
 public:
-    /// `plain` is Qt's own, which Qt keeps and deletes together with the item, as this one.
+    /// `plain` is Qt's own interface. Qt owns both and deletes them together with the item.
     ItemAccess(QQuickItem& item, QAccessibleInterface& plain)
         : item_(item)
         , plain_(plain)
@@ -110,14 +110,14 @@ public:
     }
 
 private:
-    /// What neither pointer nor keyboard reaches, an assistive technology does not either.
+    /// An assistive technology cannot reach what neither pointer nor keyboard reaches.
     bool isInReach() const { return item_.isEnabled() && !isCovered(item_); }
 
     void tellWhetherEnabled()
     {
-        // Qt 6.8 tells of it by itself.
+        // Qt 6.8 reports this itself.
         if (!item_.isEnabled()) isToldByQt_ = plain_.state().disabled;
-        // One that is on its way out leaves its window first.
+        // An item that is being destroyed leaves its window first.
         if (isToldByQt_ || !item_.window()) return;
         QAccessible::State changed;
         changed.disabled = true;
@@ -131,12 +131,12 @@ private:
     QMetaObject::Connection news_;
 };
 
-/// What Qt is asked for its own account of.
+/// The object for which Qt's own interface is requested.
 const QObject* declined = nullptr;
 
 QAccessibleInterface* accessOf(const QString& className, QObject* object)
 {
-    // Asked for each class that the object has, from its own down to `QObject`.
+    // Called for each class of the object, from its own down to `QObject`.
     if (!object || object == declined || className != QLatin1String(object->metaObject()->className())) return nullptr;
     auto* const item = qobject_cast<QQuickItem*>(object);
     if (!item) return nullptr;

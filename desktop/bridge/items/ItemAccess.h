@@ -2,8 +2,8 @@
 
 namespace larkspan::bridge {
 
-/// From now on a screen reader is told which items are disabled and, while something modal is up, that what it covers
-/// does not show; and whatever it orders of such an item comes to nothing. Qt 6.4 sees to none of it.
+/// Makes screen readers see which items are disabled and, while a modal popup is open, that the covered items are not
+/// showing; actions on such items have no effect. Qt 6.4 does none of this.
 void tellAccessibilityWhatIsOutOfReach();
 
 }  // namespace larkspan::bridge

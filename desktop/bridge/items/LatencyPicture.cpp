@@ -22,7 +22,7 @@ QRgb blended(QRgb below, QRgb above, double coverage)
 /// Draws one column of pixels after the other.
 class Brush {
 public:
-    /// The area stands on `base`.
+    /// `base` is the bottom of the area.
     Brush(QImage& picture, const LatencyLook& look, double base)
         : pixels_(reinterpret_cast<QRgb*>(picture.bits()))
         , stride_(picture.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb)))
@@ -35,7 +35,7 @@ public:
     {
     }
 
-    /// The line covers the area's edge, which therefore needs no smoothness of its own.
+    /// The line covers the area's edge, which therefore need not be smooth.
     void drawArea(int x, const LatencyStroke::Extent& curve)
     {
         if (curve.isEmpty()) return;
@@ -67,7 +67,7 @@ private:
         return sum / LatencyStroke::columnsPerPixel;
     }
 
-    /// Where a corner begins, or the picture ends.
+    /// The row at which a corner starts or the picture ends.
     int groundAt(int x) const
     {
         const double beside = std::max(0.0, radius_ - std::min(x + 0.5, width_ - x - 0.5));

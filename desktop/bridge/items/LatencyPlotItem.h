@@ -8,8 +8,8 @@
 
 namespace larkspan::bridge {
 
-/// Line and area of a latency graph, painted anew only where they change, and the places of its samples: a selection is
-/// told by what stands over it.
+/// Line and area of a latency graph, painted again only when they change, and the places of its samples. The selection
+/// is shown by other items over it.
 class LatencyPlotItem : public QQuickPaintedItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(LatencyPlot)
@@ -19,7 +19,7 @@ class LatencyPlotItem : public QQuickPaintedItem {
     Q_PROPERTY(double lineWidth MEMBER lineWidth_ NOTIFY lookChanged)
     Q_PROPERTY(double inset MEMBER inset_ NOTIFY lookChanged)
     Q_PROPERTY(double cornerRadius MEMBER cornerRadius_ NOTIFY lookChanged)
-    /// Where the selected sample stands.
+    /// The place of the selected sample.
     Q_PROPERTY(double selectedX READ selectedX NOTIFY selectedXChanged)
 
 public:
@@ -31,9 +31,9 @@ public:
 
     /// Selects the sample that is nearest to a pointer at `x`.
     Q_INVOKABLE void point(double x);
-    /// Moves the selection as the key does; false where the key means nothing here.
+    /// Moves the selection as the key does; returns false if the key has no meaning here.
     Q_INVOKABLE bool move(int key);
-    /// Where a callout of the selected sample has its left edge.
+    /// The left edge of the selected sample's callout.
     Q_INVOKABLE double calloutLeft(double selectedX, double calloutWidth) const;
 
     void paint(QPainter* painter) override;
@@ -42,7 +42,7 @@ signals:
     void graphChanged();
     void lookChanged();
     void selectedXChanged();
-    /// A place on the axis of indexes was chosen.
+    /// Emitted when a place on the axis of indexes is chosen.
     void selected(double position);
 
 private:

@@ -43,7 +43,7 @@ void LatencyStroke::follow(Spot from, Spot to)
     const auto last = columnAt(to.x);
     curveColumns_[first].include(from.y);
     curveColumns_[last].include(to.y);
-    // Both columns of an edge between two hold where it is crossed.
+    // Both columns at an edge contain the point where the curve crosses it.
     for (auto edge = first + 1; edge <= last; ++edge) {
         const double y = from.y + (to.y - from.y) * (static_cast<double>(edge) - from.x) / (to.x - from.x);
         curveColumns_[edge - 1].include(y);

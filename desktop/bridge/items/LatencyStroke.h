@@ -11,15 +11,15 @@
 
 namespace larkspan::bridge {
 
-/// A latency curve and the line along it, which is what a disc covers whose middle is everywhere on the curve; in
-/// columns narrower than a pixel. That takes the same time whatever the samples are, while a painter's stroke takes
-/// longer the more often the curve turns.
+/// A latency curve and the line along it, which is the area that a disc covers as its centre moves along the curve; in
+/// columns narrower than a pixel. This takes the same time for any samples, while a painter's stroke takes longer the
+/// more often the curve turns.
 class LatencyStroke {
 public:
-    /// The more of them, the smoother are steep edges.
+    /// More columns make steep edges smoother.
     static constexpr int columnsPerPixel = 4;
 
-    /// What a column holds, in pixels from the top; nothing where `top` is below `bottom`.
+    /// The part of a column that is covered, in pixels from the top; nothing if `top` is below `bottom`.
     struct Extent {
         double top = std::numeric_limits<double>::infinity();
         double bottom = -std::numeric_limits<double>::infinity();
@@ -33,7 +33,7 @@ public:
     };
     using Pixel = std::span<const Extent, columnsPerPixel>;
 
-    /// `curve` has points, and outlives it. `inset` is kept free of them on each side of the picture.
+    /// `curve` must have points and outlive this object. `inset` is the free space on each side of the picture.
     LatencyStroke(const monitors::LatencyCurve& curve, QSize size, double inset, double radius);
 
     /// The curve in the middle of a column of pixels.
@@ -43,7 +43,7 @@ public:
     double yOf(double value) const;
 
 private:
-    /// In columns from the left and pixels from the top.
+    /// A place in columns from the left and pixels from the top.
     struct Spot {
         double x;
         double y;

@@ -12,7 +12,7 @@ namespace larkspan::bridge {
 
 namespace {
 
-/// The items of Qt Quick draw in sizes of whole and half points only.
+/// Qt Quick's items draw text in sizes of whole and half points only.
 QFont asDrawn(QFont font)
 {
     if (font.pointSizeF() > 0) font.setPointSizeF(std::round(font.pointSizeF() * 2) / 2);
@@ -31,7 +31,7 @@ public:
 
     qreal widthOf(const std::string& styled)
     {
-        // Most texts have no markup, and laying out a document takes some twenty times as long.
+        // Most texts have no markup, and laying out a document takes about twenty times as long.
         if (styled.find_first_of("<&") == std::string::npos) return metrics_.horizontalAdvance(words(styled));
         document_.setHtml(words(styled));
         return document_.idealWidth();
@@ -46,7 +46,7 @@ private:
 
 QList<qreal> MeasuredColumns::widthsOf(const Columns& columns, const Drawing& drawing)
 {
-    // Those of a message that is no longer shown are of no use either.
+    // Removes the widths of messages that are no longer shown.
     std::erase_if(widths_, [](const auto& measured) { return measured.first.use_count() == 1; });
     if (drawing != drawing_) widths_.clear();
     drawing_ = drawing;
@@ -61,7 +61,7 @@ QList<qreal> MeasuredColumns::widthsOf(const Columns& columns, const Drawing& dr
             if (widest >= drawing.most) break;
             widest = std::max(widest, (text.isHeader ? headers : cells).widthOf(text.styled));
         }
-        // A line is broken that fills its width to the last fraction of a point.
+        // A line that fills its width to the last fraction of a point would be broken.
         measured->second << std::ceil(std::min(widest + 1, drawing.most));
     }
     return measured->second;

@@ -18,7 +18,7 @@ public:
     struct Drawing {
         QFont ofHeaders;
         QFont ofCells;
-        /// No column is wider, and no more is measured than shows that it would be.
+        /// The largest width of a column; measuring stops as soon as it is reached.
         qreal most = 0;
 
         bool operator==(const Drawing&) const = default;
@@ -28,7 +28,7 @@ public:
 
 private:
     Drawing drawing_;
-    // Held, so that none comes to stand where another was measured.
+    // Held, so that no other object gets the address of a measured one.
     std::map<Columns, QList<qreal>> widths_;
 };
 

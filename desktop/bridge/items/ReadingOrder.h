@@ -7,9 +7,8 @@
 
 namespace larkspan::bridge {
 
-/// Keeps the order in which a screen reader meets the rows of a list: as they stand on screen, top to bottom. Qt reads
-/// them in the order of their making, and a list that scrolls or refreshes makes, moves and reuses its rows in any
-/// order.
+/// Keeps the order in which a screen reader finds the rows of a list: as on screen, from top to bottom. Qt reads them
+/// in order of creation, and a list that scrolls or refreshes creates, moves and reuses its rows in any order.
 class ReadingOrder : public QObject {
     Q_OBJECT
     QML_ELEMENT

@@ -11,7 +11,7 @@ namespace larkspan::bridge {
 
 namespace {
 
-/// Qt lists an item under its nearest ancestor of which QML says something to screen readers.
+/// Qt lists an item under its nearest ancestor with accessible properties in QML.
 bool isAccessible(const QQuickItem& item)
 {
     return std::ranges::any_of(item.children(), [](const QObject* child) {
@@ -86,7 +86,7 @@ private:
 
 QAccessibleInterface* accessOf(const QString&, QObject* object)
 {
-    // Asked before any value of the object is set, so its type must tell.
+    // Called before any value of the object is set, so only its type can be checked.
     if (!object || object->metaObject()->indexOfProperty("hidesItsText") < 0) return nullptr;
     auto* field = qobject_cast<QQuickItem*>(object);
     return field ? new SecretAccess(field) : nullptr;

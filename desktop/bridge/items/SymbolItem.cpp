@@ -8,7 +8,7 @@ namespace larkspan::bridge {
 
 namespace {
 
-/// Parsed once and kept: a list shows the same few symbols over and over. Main thread only, as painted items are.
+/// Parsed once and kept, since a list shows the same few symbols many times. Main thread only, as for painted items.
 QSvgRenderer& renderer(const QString& name)
 {
     static QHash<QString, QSvgRenderer*> renderers;

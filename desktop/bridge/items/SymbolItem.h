@@ -7,8 +7,8 @@
 
 namespace larkspan::bridge {
 
-/// A symbol by its name in the symbol table, sharp at every scale and tinted with `color`, or as it was drawn where no
-/// colour is given. Decoration: whoever shows it names what it means.
+/// A symbol by its name in the symbol table, sharp at every scale and tinted with `color`, or in its own colours if
+/// none is given. Decorative for screen readers: the item that shows it must state its meaning.
 class SymbolItem : public QQuickPaintedItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(Symbol)

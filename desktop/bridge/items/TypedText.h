@@ -7,8 +7,8 @@
 
 namespace larkspan::bridge {
 
-/// What stands in a text edit, character for character, with line feeds between its paragraphs. The text that Qt hands
-/// out has blanks for no-break spaces, and line feeds for line separators.
+/// The exact text in a text edit, with line feeds between its paragraphs. In the text that Qt returns, no-break spaces
+/// are replaced by blanks and line separators by line feeds.
 class TypedText : public QObject {
     Q_OBJECT
     QML_ELEMENT

@@ -5,7 +5,7 @@
 
 namespace larkspan::bridge {
 
-/// The rows of a list for QML: one role, `row`, that holds a row as a value of its own type.
+/// The rows of a list for QML: one role, `row`, which is a row as a value of its own type.
 class ListModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -18,13 +18,13 @@ public:
 
     QHash<int, QByteArray> roleNames() const final;
 
-    /// The row that is meant by `letters`, typed one after the other with `current` as the current row: the next one
-    /// whose title begins with them, from the current one on and over the end, in any case of letters. A first letter,
-    /// and the same one again, goes on from the row behind. The answer is -1 if there is none.
+    /// The row that `letters` mean, typed one after the other while `current` is the current row: the next one whose
+    /// title starts with them, from the current one on and past the end to the start, ignoring the case of letters. For
+    /// a single letter, also if repeated, the search starts after the current row. Returns -1 if there is none.
     Q_INVOKABLE int rowMeantBy(const QString& letters, int current) const;
 
-    /// The row, from `row` on in that direction, 1 or -1, at which the keyboard stops: headings are passed by. The
-    /// answer is -1 if there is none.
+    /// The first row at which the keyboard stops, from `row` on in that direction, 1 or -1: headings are skipped.
+    /// Returns -1 if there is none.
     Q_INVOKABLE int stopFrom(int row, int direction) const;
 
 protected:

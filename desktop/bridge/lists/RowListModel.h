@@ -14,7 +14,7 @@
 
 namespace larkspan::bridge {
 
-/// A list of `Value::Row`, each shown as the `Value` that is made of it when a screen asks. A row has an `id` and a
+/// A list of `Value::Row`, each converted to a `Value` when a screen asks for it. A row has an `id` and a
 /// `title` and can be compared. A refresh patches the rows by id, so that scroll position, focus and selection survive.
 template <typename Value>
 class RowListModel final : public ListModel {
@@ -25,7 +25,7 @@ public:
 
     const std::vector<Row>& rows() const { return rows_; }
 
-    /// Makes `wanted` what the list holds, by the fewest notices that get there.
+    /// Replaces the rows by `wanted` with the fewest notifications.
     void update(std::vector<Row> wanted);
 
     int rowCount(const QModelIndex& parent = {}) const override
@@ -53,7 +53,7 @@ protected:
 private:
     static std::vector<std::string_view> idsOf(const std::vector<Row>& rows);
 
-    // The rows held are told by the places that they are wanted at.
+    // Each held row is given by the place that it gets; absent if it is to be removed.
     void removeVanished(const std::vector<std::optional<std::size_t>>& places);
     void reorder(std::vector<std::size_t>& places);
     void sortAtOnce(std::vector<std::size_t>& places);

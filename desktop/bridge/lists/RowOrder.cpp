@@ -10,8 +10,8 @@ namespace larkspan::bridge {
 
 namespace {
 
-/// An id at its place in a list. In the order of their hashes ids are found again in a fraction of the time that a
-/// table of them takes, which misses the cache with each.
+/// An id and its place in a list. Sorted by hash, ids are matched in a fraction of the time of a hash table, which
+/// misses the cache for each.
 struct PlacedId {
     std::size_t hash;
     std::string_view id;
@@ -73,7 +73,7 @@ bool isCheaperAnew(const std::vector<std::optional<std::size_t>>& places, std::s
 std::vector<bool> longestRun(const std::vector<std::size_t>& places)
 {
     constexpr auto none = static_cast<std::size_t>(-1);
-    // The longest ascending subsequence: for each length, where the run of that length with the smallest end ends.
+    // The longest ascending subsequence: for each length, the end of the run of that length whose end is smallest.
     std::vector<std::size_t> ends;
     std::vector<std::size_t> before(places.size(), none);
     for (std::size_t at = 0; at < places.size(); ++at) {

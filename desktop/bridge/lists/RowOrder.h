@@ -8,33 +8,34 @@
 
 namespace larkspan::bridge {
 
-/// For each of `held`, the place that `wanted` gives it; absent where it gives none. The second row of an id is matched
-/// with the second one wanted, and so on.
+/// For each of `held`, its place in `wanted`; absent if it has none. The second row with an id is matched with the
+/// second wanted one, and so on.
 std::vector<std::optional<std::size_t>> wantedPlaces(
     const std::vector<std::string_view>& held, const std::vector<std::string_view>& wanted);
 
-/// Marks the most places that are in ascending order already; whatever is not marked has to move.
+/// Marks the largest set of places that are in ascending order already; the others have to move.
 std::vector<bool> longestRun(const std::vector<std::size_t>& places);
 
-/// Where each element is now that comes to stand first, second and so on once `places` are in ascending order.
+/// The current indexes of the elements that become first, second and so on when `places` are sorted.
 std::vector<std::size_t> ascending(const std::vector<std::size_t>& places);
 
 /// `places` in that order.
 std::vector<std::size_t> placesInOrder(const std::vector<std::size_t>& places, const std::vector<std::size_t>& order);
 
-/// Where the element that is wanted at `place` goes to stand in the run: before the element that is there now.
+/// The index before which the element that is wanted at `place` is inserted into the run.
 std::ptrdiff_t placeInRun(const std::vector<std::size_t>& places, const std::vector<bool>& isInRun, std::size_t place);
 
-/// A list that changes its whole order at once is cheaper to lay out anew than to move row by row.
+/// A list that changes its whole order at once is cheaper to lay out again than to move row by row.
 inline constexpr std::size_t mostSingleMoves = 100;
 
-/// Each run of rows that comes, goes or moves takes all rows behind it along.
+/// Each run of rows that is inserted, removed or moved also shifts all rows after it.
 inline constexpr std::size_t mostRowsMoved = 2'000'000;
 
-/// Whether so many runs of rows come and go, in lists so long, that the list is cheaper to show anew than to patch.
+/// Whether so many runs of rows are inserted and removed in such a long list that resetting it is cheaper than
+/// patching.
 bool isCheaperAnew(const std::vector<std::optional<std::size_t>>& places, std::size_t wanted);
 
-/// Takes the element at `from` to before the one at `to`.
+/// Moves the element at `from` to before the one at `to`.
 template <typename Elements>
 void moveElement(Elements& elements, std::ptrdiff_t from, std::ptrdiff_t to)
 {

@@ -4,7 +4,7 @@
 
 namespace larkspan::bridge {
 
-/// Each of `things` as a `Value` for QML; for the few that stand on a screen one by one, while a list has a model.
+/// Each of `things` as a `Value` for QML; for the few that a screen shows one by one. Lists have a model instead.
 template <typename Value, typename Things>
 QList<Value> valuesOf(const Things& things)
 {

@@ -10,7 +10,7 @@
 
 namespace larkspan::bridge {
 
-/// The form of a new maintenance for QML; worded and decided by `maintenances::CreateMaintenanceView`.
+/// The form of a new maintenance for QML; texts and decisions are those of `maintenances::CreateMaintenanceView`.
 class CreateMaintenanceBridge : public larkspan::bridge::EventFormBridge {
     Q_OBJECT
     QML_ELEMENT

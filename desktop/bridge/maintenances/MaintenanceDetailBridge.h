@@ -15,7 +15,7 @@
 
 namespace larkspan::bridge {
 
-/// An opened maintenance for QML; worded and decided by `maintenances::MaintenanceDetailView`.
+/// An opened maintenance for QML; texts and decisions are those of `maintenances::MaintenanceDetailView`.
 class MaintenanceDetailBridge : public larkspan::bridge::EditableDetailBridge {
     Q_OBJECT
     QML_ELEMENT

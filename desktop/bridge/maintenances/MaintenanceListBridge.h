@@ -14,13 +14,13 @@
 
 namespace larkspan::bridge {
 
-/// A page's maintenances for QML; worded and decided by `maintenances::StatusPageMaintenancesView`.
-/// The base has its whole name, since QML's tools look for the one that is written here.
+/// A page's maintenances for QML; texts and decisions are those of `maintenances::StatusPageMaintenancesView`.
+/// The base is named in full, since QML's tools look for the name as it is written here.
 class MaintenanceListBridge : public larkspan::bridge::ListBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
-    /// The maintenance that is open, and the form of a new one; null while there is none.
+    /// The opened maintenance, and the form of a new one; each is null if there is none.
     Q_PROPERTY(larkspan::bridge::MaintenanceDetailBridge* detail READ detail NOTIFY changed)
     Q_PROPERTY(larkspan::bridge::CreateMaintenanceBridge* form READ form NOTIFY changed)
 

@@ -10,7 +10,7 @@ using platform::MenuRow;
 
 namespace {
 
-/// Not one of the panel's rows, so it has no action of theirs.
+/// Not one of the panel's rows, so it has none of their actions.
 MenuRow aboutRow()
 {
     return {.kind = MenuRow::Kind::command, .title = "About Kestrune"};
@@ -66,7 +66,7 @@ void MenuBridge::choose(int place)
 {
     if (!isCommand(place)) return;
     if (place == rows_.rowCount() - 1) return showAbout_();
-    // A copy: what it does may rebuild the menu.
+    // A copy, since the action may rebuild the menu.
     const auto row = rows_.rows()[static_cast<std::size_t>(place)].row;
     if (perform_) perform_(row);
 }

@@ -13,7 +13,7 @@
 
 namespace larkspan::bridge {
 
-/// The rows of the panel's item once more, for the window's menu button, with the entry for the about box below them.
+/// The rows of the panel's item for the window's menu button, with the entry for the about box below them.
 class MenuBridge : public QObject, public platform::StatusItem {
     Q_OBJECT
     QML_ELEMENT
@@ -23,7 +23,7 @@ class MenuBridge : public QObject, public platform::StatusItem {
 public:
     explicit MenuBridge(std::function<void()> showAbout, QObject* parent = nullptr);
 
-    /// No panel: these rows are in the window, and go with it.
+    /// Not a panel: these rows are in the window, and are hidden with it.
     bool isShown() const override { return false; }
     void followShown(std::function<void()>) override {}
     void show(std::function<void(const platform::MenuRow& row)> perform) override;
@@ -32,15 +32,16 @@ public:
 
     ListModel* rows() { return &rows_; }
 
-    /// While it is open no row moves, so that a press meets the row that it was meant for: texts change in place, and a
-    /// menu of other rows waits until it is closed.
+    /// While the menu is open no row moves, so that a press hits the row that it was meant for: texts change in place,
+    /// and other rows are shown only after it is closed.
     Q_INVOKABLE void setOpen(bool isOpen);
 
-    /// The user picked the row at `place`; a row that is no command does nothing.
+    /// Performs the row at `place`, which the user chose; does nothing for a row that is no command.
     Q_INVOKABLE void choose(int place);
     /// The place of the command with this key equivalent; -1 if there is none.
     Q_INVOKABLE int placeOfKey(const QString& key) const;
-    /// The next command from `place` in the direction of `step` (1 or -1); `place` itself if there is none.
+    /// The place of the next command after `place` in the direction of `step` (1 or -1); `place` itself if there is
+    /// none.
     Q_INVOKABLE int nextCommand(int place, int step) const;
 
 private:

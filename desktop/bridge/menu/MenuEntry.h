@@ -6,7 +6,7 @@
 
 namespace larkspan::bridge {
 
-/// A row of the menu, told from the others by what it does: its texts may change while it is open.
+/// A row of the menu, identified by its action, since its texts may change while the menu is open.
 struct MenuEntry {
     std::string id{};
     std::string title{};

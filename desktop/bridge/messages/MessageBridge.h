@@ -32,7 +32,7 @@ public:
     MessageBridge(
         std::shared_ptr<incidents::MessageView> view, const ScreenUpdates& updates, QObject* parent = nullptr);
 
-    /// Makes the rows those of `source`, where it is another than before.
+    /// Shows the rows of `source`, if it differs from the current one.
     void show(const std::string& source);
 
     ListModel* rows() { return &rows_; }
@@ -40,9 +40,9 @@ public:
     bool asksAboutLink() const { return view_->linkInQuestion->has_value(); }
     ConfirmationValue linkConfirmation() const;
 
-    /// The user pressed the link of that name, an href of the text at `row` or of the cell `cell` in it; -1 for none.
+    /// Called when the user presses a link: an href in the text at `row`, or in its cell `cell`; -1 for no cell.
     Q_INVOKABLE void follow(int row, int cell, const QString& href);
-    /// How wide the columns of the table at `row` are as they are drawn in those fonts, none wider than `most`.
+    /// The widths of the columns of the table at `row` when drawn in these fonts, each at most `most`.
     Q_INVOKABLE QList<qreal> columnWidths(int row, const QFont& headerFont, const QFont& cellFont, qreal most);
     Q_INVOKABLE void openLink() { view_->openLink(); }
     Q_INVOKABLE void cancelLink() { view_->cancelLink(); }

@@ -8,12 +8,12 @@
 
 namespace larkspan::bridge {
 
-/// A row of a message in a list. A message has no ids, so a row is known by its place.
+/// A row of a message in a list. Messages have no ids, so a row is identified by its place.
 struct MessageEntry {
     std::string id{};
     std::string title{};
     incidents::MarkdownRow row{.kind = incidents::MarkdownRow::Kind::paragraph};
-    /// What a table's rows have in common, so that each of them has changed where that has.
+    /// Shared by the rows of a table, so that a change of it changes each of them.
     std::shared_ptr<const incidents::MarkdownColumns> columns{};
 
     static std::vector<MessageEntry> entriesOf(incidents::MarkdownRows rows);

@@ -16,7 +16,7 @@
 
 namespace larkspan::bridge {
 
-/// One monitor for QML; worded and decided by `monitors::MonitorDetailView`.
+/// One monitor for QML; texts and decisions are those of `monitors::MonitorDetailView`.
 class MonitorDetailBridge : public ScreenBridge {
     Q_OBJECT
     QML_ELEMENT
@@ -25,7 +25,7 @@ class MonitorDetailBridge : public ScreenBridge {
     Q_PROPERTY(QString name READ name NOTIFY changed)
     Q_PROPERTY(QList<larkspan::bridge::PillValue> pills MEMBER pills_ NOTIFY changed)
     Q_PROPERTY(QList<larkspan::bridge::FactValue> details MEMBER details_ NOTIFY changed)
-    /// Without a text where no check is known.
+    /// Without a text if no check is known.
     Q_PROPERTY(larkspan::bridge::FactValue lastCheck MEMBER lastCheck_ NOTIFY changed)
     Q_PROPERTY(QList<larkspan::bridge::ActionButtonValue> buttons MEMBER buttons_ NOTIFY changed)
     Q_PROPERTY(bool isBusy READ isBusy NOTIFY changed)

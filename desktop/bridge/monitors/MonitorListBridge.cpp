@@ -55,7 +55,7 @@ void MonitorListBridge::followOpenedRows()
     for (const auto& [id, rowView] : rowViews) {
         auto& row = openedRows_[id];
         if (!row.metrics.follow(rowView, updates())) continue;
-        // What a method hands to QML would else be QML's to delete.
+        // Otherwise QML would own an object that a method returns.
         QQmlEngine::setObjectOwnership(row.metrics.get(), QQmlEngine::CppOwnership);
         row.changes = rowView->objectWillChange(observer());
     }

@@ -17,8 +17,8 @@
 
 namespace larkspan::bridge {
 
-/// A page's monitors for QML; worded and decided by `monitors::StatusPageMonitorsView`.
-/// The base has its whole name, since QML's tools look for the one that is written here.
+/// A page's monitors for QML; texts and decisions are those of `monitors::StatusPageMonitorsView`.
+/// The base is named in full, since QML's tools look for the name as it is written here.
 class MonitorListBridge : public larkspan::bridge::ListBridge {
     Q_OBJECT
     QML_ELEMENT
@@ -37,18 +37,18 @@ public:
     Q_INVOKABLE void press(const QString& id, const QString& button);
     Q_INVOKABLE void open(const QString& id) { view_->openMonitor(id.toStdString()); }
     Q_INVOKABLE void closeDetail() { view_->closeMonitor(); }
-    /// What is open in the row of that monitor; null for a row that was never opened.
+    /// The opened part of that monitor's row; null for a row that was never opened.
     Q_INVOKABLE larkspan::bridge::MonitorMetricsBridge* metricsOf(const QString& id) const;
 
 private:
-    /// A row that was opened: the list shows some of it too.
+    /// A row that was opened; the list shows parts of it too.
     struct OpenedRow {
         ChildScreen<MonitorMetricsBridge, monitors::MonitorRowView> metrics;
         support::Subscription changes;
     };
 
     void readState() override;
-    // Before what they show goes with them.
+    // Called before the objects that they show are destroyed.
     void closeRowsThatLeft();
     void followOpenedRows();
 

@@ -16,13 +16,13 @@
 
 namespace larkspan::bridge {
 
-/// What is open in a monitor's row for QML; worded and decided by `monitors::MonitorRowView`.
+/// The opened part of a monitor's row for QML; texts and decisions are those of `monitors::MonitorRowView`.
 class MonitorMetricsBridge : public ScreenBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
     Q_PROPERTY(bool showsPanel READ showsPanel NOTIFY changed)
-    /// Stands in place of the panel; all empty while that is there.
+    /// Shown in place of the panel; empty while the panel is shown.
     Q_PROPERTY(larkspan::bridge::MarkerValue instead MEMBER instead_ NOTIFY changed)
     Q_PROPERTY(bool offersRetry READ offersRetry NOTIFY changed)
     Q_PROPERTY(larkspan::bridge::LatencyGraphValue graph MEMBER graph_ NOTIFY changed)

@@ -8,17 +8,17 @@
 
 namespace larkspan::bridge {
 
-/// The bridge of a screen that comes and goes with the object it shows.
+/// The bridge of a screen, which exists as long as the object that it shows.
 template <typename Bridge, typename Shown>
 class ChildScreen {
 public:
-    /// Makes the bridge of `shown`, or lets go of it where there is none; the same object keeps its bridge. False if
-    /// nothing had to be done.
+    /// Creates the bridge of `shown`, or releases it if `shown` is null; the same object keeps its bridge. Returns
+    /// false if nothing changed.
     bool follow(const std::shared_ptr<Shown>& shown, const ScreenUpdates& updates)
     {
         if (shown_ == shown) return false;
         shown_ = shown;
-        // A screen that closes still reads its own.
+        // A screen that closes still reads its bridge.
         if (bridge_) bridge_.release()->deleteLater();
         if (shown_) bridge_ = std::make_unique<Bridge>(shown_, updates);
         return true;

@@ -15,7 +15,7 @@
 
 namespace larkspan::bridge {
 
-/// The choice of a moment for QML; worded and decided by `presentation::DateTimePicker`.
+/// The choice of a moment for QML; texts and decisions are those of `presentation::DateTimePicker`.
 class DateTimePickerBridge : public ScreenBridge {
     Q_OBJECT
     QML_ELEMENT
@@ -53,7 +53,7 @@ public:
     Q_INVOKABLE void moveMonths(int count) { picker_->moveMonths(count); }
     Q_INVOKABLE void moveToBeginOfWeek() { picker_->moveToBeginOfWeek(); }
     Q_INVOKABLE void moveToEndOfWeek() { picker_->moveToEndOfWeek(); }
-    /// True when no further digit can follow.
+    /// Returns true if no further digit can follow.
     Q_INVOKABLE bool typeHour(const QString& digits);
     Q_INVOKABLE bool typeMinute(const QString& digits);
     Q_INVOKABLE void moveHours(int count) { picker_->moveTime(std::chrono::hours(count)); }

@@ -10,7 +10,7 @@
 
 namespace larkspan::bridge {
 
-/// What the opened records that can be edited have for QML; worded and decided by `presentation::EditableDetail`.
+/// The common part of the bridges of editable records; texts and decisions are those of `presentation::EditableDetail`.
 class EditableDetailBridge : public larkspan::bridge::GuardedScreenBridge {
     Q_OBJECT
     QML_ELEMENT

@@ -11,7 +11,7 @@
 
 namespace larkspan::bridge {
 
-/// What the forms of all events have for QML; worded and decided by `presentation::EventForm`.
+/// The common part of the bridges of all events' forms; texts and decisions are those of `presentation::EventForm`.
 class EventFormBridge : public larkspan::bridge::GuardedScreenBridge {
     Q_OBJECT
     QML_ELEMENT

@@ -13,8 +13,8 @@
 
 namespace larkspan::bridge {
 
-/// What the screens in which one types have for QML; decided by `presentation::GuardedScreen`.
-/// Its base has its whole name, and it has its own where it is one, since QML's tools look for what is written there.
+/// The common part of the bridges of screens with typed text; decisions are those of `presentation::GuardedScreen`. The
+/// base is named in full, and so is this class as a base, since QML's tools look for the name as it is written.
 class GuardedScreenBridge : public larkspan::bridge::ScreenBridge {
     Q_OBJECT
     QML_ELEMENT

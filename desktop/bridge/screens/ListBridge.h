@@ -12,7 +12,7 @@
 
 namespace larkspan::bridge {
 
-/// What the lists of all records have for QML; worded and decided by `presentation::ListScreen`.
+/// The common part of the bridges of all lists of records; texts and decisions are those of `presentation::ListScreen`.
 class ListBridge : public ScreenBridge {
     Q_OBJECT
     QML_ELEMENT
@@ -33,7 +33,7 @@ public:
 protected:
     ListBridge(std::shared_ptr<presentation::ListScreen> list, const ScreenUpdates& updates, QObject* parent);
 
-    /// For the bridges of what stands in front of the list.
+    /// For the bridges of the screens in front of the list.
     const ScreenUpdates& updates() const { return updates_; }
     void readState() override;
 

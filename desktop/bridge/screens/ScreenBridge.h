@@ -12,12 +12,12 @@
 
 namespace larkspan::bridge {
 
-/// A screen that shows more than its own fields, and tells of all of it.
+/// A screen that shows more than its own fields, and can be observed as a whole.
 template <typename Screen>
 concept ObservedAsAWhole
     = requires(Screen& screen, const std::function<void()>& observer) { screen.observe(observer); };
 
-/// What the bridges of all screens are: QML hears once that something changed, after all changes of a turn.
+/// The base of all screens' bridges: QML is notified once, after all changes of a turn.
 class ScreenBridge : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -29,22 +29,22 @@ signals:
 protected:
     ScreenBridge(const ScreenUpdates& updates, QObject* parent);
 
-    /// From now on the changes of `observed` are told.
+    /// Reports the changes of `observed` from now on.
     void followChangesOf(support::Observable& observed)
     {
         subscriptions_.push_back(observed.objectWillChange(observer()));
     }
-    /// The same for a screen of which more than itself changes.
+    /// The same for a screen that consists of several observed objects.
     template <ObservedAsAWhole Screen>
     void followChangesOf(Screen& screen)
     {
         for (auto& subscription : screen.observe(observer())) subscriptions_.push_back(std::move(subscription));
     }
 
-    /// What an object with observers of its own calls before it changes.
+    /// Returns a function for an object to call before it changes.
     std::function<void()> observer();
 
-    /// Called before each `changed`, for what is read once and shown often.
+    /// Called before each `changed`, for values that are read once and shown often.
     virtual void readState() {}
 
 private:

@@ -8,13 +8,13 @@
 
 namespace larkspan::bridge {
 
-/// When the screens of a window hear of changes: once for each turn of the event loop, after all its changes, and not
-/// while nobody sees the window. Main thread only.
+/// Notifies the screens of a window of changes: once for each turn of the event loop, after all its changes, and not
+/// while the window is invisible. Main thread only.
 class ScreenUpdates {
 public:
     explicit ScreenUpdates(platform::Executor& main);
 
-    /// Nobody sees the window for now: what comes is told once when somebody does again.
+    /// Holds notifications back while the window is invisible; `release` sends each once.
     void hold();
     void release();
 
@@ -37,12 +37,12 @@ private:
     std::shared_ptr<Board> board_;
 };
 
-/// One listener's notice: turns announcements that come before each change into one call after all of them.
+/// The notification of one listener: turns announcements before each change into one call after all changes.
 class ChangeNotice {
 public:
     ChangeNotice(const ScreenUpdates& updates, std::function<void()> changed);
 
-    /// Something is about to change.
+    /// Call it before each change.
     void announce() const;
 
 private:

@@ -9,8 +9,7 @@
 
 namespace larkspan::bridge {
 
-/// The alert that is up, for QML; its text is empty while there is none. Two alerts of one text differ in their
-/// numbers.
+/// The current alert for QML; its text is empty if there is none. Two alerts with the same text have different numbers.
 struct AlertValue {
     Q_GADGET
     QML_VALUE_TYPE(alert)

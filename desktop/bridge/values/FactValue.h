@@ -10,7 +10,7 @@
 
 namespace larkspan::bridge {
 
-/// `presentation::Fact` for QML; where its text leads stays below.
+/// `presentation::Fact` for QML, without the destination of its link.
 struct FactValue {
     Q_GADGET
     QML_VALUE_TYPE(fact)

@@ -29,7 +29,7 @@ public:
     QString id{};
     QString title{};
     int tone = Tone::Gray;
-    /// One that is present may be a word without letters.
+    /// A severity may be present with an empty text.
     bool hasSeverity = false;
     PillValue severity{};
     QString date{};

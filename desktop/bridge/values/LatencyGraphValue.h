@@ -11,14 +11,14 @@
 
 namespace larkspan::bridge {
 
-/// `monitors::LatencyGraph` for QML; the curve itself passes through it to the item that draws it.
+/// `monitors::LatencyGraph` for QML; also carries the curve to the item that draws it.
 struct LatencyGraphValue {
     Q_GADGET
     QML_VALUE_TYPE(latencyGraph)
     Q_PROPERTY(bool isShown READ isShown)
     /// -1 for none.
     Q_PROPERTY(int selectedIndex MEMBER selectedIndex)
-    /// Of the selected sample, in milliseconds; 0 for none.
+    /// The value of the selected sample in milliseconds; 0 for none.
     Q_PROPERTY(double selectedValue MEMBER selectedValue)
     Q_PROPERTY(double lowestValue MEMBER lowestValue)
     Q_PROPERTY(double highestValue MEMBER highestValue)

@@ -9,7 +9,8 @@
 
 namespace larkspan::bridge {
 
-/// `presentation::Link` for QML, without its destination: screens say which link was chosen, and the program opens it.
+/// `presentation::Link` for QML, without its destination: a screen reports which link was chosen, and the program opens
+/// it.
 struct LinkValue {
     Q_GADGET
     QML_VALUE_TYPE(link)

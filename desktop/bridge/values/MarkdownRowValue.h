@@ -18,7 +18,7 @@ struct MarkdownRowValue {
     Q_PROPERTY(bool isHeading MEMBER isHeading)
     Q_PROPERTY(bool isQuote MEMBER isQuote)
     Q_PROPERTY(bool isItem MEMBER isItem)
-    /// Also its divider.
+    /// Also for the divider of a table.
     Q_PROPERTY(bool isTable MEMBER isTable)
     Q_PROPERTY(bool isTableHeader MEMBER isTableHeader)
     Q_PROPERTY(bool isDivider MEMBER isDivider)
@@ -26,9 +26,9 @@ struct MarkdownRowValue {
     Q_PROPERTY(QString label MEMBER label)
     Q_PROPERTY(larkspan::bridge::MarkdownTextValue text MEMBER text)
     Q_PROPERTY(QList<larkspan::bridge::MarkdownTextValue> cells MEMBER cells)
-    /// Of a table's rows: which of the message's tables it is of.
+    /// For a table's rows: the index of the table in the message.
     Q_PROPERTY(int table MEMBER table)
-    /// How many the table has.
+    /// The number of columns of the table.
     Q_PROPERTY(int columns MEMBER columns)
     Q_PROPERTY(int gap MEMBER gap)
 

@@ -9,7 +9,7 @@
 
 namespace larkspan::bridge {
 
-/// `incidents::MarkdownText` for QML; where its links lead stays below.
+/// `incidents::MarkdownText` for QML; without the destinations of its links.
 struct MarkdownTextValue {
     Q_GADGET
     QML_VALUE_TYPE(markdownText)

@@ -7,8 +7,8 @@
 
 namespace larkspan::bridge {
 
-/// `presentation::Tone` as the screens name it; the theme gives each its colour. A value for QML holds it as an
-/// integer: compiled by Qt 6.4, QML passes no enumeration on from inside a value.
+/// `presentation::Tone` under the names used in QML; the theme has a colour for each. Values for QML hold it as an
+/// integer: QML compiled by Qt 6.4 cannot read an enumeration from a value.
 namespace Tone {
 Q_NAMESPACE
 QML_ELEMENT

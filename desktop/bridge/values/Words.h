@@ -6,11 +6,10 @@
 
 namespace larkspan::bridge {
 
-/// A text as it is shown: of one that is longer than anybody writes the beginning, since laying it out would hold up
-/// the window.
+/// A text to be shown. Of an extremely long text only the beginning, since laying out all of it would block the window.
 QString words(std::string_view text);
 
-/// A text as it is, for what is edited or comes back: an id, the content of a field.
+/// An unchanged text, for values that are edited or passed back: an id, the content of a field.
 QString wholeText(std::string_view text);
 
 }  // namespace larkspan::bridge

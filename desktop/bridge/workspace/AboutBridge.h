@@ -9,7 +9,7 @@
 
 namespace larkspan::bridge {
 
-/// The about box for QML; everything here is worded by `workspace::AboutKestruneView`.
+/// The about box for QML; texts are those of `workspace::AboutKestruneView`.
 class AboutBridge : public ScreenBridge {
     Q_OBJECT
     QML_ELEMENT

@@ -5,7 +5,7 @@
 
 namespace larkspan::bridge {
 
-/// How the desktop wants programs to look; the theme follows it live.
+/// The appearance that the desktop asks of programs; the theme follows its changes.
 class AppearanceBridge : public QObject {
     Q_OBJECT
     QML_ELEMENT

@@ -18,7 +18,7 @@
 
 namespace larkspan::bridge {
 
-/// The dashboard's state for QML; everything here is worded and decided by `workspace::Dashboard`.
+/// The dashboard's state for QML; texts and decisions are those of `workspace::Dashboard`.
 class DashboardBridge : public ScreenBridge {
     Q_OBJECT
     QML_ELEMENT
@@ -30,15 +30,15 @@ class DashboardBridge : public ScreenBridge {
     Q_PROPERTY(larkspan::bridge::MarkerValue status MEMBER status_ NOTIFY changed)
     Q_PROPERTY(QString listHeading READ listHeading CONSTANT)
     Q_PROPERTY(larkspan::bridge::ListModel* rows READ rows CONSTANT)
-    /// The place of the selected page among the rows; -1 if it is not there.
+    /// The index of the selected page in the rows; -1 if it is not there.
     Q_PROPERTY(int selectedRow READ selectedRow NOTIFY changed)
     Q_PROPERTY(bool showsRefreshFailure READ showsRefreshFailure NOTIFY changed)
     Q_PROPERTY(QString refreshFailedText READ refreshFailedText CONSTANT)
     Q_PROPERTY(bool isRefreshEnabled READ isRefreshEnabled NOTIFY changed)
     Q_PROPERTY(QStringList refreshIntervalLabels READ refreshIntervalLabels CONSTANT)
-    /// What the settings sheet shows; null while it is down.
+    /// The settings sheet; null while it is closed.
     Q_PROPERTY(larkspan::bridge::SettingsBridge* settings READ settings NOTIFY changed)
-    /// The page that is open; null while none is.
+    /// The opened page; null if there is none.
     Q_PROPERTY(larkspan::bridge::StatusPageDetailBridge* openedPage READ openedPage NOTIFY changed)
 
 public:

@@ -11,18 +11,18 @@
 
 namespace larkspan::bridge {
 
-/// The settings sheet's state for QML; everything here is worded and decided by `workspace::Settings`.
-/// The key goes in and never out: no property holds it.
+/// The settings sheet's state for QML; texts and decisions are those of `workspace::Settings`. The key is only taken,
+/// never given back: no property contains it.
 class SettingsBridge : public ScreenBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
-    /// Something is typed that has been neither stored nor deleted.
+    /// Whether a typed key has been neither stored nor deleted.
     Q_PROPERTY(bool holdsKey READ holdsKey NOTIFY changed)
     Q_PROPERTY(bool hasExistingKey READ hasExistingKey NOTIFY changed)
     Q_PROPERTY(bool showsSavedKey READ showsSavedKey NOTIFY changed)
     Q_PROPERTY(bool showsField READ showsField NOTIFY changed)
-    /// More than the longest key, so that a longer one is told from it.
+    /// More than the longest key, so that a key that is too long can be noticed.
     Q_PROPERTY(int longestEntry READ longestEntry CONSTANT)
     Q_PROPERTY(bool isSaveEnabled READ isSaveEnabled NOTIFY changed)
     Q_PROPERTY(bool showsDeleteConfirmation READ showsDeleteConfirmation NOTIFY changed)

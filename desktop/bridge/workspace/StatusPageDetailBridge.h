@@ -21,7 +21,8 @@
 
 namespace larkspan::bridge {
 
-/// An opened page for QML: its tabs and its overview, worded and decided by `workspace::StatusPageDetailView`.
+/// An opened page for QML: its tabs and its overview; texts and decisions are those of
+/// `workspace::StatusPageDetailView`.
 class StatusPageDetailBridge : public ScreenBridge {
     Q_OBJECT
     QML_ELEMENT

@@ -10,7 +10,7 @@
 
 namespace larkspan::bridge {
 
-/// What the dialog about updates shows; worded by `workspace::UpdateReport`.
+/// The dialog about updates; texts are those of `workspace::UpdateReport`.
 class UpdateBridge : public ScreenBridge {
     Q_OBJECT
     QML_ELEMENT

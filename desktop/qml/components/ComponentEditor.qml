@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// The values of a component that can be changed.
+// The editable values of a component.
 Column {
     id: editor
     required property ComponentDetailBridge detail

@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// How a component is, and what is known of it.
+// The status and the facts of a component.
 Column {
     id: facts
     required property ComponentDetailBridge detail

@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A component, or the heading of a section, which parts the cards of the sections.
+// A component, or the heading of a section, which separates the sections' cards.
 CardRow {
     id: delegate
     required property componentRow row

@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// The account in one sentence.
+// The account's status in one sentence.
 Rectangle {
     id: card
     required property headline headline

@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// Opens the choice of how often the account is looked at.
+// Opens the choice of the interval at which the account is polled.
 ToolbarButton {
     id: button
     required property DashboardBridge dashboard

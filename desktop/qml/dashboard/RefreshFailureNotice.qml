@@ -2,11 +2,11 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// Says over the list that what it shows may be old.
+// A notice over the list that its content may be outdated.
 Rectangle {
     id: notice
     required property DashboardBridge dashboard
-    // It lies over the end of the list, which scrolls free of it.
+    // It covers the end of the list, which can be scrolled clear of it.
     readonly property bool floats: true
 
     implicitWidth: content.implicitWidth + 3 * Theme.unit
@@ -18,7 +18,7 @@ Rectangle {
     Accessible.role: Accessible.AlertMessage
     Accessible.name: dashboard.refreshFailedText
 
-    // It comes softly but goes at once: what it says is no longer true then.
+    // It fades in but disappears at once, since its text is no longer true then.
     visible: dashboard.showsRefreshFailure
     opacity: visible ? 1 : 0
     Behavior on opacity {

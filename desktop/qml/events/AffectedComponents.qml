@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// What an event affects: the whole page, or a component of a group and one of its monitors.
+// The choice of what an event affects: the whole page, or a component of a group and one of its monitors.
 GroupBox {
     id: group
     required property EventFormBridge form

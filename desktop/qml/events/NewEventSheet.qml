@@ -2,7 +2,8 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// The form of a new event: its title, its message and what it affects; below that, what one kind of event has of its own.
+// The form of a new event: its title, its message and what it affects; below that, the fields of one kind of event
+// only.
 Sheet {
     id: sheet
     required property EventFormBridge form

@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// When a record was what; below a line what stands apart, where there is any.
+// The times of a record's states; below a line, separate entries, if any.
 GroupBox {
     id: group
     required property list<timelineRow> rows

@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A moment in the life of a record: what it was, and when; the moment stands below where there is no room beside.
+// A moment of a record: its label and its time, which is placed below if there is no room beside the label.
 Item {
     id: line
     required property timelineRow row

@@ -2,8 +2,8 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// What can be done to an incident: in one row where there is room for it, else one below the other, with what takes it on
-// side by side. In the editor, sending what was typed.
+// The actions of an incident: in one row if there is room, else one below the other, with the first two side by side.
+// In the editor, the button that sends the text.
 Item {
     id: actions
     required property IncidentDetailBridge incident

@@ -2,8 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// One incident, and what can be done to it. Its message may be long, so it is the list, and the rest stands above and
-// below it.
+// One incident and its actions. Its message may be long, so it is the list, and the rest is above and below it.
 EditableDetailFrame {
     id: view
     required property IncidentDetailBridge incident

@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// What stands above an incident's message: how it is, and when it was what.
+// The part above an incident's message: its status, and the times of its states.
 Column {
     id: facts
     required property IncidentDetailBridge incident

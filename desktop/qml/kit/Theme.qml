@@ -27,7 +27,7 @@ QtObject {
     readonly property color hover: Qt.alpha(text, 0.06)
     readonly property color pressed: Qt.alpha(text, 0.12)
     readonly property color accentOnCard: isDark ? blue : accent
-    // Of what stands on the full colour of a tone.
+    // The colour of text on the full colour of a tone.
     readonly property color toneText: isDark ? window : accentText
     readonly property color dimming: "#66000000"
     readonly property color veil: "#33000000"
@@ -49,7 +49,7 @@ QtObject {
     readonly property real caption: base * 0.86
     readonly property real caption2: base * 0.79
 
-    // Lengths that hold text grow with it; the rhythm between things does not.
+    // Lengths that contain text grow with the font; the spacing between items does not.
     readonly property real scale: Math.max(1, base / 10)
     readonly property int unit: 8
     readonly property int halfUnit: 4
@@ -109,7 +109,7 @@ QtObject {
     readonly property int quick: reducesMotion ? 0 : 120
     readonly property int calm: reducesMotion ? 0 : 180
     readonly property int turn: 900
-    // The longest pause between letters that belong together.
+    // The longest pause between letters of one search, in milliseconds.
     readonly property int typingPause: 1000
 
     function toneColor(tone: int): color {

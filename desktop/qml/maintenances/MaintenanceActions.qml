@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// What can be done to a maintenance.
+// The actions of a maintenance.
 Column {
     id: actions
     required property MaintenanceDetailBridge maintenance

@@ -2,8 +2,8 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// One maintenance, and what can be done to it; in its place, while it is edited, the editor. Its message may be long, so
-// it is the list, and the rest stands above and below it.
+// One maintenance and its actions; in its place, while it is edited, the editor. Its message may be long, so it is the
+// list, and the rest is above and below it.
 EditableDetailFrame {
     id: view
     required property MaintenanceDetailBridge maintenance

@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// What of a maintenance can be changed.
+// The editable values of a maintenance.
 ScrollingColumn {
     id: editor
     required property MaintenanceDetailBridge maintenance

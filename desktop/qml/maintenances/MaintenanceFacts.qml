@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// What stands above a maintenance's message: how it is, and when it is or was what.
+// The part above a maintenance's message: its status, and the times of its states.
 Column {
     id: facts
     required property MaintenanceDetailBridge maintenance

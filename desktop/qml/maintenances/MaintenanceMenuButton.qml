@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// What else can be done to a maintenance.
+// The menu of a maintenance's other actions.
 ToolbarButton {
     id: button
     required property MaintenanceDetailBridge maintenance

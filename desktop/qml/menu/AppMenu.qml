@@ -3,7 +3,7 @@ import QtQuick.Templates as T
 import Larkspan
 import Larkspan.Bridge
 
-// The panel item's rows, from the window: with a thousand pages as quick as with one.
+// The panel item's rows as a menu of the window, which opens as fast with a thousand pages as with one.
 T.Popup {
     id: popup
     required property MenuBridge menu
@@ -20,7 +20,7 @@ T.Popup {
     onOpened: list.currentIndex = -1
     onClosed: popup.menu.setOpen(false)
 
-    // Before it closes, which may put another row at that place.
+    // Before the menu closes, which may put another row at that place.
     function choose(place: int) {
         popup.menu.choose(place)
         popup.close()

@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// Opens the rows of the panel's item, for desktops that show no such item and for those who work in the window.
+// Opens the rows of the panel's item, for desktops that show no such item and for users who are in the window.
 ToolbarButton {
     id: button
     required property MenuBridge menu

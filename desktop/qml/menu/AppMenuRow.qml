@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A row of the menu: words that inform, a command, or a line between groups.
+// A row of the menu: a text, a command, or a separator.
 Item {
     id: delegate
     required property int index
@@ -12,7 +12,7 @@ Item {
     signal entered
     signal triggered
 
-    // A row that waits to be used again is not drawn, but a screen reader would still meet it.
+    // A row that waits for reuse is not drawn, but a screen reader would still find it.
     ListView.onPooled: visible = false
     ListView.onReused: visible = true
     enabled: row.isCommand
@@ -47,7 +47,7 @@ Item {
         radius: Theme.dotSize / 2
         color: Theme.toneColor(delegate.row.tone)
 
-        // The colours of a status are made for a card; one of them is the accent's own.
+        // The colours of a status are made for cards, and one of them equals the accent.
         Rectangle {
             z: -1
             anchors.centerIn: parent

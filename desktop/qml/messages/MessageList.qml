@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A message of an event, row by row, with what the screen tells above and below it.
+// A message of an event, row by row, with the screen's other content above and below it.
 CardList {
     id: list
     required property MessageBridge message

@@ -2,8 +2,8 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A row of a message. Its markup is the program's own, made of the message's text; Return asks about its links, one after
-// the other, and the arrows scroll a table sideways.
+// A row of a message, with markup that the program has made of the message's text. Return asks about its links, one
+// after the other, and the arrows scroll a table sideways.
 CardRow {
     id: delegate
     required property markdownRow row
@@ -18,7 +18,7 @@ CardRow {
     hasDivider: false
     topPadding: row.gap + (index === 0 ? 2 * Theme.unit : 0)
     bottomPadding: index === ListView.view.count - 1 ? 2 * Theme.unit + (row.isTable ? Theme.tablePadding : 0) : 0
-    // Around the text, of which a row is no taller.
+    // Around the text, since the row is no taller than it.
     ringTop: topPadding - Theme.focusWidth
     ringBottom: bottomPadding - Theme.focusWidth
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
@@ -31,7 +31,7 @@ CardRow {
     Keys.onLeftPressed: event => scroll(-1, event)
     Keys.onRightPressed: event => scroll(1, event)
     function scroll(direction: int, event: KeyEvent) {
-        // With Alt it is the way back.
+        // With Alt the key goes back.
         event.accepted = !(event.modifiers & Qt.AltModifier) && table.step(direction)
     }
 

@@ -2,14 +2,15 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// Styled words that can be selected. The markup is written by the program, with everything of the service's escaped, and
-// holds nothing that is fetched.
+// Styled text that can be selected. The markup is written by the program, with all text of the service escaped, and
+// refers to nothing that would be fetched.
 TextEdit {
     id: edit
     required property markdownText words
     signal followed(href: string)
 
-    // The colour of links is the desktop's, which need not be legible here; no "<" but the program's own is in the markup.
+    // Links would have the desktop's colour, which may not be legible here; every "<" in the markup is the program's
+    // own.
     text: words.styled.replace(/<a /g, "<a style=\"color:" + Theme.accentOnCard + "\" ")
     textFormat: TextEdit.RichText
     readOnly: true

@@ -2,13 +2,13 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A row of a table, or the divider below its headers. The columns are as wide as their longest text; what has no room is
-// reached by scrolling sideways, in all rows of the table at once.
+// A row of a table, or the divider below its headers. The columns are as wide as their longest text; a table that does
+// not fit is scrolled sideways, all its rows at once.
 Flickable {
     id: line
     required property markdownRow row
     required property TableOffsets offsets
-    // Of each column, as its widest text is drawn.
+    // The width of each column, which is that of its widest text when drawn.
     required property list<real> widths
     readonly property real tableWidth: {
         let sum = 0
@@ -32,7 +32,7 @@ Flickable {
     function follow(table: int) {
         if (table === row.table && !moving) contentX = Math.max(0, Math.min(offsets.placeOf(table), contentWidth - width))
     }
-    // By half of what is seen; says whether there was anything to scroll.
+    // Scrolls by half of the visible width; returns whether there was anything to scroll.
     function step(direction: int): bool {
         const furthest = contentWidth - width
         if (!visible || furthest <= 0) return false

@@ -1,6 +1,6 @@
 import QtQuick
 
-// How far the tables of a message are scrolled sideways: the rows of a table are rows of the list, and scroll as one.
+// The horizontal scroll positions of a message's tables: the rows of a table are rows of the list, and scroll together.
 QtObject {
     property list<real> places
     signal moved(table: int)

@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// What is told of the selected sample of a latency graph.
+// The callout of the selected sample of a latency graph.
 Rectangle {
     id: callout
     required property latencyGraph graph

@@ -2,15 +2,15 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A day of latency. A press, a drag or the keyboard selects a sample, which a callout tells; the callout floats over what
-// stands above the graph.
+// A day of latency. A press, a drag or the keyboard selects a sample, which a callout describes; the callout floats
+// over the content above the graph.
 Item {
     id: view
     required property latencyGraph graph
     signal selected(position: real)
 
     readonly property bool hasSelection: graph.selectedIndex >= 0
-    // What a screen reader says of a slider.
+    // The value of the slider for screen readers.
     readonly property real value: graph.selectedValue
     readonly property real minimumValue: graph.lowestValue
     readonly property real maximumValue: graph.highestValue
@@ -24,7 +24,7 @@ Item {
     Accessible.onIncreaseAction: plot.move(Qt.Key_Right)
     Accessible.onDecreaseAction: plot.move(Qt.Key_Left)
     Keys.onPressed: event => {
-        // With a modifier a key belongs to the window: Alt+Left is the way back.
+        // With a modifier a key is the window's: Alt+Left goes back.
         event.accepted = !(event.modifiers & ~Qt.KeypadModifier) && plot.move(event.key)
     }
 
@@ -56,7 +56,7 @@ Item {
 
     MouseArea {
         anchors.fill: parent
-        // The list below may not take a drag for its own.
+        // The list below must not take over a drag.
         preventStealing: true
         onPressed: mouse => {
             view.forceActiveFocus(Qt.MouseFocusReason)

@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// One figure on a tint of its own colour: its icon, and beside it the figure over its name; a trend is a word, and has its
+// One figure on a tint of its own colour: its icon, and beside it the figure over its name; a trend is a word with its
 // name beside it.
 Rectangle {
     id: shape

@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A figure of the panel: what it is at the left, how much at the right.
+// A figure of the panel: its label at the left, its value at the right.
 Item {
     id: line
     required property metricRow row

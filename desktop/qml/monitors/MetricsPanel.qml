@@ -2,11 +2,11 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A monitor's metrics of a day: the graph, the figures and the regions.
+// A monitor's metrics for a day: the graph, the figures and the regions.
 Column {
     id: panel
     required property MonitorMetricsBridge metrics
-    // The row has the keyboard, so that what stands in it can be reached.
+    // Whether the row is the current one, so that its controls can be reached with the keyboard.
     required property bool isCurrent
 
     spacing: Theme.unit

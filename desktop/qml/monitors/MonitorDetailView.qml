@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// One monitor, and what can be done to it.
+// One monitor and its actions.
 ScreenFrame {
     id: view
     required property MonitorDetailBridge monitor

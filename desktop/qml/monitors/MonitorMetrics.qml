@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// What is open in a monitor's row: its metrics, or what stands in their place.
+// The opened part of a monitor's row: its metrics, or what is shown in their place.
 Column {
     id: expanded
     required property MonitorMetricsBridge metrics

@@ -2,12 +2,12 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// One monitor in the list, with what is open in it. Return opens the monitor itself; what stands in the row is reached
-// from its current row by Tab.
+// One monitor in the list, with its opened part. Return opens the monitor's screen; the controls in the current row are
+// reached with Tab.
 CardRow {
     id: delegate
     required property monitorRow row
-    // What is open in it; null for a row that was never opened.
+    // The opened part; null for a row that was never opened.
     property MonitorMetricsBridge metrics
     signal disclosed
     signal commanded(button: string)
@@ -17,7 +17,7 @@ CardRow {
     isPressable: false
     topPadding: Theme.rowGap
 
-    // The pointer has the row's buttons; a press beside them does nothing.
+    // The pointer uses the row's buttons; a press beside them does nothing.
     MouseArea {
         anchors.fill: parent
     }

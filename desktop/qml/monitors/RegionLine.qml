@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// How a monitor stands seen from one region.
+// A monitor's state as seen from one region.
 Item {
     id: line
     required property regionRow row

@@ -2,17 +2,17 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A status page over the dashboard, and over it what is opened in one of its tabs.
+// A status page over the dashboard, and over it the record that is opened in one of its tabs.
 FocusScope {
     id: pages
     required property DashboardBridge dashboard
-    // What the first of them lies over.
+    // The screen beneath the first of them.
     required property Item beneath
-    // A page that is wanted from the beginning still comes up like any other.
+    // A page that is to be shown from the start still opens like any other.
     property bool isReady: false
     Component.onCompleted: isReady = true
 
-    // The record decides what the way back leaves: its editor, with a question or without, or the page.
+    // The record decides what going back leaves: its editor, with a question or without, or the page.
     component RecordPage: PushedPage {
         required property EditableDetailBridge record
 

@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// How the page is, in one word.
+// The page's status in one word.
 Row {
     id: header
     required property headline headline

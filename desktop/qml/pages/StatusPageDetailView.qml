@@ -2,14 +2,14 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// One status page: the choice of its tabs, and the screen of the chosen one.
+// One status page: its tabs, and the screen of the selected one.
 ScreenFrame {
     id: view
     required property StatusPageDetailBridge page
 
     title: page.title
     canGoBack: true
-    // The overview is read, the lists of the other tabs are worked in.
+    // The overview is for reading, the lists of the other tabs have actions.
     readonly property int overviewTab: 0
     function enter(tab: int) {
         view.page.select(tab)

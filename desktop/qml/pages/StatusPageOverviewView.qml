@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A page in summary. What goes on may be much, so it is the list, and the rest stands above and below it.
+// A page in summary. There may be many current events, so they are the list, and the rest is above and below it.
 CardList {
     id: overview
     required property StatusPageDetailBridge page
@@ -26,7 +26,7 @@ CardList {
             title: qsTr("Status Page")
 
             Repeater {
-                // By their number, so that a line and the focus in it stay where its text goes on by itself.
+                // The number, so that a line keeps its focus when its text changes by itself.
                 model: overview.page.information.length
                 FactLine {
                     required property int index

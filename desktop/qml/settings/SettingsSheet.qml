@@ -8,7 +8,7 @@ Sheet {
 
     title: qsTr("Settings")
 
-    // The field and its button come and go; the focus does not go with them.
+    // The field and its button appear and disappear; the focus must not be lost with them.
     readonly property bool takesKey: settings.showsField
     onTakesKeyChanged: {
         if (takesKey) field.forceActiveFocus(Qt.OtherFocusReason)
@@ -67,7 +67,7 @@ Sheet {
             placeholderText: qsTr("Paste your API key here")
             onTextEdited: sheet.settings.edit(text)
 
-            // The key has been stored or deleted, and leaves the field.
+            // When the key has been stored or deleted, it is removed from the field.
             readonly property bool holdsKey: sheet.settings.holdsKey
             onHoldsKeyChanged: if (!holdsKey) clear()
         }

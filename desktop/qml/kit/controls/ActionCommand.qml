@@ -2,8 +2,8 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A button as `src/` words it. A row of them has a model of so many, not of the buttons: one that was pressed then keeps
-// the keyboard when it is worded anew.
+// A button with the text that `src/` gives it. The model of a row of them is their number, not the list of buttons, so
+// that a pressed button keeps the focus when its text changes.
 CommandButton {
     required property actionButton button
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Larkspan
 
-// Something is under way. With reduced motion it stands still.
+// Shows that something is running. Does not move if the desktop asks for reduced motion.
 Item {
     id: indicator
     property string name: qsTr("In progress")

@@ -3,8 +3,8 @@ import Larkspan
 import Larkspan.Bridge
 
 // The days of a month. The arrow keys choose the neighbouring day, Home and End the ends of the week, the page keys the
-// same day of the neighbouring month, with Shift of the neighbouring year; the wheel over the month looks through others while the
-// calendar has the keyboard, and else scrolls what the calendar stands in.
+// same day of the neighbouring month, with Shift of the neighbouring year; the wheel over the month shows other months
+// while the calendar has the focus, and otherwise scrolls the surrounding content.
 Column {
     id: calendar
     required property string name
@@ -70,7 +70,7 @@ Column {
     }
     FocusScope {
         id: days
-        // The days go from left to right in each week, so the place in the list is the place in the grid.
+        // Each week runs from left to right, so the index in the list is the index in the grid.
         readonly property int current: {
             const all = calendar.picker.days
             const chosen = all.findIndex(day => day.isChosen)

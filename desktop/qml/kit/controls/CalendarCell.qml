@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A day of a calendar. The one that the keys begin from has the calendar's focus.
+// A day of a calendar. The day from which the keys move has the calendar's focus.
 Item {
     id: cell
     required property calendarDay day

@@ -3,8 +3,8 @@ import QtQuick.Templates as T
 import Larkspan
 import Larkspan.Bridge
 
-// A choice of one among many: a line with the chosen name, and the others in a list over it. Arrows, Home, End and letters
-// move in the list, Return chooses.
+// A choice of one among many: a line with the chosen name, which opens a list of all names over it. Arrows, Home, End
+// and letters move in the list, Return chooses.
 Pressable {
     id: picker
     required property list<choice> choices

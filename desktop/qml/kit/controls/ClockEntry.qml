@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// Hours and minutes, typed or stepped through; on a clock of twelve hours the half of the day, too.
+// Hours and minutes, typed or changed step by step; on a clock of twelve hours also the half of the day.
 Row {
     id: clock
     required property string name

@@ -3,12 +3,12 @@ import QtQuick.Templates as T
 import Larkspan
 import Larkspan.Bridge
 
-// A button with words; the prominent one is what the user most likely wants.
+// A button with a text; the prominent one is the most likely choice.
 T.Button {
     id: button
     property bool isProminent: false
     property bool isDestructive: false
-    // For rows, where several stand in each.
+    // For rows with several buttons each.
     property bool isSmall: false
     property string symbol
     property int tone: Tone.Primary
@@ -25,7 +25,7 @@ T.Button {
     hoverEnabled: true
     opacity: enabled ? 1 : 0.5
     Accessible.name: text
-    // Qt 6.4 tells assistive technologies of the action, but does nothing when they take it.
+    // Qt 6.4 reports the action to assistive technologies, but does nothing when they invoke it.
     Accessible.onPressAction: clicked()
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()

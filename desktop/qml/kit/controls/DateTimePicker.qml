@@ -2,8 +2,8 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// The choice of a moment: what is chosen, and below it a calendar with a clock beside it, or under it where there is no
-// room beside.
+// The choice of a moment: the chosen one, and below it a calendar with a clock beside it, or under it if there is no
+// room.
 Column {
     id: box
     required property string name

@@ -1,7 +1,7 @@
 import QtQuick
 import Larkspan
 
-// The frame of an entry, with the words that stand in it while it is empty.
+// The frame of an entry, with the text that is shown while the entry is empty.
 Rectangle {
     id: frame
     required property bool isFocused

@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// Shows what the keyboard acts on, to those who use it. There is one holder of the keyboard, so there is one ring.
+// Marks the item with the focus for users of the keyboard. Only one item has the focus, so only one ring is shown.
 Rectangle {
     required property Item holder
 

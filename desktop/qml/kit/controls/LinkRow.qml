@@ -3,7 +3,7 @@ import QtQuick.Templates as T
 import Larkspan
 import Larkspan.Bridge
 
-// A row that leads out of the program.
+// A row that opens an address outside the program.
 T.Button {
     id: row
     required property link link
@@ -14,7 +14,7 @@ T.Button {
     hoverEnabled: true
     Accessible.name: link.title
     Accessible.description: link.subtitle
-    // Qt 6.4 tells assistive technologies of the action, but does nothing when they take it.
+    // Qt 6.4 reports the action to assistive technologies, but does nothing when they invoke it.
     Accessible.onPressAction: clicked()
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()

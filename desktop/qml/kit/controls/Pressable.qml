@@ -1,12 +1,12 @@
 import QtQuick
 import Larkspan
 
-// What is pressed as a button is, but is something else to a screen reader: Qt 6.4 gives each of its own controls a role
-// that nothing can change.
+// A control that is pressed like a button, with any role for screen readers: the roles of Qt's own controls cannot be
+// changed in Qt 6.4.
 Item {
     id: pressable
     property string text
-    // The room that its words ask for.
+    // The width that its text needs.
     property real wordWidth: 0
     readonly property alias hovered: pointer.hovered
     readonly property alias down: tap.pressed

@@ -2,11 +2,11 @@ import QtQuick
 import QtQuick.Templates as T
 import Larkspan
 
-// An entry whose text nobody sees, neither on screen nor through the accessibility bus.
+// An entry whose text is hidden, on screen and on the accessibility bus.
 T.TextField {
     id: field
     required property string name
-    // Qt alone would hand the text out on the accessibility bus; the bridge looks for this.
+    // Qt itself would reveal the text on the accessibility bus; the bridge looks for this property.
     readonly property bool hidesItsText: true
 
     implicitHeight: Theme.controlHeight

@@ -1,14 +1,14 @@
 import QtQuick
 import Larkspan
 
-// A choice of one among a few, side by side. The arrow keys choose the neighbour.
+// A choice of one among a few that are side by side. The arrow keys choose the neighbour.
 Rectangle {
     id: picker
     required property string name
     required property list<string> segments
-    // -1 lights none.
+    // -1 for none.
     required property int selected
-    // What is chosen is a screen, and not a value.
+    // Whether the choice is a screen and not a value.
     property bool choosesTab: true
     signal chosen(int segment)
 
@@ -29,7 +29,7 @@ Rectangle {
     Keys.onLeftPressed: event => choose(selected - 1, event)
     Keys.onRightPressed: event => choose(selected + 1, event)
     function choose(segment: int, event: KeyEvent) {
-        // With Alt it is the way back.
+        // With Alt the key goes back.
         event.accepted = !(event.modifiers & Qt.AltModifier)
         if (event.accepted && segment >= 0 && segment < segments.length) chosen(segment)
     }
@@ -50,7 +50,7 @@ Rectangle {
                 wordWidth: label.implicitWidth
                 readonly property bool isSelected: index === picker.selected
 
-                // Each has the room of its word, and its share of what is left or missing.
+                // Each has the width of its text, plus or minus its share of the remaining or missing width.
                 width: picker.room < picker.wordsWidth ? label.implicitWidth * picker.room / picker.wordsWidth
                     : label.implicitWidth + (picker.room - picker.wordsWidth) / picker.segments.length
                 height: picker.height - 2 * Theme.halfUnit

@@ -3,14 +3,14 @@ import QtQuick.Templates as T
 import Larkspan
 import Larkspan.Bridge
 
-// Several lines of text that the user types; it grows with them and scrolls beyond that. Tab goes on to the next control.
+// An entry of several lines; it grows with its text and then scrolls. Tab moves to the next control.
 FocusScope {
     id: box
     required property string name
     readonly property alias text: area.text
     signal edited(text: string)
 
-    // Puts that text into the box; what is typed follows it.
+    // Sets the text of the box; `typed` follows it.
     function show(text: string) {
         area.lengthToCome = text.length
         area.text = text
@@ -45,7 +45,7 @@ FocusScope {
             focus: true
             padding: Theme.halfUnit - Theme.focusWidth
             implicitHeight: contentHeight + topPadding + bottomPadding
-            // To look for a place to break takes time with the square of a text that has none.
+            // Looking for a place to break takes quadratic time for a text without one.
             property int lengthToCome: 0
             wrapMode: Math.max(length, lengthToCome) > 20000 ? TextEdit.WrapAnywhere : TextEdit.Wrap
             textFormat: TextEdit.PlainText
@@ -59,7 +59,7 @@ FocusScope {
             Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
             Keys.onReturnPressed: event => endLine(event)
             Keys.onEnterPressed: event => endLine(event)
-            // With Shift, Qt alone puts a line separator, which ends no line for those who read the message.
+            // With Shift, Qt itself would insert a line separator, which ends no line for readers of the message.
             function endLine(event: KeyEvent) {
                 event.accepted = (event.modifiers & Qt.ShiftModifier) !== 0
                 if (!event.accepted) return

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Larkspan
 
-// A line of text that the user types.
+// An entry of one line.
 T.TextField {
     id: field
     required property string name

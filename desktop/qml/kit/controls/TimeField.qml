@@ -2,14 +2,14 @@ import QtQuick
 import QtQuick.Templates as T
 import Larkspan
 
-// Two digits of a time of day. They are typed, or stepped through with the arrow and page keys and, while the field has
-// the keyboard, with the wheel; without it the wheel scrolls what the field stands in.
+// Two digits of a time of day, typed or changed with the arrow and page keys and, while the field has the focus, with
+// the wheel; without the focus the wheel scrolls the surrounding content.
 T.TextField {
     id: field
     required property string name
-    // As the clock shows it. What is typed stays as it is until the field is left.
+    // The value on the clock. Typed text is not changed until the field is left.
     required property string value
-    // What can be typed; no other digit is taken.
+    // The pattern of accepted text; other digits are refused.
     required property string pattern
     property bool isTyping: false
     property real turned: 0
@@ -53,7 +53,7 @@ T.TextField {
         show()
     }
     onPressed: isTyping = false
-    // Wherever the caret is, the first digit begins anew, and so does one for which there is no room.
+    // Wherever the caret is, the first digit replaces the text, and so does a digit for which there is no room.
     function beginWith(digit: string) {
         const isOpen = isTyping && length < maximumLength
         if (digit >= "0" && digit <= "9" && !isOpen && selectedText === "") selectAll()

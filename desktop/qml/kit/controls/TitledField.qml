@@ -1,7 +1,7 @@
 import QtQuick
 import Larkspan
 
-// What is filled in, under its small title.
+// A field under its small title.
 Column {
     id: field
     required property string title

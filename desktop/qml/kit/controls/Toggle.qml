@@ -1,7 +1,7 @@
 import QtQuick
 import Larkspan
 
-// A setting that is on or off, with its words before it.
+// A setting that is on or off, with its label before it.
 Pressable {
     id: toggle
     required property bool isOn

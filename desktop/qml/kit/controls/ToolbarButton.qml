@@ -3,16 +3,16 @@ import QtQuick.Templates as T
 import Larkspan
 import Larkspan.Bridge
 
-// A button of the header bar: a symbol, its help as name and tool tip.
+// A button of the header bar: a symbol, with its help text as name and tool tip.
 T.Button {
     id: button
     required property string symbol
     required property string help
-    // A menu of its own is open, so that its help would lie over it.
+    // Whether the button's menu is open, which its tool tip would cover.
     property bool isMenuOpen: false
     property color ink: Theme.text
     property int iconSize: Theme.iconSize
-    // Spins in place of its symbol, and cannot be pressed.
+    // Whether it shows progress in place of its symbol, and cannot be pressed.
     property bool isBusy: false
 
     implicitWidth: Theme.controlHeight
@@ -21,7 +21,7 @@ T.Button {
     enabled: !isBusy
     opacity: enabled ? 1 : 0.4
     Accessible.name: help
-    // Qt 6.4 tells assistive technologies of the action, but does nothing when they take it.
+    // Qt 6.4 reports the action to assistive technologies, but does nothing when they invoke it.
     Accessible.onPressAction: clicked()
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()

@@ -1,10 +1,10 @@
 import QtQuick
 import Larkspan
 
-// Lies over a screen while something is done that the user waits for; nothing beneath it can be pressed meanwhile.
+// Covers a screen while the user waits for something; nothing beneath it can be pressed meanwhile.
 Rectangle {
     id: overlay
-    // What is under way; without, nobody is told but that something is.
+    // A description of what is running; if empty, only that something is.
     property string text
     readonly property bool floats: true
 

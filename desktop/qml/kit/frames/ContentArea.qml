@@ -19,11 +19,11 @@ FocusScope {
         id: middle
         anchors.fill: parent
         visible: area.showsContent
-        // What is hidden would keep the keyboard otherwise, and Tab would not lead away from it.
+        // Otherwise hidden content would keep the focus, and Tab would not leave it.
         focus: area.showsContent
     }
 
-    // Scrolls where a long sentence meets a small window, and is pulled down as the list would be.
+    // Scrolls if a long sentence does not fit into a small window, and can be pulled down like the list.
     Flickable {
         id: instead
         anchors.fill: parent

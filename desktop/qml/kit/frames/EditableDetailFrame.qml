@@ -3,7 +3,7 @@ import Larkspan
 import Larkspan.Bridge
 
 // The screen of an opened record that can be edited: the button that closes it or its editor, and the questions before
-// the record or what was typed is lost.
+// the record or typed text is lost.
 ScreenFrame {
     id: frame
     required property EditableDetailBridge record

@@ -1,13 +1,13 @@
 import QtQuick
 import Larkspan
 
-// Remembers who had the focus when something came up over it, and gives it back.
+// Remembers the item that had the focus before a popup or page was opened, and gives the focus back.
 QtObject {
     id: memory
     property Item holder: null
 
     function remember(item: Item) {
-        // A row may have made room for another one by then, or not be the current one any more; its list knows.
+        // The row may have been reused or may no longer be the current one by then; its list knows.
         memory.holder = item instanceof CardRow ? item.ListView.view : item
     }
 

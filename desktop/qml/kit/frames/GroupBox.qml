@@ -2,13 +2,13 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A card under a small title, with a symbol before it where there is one.
+// A card under a small title, with an optional symbol before it.
 Column {
     id: group
-    // Empty for none.
+    // No title if empty.
     property string title
     property string symbol
-    // Without, the title stands over what follows below.
+    // Whether there is a card; if not, the title is the heading of what follows.
     property bool hasCard: true
     property alias contentSpacing: column.spacing
     default property alias content: column.data

@@ -2,12 +2,12 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// The bar at the top: the way back and further items at both ends, the title in the middle of the window while there is
-// room for it.
+// The bar at the top: the back button and further items at both ends, the title in the middle of the window while there
+// is room for it.
 Rectangle {
     id: bar
     required property string title
-    // It goes where there is no room for all of it: half of such a title helps nobody, and it stands elsewhere, too.
+    // Whether the title is hidden if it does not fit: a cut title does not help, and its text is shown elsewhere, too.
     property bool isTitleDispensable: false
     property bool canGoBack: false
     property marker status

@@ -1,10 +1,10 @@
 import QtQuick
 
-// Loads its file when that is first wanted, and keeps it: what a window does not begin with costs its start nothing.
+// Loads its file when it is first needed, and keeps it, so that it does not slow down the start.
 Loader {
     required property bool isWanted
     required property url file
-    // The properties that the file begins with.
+    // The initial properties of the loaded item.
     required property var given
 
     onIsWantedChanged: loadOnce()

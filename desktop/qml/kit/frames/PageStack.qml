@@ -7,7 +7,7 @@ FocusScope {
     id: stack
     focus: true
 
-    // A sheet that closes leaves the focus with nobody, and what had it before may be gone meanwhile.
+    // After a sheet closes, no item has the focus, and the item that had it before may be gone.
     Window.onActiveFocusItemChanged: takeFocusBack()
     function takeFocusBack() {
         if (Window.activeFocusItem !== Window.contentItem) return
@@ -16,8 +16,8 @@ FocusScope {
         if (!holder.visible || !holder.enabled) holder.nextItemInFocusChain().forceActiveFocus(Qt.PopupFocusReason)
     }
 
-    // What scrolls takes the focus when its screen comes up, and has no use for it where all of it is in sight, which is
-    // known once it is laid out.
+    // Scrolling content takes the focus when its screen opens, but does not need it if it fits, which is known only
+    // after layout.
     function passIdleFocusOn() {
         const holder = Window.activeFocusItem
         const list = holder as CardList
@@ -26,7 +26,7 @@ FocusScope {
         if (takesFocus || !holder.visible) return
         let screen = holder.parent
         while (screen && !(screen instanceof ScreenFrame)) screen = screen.parent
-        // While an order runs, the button that began it waits for its focus.
+        // While an action runs, the button that started it waits for its focus.
         if (screen && !screen.isBusy) screen.nextItemInFocusChain().forceActiveFocus(Qt.OtherFocusReason)
     }
     Connections {

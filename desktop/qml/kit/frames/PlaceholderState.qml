@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// What stands where a list would: a symbol or progress, a title, a sentence, and what can be done about it.
+// Shown in place of content: a symbol or progress, a title, a sentence, and a button to resolve it.
 Column {
     id: state
     required property placeholder placeholder

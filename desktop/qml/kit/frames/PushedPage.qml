@@ -1,26 +1,27 @@
 import QtQuick
 import Larkspan
 
-// A page over the screen that it was opened from. It is made when it is to be seen and covers that screen with all its
-// focus; Escape, Alt+Left, the mouse's back button and the back button of its header lead back, and the focus returns.
+// A page over the screen that it was opened from. It is created when it is to be shown, covers that screen and takes
+// the focus; Escape, Alt+Left, the mouse's back button and the back button of its header close it, and the focus
+// returns.
 FocusScope {
     id: page
     required property bool isShown
-    // What it lies over, and hides while it is there.
+    // The screen that it covers and hides.
     required property Item beneath
     property alias sourceComponent: loader.sourceComponent
-    // What the page holds could be lost, so that it decides itself what the way back does.
+    // Whether the page decides itself how it is left, because typed text could be lost.
     property bool isGuarded: false
     signal backWanted
-    // The user has gone back.
+    // Emitted when the user has gone back.
     signal dismissed
 
-    // From 0, where the page is not there yet, to 1, where nothing is seen but the page.
+    // From 0, before the page is visible, to 1, when only the page is visible.
     property real progress: 0
     readonly property bool isThere: loader.active
     property bool isLeaving: false
 
-    // At once: what is opened while a page still faded out would be closed by that page's end.
+    // At once: a page that is opened while this one fades out would be closed with it.
     function goBack() {
         if (!isShown) return
         if (isGuarded) return backWanted()
@@ -84,7 +85,7 @@ FocusScope {
         event.accepted = true
     }
 
-    // Nothing reaches what lies beneath, neither clicks nor scrolling.
+    // Keeps clicks and scrolling from the screen beneath.
     MouseArea {
         anchors.fill: parent
         acceptedButtons: Qt.AllButtons

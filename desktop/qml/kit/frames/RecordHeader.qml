@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A record's title, and below it how it is.
+// A record's title, and below it its status.
 Column {
     id: header
     required property string title

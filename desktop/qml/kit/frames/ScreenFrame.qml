@@ -2,8 +2,8 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A screen of the window: its header, and below it what it shows or, where there is nothing to show, the placeholder.
-// While an action of it runs, it takes neither a press nor a key; an action that fails ends in the alert.
+// A screen of the window: its header, and below it its content or, if there is none, the placeholder. While one of its
+// actions runs, it ignores the pointer and the keyboard; an action that fails ends with an alert.
 FocusScope {
     id: frame
     required property string title
@@ -23,7 +23,7 @@ FocusScope {
     signal settingsRequested
     signal alertDismissed
 
-    // The overlay has the pointer; without anything beneath it that is enabled, the keyboard is the frame's.
+    // The overlay takes the pointer; as nothing beneath it is enabled, the frame takes the keys.
     Keys.onPressed: event => { event.accepted = isBusy }
 
     HeaderBar {

@@ -1,7 +1,7 @@
 import QtQuick
 import Larkspan
 
-// The first or the last piece of a card, beneath a row of a list that stands on several cards.
+// The top or the bottom of a card, beneath a row of a list with several cards.
 Rectangle {
     id: end
     required property bool isFirst

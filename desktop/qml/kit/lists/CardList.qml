@@ -3,23 +3,23 @@ import QtQuick.Templates as T
 import Larkspan
 import Larkspan.Bridge
 
-// A list of `CardRow`s on one card: as many rows exist as are seen. It is worked with arrows, Home, End, the page keys,
-// Return and Space; letters typed move to the next row that begins with them.
+// A list of `CardRow`s on one card; only the visible rows exist. Keys: arrows, Home, End, the page keys, Return and
+// Space; typed letters move to the next row that starts with them.
 ListView {
     id: list
     required property ListModel rows
     required property string name
-    // What stands above the rows and scrolls with them.
+    // Content above the rows, which scrolls with them.
     property Component above: null
-    // What stands below them.
+    // Content below the rows.
     property Component below: null
-    // No wider than this; the rest is margin on both sides.
+    // The largest width; the rest is margin on both sides.
     property real widest: Infinity
-    // The row that is to be seen; -1 for none.
+    // The row that is kept visible; -1 for none.
     property int selectedRow: -1
-    // What floats over the end of the list, so that the last row can be scrolled clear of it.
+    // The height of what floats over the end of the list; the last row can be scrolled clear of it.
     property real reserve: 0
-    // Where no row does anything, the keyboard scrolls the list as a whole.
+    // Whether keys move between rows; if not, they scroll the list.
     property bool walksRows: true
     readonly property bool isStop: scrolling.isScrollable && !hasRowToMeet
     readonly property bool hasRowToMeet: walksRows && count > 0
@@ -39,7 +39,7 @@ ListView {
     keyNavigationEnabled: false
     boundsBehavior: Flickable.DragOverBounds
     highlightMoveDuration: Theme.quick
-    // At its own pace it would grow with a row of many points for as long as that takes, and be painted all the while.
+    // By default, the highlight would grow slowly with a tall row, and be painted all the while.
     highlightResizeDuration: 0
     Accessible.role: Accessible.List
     Accessible.name: name
@@ -47,12 +47,12 @@ ListView {
     onWalksRowsChanged: keepToStops()
     onCurrentItemChanged: keepToStops()
     onCountChanged: keepToStops()
-    // Not where a button in a row has lost it to the order that it began: that one waits for it.
+    // Not if a button in a row has lost the focus to the action that it started: the button gets it back.
     onActiveFocusChanged: if (scrolling.focusedItem === list) handOn()
     onSelectedRowChanged: if (selectedRow >= 0) moveTo(selectedRow)
     onDragEnded: if (verticalOvershoot < -Theme.pullDistance) list.pulled()
 
-    // What stands above the rows may grow and push them down; a list at its top stays there.
+    // The content above the rows may grow and push them down; a list that is at its top stays there.
     property bool isScrolled: false
     onContentYChanged: isScrolled = contentY > originY
     header: Item {
@@ -60,8 +60,8 @@ ListView {
         height: above.height
         onHeightChanged: if (!list.isScrolled) list.contentY = list.originY - list.topMargin
 
-        // Has the keyboard for the list as a whole, which itself would hand it to what had it last. It comes before all
-        // that stands in the list, and is where the list is seen.
+        // Has the focus for the list as a whole; the list itself would pass it to the item that had it last. It
+        // precedes all content of the list, and covers the list's visible area.
         ListReader {
             id: reader
             Component.onCompleted: list.reader = reader
@@ -85,8 +85,8 @@ ListView {
         sourceComponent: list.below
     }
 
-    // One card under all rows, however many of them exist. While they scroll it stands still, only its ends follow them:
-    // so a frame draws what moves and not the whole window.
+    // One card under all rows, however many of them exist. While they scroll, the card does not move, except for its
+    // ends, so that a frame redraws only what moves.
     Rectangle {
         readonly property real begin: list.originY + (list.headerItem ? list.headerItem.height : 0) - list.contentY
         readonly property real end: list.originY + list.contentHeight - (list.footerItem ? list.footerItem.height : 0) - list.contentY
@@ -122,13 +122,13 @@ ListView {
         margin: Theme.unit
         followsPointer: false
     }
-    // Says whether it had somebody to hand the keyboard on to.
+    // Returns whether there was an item to pass the focus to.
     function handOn(): bool {
         const next = hasRowToMeet ? currentItem : isStop ? reader : null
         if (next) next.forceActiveFocus(Qt.OtherFocusReason)
         return next !== null
     }
-    // What a refresh puts in the place of the current row may be passed by.
+    // After a refresh, the current row may be one at which the keyboard does not stop.
     function keepToStops() {
         const stop = walksRows && count > 0 ? stopNear(Math.max(0, currentIndex), 1) : -1
         if (stop !== currentIndex) currentIndex = stop
@@ -138,7 +138,7 @@ ListView {
         return stop < 0 ? rows.stopFrom(row, -direction) : stop
     }
 
-    // Only a row that has the keyboard: the second press of a button in it that the first has disabled is not for the row.
+    // Only a row with the focus: a second press on a button that the first press disabled is not meant for the row.
     function press(row: CardRow) {
         if (row && row.activeFocus) row.clicked()
     }
@@ -162,10 +162,10 @@ ListView {
         if (target >= 0) moveTo(target)
         return true
     }
-    // However far away the row is: what the list does by itself ends where it guessed the row to be.
+    // Works for any distance: the list's own function ends at the estimated place of the row.
     function moveTo(row: int) {
         currentIndex = row
-        // What stands above or below the rows is shown as far as that leaves the row in sight.
+        // Content above or below the rows is shown as far as the row stays visible.
         if (row === rows.stopFrom(0, 1)) {
             positionViewAtBeginning()
             contentY = originY - topMargin

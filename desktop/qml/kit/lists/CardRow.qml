@@ -2,40 +2,42 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A row of a `CardList`: a list item for screen readers, with the ring of the keyboard and the line above it. What stands in it is read in the order in which it is written down.
+// A row of a `CardList`: a list item for screen readers, with the focus ring and the line above it. Its content is read
+// in the order in which it is declared.
 Item {
     id: card
     required property int index
-    // What a screen reader says of the row: its title and its status.
+    // The row for screen readers: its title as name, its status as description.
     required property string name
     property string description
-    // Rows that only tell are met by the keyboard and the screen reader, and nothing happens when they are pressed.
+    // Rows that only inform are reached by keyboard and screen reader, but cannot be pressed.
     property bool isPressable: true
-    // What only parts the rows is passed by.
+    // Whether the keyboard stops here; it does not at mere separators.
     property bool isStop: true
     property bool hasDivider: true
-    // What stands in the row, as wide as its padding leaves.
+    // The row's content, as wide as its padding allows.
     required property Item contentItem
     property real topPadding: Theme.unit
     property real bottomPadding: topPadding
     property real leftPadding: 2 * Theme.unit - Theme.halfUnit
     property real rightPadding: leftPadding
     readonly property real implicitContentHeight: contentItem.implicitHeight
-    // How far the ring stands inside the row.
+    // The distance of the ring from the row's edge.
     property real ringTop: Theme.halfUnit
     property real ringBottom: Theme.halfUnit
     signal clicked
 
     width: ListView.view ? ListView.view.width - ListView.view.leftMargin - ListView.view.rightMargin : implicitWidth
     implicitHeight: Math.max(Theme.rowHeight, implicitContentHeight + topPadding + bottomPadding)
-    // A row that waits to be used again is not drawn, but a screen reader would still meet it, or with Qt 6.8, which hides it
-    // from one, would never meet it again.
+    // A row that waits for reuse is not drawn, but a screen reader would still find it; Qt 6.8 hides it from screen
+    // readers, and would never show it again.
     ListView.onPooled: visible = false
     ListView.onReused: {
         visible = true
         Accessible.ignored = false
     }
-    // The current row has the focus within its list; a blank may belong to what is typed, so the list has the keys first.
+    // The current row has the focus within its list; a blank may be part of typed letters, so the list gets the keys
+    // first.
     activeFocusOnTab: isStop && ListView.isCurrentItem || activeFocus
     Keys.forwardTo: ListView.view ? [ListView.view] : []
     Accessible.role: Accessible.ListItem

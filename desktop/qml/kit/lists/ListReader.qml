@@ -2,11 +2,11 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// Has the keyboard where a list is only read.
+// Has the focus in a list that is only read.
 Item {
     id: reader
     required property string name
-    // Whether there is something to scroll.
+    // Whether it can be scrolled.
     required property bool isStop
 
     activeFocusOnTab: isStop || activeFocus

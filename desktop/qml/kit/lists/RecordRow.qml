@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A record in a list: its dot, its title over a line of details, and what stands at the end.
+// A record in a list: its dot, its title over a line of details, and the content at the end.
 CardRow {
     id: delegate
     property int tone: Tone.Gray
@@ -35,7 +35,7 @@ CardRow {
                 text: delegate.name
                 font.weight: Font.DemiBold
             }
-            // Below one another where a large font leaves no room beside.
+            // One below the other if a large font leaves no room.
             Flow {
                 id: line
                 width: parent.width

@@ -2,13 +2,13 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// Lets the keyboard scroll something, and brings into sight what it reaches there.
+// Scrolls content with the keyboard, and makes visible what the focus reaches in it.
 QtObject {
     id: scrolling
     required property Flickable flickable
-    // Where texts are selected with the pointer, what it presses stays where it is.
+    // Whether it scrolls to what the pointer presses; not where texts are selected with the pointer.
     property bool followsPointer: true
-    // What stays free around what is brought into sight.
+    // The margin around what is made visible.
     property real margin: Theme.margin
     readonly property real begin: flickable.originY - flickable.topMargin
     readonly property real end: Math.max(begin, flickable.originY + flickable.contentHeight + flickable.bottomMargin - flickable.height)
@@ -32,7 +32,7 @@ QtObject {
         if (top < flickable.contentY) move(top)
         else if (bottom > flickable.contentY + flickable.height) move(Math.min(top, bottom - flickable.height))
     }
-    // Says whether the key was one of these.
+    // Returns whether the key scrolls.
     function take(event: KeyEvent): bool {
         const target = {
             [Qt.Key_Up]: flickable.contentY - Theme.rowHeight,

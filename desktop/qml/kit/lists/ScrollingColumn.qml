@@ -3,17 +3,17 @@ import QtQuick.Templates as T
 import Larkspan
 import Larkspan.Bridge
 
-// Things one below the other, which scroll where there is no room for all. Whatever the keyboard reaches is to be seen;
-// with the focus on the column itself, the arrows, the page keys, Home and End scroll.
+// Items one below the other, which scroll if they do not fit. Whatever gets the focus is made visible; while the column
+// itself has the focus, the arrows, the page keys, Home and End scroll.
 Flickable {
     id: scroller
-    // What a screen reader says of the column, where it can have the focus.
+    // The column's name for screen readers, if it can have the focus.
     property string name
-    // No wider than this; the rest is margin on both sides.
+    // The largest width; the rest is margin on both sides.
     property real widest: Infinity
     default property alias content: column.data
     property alias spacing: column.spacing
-    // Where it has things to read and not only things to reach.
+    // Whether it can have the focus, because it has content to read and not only controls.
     property bool takesFocus: false
     readonly property bool isStop: takesFocus && scrolling.isScrollable
 

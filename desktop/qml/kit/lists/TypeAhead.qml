@@ -2,8 +2,8 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// Gathers the letters that are typed in a list and says which row they mean. A pause begins anew; a blank among letters
-// is one of them, and alone it presses the row.
+// Collects the letters that are typed in a list and finds the row that they mean. A pause starts a new search; a blank
+// among letters is one of them, and alone it presses the row.
 QtObject {
     id: typeAhead
     required property ListModel rows
@@ -17,7 +17,7 @@ QtObject {
         onTriggered: typeAhead.letters = ""
     }
 
-    // Says whether the key was one of these.
+    // Returns whether the key was such a letter.
     function take(event: KeyEvent): bool {
         const isCommand = event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier)
         if (isCommand || event.text.length === 0 || event.text < " " || event.text === "\u007f") return false

@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// Tells of one failure after another, each until it has been read.
+// Shows one failure after the other, each until it is dismissed.
 PopupLoader {
     id: loader
     required property alert alert

@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// Asks before something is lost. Cancel has the focus, so that a hasty Return loses nothing.
+// Asks before something is lost. Cancel has the focus, so that a premature Return loses nothing.
 MessageDialog {
     id: dialog
     required property confirmation confirmation

@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// Asks a question while it is to be seen.
+// Shows a confirmation while there is one.
 PopupLoader {
     id: loader
     required property confirmation confirmation

@@ -1,7 +1,7 @@
 import QtQuick
 import Larkspan
 
-// What lies over the window under a sheet.
+// The dimmed layer between the window and a sheet.
 Rectangle {
     color: Theme.dimming
     Behavior on opacity {

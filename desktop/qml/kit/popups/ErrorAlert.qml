@@ -1,7 +1,7 @@
 import QtQuick
 import Larkspan
 
-// Tells that what the user asked for has failed, and why.
+// Reports that an action of the user has failed, and why.
 MessageDialog {
     id: alert
     title: qsTr("Error")

@@ -16,9 +16,9 @@ T.MenuItem {
     hoverEnabled: true
     opacity: enabled ? 1 : 0.5
     Accessible.name: text
-    // Qt 6.4 tells assistive technologies of the action, but does nothing when they take it.
+    // Qt 6.4 reports the action to assistive technologies, but does nothing when they invoke it.
     Accessible.onPressAction: triggered()
-    // Qt 6.8 lets Tab wander from row to row and out of the menu, Qt 6.4 does not; the arrows lead through it.
+    // In Qt 6.8 Tab would move from row to row and out of the menu, in Qt 6.4 it does not; the arrows move in the menu.
     Keys.onTabPressed: event => { event.accepted = true }
     Keys.onBacktabPressed: event => { event.accepted = true }
 

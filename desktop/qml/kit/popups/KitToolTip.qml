@@ -17,7 +17,7 @@ T.ToolTip {
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
 
     contentItem: Label {
-        // Where nobody sees it, it is not laid out.
+        // An invisible text need not be laid out.
         text: tip.visible ? tip.text : ""
         font.pointSize: Theme.caption
         color: Theme.card

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Larkspan
 
-// What comes up over the dimmed window: in its middle, with the focus kept inside while it is up. Escape closes it.
+// A dialog in the middle of the dimmed window, which keeps the focus while it is open. Escape closes it.
 T.Dialog {
 
     parent: T.Overlay.overlay

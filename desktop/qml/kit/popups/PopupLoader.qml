@@ -2,17 +2,17 @@ import QtQuick
 import QtQuick.Templates as T
 import Larkspan
 
-// Makes a sheet or a dialog when it is to be seen, and lets go of it when it is not. Whoever had the focus has it again
-// then.
+// Creates a sheet or a dialog when it is to be shown, and destroys it afterwards. The focus then returns to the item
+// that had it.
 Loader {
     id: loader
     required property bool isShown
-    // Tells one reason to be seen from the next, which may come before the popup of the one before has been let go.
+    // Changes with each new reason to show it, which may come before the previous popup is destroyed.
     property int occasion: 0
-    // It has closed, in whatever way.
+    // Emitted when it has closed in any way.
     signal dismissed
 
-    // A popup opens over a window, so it waits until its maker is in one.
+    // A popup needs a window, so it waits until the loader is in one.
     active: isShown && T.Overlay.overlay !== null
     onLoaded: open()
     onOccasionChanged: if (item && !(item as T.Popup).opened) open()

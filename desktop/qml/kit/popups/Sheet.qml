@@ -3,15 +3,15 @@ import QtQuick.Templates as T
 import Larkspan
 import Larkspan.Bridge
 
-// A panel over the dimmed window: a bar with its title, then content that scrolls where the window is small.
-// It keeps the focus while it is up, takes Escape, and gives the focus back.
+// A panel over the dimmed window: a bar with its title, then content that scrolls if the window is small. It keeps the
+// focus while it is open, closes on Escape, and gives the focus back.
 ModalDialog {
     id: sheet
     property int preferredWidth: Theme.sheetWidth
     default property alias content: scroller.content
     property alias barItems: bar.trailing
     property alias barLeading: bar.leading
-    // A sheet whose text could be lost decides itself what Escape does.
+    // Whether Escape closes it; a sheet with text that could be lost decides that itself.
     property bool closesByItself: true
     property bool isBusy: false
     property string busyText

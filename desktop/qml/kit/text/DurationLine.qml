@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// How long a record has lasted.
+// The duration of a record.
 Item {
     id: line
     required property string duration

@@ -2,11 +2,11 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A labelled value in one line, with a symbol before it where there is one; one that is a link leads out of the program.
+// A labelled value in one line, with an optional symbol before it; a link opens an address outside the program.
 Item {
     id: line
     required property fact fact
-    // Its label stands in line with those that have a symbol.
+    // Whether the label is aligned with those that have a symbol.
     property bool isIndented: fact.symbol !== ""
     signal followed
 

@@ -10,7 +10,7 @@ Row {
     property int tone: Tone.Primary
     property bool showsProgress: false
     property real pointSize: Theme.body
-    // What the sentence takes on one line.
+    // The width with the sentence on one line.
     readonly property real naturalWidth: Math.ceil(label.x + label.implicitWidth)
 
     spacing: Theme.unit

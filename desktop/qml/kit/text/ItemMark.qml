@@ -1,13 +1,13 @@
 import QtQuick
 import Larkspan
 
-// The bullet or the number before an item of a list. All digits take the same width, so that what follows stands in line:
-// in many a font a "1" is narrower than the others, and Qt 6.4 cannot ask a font for its even digits.
+// The bullet or the number before an item of a list. All digits have the same width, so that the items are aligned: in
+// many fonts "1" is narrower than the others, and Qt 6.4 cannot ask a font for its tabular digits.
 Row {
     id: mark
     required property string text
     required property real digitWidth
-    // What is not seen still keeps its place.
+    // An invisible mark still takes its space.
     property bool isSeen: true
 
     opacity: isSeen ? 1 : 0

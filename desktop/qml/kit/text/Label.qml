@@ -1,7 +1,7 @@
 import QtQuick
 import Larkspan
 
-// The one way to show text: as it stands, whatever it looks like.
+// The only way to show text: literally, even if it looks like markup.
 Text {
     color: Theme.text
     font.pointSize: Theme.body

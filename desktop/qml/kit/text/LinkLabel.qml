@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A text that leads out of the program.
+// A text that opens an address outside the program.
 Pressable {
     id: link
     implicitWidth: label.implicitWidth

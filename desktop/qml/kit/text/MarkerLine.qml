@@ -2,11 +2,11 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A marker in one small line, as the header shows it.
+// A marker in one small line, as in the header.
 Row {
     id: line
     required property marker marker
-    // What there is room for; a longer text is cut at its end.
+    // The available width; a longer text is cut at its end.
     property real maximumWidth: Infinity
 
     spacing: Theme.unit

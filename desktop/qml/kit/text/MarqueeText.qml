@@ -1,8 +1,8 @@
 import QtQuick
 import Larkspan
 
-// A name or a title in one line of a fixed height, cut at its end; it does not move. It begins where it stands, whatever
-// its script, since a mark may stand before it. A screen reader says it whole.
+// A name or a title in one line of a fixed height, cut at its end; it does not move. It is aligned to the left for any
+// script, since a mark may precede it. A screen reader reads it in full.
 Label {
     required property int layoutHeight
 

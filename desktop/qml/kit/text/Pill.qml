@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A status word on a tint of its own colour, with a symbol before it where there is one.
+// A status word on a tint of its own colour, with an optional symbol before it.
 Rectangle {
     id: shape
     required property pill pill
