@@ -1,7 +1,7 @@
 """The cost of one refresh cycle by the size of the account.
 
-The reference of each size is what it would cost at the price per page of 1,000 pages, so a ratio around 1 at 10,000
-pages says that the cost grows with the account and not faster.
+The reference of each size is its cost at the price per page of 1,000 pages, so a ratio around 1 at 10,000 pages
+means that the cost grows linearly with the account.
 """
 
 import re
@@ -10,9 +10,9 @@ import shutil
 from measurement import measurement, output_of, program
 
 SIZES = (10, 1_000, 10_000)
-# No turn of the main thread may last longer than this, in milliseconds: a frame of a display of 120 Hz.
+# The longest allowed turn of the main thread in milliseconds: a frame of a 120 Hz display.
 LONGEST_TURN = 8
-# Nor, with the largest body that is accepted, longer than this.
+# The same with the largest body that is accepted.
 LONGEST_TURN_EVER = 100
 INCIDENTS = 10_000
 REPETITIONS = {10: 2_001, 1_000: 101, 10_000: 21}
@@ -31,8 +31,8 @@ def measure(build):
 
 
 def measure_turns(build):
-    """How long a cycle with many incidents holds up the main thread, beside what may be; and, for the comparison, what
-    the client's own thread does meanwhile."""
+    """How long a cycle with many incidents blocks the main thread, compared with the limit; for comparison also the
+    work of the client's own thread."""
     bench = program(build, "larkspan-bench-turns")
     largest = float(output_of([program(build, "larkspan-bench-largest")]).stdout)
     longest, client = map(float, output_of([bench, str(INCIDENTS), "21"]).stdout.split())

@@ -1,12 +1,12 @@
-"""What the decoding of many incidents costs beside the bare parse of the same body, and beside Qt's JSON reader, which
-gives no records yet."""
+"""The cost of decoding many incidents, compared with merely parsing the same body, and with Qt's JSON reader, which
+does not make records."""
 
 from measurement import measurement, output_of, program
 
 INCIDENTS = 10_000
 ROUNDS = 21
 GOAL_BESIDE_PARSE = 4
-# As a share of Qt's time: ten times faster.
+# As a fraction of Qt's time: ten times faster.
 GOAL_BESIDE_QT = 0.1
 
 

@@ -1,7 +1,7 @@
 """usage: desktop.py first_frame|first_data|resident_after_cycle|scroll|opening|idle RESULT
 
-Starts larkspan and the bare window in turn, by the same hand in the same session, and writes the medians to RESULT as
-JSON. It runs in the world of the end-to-end tests, with their stand-ins around the programs.
+Starts larkspan and the bare window alternately, in the same way and the same session, and writes the medians to
+RESULT as JSON. It runs in the environment of the end-to-end tests, with their stand-ins around the programs.
 """
 
 import json
@@ -33,16 +33,15 @@ RESIDENT_ROUNDS = 3
 SETTLING_SECONDS = 2
 IDLE_SECONDS = 60
 SCROLL_ROUNDS = 3
-# Where the names of the rows come to stand, and before them the mark of being busy, which is never at rest: x, y, width,
-# height.
+# The area in which the rows' names appear, and before them the busy indicator, which always moves: x, y, width, height.
 ROWS = ("60", "200", "340", "120")
 OVERVIEW_PATH = "/user/api/status-pages/status"
 
 
 @contextmanager
 def desktop(made_by=display.server):
-    """Surroundings in which the program finds its key and its service; by itself without a window manager, which takes
-    time of its own."""
+    """An environment in which the program finds its key and its service; by default without a window manager, which
+    takes extra time."""
     with (tempfile.TemporaryDirectory(prefix="larkspan-bench-") as home, service.simulator() as simulator,
           made_by() as screen, session.session(screen, Path(home)) as around, keyring.keyring(around) as keys):
         simulator.reset()
@@ -55,7 +54,7 @@ def first_frames():
 
 
 def first_data():
-    """Until the rows of the first cycle stand, beside the bare window's first frame."""
+    """The time until the rows of the first cycle are shown, compared with the bare window's first frame."""
     return starts({"larkspan": ["--rest", *ROWS], "bare": []},
                   lambda name, simulator: await_cycle(simulator) if name == "larkspan" else None)
 
@@ -85,12 +84,12 @@ def resident():
 
 
 def await_cycle(simulator):
-    """Until the service is asked for the overview, the last request of a cycle."""
+    """Waits until the overview is requested, the last request of a cycle."""
     eventually(lambda: any(request["target"] == OVERVIEW_PATH for request in simulator.requests()), "no cycle came", 30)
 
 
 def size_of(name, surroundings, await_readiness):
-    """What the program holds, in MiB."""
+    """The memory of the program, in MiB."""
     with running(PROGRAMS[name], env=surroundings, stderr=subprocess.DEVNULL) as process:
         await_readiness()
         time.sleep(SETTLING_SECONDS)
@@ -101,7 +100,7 @@ def size_of(name, surroundings, await_readiness):
 
 
 def scrolled():
-    """What a frame costs while a list of many rows scrolls, by the scale of the display: in milliseconds."""
+    """The cost of a frame in milliseconds while a list of many rows scrolls, by the scale of the display."""
     found = {}
     with desktop(lambda: display.server("2400x1600")) as (_, surroundings, _):
         for scale in ("1", "2"):
@@ -116,14 +115,14 @@ def scrolled():
 
 
 def opened():
-    """From the choice of a page's incidents, of which there are many, to their first rows on screen, in milliseconds; the
-    service's own time left out."""
+    """The time from the choice of a page's many incidents to their first rows on screen, in milliseconds, without
+    the service's own time."""
     with desktop() as (_, surroundings, _):
         return float(output_of([BINARIES / "larkspan-bench-scroll", "opening", str(SCROLLED_ROWS["incidents"])], env=surroundings).stdout)
 
 
 def idle():
-    """What a minute costs with the window minimised: CPU in milliseconds and context switches, of all threads."""
+    """The cost of a minute with the window minimised: CPU time in milliseconds and context switches, of all threads."""
     with desktop(display.display) as (simulator, surroundings, screen):
         with running(PROGRAMS["larkspan"], env=surroundings, stderr=subprocess.DEVNULL) as process:
             await_cycle(simulator)
@@ -133,19 +132,19 @@ def idle():
             time.sleep(SETTLING_SECONDS)
             cpu, switches = cpu_of(process.pid), switches_of(process.pid)
             time.sleep(IDLE_SECONDS)
-            # A thread that ended meanwhile has left no count behind.
+            # A thread that has ended meanwhile has no count any more.
             switched = sum(count - switches.get(thread, 0) for thread, count in switches_of(process.pid).items())
             return {"larkspan": {"cpu": cpu_of(process.pid) - cpu, "switches": switched}}
 
 
 def switches_of(process_id):
-    """Of each thread."""
+    """The context switches of each thread."""
     return {thread.name: sum(int(count) for count in re.findall(r"ctxt_switches:\s+(\d+)", (thread / "status").read_text()))
             for thread in Path(f"/proc/{process_id}/task").iterdir()}
 
 
 def cpu_of(process_id):
-    """In milliseconds, that of ended threads included."""
+    """The CPU time in milliseconds, including that of ended threads."""
     return time.clock_gettime(cpu_clock(process_id)) * 1e3
 
 

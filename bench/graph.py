@@ -1,5 +1,5 @@
-"""What a latency graph of 1,440 samples costs, at the size that it has and at one that is seen well, beside what it may
-cost: painted once for its samples, and its selection moved."""
+"""The cost of a latency graph of 1,440 samples, at its normal size and at a large one, compared with the limit:
+painting it once for its samples, and moving its selection."""
 
 import os
 
@@ -16,7 +16,7 @@ def measure(build):
     bench = program(build, "larkspan-bench-graph")
     found = []
     for scale, most in PAINTING.items():
-        # As with the gallery's pictures, the cost is the same wherever it is measured.
+        # As for the gallery's pictures, the result does not depend on the display.
         surroundings = os.environ | {"QT_QPA_PLATFORM": "offscreen", "QT_SCALE_FACTOR": scale}
         for name, size in SIZES.items():
             painting, selecting = map(float, output_of([bench, *size, TIMES], env=surroundings).stdout.split())

@@ -1,9 +1,9 @@
-"""What reading the markdown of a message costs, and what its rows cost with their escaped and styled texts, beside md4c
-reading the same text for nobody: an ordinary message, and a megabyte of them."""
+"""The cost of reading a message's markdown, and of its rows with their escaped and styled texts, compared with md4c
+alone on the same text: for an ordinary message, and for a megabyte of them."""
 
 from measurement import measurement, output_of, program
 
-# A message has a kilobyte.
+# A message is a kilobyte long.
 SIZES = {"message": (1, 2_001), "megabyte": (1_000, 21)}
 GOAL_OF_READING = 2
 

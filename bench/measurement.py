@@ -1,15 +1,15 @@
-"""What a measurement is, and how a program that measures is run."""
+"""The form of a measurement, and the way to run a measuring program."""
 
 import subprocess
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-# What is scrolled, and how many rows of it.
+# The scrolled lists and their numbers of rows.
 SCROLLED_ROWS = {"pages": 10_000, "incidents": 10_000, "components": 10_000, "monitors": 2_000, "bare": 10_000}
 
 
 class Unable(Exception):
-    """A measurement cannot be taken; the message is a sentence for a person."""
+    """Raised if a measurement cannot be taken; the message is a sentence for a person."""
 
 
 def measurement(name, value, unit, reference, goal=None):

@@ -1,5 +1,5 @@
-"""What larkspan costs on the desktop, beside a bare Qt Quick window: the program as it is shipped, in the world of the
-end-to-end tests."""
+"""The costs of larkspan on the desktop, compared with a bare Qt Quick window: the shipped program, in the
+environment of the end-to-end tests."""
 
 import json
 import re
@@ -15,9 +15,9 @@ import world
 GOAL = 1.5
 DATA_GOAL = 2.5
 SCROLL_GOAL = 2
-# Within this the first rows of a page with many incidents are to stand on screen, in milliseconds.
+# The longest allowed time until the first rows of a page with many incidents are on screen, in milliseconds.
 OPENING = 100
-# What a minute may cost while the window is minimised, polls and all.
+# The allowed cost of a minute with the window minimised, including polls.
 IDLE_CPU = 5
 IDLE_SWITCHES = 60
 

@@ -1,4 +1,4 @@
-# Every request would fail with a host that makes no URL, and the program could tell nobody why; the build can.
+# With a host that is not valid in a URL every request would fail, and the program could not say why; the build can.
 block()
     set(host "[A-Za-z0-9_-]+(\\.[A-Za-z0-9_-]+)*\\.?|\\[[0-9A-Fa-f:.]+\\]")
     if(NOT LARKSPAN_SERVICE_HOST MATCHES "^(${host})(:([0-9]+))?$")

@@ -1,5 +1,5 @@
-// Feeds arbitrary bytes to every decoding of an answer. Whatever they are, there is a result or a DecodingError whose
-// sentence can be shown.
+// Feeds arbitrary bytes to every decoding of an answer. Each ends with a result or with a DecodingError whose sentence
+// can be shown.
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,5 +1,5 @@
-// Feeds arbitrary bytes to the markdown of messages. Whatever they are, there are rows of bounded size, whose styled
-// texts hold no markup but the writer's own and say the same as their plain texts.
+// Feeds arbitrary bytes to the markdown of messages. The result must be rows of bounded size, whose styled texts
+// contain no markup but the writer's own and equal their plain texts when shown.
 
 #include <cstdint>
 #include <cstdlib>
@@ -18,7 +18,8 @@ namespace {
 using namespace larkspan;
 using namespace larkspan::incidents;
 
-// A piece has so many characters of up to four bytes; each costs a reference, and a style or link of its own at worst.
+// A piece has this number of characters of up to four bytes; at worst each becomes a reference with its own style or
+// link.
 constexpr std::size_t longestPlain = longestPiece * 4;
 constexpr std::size_t longestStyled = longestPiece * 100;
 
@@ -49,7 +50,7 @@ void checkText(const MarkdownText& text, bool isSourceValid)
     require(text.plain.size() <= longestPlain && text.styled.size() <= longestStyled);
     const auto shown = ShownText::of(text);
     require(shown && support::isValidUtf8(text.styled));
-    // Markup between two bad bytes may have kept them from being a character.
+    // Markup between two invalid bytes may have prevented them from forming a character.
     require(!isSourceValid || (support::isValidUtf8(text.plain) && *shown == ShownText::ofPlain(text.plain)));
     for (const auto& link : text.links) {
         require(!link.host.empty());

@@ -8,7 +8,7 @@
 
 namespace larkspan::bench {
 
-/// A whole number from the command line; throws with a sentence.
+/// An integer from the command line; throws with a sentence.
 inline std::size_t number(const char* text)
 {
     std::size_t value = 0;

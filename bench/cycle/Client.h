@@ -21,12 +21,12 @@
 
 namespace larkspan::bench {
 
-/// The client's real code over `account`, with everything around it in memory.
+/// The client's real code with `account`, and everything around it in memory.
 class Client {
 public:
     static constexpr const char* key = "bench";
 
-    /// `main` and `worker` outlive it, and may be the same.
+    /// `main` and `worker` must outlive this object, and may be the same.
     Client(simulator::Account account, platform::Executor& main, platform::Executor& worker)
         : service_(withKey(std::move(account)))
         , transport_(service_, worker)
@@ -38,13 +38,13 @@ public:
         state_->setupStatusItem({});
     }
 
-    /// What the service answers at that path, whatever the account holds.
+    /// Sets the service's answer for a path, whatever the account contains.
     void prepare(const std::string& path, std::string body)
     {
         transport_.prepare("https://kestrune.example/user/api/" + path, std::move(body));
     }
 
-    /// What the panel's menu was last given.
+    /// The last rows of the panel's menu.
     const std::vector<platform::MenuRow>& menu() const { return statusItem_.rows; }
     core::AppStateManager& state() { return *state_; }
     api::KestruneAPI& api() { return api_; }

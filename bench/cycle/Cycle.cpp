@@ -1,5 +1,5 @@
-// Measures the CPU that one refresh cycle takes of the client, by the size of the account: the real client code
-// on one thread, over answers that stand ready in memory.
+// Measures the CPU time of one refresh cycle in the client by the size of the account: the real client code on one
+// thread, with prepared answers in memory.
 //
 // usage: larkspan-bench-cycle PAGES CYCLES      prints the median in milliseconds
 
@@ -18,7 +18,7 @@ namespace {
 
 using namespace larkspan;
 
-// Kept out of line, so that a profiler can be told to count this and nothing else.
+// Not inlined, so that a profiler can count this function only.
 [[gnu::noinline]] void runMeasuredCycle(core::AppStateManager& state, fakes::ManualExecutor& executor)
 {
     state.refreshNow();

@@ -1,6 +1,6 @@
-// Measures how long the largest list that the client accepts holds up the main thread: the longest single turn of its
-// event loop while so many pages as an answer may hold, of as many bytes, come for the first time, come in another
-// order, and are all down at once, with what the panel's menu takes of it.
+// Measures how long the largest list that the client accepts blocks the main thread: the longest single turn of its
+// event loop while as many pages as an answer may contain, of as many bytes, arrive for the first time, arrive in
+// another order, and are all down at once; also the part of the panel's menu in it.
 //
 // usage: larkspan-bench-largest     prints milliseconds
 
@@ -32,7 +32,7 @@ std::string page(std::size_t number)
     return R"({"id":")" + std::to_string(number) + R"(","name":")" + name + "\"},";
 }
 
-/// Every `step`-th page comes first.
+/// Every `step`-th page is first.
 std::string pages(std::size_t step)
 {
     std::string body = "[";
@@ -44,7 +44,7 @@ std::string pages(std::size_t step)
     return body;
 }
 
-/// Says of each page that it is in that state.
+/// Gives each page this state.
 std::string overview(const std::string& code)
 {
     std::string body = R"({"status_pages":[)";

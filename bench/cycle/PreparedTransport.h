@@ -11,8 +11,8 @@
 
 namespace larkspan::bench {
 
-/// A road to the service that asks it once for each URL and remembers the answer, so that a later cycle costs
-/// what the client costs and nothing of the service.
+/// A transport that asks the service once for each URL and remembers the answer, so that later cycles measure the
+/// client without the service.
 class PreparedTransport final : public platform::HttpTransport {
 public:
     PreparedTransport(simulator::Service& service, platform::Executor& executor)
@@ -32,7 +32,7 @@ public:
             [complete = std::move(complete), answer = known->second]() mutable { complete(std::move(answer)); });
     }
 
-    /// Answers that URL by `body` from now on.
+    /// Answers requests for `url` with `body` from now on.
     void prepare(const std::string& url, std::string body)
     {
         answers_.insert_or_assign(url, platform::HttpResponse{200, std::move(body)});

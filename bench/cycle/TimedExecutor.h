@@ -9,14 +9,14 @@
 
 namespace larkspan::bench {
 
-/// Runs what is posted in turns of its own, and takes the time of each.
+/// Runs posted work in turns, and measures each turn.
 class TimedExecutor final : public platform::Executor {
     using Milliseconds = std::chrono::duration<double, std::milli>;
 
 public:
     void post(support::UniqueFunction<void()> work) override { queue_.push_back(std::move(work)); }
 
-    /// Runs what waits; false if nothing did.
+    /// Runs the waiting work; returns false if there was none.
     bool turn()
     {
         if (queue_.empty()) return false;

@@ -1,6 +1,6 @@
-// Measures how long a refresh cycle holds up the main thread, by the number of incidents: the longest single turn of
-// its event loop, with the window's dashboard, its menu and the panel's following each change. What the client's own
-// thread does meanwhile, the decoding above all, is told apart.
+// Measures how long a refresh cycle blocks the main thread, by the number of incidents: the longest single turn of its
+// event loop, while the window's dashboard, its menu and the panel's follow each change. The work of the client's own
+// thread, mainly decoding, is reported separately.
 //
 // usage: larkspan-bench-turns INCIDENTS CYCLES      prints two medians in milliseconds: the longest turn of the main
 //                                                   thread and all of the client's thread, per cycle

@@ -1,4 +1,4 @@
-// Measures the decoding of a list of incidents beside the bare parse of the same body, and beside Qt's JSON reader.
+// Measures the decoding of a list of incidents, compared with merely parsing the same body, and with Qt's JSON reader.
 //
 // usage: larkspan-bench-decode INCIDENTS ROUNDS     prints three medians in milliseconds
 
@@ -26,7 +26,7 @@ namespace {
 
 using namespace larkspan;
 
-/// What the service answers for an account with so many incidents.
+/// The service's answer for an account with this number of incidents.
 std::string answerWith(std::size_t incidents)
 {
     simulator::Account account;

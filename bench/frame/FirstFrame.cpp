@@ -1,6 +1,5 @@
-// Starts a program and says after how many milliseconds its window first stood on the screen or, with an area, after
-// how many that area had come to rest. It looks at the screen as a person would, so it needs no help of the program and
-// treats all programs alike.
+// Starts a program and prints the milliseconds until its window is first on the screen or, with an area, until that
+// area has stopped changing. It reads the screen, so it needs no help of the program and treats all programs alike.
 //
 // usage: larkspan-bench-first-frame [--rest X Y WIDTH HEIGHT] PROGRAM [ARGUMENT]...
 
@@ -35,7 +34,7 @@ struct Area {
     std::uint16_t height;
 };
 
-/// The screen, painted in a colour that no window has in its middle.
+/// The screen, painted in a colour that no window has in its centre.
 class Screen {
 public:
     using Picture = std::vector<std::uint8_t>;
@@ -79,7 +78,7 @@ private:
     xcb_screen_t* screen_ = nullptr;
 };
 
-/// A program that runs until this object goes.
+/// A program that runs until this object is destroyed.
 class Program {
 public:
     explicit Program(char** command)
@@ -137,7 +136,7 @@ double millisecondsToFirstFrame(char** command)
     return milliseconds(Clock::now() - start);
 }
 
-/// What has not changed for so long is at rest. A mark of being busy moves more often.
+/// An area that has not changed for this long is at rest. A busy indicator moves more often.
 constexpr auto rest = 1s;
 
 double millisecondsToRest(Area area, char** command)

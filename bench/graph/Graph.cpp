@@ -1,4 +1,4 @@
-// Measures what a day of latency costs on the screen: a graph of 1,440 samples painted, and its selection moved from
+// Measures the cost of a day of latency on the screen: painting a graph of 1,440 samples, and moving its selection from
 // sample to sample, from the new value to the frame that shows it.
 //
 // usage: larkspan-bench-graph WIDTH HEIGHT TIMES     prints two medians in milliseconds

@@ -1,5 +1,4 @@
-// Measures what it takes to read a message's markdown and to make its rows, beside md4c reading the same text for
-// nobody.
+// Measures reading a message's markdown and making its rows, compared with md4c alone on the same text.
 //
 // usage: larkspan-bench-markdown MESSAGES TIMES      prints three medians in microseconds: reading, reading and making
 //                                                    the rows, and md4c alone; the text is that many messages, one
@@ -68,7 +67,7 @@ double medianOf(std::size_t times, Work work)
     return *middle;
 }
 
-/// Reads blocks and inline markup as the rows do; the number of runs says that all of it was done.
+/// Reads blocks and inline markup as the rows do; the number of runs shows that all of it was read.
 class Reading {
 public:
     static std::size_t runsOf(const std::string& source)

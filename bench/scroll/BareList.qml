@@ -1,6 +1,6 @@
 import QtQuick
 
-// What a list of such rows costs at least: the same things are drawn for each row, with nothing around them.
+// The minimum for a list of such rows: the same items are drawn for each row, with nothing around them.
 Window {
     id: window
     property int rows: 0

@@ -1,12 +1,12 @@
-// Measures what a frame costs while a list of many rows scrolls, as a hand on a touchpad scrolls it: the window's list
+// Measures the cost of a frame while a list of many rows scrolls, as with a touchpad: the window's list
 // of status pages, a page's list of incidents, of components or of monitors with all their metrics open, or a bare list
-// that draws the same things.
+// that draws the same items.
 //
 // usage: larkspan-bench-scroll pages|incidents|components|monitors|bare ROWS
 //                                          prints the median and the 95th percentile in milliseconds
 //        larkspan-bench-scroll opening ROWS
-//                                          prints how long it takes from the choice of a page's incidents to their
-//                                          first rows on screen, answer included
+//                                          prints the time from the choice of a page's incidents to their
+//                                          first rows on screen, including the answer
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -39,7 +39,7 @@ constexpr QSize size(1200, 800);
 constexpr int frames = 600;
 constexpr int warmUp = 60;
 constexpr int openings = 9;
-/// Points from frame to frame: no multiple of a row's height, so that each frame has rows that come and go.
+/// In points for each frame: no multiple of a row's height, so that rows appear and disappear in each frame.
 constexpr double step = 37;
 
 simulator::Account accountWithPages(std::size_t pages)
@@ -119,7 +119,7 @@ public:
 
     QQuickWindow& window() { return mainWindow_.window(); }
 
-    /// Opens the first page and waits for its incidents to stand in the window.
+    /// Opens the first page and waits until its incidents are shown.
     void openIncidents(std::size_t count)
     {
         auto& page = openedAt(Tab::incidents);

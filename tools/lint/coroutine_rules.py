@@ -1,4 +1,5 @@
-"""What g++ 12 gets wrong in coroutines, and what outlives its caller; the code comes without comments and strings."""
+"""The mistakes of g++ 12 in coroutines, and references that may outlive their object; the code is given without
+comments and strings."""
 
 import re
 from typing import Iterator
@@ -12,7 +13,8 @@ LAMBDA = re.compile(r"(?<![\w\])])\[([^\[\]]*)\]\s*(?=[({]|mutable\b|->)")
 
 
 def operand_after(code: str, at: int) -> str:
-    """What an await at `at` awaits: up to a binary operator, which formatted code sets between blanks, or the expression's end."""
+    """The operand of the await at `at`: up to a binary operator, which formatted code puts between blanks, or the
+    expression's end."""
     depth = 0
     start = at + len(code[at:]) - len(code[at:].lstrip())
     for end in range(start, len(code)):

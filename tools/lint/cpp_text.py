@@ -1,4 +1,4 @@
-"""C++ and QML text with what is not code blanked out, so that places stay where they are."""
+"""C++ and QML text in which everything but code is replaced by blanks, so that offsets stay the same."""
 
 import re
 
@@ -16,7 +16,7 @@ def without_comments(text: str) -> str:
 
 
 def without_strings(text: str) -> str:
-    """The quotes stay, so that a literal can still be seen to stand there."""
+    """The quotes are kept, so that a literal is still visible as one."""
     return COMMENT_OR_STRING.sub(
         lambda found: found[0] if found[0].startswith("/") else found[0][0] + blanked(found[0][1:-1]) + found[0][-1], text)
 
@@ -26,7 +26,7 @@ def line_of(text: str, at: int) -> int:
 
 
 def closing(text: str, opening: int) -> int:
-    """Where the bracket that opens at `opening` closes; the end of the text if it never does."""
+    """The offset at which the bracket at `opening` is closed; the end of the text if it never is."""
     depth = 0
     for at in range(opening, len(text)):
         if text[at] in "([{":

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Rules of the house that a reader of the text can check: layers, colours, plain text, coroutines, sizes.
+"""Rules of the project that can be checked in the text: layers, colours, plain text, coroutines, sizes.
 
 usage: source_rules.py FILE...    prints path:line: sentence for each breach, and ends with 1 if there is one
 """

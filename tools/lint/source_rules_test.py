@@ -1,4 +1,4 @@
-"""Each rule with text that breaks it and text that keeps it."""
+"""Tests each rule with text that breaks it and text that keeps it."""
 
 import pytest
 
