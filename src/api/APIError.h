@@ -8,7 +8,7 @@
 
 namespace larkspan::api {
 
-/// A failure that the client itself finds: before sending, or in an answer that arrived.
+/// A failure that the client itself detects: before sending, or in an answer.
 class APIError : public support::LocalizedError {
 public:
     enum class Case { httpStatus, decoding, custom, missingAPIKey, invalidURL, invalidResponse };

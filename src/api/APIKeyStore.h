@@ -8,8 +8,8 @@
 
 namespace larkspan::api {
 
-/// The stored API key for those on the main thread: each operation runs on the client's executor, where a store
-/// that waits for the user holds up nothing on screen. It must outlive every task that it gave.
+/// Access to the stored API key from the main thread: each operation runs on the client's executor, so that a store
+/// that waits for the user does not block the screen. Must outlive every task that it has returned.
 class APIKeyStore {
 public:
     APIKeyStore(platform::Executor& executor, platform::CredentialStore& credentials)
@@ -18,10 +18,10 @@ public:
     {
     }
 
-    /// Whether the store gives a key, an empty one included. The key itself stays where it is.
+    /// Whether the store contains a key, even an empty one. Does not return the key.
     support::Task<bool> hasAPIKey();
 
-    /// Replaces the stored key, and says whether `key` is stored now.
+    /// Replaces the stored key; returns whether `key` is stored.
     support::Task<bool> saveAPIKey(std::string key);
 
     support::Task<void> deleteAPIKey();

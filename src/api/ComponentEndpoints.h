@@ -19,12 +19,12 @@ namespace larkspan::api {
 
 class RequestEngine;
 
-/// What the client asks of the components of the account's pages and of their groups.
+/// The operations on the components of the account's pages and on their groups.
 class ComponentEndpoints {
 public:
     explicit ComponentEndpoints(RequestEngine& engine);
 
-    /// Those of one page, even if its id is empty; of the whole account if it is absent.
+    /// The components of one page, even if its id is empty; of the whole account if it is absent.
     support::Task<std::vector<model::Component>> fetchComponents(std::optional<std::string> statusPageId = {});
     support::Task<model::Component> createComponent(model::CreateComponentRequest request);
     support::Task<model::Component> updateComponent(std::string id, model::UpdateComponentRequest changes);
@@ -35,7 +35,7 @@ public:
     support::Task<void> deleteComponentGroup(std::string id);
 
 private:
-    // Tasks that run on the client's executor; the public operations send them there.
+    // Tasks that run on the client's executor; the public operations start them there.
     template <typename Envelope>
     support::Task<typename Envelope::List> fetchList(std::string path);
 

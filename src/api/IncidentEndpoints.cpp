@@ -91,7 +91,7 @@ Task<Incident> IncidentEndpoints::resolveIncident(std::string id)
 
 Task<Incident> IncidentEndpoints::resolve(std::string id)
 {
-    // Which state means the end is the account's own choice, so its number is asked for and never assumed.
+    // Each account defines its own final state, so its number is fetched and never assumed.
     auto fetching = incidentStates();
     const auto states = co_await std::move(fetching);
     const auto isResolved

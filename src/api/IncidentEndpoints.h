@@ -19,35 +19,35 @@ namespace larkspan::api {
 
 class RequestEngine;
 
-/// What the client asks of the account's incidents.
+/// The operations on the account's incidents.
 class IncidentEndpoints {
 public:
     explicit IncidentEndpoints(RequestEngine& engine);
 
-    /// Those of one page; of the whole account if `statusPageId` is absent or empty. As the service lists them.
+    /// The incidents of one page, or of the whole account if `statusPageId` is absent or empty, in the service's order.
     support::Task<std::vector<model::Incident>> fetchIncidents(
         std::optional<std::string> statusPageId = {}, std::stop_token stop = {});
     support::Task<model::Incident> fetchIncident(std::string id);
     support::Task<model::Incident> createIncident(model::CreateIncidentRequest request);
-    /// Adds `message` to the timeline; the state stays.
+    /// Adds `message` to the timeline without changing the state.
     support::Task<model::Incident> updateIncident(std::string id, std::string message);
     support::Task<model::Incident> appendIncidentUpdate(
         std::string id, std::optional<std::string> message, std::optional<std::string> incidentStateId);
     support::Task<void> acknowledgeIncident(std::string id);
     support::Task<void> escalateIncident(std::string id);
-    /// The account's workflow, asked for once and then kept as long as the program runs.
+    /// The account's workflow, fetched once and then kept as long as the program runs.
     support::Task<std::vector<model::IncidentState>> fetchIncidentStates();
-    /// Moves the incident into the first state of the workflow that is called "Resolved", in any case of letters.
+    /// Moves the incident into the first state of the workflow named "Resolved", ignoring the case of letters.
     support::Task<model::Incident> resolveIncident(std::string id);
     support::Task<void> deleteIncident(std::string id);
 
 private:
-    // Tasks that run on the client's executor; the public operations send them there.
+    // Tasks that run on the client's executor; the public operations start them there.
     support::Task<std::vector<model::IncidentState>> incidentStates();
     support::Task<model::Incident> resolve(std::string id);
 
     RequestEngine& engine_;
-    // Of the client's executor, as the key and every request are.
+    // Used on the client's executor only, as the key and every request are.
     std::optional<std::vector<model::IncidentState>> cachedIncidentStates_;
 };
 

@@ -12,7 +12,7 @@
 
 namespace larkspan::api {
 
-/// The operations of each resource, over one engine.
+/// The operations of each resource, with a common engine.
 template <typename... Endpoints>
 class OperationsOf : public RequestEngine, public Endpoints... {
 public:
@@ -24,12 +24,12 @@ public:
     }
 };
 
-/// The program's only road to the service. Its operations may be awaited from any executor; they work on the
-/// client's own and interleave there while they wait. They throw `APIError`, `platform::URLError` or
-/// `model::DecodingError`. What changes something on the service is sent once, whatever becomes of it; a read may go
-/// out a second time where the connection kept for it turns out to be dead. It must outlive every task that it gave.
+/// The program's only access to the service. Its operations may be awaited on any executor; they run on the client's
+/// own and interleave there while they wait. They throw `APIError`, `platform::URLError` or `model::DecodingError`.
+/// A write is sent once, whatever its result; a read may be sent a second time if its kept connection turns out to be
+/// closed. Must outlive every task that it has returned.
 ///
-/// Whoever uses the operations of one resource alone asks for that base.
+/// Code that uses the operations of one resource only takes that base.
 class KestruneAPI final : public OperationsOf<StatusPageEndpoints, IncidentEndpoints, MaintenanceEndpoints,
                               MonitorEndpoints, ComponentEndpoints, TeamEndpoints> {
 public:

@@ -10,7 +10,7 @@ namespace larkspan::api {
 
 using Ids = std::optional<std::vector<std::string>>;
 
-/// What a maintenance is made from. An empty list of ids counts as none.
+/// The values of a new maintenance. An empty list of ids counts as none.
 struct NewMaintenance {
     std::string title{};
     std::optional<std::string> message{};
@@ -23,7 +23,7 @@ struct NewMaintenance {
     bool operator==(const NewMaintenance&) const = default;
 };
 
-/// What is to change of a maintenance; what is absent stays, and an empty list of ids counts as absent.
+/// The changes of a maintenance; absent values are not changed, and an empty list of ids counts as absent.
 struct MaintenanceChanges {
     std::optional<std::string> title{};
     std::optional<std::string> message{};

@@ -14,7 +14,7 @@ using support::Task;
 
 namespace {
 
-/// The service is sent nothing for an empty list.
+/// An empty list is not sent to the service.
 std::optional<std::string> affected(const Ids& ids)
 {
     if (!ids || ids->empty()) return std::nullopt;

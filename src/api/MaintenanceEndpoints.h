@@ -17,12 +17,12 @@ namespace larkspan::api {
 
 class RequestEngine;
 
-/// What the client asks of the account's maintenances.
+/// The operations on the account's maintenances.
 class MaintenanceEndpoints {
 public:
     explicit MaintenanceEndpoints(RequestEngine& engine);
 
-    /// Those of the whole account, as the service lists them.
+    /// The maintenances of the whole account, in the service's order.
     support::Task<std::vector<model::Maintenance>> fetchMaintenances(std::stop_token stop = {});
     support::Task<model::Maintenance> fetchMaintenance(std::string id);
     support::Task<model::Maintenance> createMaintenance(NewMaintenance arguments);

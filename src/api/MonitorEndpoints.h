@@ -19,16 +19,16 @@ namespace larkspan::api {
 
 class RequestEngine;
 
-/// What the client asks of the account's monitors.
+/// The operations on the account's monitors.
 class MonitorEndpoints {
 public:
     using MetricsWindows = std::map<std::string, model::MonitorMetricsWindow>;
 
     explicit MonitorEndpoints(RequestEngine& engine);
 
-    /// Those of the whole account, as the service lists them.
+    /// The monitors of the whole account, in the service's order.
     support::Task<std::vector<model::Monitor>> fetchMonitors();
-    /// Checks the target now; the answer comes before the check's result.
+    /// Starts a check of the target; the answer comes before the check's result.
     support::Task<void> runMonitor(std::string id);
     support::Task<void> pauseMonitor(std::string id);
     support::Task<void> resumeMonitor(std::string id);
@@ -36,11 +36,11 @@ public:
     support::Task<MetricsWindows> fetchMonitorMetrics(std::vector<std::string> ids, std::string range);
     support::Task<std::vector<model::MonitorWithMetrics>> fetchMonitorsWithMetrics(
         std::vector<std::string> componentIds);
-    /// Those under the components; without any component there is nothing to ask for, and nothing is sent.
+    /// The monitors under the components; without components nothing is sent.
     support::Task<std::vector<model::ComponentMonitor>> fetchComponentMonitors(std::vector<std::string> componentIds);
 
 private:
-    // Tasks that run on the client's executor; the public operations send them there.
+    // Tasks that run on the client's executor; the public operations start them there.
     support::Task<MetricsWindows> metricsOf(std::string path);
     support::Task<std::vector<model::ComponentMonitor>> componentMonitors(std::vector<std::string> componentIds);
 

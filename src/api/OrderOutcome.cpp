@@ -14,7 +14,7 @@ bool mayHaveTakenPlace(const APIError& failure)
     switch (failure.kind()) {
     case APIError::Case::decoding:
     case APIError::Case::invalidResponse: return true;
-    // Only these say that the service has looked at the order and wants nothing of it.
+    // Only these mean that the service has read the request and refused it.
     case APIError::Case::httpStatus: return *failure.statusCode() < 400 || *failure.statusCode() > 499;
     case APIError::Case::custom:
     case APIError::Case::missingAPIKey:

@@ -8,12 +8,12 @@
 
 namespace larkspan::api {
 
-/// Whether an order that ended in `failure` may have taken place all the same: its answer was lost on the way, cannot
-/// be read, or comes from a service that broke in the middle. False where it was refused or never sent.
+/// Whether a write that ended with `failure` may have taken effect: its answer was lost, cannot be read, or reports an
+/// error inside the service. False if it was refused or never sent.
 bool mayHaveTakenPlace(const std::exception_ptr& failure);
 
-/// `answer`, if it is about the record of that id, which was ordered to be changed; an answer about another tells
-/// nothing and so is as good as unreadable.
+/// Returns `answer` if it is about the changed record, the one with this id; an answer about another record is treated
+/// as unreadable.
 template <typename Record>
 Record answerAbout(const std::string& id, Record answer)
 {

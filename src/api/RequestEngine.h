@@ -12,7 +12,7 @@
 
 namespace larkspan::api {
 
-/// What is under every operation: a request is built, signed with the stored key, sent and its answer checked, all on
+/// The base of every operation: builds a request, signs it with the stored key, sends it and checks its answer, all on
 /// the client's own executor.
 class RequestEngine {
 public:
@@ -25,7 +25,7 @@ public:
 
     enum class Base { v1, feature };
 
-    /// One request as an operation words it. `path` may start with "/" and may hold a query; `body` is JSON.
+    /// One request of an operation. `path` may start with "/" and may contain a query; `body` is JSON.
     struct Call {
         Base base = Base::v1;
         std::string method = "GET";
@@ -38,8 +38,8 @@ public:
     RequestEngine(const RequestEngine&) = delete;
     RequestEngine& operator=(const RequestEngine&) = delete;
 
-    /// The answer, decoded in either result shape; one of `model::Results`. Whoever calls this or `sendRecord` includes
-    /// RequestSending.h.
+    /// Returns the answer, decoded in either result shape; one of `model::Results`. Callers of this and of `sendRecord`
+    /// include RequestSending.h.
     template <typename Result>
     support::Task<Result> sendRequest(Call call, std::stop_token stop = {});
 
@@ -47,26 +47,26 @@ public:
     template <typename Result, typename Body>
     support::Task<Result> sendRecord(Call call, Body body);
 
-    /// For operations whose answer carries nothing of interest.
+    /// For operations whose answer has no content of interest.
     support::Task<void> sendForNothing(Call call);
 
-    /// A GET that gives the body undecoded, for results with shapes of their own.
+    /// A GET that returns the undecoded body, for results with other shapes.
     support::Task<std::string> sendRawRequest(Base base, std::string path, std::stop_token stop = {});
 
-    /// Ends if the service accepts `key`, which needs not be the stored one; else throws what a request would.
+    /// Returns if the service accepts `key`, which need not be the stored one; otherwise throws as a request would.
     support::Task<void> validateAPIKey(std::string key, std::stop_token stop = {});
 
-    /// Where every request is made, and where an operation of several requests runs.
+    /// The executor of every request, and of operations with several requests.
     platform::Executor& executor() const { return ports_.executor; }
 
-    /// For an operation that decodes its answer itself.
+    /// For operations that decode their answers themselves.
     const platform::Clock& clock() const { return ports_.clock; }
 
 private:
     platform::HttpRequest preparedRequest(const Call& call) const;
     std::string storedKey() const;
 
-    // Tasks that run on the executor; the public operations send them there.
+    // Tasks that run on the executor; the public operations start them there.
     support::Task<std::string> exchange(platform::HttpRequest request, std::stop_token stop);
     support::Task<std::string> send(Call call, std::stop_token stop);
     support::Task<void> validate(std::string key, std::stop_token stop);

@@ -20,7 +20,7 @@ namespace larkspan::api {
 
 class RequestEngine;
 
-/// What the client asks of the account's status pages.
+/// The operations on the account's status pages.
 class StatusPageEndpoints {
 public:
     explicit StatusPageEndpoints(RequestEngine& engine);

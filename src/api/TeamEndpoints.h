@@ -17,12 +17,12 @@ namespace larkspan::api {
 
 class RequestEngine;
 
-/// What the client asks of the account's teams and of who is on call.
+/// The operations on the account's teams and their on-call duty.
 class TeamEndpoints {
 public:
     explicit TeamEndpoints(RequestEngine& engine);
 
-    /// The duty of the key's owner.
+    /// The on-call duty of the key's owner.
     support::Task<model::OnCallStatus> fetchOnCallStatus();
     support::Task<void> takeOnCallShift(std::string scheduleId);
     support::Task<std::vector<model::Team>> fetchTeams();

@@ -8,7 +8,7 @@
 
 namespace larkspan::presentation {
 
-/// Calls `react` when the changes of `observed` have landed, once for all of a turn; not after its own end.
+/// Calls `react` after the changes of `observed`, once for all changes of a turn; never after its own destruction.
 class AfterChanges {
 public:
     AfterChanges(platform::Executor& main, support::Observable& observed, std::function<void()> react);

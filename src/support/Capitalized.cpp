@@ -9,7 +9,7 @@ namespace larkspan::support {
 
 namespace {
 
-/// Large letters that have their small ones `distance` further on; where that is one, the two alternate.
+/// Upper-case letters whose lower-case ones are `distance` further on; if the distance is one, the two alternate.
 struct LetterRange {
     char32_t first;
     char32_t last;
@@ -21,7 +21,7 @@ struct LetterRange {
     }
 };
 
-// The standard library's own mapping depends on the locale of the process, in which no word of the service is written.
+// The standard library's mapping depends on the locale of the process, which is unrelated to the service's words.
 constexpr std::array alphabets{
     LetterRange{U'A', U'Z', 32}, LetterRange{0x00C0, 0x00D6, 32},  // Latin: À to Ö
     LetterRange{0x00D8, 0x00DE, 32},  // Ø to Þ

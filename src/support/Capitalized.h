@@ -5,8 +5,8 @@
 
 namespace larkspan::support {
 
-/// `text` with the first letter of each word large and all others small: "CRITICAL" gives "Critical" and "in_progress"
-/// gives "In_Progress". UTF-8; Latin, Greek, Cyrillic and Armenian letters, others stay as they are.
+/// `text` with the first letter of each word in upper case and all others in lower case: "CRITICAL" gives "Critical"
+/// and "in_progress" gives "In_Progress". UTF-8; Latin, Greek, Cyrillic and Armenian letters, others are not changed.
 std::string capitalized(std::string_view text);
 
 }  // namespace larkspan::support

@@ -10,16 +10,17 @@
 
 namespace larkspan::support {
 
-/// A task started now and awaited later, on the executor that it is awaited on. Dropped, it runs on unheard.
+/// A task that is started now and awaited later, on the same executor. After destruction it runs on, and its result is
+/// ignored.
 template <typename T>
 class Child {
 public:
     Child(platform::Executor& executor, Task<T> task) { start(executor, run(state_, std::move(task))); }
 
-    /// The task's result or its exception. Await it once.
+    /// Returns the task's result or throws its exception. Await it once.
     Task<T> result() { return takeResult(state_); }
 
-    /// Ends when the task has ended, however it ended.
+    /// Ends when the task has ended, with or without an exception.
     Task<void> settled() { return awaitEnd(state_); }
 
 private:
@@ -29,7 +30,7 @@ private:
     };
     using StatePointer = std::shared_ptr<State>;
 
-    /// Lets go of the awaiter when the task ends, and also when it is dropped in mid-work: they hold each other.
+    /// Releases the awaiter when the task ends or is destroyed while running, since they hold each other.
     struct Release {
         StatePointer state;
         ~Release() { const auto released = std::exchange(state->waiter, std::nullopt); }

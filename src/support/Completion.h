@@ -9,8 +9,8 @@
 
 namespace larkspan::support {
 
-/// The answer that an awaited callback owes. Give it once, from any thread; the awaiter resumes where it awaited.
-/// Dropped without an answer, it unwinds the awaiting task, by way of that task's executor.
+/// The pending answer of an awaited callback. Give it once, on any thread; the awaiter resumes where it awaited.
+/// Destroyed without an answer, it unwinds the awaiting task on that task's executor.
 template <typename T>
 class Completion {
 public:

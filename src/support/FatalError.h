@@ -4,7 +4,7 @@
 
 namespace larkspan::support {
 
-/// Writes `message` to standard error and ends the process at once. For states that must not be survived.
+/// Writes `message` to standard error and ends the process at once. For states in which the program must not go on.
 [[noreturn]] void fatalError(std::string_view message);
 
 }  // namespace larkspan::support

@@ -4,8 +4,8 @@
 
 namespace larkspan::support {
 
-/// Whether the two are the same but for the case of their letters. `word` is one of the program's own, in plain Latin
-/// letters: then this is true of just those texts that Unicode's lower case makes equal to it.
+/// Whether the two are equal ignoring the case of letters. `word` must be in ASCII letters: the result is then the same
+/// as with Unicode's lower case.
 bool equalsIgnoringCase(std::string_view text, std::string_view word);
 
 }  // namespace larkspan::support

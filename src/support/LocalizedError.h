@@ -6,7 +6,7 @@
 
 namespace larkspan::support {
 
-/// A failure with a sentence that a screen can show as it stands.
+/// A failure with a sentence that a screen can show unchanged.
 class LocalizedError : public std::exception {
 public:
     explicit LocalizedError(std::string description)
@@ -21,7 +21,7 @@ private:
     std::string description_;
 };
 
-/// The sentence for any failure; one that brings none gets a general one. `error` must hold an exception.
+/// The sentence of any failure; a general one if the exception has none. `error` must not be null.
 std::string localizedDescription(const std::exception_ptr& error);
 
 }  // namespace larkspan::support

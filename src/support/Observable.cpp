@@ -12,7 +12,7 @@ Subscription Observable::objectWillChange(std::function<void()> observer)
 void Observable::announceChange()
 {
     std::erase_if(observers_, [](const auto& observer) { return observer.expired(); });
-    // An observer may subscribe or unsubscribe others, so the list of this notice is fixed first.
+    // An observer may subscribe or unsubscribe others, so the list is copied first.
     const auto told = observers_;
     for (const auto& weak : told) {
         if (const auto observer = weak.lock()) (*observer)();

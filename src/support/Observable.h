@@ -7,20 +7,20 @@
 
 namespace larkspan::support {
 
-/// Ends with the subscriber: destroying it ends the notices, also from within one.
+/// Held by the subscriber: destroying it ends the notifications, also from within one.
 using Subscription = std::shared_ptr<const void>;
-/// Those of one subscriber to all that a screen consists of.
+/// The subscriptions of one subscriber to all parts of a screen.
 using Subscriptions = std::vector<Subscription>;
 
-/// An object whose observers are told just before one of its `Published` fields changes. One thread only.
+/// An object whose observers are called before one of its `Published` fields changes. One thread only.
 class Observable {
 public:
     Observable() = default;
     Observable(const Observable&) = delete;
     Observable& operator=(const Observable&) = delete;
 
-    /// Calls `observer` before each change, in order of subscription. The old value still stands then:
-    /// whoever needs the new one posts itself to the main executor.
+    /// Calls `observer` before each change, in order of subscription. The field still has its old value then; to read
+    /// the new one, post to the main executor.
     [[nodiscard]] Subscription objectWillChange(std::function<void()> observer);
 
 protected:
@@ -35,7 +35,7 @@ private:
     std::vector<std::weak_ptr<const std::function<void()>>> observers_;
 };
 
-/// A field of an `Observable`; each assignment, of an equal value too, is announced before it lands.
+/// A field of an `Observable`; each assignment, even of an equal value, is announced before it happens.
 template <typename T>
 class Published {
 public:

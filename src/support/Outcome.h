@@ -7,7 +7,7 @@
 
 namespace larkspan::support {
 
-/// What became of an operation: its result or the exception that it ended with.
+/// The outcome of an operation: its result or its exception.
 template <typename T>
 class Outcome {
 public:
@@ -16,7 +16,7 @@ public:
     static Outcome success(Value value = {}) { return Outcome(std::in_place_index<0>, std::move(value)); }
     static Outcome failure(std::exception_ptr error) { return Outcome(std::in_place_index<1>, std::move(error)); }
 
-    /// The result, moved out, or the exception thrown.
+    /// Returns the result by moving it, or throws the exception.
     T take()
     {
         if (auto* error = std::get_if<1>(&state_)) std::rethrow_exception(*error);

@@ -11,7 +11,7 @@
 
 namespace larkspan::support {
 
-/// A `platform::Executor` as asio's coroutines see it. The executor must outlive every task that runs on it.
+/// A `platform::Executor` for asio's coroutines. The executor must outlive every task that runs on it.
 class TaskExecutor {
 public:
     explicit TaskExecutor(platform::Executor& executor)
@@ -38,8 +38,8 @@ private:
     platform::Executor* executor_;
 };
 
-/// Asynchronous work that gives a `T` or throws; it does nothing until it is awaited or started.
-/// A coroutine takes its arguments by value, for it may outlive its caller.
+/// Asynchronous work that returns a `T` or throws; it does nothing until it is awaited or started. A coroutine takes
+/// its arguments by value, since it may outlive its caller.
 template <typename T>
 using Task = asio::awaitable<T, TaskExecutor>;
 
@@ -51,7 +51,7 @@ inline constexpr asio::use_awaitable_t<TaskExecutor> awaitTask{};
 
 }  // namespace detail
 
-/// Runs `task` on `executor` with nobody waiting for it. An exception that escapes it ends the process.
+/// Runs `task` on `executor` without waiting for it. An exception that leaves it ends the process.
 inline void start(platform::Executor& executor, Task<void> task)
 {
     asio::co_spawn(TaskExecutor(executor), std::move(task), [](const std::exception_ptr& failure) {

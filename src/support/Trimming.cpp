@@ -6,7 +6,7 @@ namespace larkspan::support {
 
 namespace {
 
-/// Pages like to leave zero width spaces in what is copied from them.
+/// Text that is copied from web pages often contains zero-width spaces.
 bool isWhiteSpace(char32_t character)
 {
     return isBlank(character) || isLineEnd(character) || character == U'\u200B';

@@ -10,10 +10,10 @@ bool isBlank(char32_t character);
 /// U+000A to U+000D, U+0085, U+2028 and U+2029.
 bool isLineEnd(char32_t character);
 
-/// `text` without the blanks at its two ends; UTF-8.
+/// `text` without the blanks at both ends; UTF-8.
 std::string_view withoutBlanksAround(std::string_view text);
 
-/// `text` without the blanks, line ends and zero width spaces at its two ends; UTF-8.
+/// `text` without the blanks, line ends and zero-width spaces at both ends; UTF-8.
 std::string_view trimmed(std::string_view text);
 
 }  // namespace larkspan::support

@@ -6,8 +6,7 @@
 
 namespace larkspan::support {
 
-/// A callable that is moved, never copied; what std::move_only_function will be.
-/// An empty one must not be called.
+/// A callable that is moved, never copied, as std::move_only_function in C++23. An empty one must not be called.
 template <typename Signature>
 class UniqueFunction;
 

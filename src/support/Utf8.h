@@ -6,10 +6,10 @@
 
 namespace larkspan::support {
 
-/// Whether `bytes` is well-formed UTF-8: no overlong form, no surrogate, nothing past U+10FFFF.
+/// Whether `bytes` is well-formed UTF-8: no overlong form, no surrogate, nothing above U+10FFFF.
 bool isValidUtf8(std::string_view bytes);
 
-/// A character and the bytes that it takes. A byte that begins no well-formed character is a U+FFFD of one byte.
+/// A character and its number of bytes. A byte that starts no well-formed character is a U+FFFD of one byte.
 struct Utf8Character {
     char32_t code;
     std::size_t length;
@@ -17,16 +17,17 @@ struct Utf8Character {
     bool isWellFormed() const { return code != U'\uFFFD' || length == 3; }
 };
 
-/// `bytes` is not empty.
+/// `bytes` must not be empty.
 Utf8Character firstCharacter(std::string_view bytes);
 
-/// `bytes` is not empty.
+/// `bytes` must not be empty.
 Utf8Character lastCharacter(std::string_view bytes);
 
-/// As much of well-formed `text` as has room in so many bytes, up to the end of a character.
+/// The longest beginning of `text` that has at most `most` bytes and ends after a whole character. `text` must be
+/// valid.
 std::string_view beginningOf(std::string_view text, std::size_t most);
 
-/// Writes `code` behind `text`; a surrogate and what lies past U+10FFFF becomes U+FFFD.
+/// Appends `code` to `text`; a surrogate or a code above U+10FFFF becomes U+FFFD.
 void appendCharacter(std::string& text, char32_t code);
 
 }  // namespace larkspan::support

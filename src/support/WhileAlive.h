@@ -6,7 +6,8 @@
 
 namespace larkspan::support {
 
-/// A callback that does `action` to `object`, or nothing once that has gone. Whoever holds it does not hold the object.
+/// A callback that calls `action` with `object`, or does nothing after that is destroyed. The callback does not keep
+/// the object alive.
 template <typename Object, typename Action>
 auto whileAlive(std::weak_ptr<Object> object, Action action)
 {

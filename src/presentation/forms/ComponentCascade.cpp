@@ -14,7 +14,7 @@ using model::ComponentGroup;
 
 namespace {
 
-/// The groups' own components before the flat list, so that a component which comes twice counts as its group has it.
+/// The groups' own components come before the flat list, so that of a component in both the group's version is used.
 Components groupedFirst(const ComponentGroups& componentGroups, const Components& components)
 {
     Components list;
@@ -66,7 +66,7 @@ ComponentGroups groupsWithComponents(const ComponentGroups& componentGroups, con
     for (const auto& component : withoutRepetitions(groupedFirst(componentGroups, components))) {
         if (component.groupId) named.insert(*component.groupId);
     }
-    // The first of several groups with one id speaks for them all.
+    // Of several groups with the same id, only the first one counts.
     std::unordered_set<std::string> met;
     for (const auto& group : componentGroups) {
         if (met.insert(group.id).second && group.components && !group.components->empty()) named.insert(group.id);

@@ -12,18 +12,18 @@ namespace larkspan::presentation {
 using Components = std::vector<model::Component>;
 using ComponentGroups = std::vector<model::ComponentGroup>;
 
-/// One component for each id, the first met, in the order of their names.
+/// One component for each id, the first in `list`, sorted by name.
 Components mergedComponents(Components list, const platform::LocaleText& locale);
 
-/// All components of a page, which usually come twice: under their group and in the flat list.
+/// All components of a page, most of which are listed twice: under their group and in the flat list.
 Components allComponents(
     const ComponentGroups& componentGroups, const Components& components, const platform::LocaleText& locale);
 
-/// Those under the group together with those that name it themselves.
+/// The components under the group and those that name it themselves.
 Components componentsForGroup(std::string_view groupID, const ComponentGroups& componentGroups,
     const Components& components, const platform::LocaleText& locale);
 
-/// The groups that have a component to choose, in their own order.
+/// The groups with at least one component, in their order.
 ComponentGroups groupsWithComponents(const ComponentGroups& componentGroups, const Components& components);
 
 }  // namespace larkspan::presentation

@@ -11,7 +11,7 @@ support::Task<ComponentGroups> componentGroupsOrNone(api::ComponentEndpoints& ap
         auto fetching = api.fetchComponentGroups(std::move(pageId));
         groups = co_await std::move(fetching);
     } catch (...) {
-        // Nothing is reported: without groups the components still show and can be chosen.
+        // Not reported: components can be shown and chosen without groups.
     }
     co_return groups;
 }

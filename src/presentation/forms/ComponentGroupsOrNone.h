@@ -8,7 +8,7 @@
 
 namespace larkspan::presentation {
 
-/// The groups of a page; none where they could not be fetched, for components do without.
+/// The groups of a page; none if they could not be fetched, since components can do without.
 support::Task<ComponentGroups> componentGroupsOrNone(api::ComponentEndpoints& api, std::string pageId);
 
 }  // namespace larkspan::presentation

@@ -110,7 +110,7 @@ void ComponentSelection::forgetMonitors()
     componentMonitors = {};
 }
 
-// What a component's monitors are is asked once and lands when it comes, also if the user has moved on meanwhile.
+// A component's monitors are fetched once and kept, even if the user has chosen another component meanwhile.
 Task<void> ComponentSelection::fetchMonitors(std::shared_ptr<ComponentSelection> self, std::string componentID)
 {
     try {
@@ -118,7 +118,7 @@ Task<void> ComponentSelection::fetchMonitors(std::shared_ptr<ComponentSelection>
         auto fetching = self->ports_.monitors.fetchComponentMonitors(std::move(ids));
         std::vector<ComponentMonitor> fetched = co_await std::move(fetching);
         self->componentMonitors = std::move(fetched);
-        // What is sent is what is seen: a choice that came with another list goes with it.
+        // Only a visible choice is sent: a choice from another list is dropped with that list.
         if (!self->isOffered(*self->selectedMonitorID)) self->selectedMonitorID = {};
     } catch (...) {
         self->tell("Could not load monitors for this component: ", std::current_exception());

@@ -19,7 +19,7 @@
 namespace larkspan::presentation {
 
 /// The part of a form that asks what is affected: the whole page, or a component of a group and one of its monitors.
-/// The empty text stands for no selection throughout. Main thread only; what it fetches outlives the form.
+/// An empty text always means no selection. Main thread only; its fetches may outlive the form.
 class ComponentSelection final : public support::Observable, public std::enable_shared_from_this<ComponentSelection> {
 public:
     struct Ports {
@@ -29,10 +29,10 @@ public:
         const platform::LocaleText& locale;
     };
 
-    /// A form that can do without components need not tell that they could not be fetched.
+    /// Whether the user is told if the components could not be fetched; some forms can do without them.
     enum class ComponentFailure { silent, told };
 
-    /// `alert` is given the words of a failure.
+    /// `alert` is called with the words of a failure.
     ComponentSelection(
         Ports ports, std::string pageId, ComponentFailure failure, std::function<void(std::string)> alert);
 
@@ -45,15 +45,15 @@ public:
     support::Published<bool> isLoadingComponents{*this, false};
     support::Published<bool> isLoadingMonitors{*this, false};
 
-    /// Fetches what there is to choose from.
+    /// Fetches the choices.
     void load();
 
     void chooseGroup(const std::string& id);
     void chooseComponent(const std::string& id);
-    /// Nothing where it is not offered any more.
+    /// Does nothing if the monitor is no longer offered.
     void chooseMonitor(const std::string& id);
 
-    /// The entries of the pickers; the first of each stands for no selection.
+    /// The entries of the pickers; the first of each means no selection.
     std::vector<Choice> groupChoices() const;
     std::vector<Choice> componentChoices() const;
     std::vector<Choice> monitorChoices(std::string nameOfNone) const;
@@ -69,7 +69,7 @@ private:
     void offer(Components fetchedComponents, ComponentGroups fetchedGroups);
     void offerComponentsOfGroup();
     void forgetMonitors();
-    /// None without a component, whatever came late.
+    /// None without a chosen component, even if monitors arrive late.
     const std::vector<model::ComponentMonitor>& offeredMonitors() const;
     bool isOffered(const std::string& monitorID) const;
     void tell(std::string words, const std::exception_ptr& failure) const;
@@ -78,7 +78,7 @@ private:
     const std::string pageId_;
     const ComponentFailure failure_;
     const std::function<void(std::string)> alert_;
-    // Kept because sorting by the locale is too dear for each time that the form is drawn.
+    // Kept because sorting by the locale is too slow for each time the form is drawn.
     ComponentGroups offeredGroups_;
     Components offeredComponents_;
 };

@@ -28,7 +28,7 @@ std::string_view EventForm::selectionHint() const
     return selection->showsComponentPicker() ? words_.hintForComponent : words_.hintForPage;
 }
 
-// The service takes a title of line ends, so only blanks count as none.
+// The service accepts a title of line ends, so only blanks count as empty.
 bool EventForm::canBeSent() const
 {
     return !support::withoutBlanksAround(*title).empty();

@@ -14,13 +14,13 @@
 
 namespace larkspan::presentation {
 
-/// The form of a new event of one page: its words, what it affects, and the request that makes it. It keeps what was
-/// typed until the service has it. Main thread only.
+/// The form of a new event of one page: its texts, what it affects, and the request that creates it. It keeps the typed
+/// text until the service has it. Main thread only.
 class EventForm : public GuardedScreen {
 public:
-    /// What one kind of event says of the choice of what it affects.
+    /// The texts of one kind of event for the choice of what it affects.
     struct SelectionWords {
-        /// The monitor that is none.
+        /// The entry for no monitor.
         std::string_view noMonitor;
         std::string_view hintForPage;
         std::string_view hintForComponent;
@@ -37,11 +37,11 @@ public:
 
     [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer) override;
 
-    /// The sheet came up: fetches what there is to choose from.
+    /// Called when the sheet opens: fetches the choices.
     void appear() { selection->load(); }
 
     std::vector<Choice> monitorChoices() const { return selection->monitorChoices(std::string(words_.noMonitor)); }
-    /// What the choice of a group is about, or is to be followed by.
+    /// The hint about the choice of a group, or about the next choice.
     std::string_view selectionHint() const;
     virtual bool isSelectionComplete() const = 0;
 
@@ -54,12 +54,12 @@ public:
 protected:
     EventForm(ComponentSelection::Ports ports, std::string pageId, SelectionWords words, GuardedScreen::Owner owner);
 
-    /// What has been filled in is worth a request.
+    /// Whether the form can be sent.
     virtual bool canBeSent() const;
-    /// Sends the request; the form is there until it has ended.
+    /// Sends the request; the form exists until the task has ended.
     virtual support::Task<void> create() = 0;
 
-    /// Awaits the event that `creating` makes, tells `onCreated` of it and closes the sheet.
+    /// Awaits the event that `creating` returns, passes it to `onCreated` and closes the sheet.
     template <typename Event>
     static support::Task<void> send(
         std::shared_ptr<EventForm> self, support::Task<Event> creating, std::function<void(const Event&)> onCreated)

@@ -11,7 +11,7 @@
 
 namespace larkspan::presentation {
 
-/// What the screen of a page's events needs, besides the service's operations on such events.
+/// The services that the screen of a page's events needs besides the operations on such events.
 struct EventListPorts {
     platform::Executor& main;
     api::ComponentEndpoints& components;

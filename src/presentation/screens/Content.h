@@ -7,23 +7,23 @@
 
 namespace larkspan::presentation {
 
-/// What a screen of fetched records shows.
+/// The state of a screen of fetched records.
 enum class Content { loading, failure, empty, records };
 
-/// Records that are there are shown, whatever became of the latest load; without any, a running load comes before the
-/// failure of the one before it.
+/// Existing records are shown, whatever the result of the latest load; without records, a running load takes precedence
+/// over an earlier failure.
 Content contentOf(bool hasRecords, bool isLoading, bool hasFailed);
 
-/// What stands in place of the records, in each state that has none.
+/// The placeholders for the states without records.
 struct Placeholders {
-    /// What the progress says.
+    /// The text of the progress.
     std::string loading{};
-    /// Its text is that of the failure.
+    /// Its text is set to that of the failure.
     Placeholder failure{.symbol = "exclamationmark.triangle", .tone = Tone::yellow, .offersRetry = true};
     Placeholder empty{};
 };
 
-/// All empty while there are records; `failureText` says why the last load failed.
+/// Empty while there are records; `failureText` is the reason why the last load failed.
 Placeholder placeholderOf(Content content, const Placeholders& placeholders, std::string failureText);
 
 /// The error's description; empty without an error.

@@ -8,42 +8,42 @@
 
 namespace larkspan::presentation {
 
-/// A record that was opened, with an editor in its place and the question before it is deleted. Main thread only;
-/// closing it stops no request.
+/// An opened record with an editor, and the question before the record is deleted. Main thread only; closing it cancels
+/// no request.
 class EditableDetail : public GuardedScreen {
 public:
     const Confirmation deleteConfirmation;
 
-    /// The editor is open.
+    /// Whether the editor is open.
     support::Published<bool> isEditing{*this, false};
-    /// The question is up whether the record is to be deleted.
+    /// Whether the question is shown if the record is to be deleted.
     support::Published<bool> showDeleteConfirmation{*this, false};
 
-    /// The button that leaves the editor or, outside it, the screen.
+    /// The text of the button that closes the editor or, without an editor, the screen.
     std::string_view closeLabel() const { return *isEditing ? "Cancel" : "Close"; }
 
-    /// Opens the editor; nothing while a request runs.
+    /// Opens the editor; does nothing while a request runs.
     void beginEditing();
     bool hasUnsavedText() const final { return *isEditing && isEdited(); }
 
-    /// Asks whether the record is to be deleted; nothing while a request runs.
+    /// Asks whether the record is to be deleted; does nothing while a request runs.
     void confirmDelete();
     void cancelDelete() { showDeleteConfirmation = false; }
-    /// The user confirmed the deletion.
+    /// Deletes the record; called when the user has confirmed.
     void deleteRecord();
 
 protected:
     EditableDetail(platform::Executor& main, Confirmation deletion, GuardedScreen::Owner owner);
 
-    /// What was edited is the service's now.
+    /// Closes the editor because the service has the edits.
     void closeEditor();
 
 private:
-    /// Puts into the editor what it opens with.
+    /// Sets the initial values of the editor.
     virtual void fillEditor() = 0;
-    /// The editor holds something that the user would miss.
+    /// Whether the editor contains something that would be lost.
     virtual bool isEdited() const = 0;
-    /// Deletes the record and closes the screen, which is there until that has ended.
+    /// Deletes the record and closes the screen, which exists until the task has ended.
     virtual support::Task<void> remove() = 0;
 
     void leave() final;

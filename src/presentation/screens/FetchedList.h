@@ -14,8 +14,8 @@
 
 namespace larkspan::presentation {
 
-/// A list that one request fetches. A failed load leaves its records as they were; a running load outlives the screen
-/// that began it.
+/// A list that one request fetches. A failed load does not change its records; a running load may outlive the screen
+/// that started it.
 template <typename Record>
 class FetchedList : public FetchedRecords, public std::enable_shared_from_this<FetchedList<Record>> {
 public:
@@ -28,14 +28,14 @@ public:
     {
     }
 
-    /// In the order in which `fetch` gave them.
+    /// In the order in which `fetch` returns them.
     RecordList<Record> records{*this};
     support::Published<bool> isLoading{*this, false};
-    /// The failure of the last load; null if there was none.
+    /// The failure of the last load; null if it succeeded.
     support::Published<std::exception_ptr> error{*this};
 
     void load() override { support::start(main_, loading()); }
-    /// Begins to load at once; the task ends with the load and never throws.
+    /// Starts to load at once; the task ends with the load and never throws.
     support::Task<void> loading()
     {
         isLoading = true;

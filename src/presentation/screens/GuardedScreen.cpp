@@ -17,7 +17,7 @@ support::Subscriptions GuardedScreen::observe(const std::function<void()>& obser
 
 void GuardedScreen::close()
 {
-    // Its owner may let go of it here.
+    // Its owner may release it here.
     const auto self = shared_from_this();
     if (isCloseEnabled() && !isDismissed_) leave();
 }
@@ -58,10 +58,10 @@ void GuardedScreen::letGo()
 
 void GuardedScreen::discardChanges()
 {
-    // A save that ended meanwhile took the question back, and left what is in sight now.
+    // A save that ended meanwhile has withdrawn the question, and the current state is to be kept.
     if (!*showDiscardConfirmation) return;
     showDiscardConfirmation = false;
-    // What takes the whole screen away needs it not closed, which it may refuse while a request runs.
+    // An action that removes the whole screen does not need it closed, which it may refuse while a request runs.
     if (leaveFor_)
         letGo();
     else

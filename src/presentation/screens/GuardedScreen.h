@@ -9,55 +9,56 @@
 
 namespace larkspan::presentation {
 
-/// A screen in which the user types what the service is to get: it asks before that is lost. Main thread only; closing
-/// it stops no request.
+/// A screen with text that the user types for the service: it asks before the text is lost. Main thread only; closing
+/// it cancels no request.
 class GuardedScreen : public support::Observable, public std::enable_shared_from_this<GuardedScreen> {
 public:
     virtual ~GuardedScreen() = default;
 
-    /// The question is up whether what has been typed may be lost.
+    /// Whether the question is shown if typed text may be lost.
     support::Published<bool> showDiscardConfirmation{*this, false};
-    /// The request that runs, and the alert of whatever failed last.
+    /// The running request, and the alert of the last failure.
     const std::shared_ptr<RunningAction> action;
 
-    /// Calls `observer` before anything changes that the screen shows.
+    /// Calls `observer` before anything that the screen shows changes.
     [[nodiscard]] virtual support::Subscriptions observe(const std::function<void()>& observer);
 
     bool isIdle() const { return !*action->isInProgress; }
     virtual bool isSaveEnabled() const = 0;
 
-    /// Leaving would lose what has been typed.
+    /// Whether leaving would lose typed text.
     virtual bool hasUnsavedText() const = 0;
-    /// The screen is not to go by itself: something would be lost with it, or an order has not ended.
+    /// Whether the screen must not be removed automatically: text would be lost, or an action has not ended.
     bool isHeld() const { return hasUnsavedText() || !isIdle(); }
-    /// Something is wanted that takes this screen away. Where text would be lost it asks, and does `leave` once the
-    /// user has confirmed that or the service has the text; without text it does nothing, which is false.
+    /// Asks before an action `leave` that removes this screen. If text would be lost, asks the user, calls `leave` once
+    /// the user has confirmed or the service has the text, and returns true; otherwise does nothing and returns false.
     bool asksBefore(std::function<void()> leave);
-    /// Also while a request runs, unless the screen has to show how that ends.
+    /// True also while a request runs, unless the screen has to show its result.
     virtual bool isCloseEnabled() const { return true; }
-    /// Leaves without a question. Pressed again before the screen has gone, it does nothing.
+    /// Leaves without a question. Does nothing if called again before the screen is gone.
     void close();
-    /// Escape, the way back or a press outside: closes, but asks first where text would be lost.
+    /// Closes on Escape, on going back or on a press outside, but asks first if text would be lost.
     void requestClose();
     void keepEditing();
-    /// The user confirmed the loss.
+    /// Discards the text; called when the user has confirmed.
     void discardChanges();
 
 protected:
     struct Owner {
         /// Closes the screen.
         std::function<void()> dismiss;
-        /// Nobody knows whether an order took place: fetches anew what the screen was opened from.
+        /// Called when it is unknown whether a write took effect: fetches the list from which the screen was opened
+        /// again.
         std::function<void()> lookAgain;
     };
 
     GuardedScreen(platform::Executor& main, Owner owner);
 
     void dismiss();
-    /// Nothing would be lost any more: does what was wanted meanwhile.
+    /// Performs the action that was waiting, because nothing would be lost any more.
     void letGo();
 
-    /// `screen` as its requests hold it.
+    /// `screen` as a pointer for its requests to hold.
     template <typename Screen>
     static std::shared_ptr<Screen> held(Screen* screen)
     {
@@ -65,11 +66,11 @@ protected:
     }
 
 private:
-    /// What closing leaves: the screen, or what is open in it.
+    /// Leaves the screen, or what is open in it.
     virtual void leave() { dismiss(); }
 
     const std::function<void()> dismiss_;
-    // What the question that is up is about; nothing while it is about this screen alone.
+    // The action that the shown question is about; empty if it is about closing this screen only.
     std::function<void()> leaveFor_;
     bool isDismissed_ = false;
 };

@@ -13,8 +13,7 @@
 
 namespace larkspan::presentation {
 
-/// The screen of a list that is fetched: which of its states shows, in which words, and what brings it up to date. Main
-/// thread only.
+/// The screen of a fetched list: its state, its texts, and its refresh. Main thread only.
 class ListScreen : public support::Observable {
 public:
     virtual ~ListScreen() = default;
@@ -22,22 +21,22 @@ public:
     /// Calls `observer` before anything changes that the list shows, or what stands in front of it.
     [[nodiscard]] virtual support::Subscriptions observe(const std::function<void()>& observer);
 
-    /// The list came into sight.
+    /// Called when the list becomes visible.
     void appear() { fetched().load(); }
-    /// The user asked for a load. That is worth a prompt of the credential store.
+    /// Loads because the user asked for it, which allows the credential store to show a prompt.
     void refresh();
 
     Content content() const { return fetched().content(); }
-    /// What stands in place of the list; all empty while there is one.
+    /// The placeholder in place of the list; empty while there are records.
     Placeholder placeholder() const;
     /// Tells of what has failed besides; null for a list that has nothing to tell.
     virtual FailureAlert* alert() const { return nullptr; }
 
-    /// Leaving the list would lose what has been typed in front of it.
+    /// Whether leaving the list would lose text that was typed in front of it.
     bool hasUnsavedText() const;
-    /// The list is not to go by itself: something would be lost with it, or an order has not ended.
+    /// Whether the list must not be removed automatically: text would be lost, or an action has not ended.
     virtual bool isHeld() const;
-    /// As `GuardedScreen` has it, for what stands in front of the list.
+    /// As `GuardedScreen::asksBefore`, for the screens in front of the list.
     bool asksBefore(const std::function<void()>& leave);
 
 protected:
@@ -46,7 +45,7 @@ protected:
 private:
     /// The screen's own view model.
     virtual FetchedRecords& fetched() const = 0;
-    /// The screens in which one types; null for one that is not there.
+    /// The screens with typed text in front of the list; null for one that is not open.
     virtual std::vector<std::shared_ptr<GuardedScreen>> inFront() const { return {}; }
 
     platform::CredentialStore& credentials_;

@@ -10,7 +10,7 @@
 
 namespace larkspan::presentation {
 
-/// The records of a list, with what a screen takes over in them between two loads.
+/// The records of a list, with the changes that a screen makes between two loads.
 template <typename Record>
 class RecordList final : public support::Published<std::vector<Record>> {
 public:
@@ -23,20 +23,20 @@ public:
 
     using support::Published<Records>::operator=;
 
-    /// The one that is shown in the row of that id, which is its own if it is alone with it; null if there is none.
+    /// The record in the row with this id, which is the record's id if that is unique; null if there is none.
     const Record* find(const std::string& rowId) const { return recordOfRow(**this, rowId); }
 
-    /// Puts a record that was just made at the head, where it stands until the next load.
+    /// Inserts a new record at the front, where it stays until the next load.
     void insertFirst(Record created)
     {
         auto patched = **this;
-        // A load that ran beside its creation may have brought it already.
+        // A load during its creation may already have returned it.
         std::erase_if(patched, [&created](const Record& known) { return known.id == created.id; });
         patched.insert(patched.begin(), std::move(created));
         *this = std::move(patched);
     }
 
-    /// Puts `changed` in the place of the first record of its id; nothing if there is none.
+    /// Replaces the first record with the same id by `changed`; does nothing if there is none.
     void replace(Record changed)
     {
         auto patched = **this;
@@ -46,7 +46,7 @@ public:
         *this = std::move(patched);
     }
 
-    /// Takes away every record of that id.
+    /// Removes every record with this id.
     void remove(const std::string& id)
     {
         auto patched = **this;

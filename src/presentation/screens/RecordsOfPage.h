@@ -8,8 +8,8 @@
 
 namespace larkspan::presentation {
 
-/// Those of `fetching` that name the page. The service has lists of the whole account alone, whatever page is asked
-/// about; a record that names no page is in none of them.
+/// The records of `fetching` that name the page. The service always lists the whole account, whatever page is
+/// requested; a record that names no page belongs to none.
 template <typename Record>
 support::Task<std::vector<Record>> recordsOfPage(support::Task<std::vector<Record>> fetching, std::string pageId)
 {

@@ -8,7 +8,7 @@
 
 namespace larkspan::presentation {
 
-/// The row of each record, in their order, told apart by its id, with which `rowOf` is asked too if it likes.
+/// The row of each record, in order, with a unique id, which is passed to `rowOf` as well if it takes one.
 template <typename Records, typename RowOf>
 auto rowsOf(const Records& records, RowOf rowOf)
 {

@@ -10,17 +10,17 @@
 
 namespace larkspan::presentation {
 
-/// What a screen has done at the service on the user's wish: one at a time, with a mark while it runs and an alert if
-/// it fails. Main thread only; a running action outlives the screen that began it.
+/// The actions that a screen runs for the user: one at a time, with a busy state and an alert on failure. Main thread
+/// only; a running action may outlive the screen that started it.
 class RunningAction final : public support::Observable, public std::enable_shared_from_this<RunningAction> {
 public:
-    /// `lookAgain` is called where an action has failed of which nobody knows whether it took place.
+    /// `lookAgain` is called if an action has failed but may have taken effect.
     explicit RunningAction(platform::Executor& main, std::function<void()> lookAgain = {});
 
     support::Published<bool> isInProgress{*this, false};
     FailureAlert alert{*this};
 
-    /// Runs `work` on the main thread; whatever it throws becomes the alert. While another runs, it is dropped.
+    /// Runs `work` on the main thread; any exception becomes the alert. Dropped while another action runs.
     void run(support::Task<void> work);
 
 private:

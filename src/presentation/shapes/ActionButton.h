@@ -6,9 +6,9 @@
 
 namespace larkspan::presentation {
 
-/// One of the buttons under a record; disabled ones stay in sight.
+/// One of the buttons under a record; disabled ones remain visible.
 struct ActionButton {
-    /// What the screen is asked to press.
+    /// Passed to the screen when the button is pressed.
     std::string id{};
     std::string label{};
     std::string symbol{};

@@ -6,7 +6,7 @@
 
 namespace larkspan::presentation {
 
-/// One entry of a picker; an empty id stands for no selection.
+/// One entry of a picker; an empty id means no selection.
 struct Choice {
     std::string id{};
     std::string name{};
@@ -14,7 +14,7 @@ struct Choice {
     bool operator==(const Choice&) const = default;
 };
 
-/// One entry for each of `records`, under one that stands for no selection.
+/// One entry for each of `records`, after one that means no selection.
 template <typename Record>
 std::vector<Choice> choicesOf(std::string nameOfNone, const std::vector<Record>& records)
 {

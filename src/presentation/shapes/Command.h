@@ -7,14 +7,14 @@
 
 namespace larkspan::presentation {
 
-/// A button under a record, and what a press of it does.
+/// A button under a record, and its action.
 template <typename Screen>
 struct Command {
     ActionButton button;
     void (*run)(Screen& screen);
 };
 
-/// What a screen shows of its commands.
+/// The buttons that a screen shows for its commands.
 template <typename Screen>
 std::vector<ActionButton> buttonsOf(const std::vector<Command<Screen>>& commands)
 {
@@ -24,7 +24,7 @@ std::vector<ActionButton> buttonsOf(const std::vector<Command<Screen>>& commands
     return buttons;
 }
 
-/// Does what the button of that id says; nothing if there is none or it is disabled.
+/// Performs the action of the button with this id; does nothing if there is none or it is disabled.
 template <typename Screen>
 void press(std::string_view id, const std::vector<Command<Screen>>& commands, Screen& screen)
 {

@@ -4,18 +4,18 @@
 
 namespace larkspan::presentation {
 
-/// The words of a question that stands before something which cannot be undone.
+/// The texts of the question before something that cannot be undone.
 struct Confirmation {
     std::string_view title;
     /// Empty for none.
     std::string_view text;
-    /// The button that does it.
+    /// The text of the button that confirms.
     std::string_view confirm;
-    /// The button that does nothing.
+    /// The text of the button that cancels.
     std::string_view cancel;
 };
 
-/// Asked where Escape or a press outside would lose what the user has typed.
+/// The question if Escape or a press outside would lose typed text.
 inline constexpr Confirmation discardConfirmation{.title = "Discard Changes?",
     .text = "What you have typed will be lost.",
     .confirm = "Discard",

@@ -11,15 +11,15 @@ struct Fact {
     std::string label{};
     std::string text{};
     Tone tone = Tone::secondary;
-    /// Where the text leads; empty if it is no link.
+    /// The destination of the text; empty if it is not a link.
     std::string destination{};
-    /// What stands behind the text in small letters; empty for none.
+    /// A note after the text in small letters; empty for none.
     std::string caption{};
-    /// Before the label; empty for none.
+    /// The symbol before the label; empty for none.
     std::string symbol{};
-    /// What the text stands for, in full; empty where it says all.
+    /// The full meaning of the text; empty if the text is complete.
     std::string explanation{};
-    /// The label is in small letters, so that the text has the line.
+    /// Whether the label is in small letters, to leave room for the text.
     bool hasSmallLabel = false;
 
     bool operator==(const Fact&) const = default;

@@ -6,7 +6,7 @@
 
 namespace larkspan::presentation {
 
-/// A state in one line, with the details in a second one.
+/// A state in one line, with details in a second one.
 struct Headline {
     std::string symbol{};
     Tone tone = Tone::secondary;

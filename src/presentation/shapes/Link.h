@@ -4,7 +4,7 @@
 
 namespace larkspan::presentation {
 
-/// A way out of the program.
+/// A link to an address outside the program.
 struct Link {
     std::string symbol{};
     std::string title{};

@@ -6,7 +6,7 @@
 
 namespace larkspan::presentation {
 
-/// A short text with a symbol or progress before it. All empty where there is nothing to say.
+/// A short text with a symbol or progress before it. Empty if there is nothing to show.
 struct Marker {
     /// Empty for none.
     std::string symbol{};

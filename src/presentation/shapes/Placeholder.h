@@ -6,7 +6,7 @@
 
 namespace larkspan::presentation {
 
-/// What stands in the middle of a screen that has nothing to list.
+/// Shown in the middle of a screen that has nothing to list.
 struct Placeholder {
     /// Empty for none.
     std::string symbol{};

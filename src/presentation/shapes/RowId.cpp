@@ -6,7 +6,7 @@ namespace larkspan::presentation {
 
 namespace {
 
-// No id of a service holds one, and nobody sees it.
+// The service's ids do not contain this character, and it is never shown.
 constexpr char separator = '\x1F';
 
 }  // namespace

@@ -10,8 +10,8 @@
 
 namespace larkspan::presentation {
 
-/// The service may give several records one id. A row is known by its record's id, and from the second of such records
-/// on by the id and their number, so that each opens its own.
+/// The service may give several records the same id. A row's id is its record's id, and from the second such record on
+/// the id with a number, so that each row opens its own record.
 class RowIds {
 public:
     template <typename Records>
@@ -20,7 +20,7 @@ public:
         std::vector<std::size_t> hashes;
         hashes.reserve(records.size());
         for (const auto& record : records) hashes.push_back(hash(record.id));
-        // As a rule there are none, and a table of all ids would take longer than all else that is done for a list.
+        // Usually there are none, and a table of all ids would take longer than everything else for a list.
         const auto repeated = repeatedOf(std::move(hashes));
         if (repeated.empty()) return;
         for (const auto& record : records) {
@@ -28,14 +28,14 @@ public:
         }
     }
 
-    /// The row of the next record, in the order of the records.
+    /// The row id of the next record, called in the order of the records.
     std::string next(const std::string& id)
     {
         const auto repeated = counts_.find(id);
         return repeated == counts_.end() ? id : numbered(id, repeated->second++);
     }
 
-    /// The row of the record of that id which so many of the same id stand before.
+    /// The row id of a record with this id that is preceded by `before` records with the same id.
     static std::string numbered(const std::string& id, std::size_t before);
 
 private:
@@ -43,11 +43,11 @@ private:
     /// In ascending order.
     static std::vector<std::size_t> repeatedOf(std::vector<std::size_t> hashes);
 
-    /// How many came of each id that may be that of several.
+    /// The number of records so far for each id that may be repeated.
     std::unordered_map<std::string, std::size_t> counts_;
 };
 
-/// What a row's id says; that of a record which is alone with its id is the same.
+/// The parts of a row's id; for a record with a unique id, the row's id is the record's.
 struct RowId {
     std::string_view recordId;
     std::size_t before = 0;
@@ -55,7 +55,7 @@ struct RowId {
     static RowId of(std::string_view text);
 };
 
-/// The record that is shown in the row of that id, the first of a record's own id; null if there is none.
+/// The record in the row with this id; the first one with a given record id; null if there is none.
 template <typename Records>
 const typename Records::value_type* recordOfRow(const Records& records, std::string_view id)
 {

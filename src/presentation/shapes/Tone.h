@@ -2,7 +2,7 @@
 
 namespace larkspan::presentation {
 
-/// What a colour means; the theme says what it looks like.
+/// The meaning of a colour; the theme defines the colours.
 enum class Tone { primary, secondary, green, orange, yellow, red, blue, gray };
 
 }  // namespace larkspan::presentation

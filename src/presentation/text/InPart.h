@@ -6,21 +6,21 @@
 
 namespace larkspan::presentation {
 
-/// So many lines are shown of what has no list of its own, which makes each of them whether it is in sight or not.
+/// The most lines that are shown without a virtual list, which would all be created even if not visible.
 inline constexpr std::size_t mostLines = 100;
 
-/// What stands below the lines that are shown of `count`: how many there are beyond; empty for none.
+/// The text below the shown lines of `count`: how many more there are; empty for none.
 std::string moreText(std::size_t count);
 
-/// In bytes, for a text under a title in a list, and for one that is read for itself: far more than anybody writes
-/// there, and little enough to be laid out at once. The time for a text without a place to break grows with its square.
+/// In bytes, for a text under a title in a list, and for a separate text: far more than anybody writes there, and short
+/// enough to be laid out at once. Layout takes quadratic time for a text without a place to break.
 inline constexpr std::size_t mostOfARowsText = 2'000;
 inline constexpr std::size_t mostOfAText = 20'000;
 
-/// In bytes, for a message, which is read and laid out paragraph by paragraph.
+/// In bytes, for a message, which is laid out paragraph by paragraph.
 inline constexpr std::size_t mostOfAMessage = 128 * 1024;
 
-/// `text`, or its beginning and a sign that there is more.
+/// `text`, or its beginning with a mark that there is more.
 std::string inPart(std::string_view text, std::size_t most);
 
 }  // namespace larkspan::presentation

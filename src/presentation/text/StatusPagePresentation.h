@@ -7,7 +7,7 @@
 
 namespace larkspan::presentation {
 
-/// How a single page's status is shown wherever a page has a row.
+/// The presentation of a page's status in every row of a page.
 struct StatusPagePresentation {
     std::string_view label;
     std::string_view symbol;

@@ -4,8 +4,8 @@
 
 namespace larkspan::presentation {
 
-/// Whether `address` is one that a browser opens: http or https, in any case of letters. Whatever else the service
-/// sends as an address, such as a file or a script, is shown and never opened.
+/// Whether `address` can be opened in a browser: http or https, ignoring the case of letters. Any other address from
+/// the service, such as a file or a script, is shown but never opened.
 bool isWebAddress(std::string_view address);
 
 }  // namespace larkspan::presentation

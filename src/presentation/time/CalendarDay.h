@@ -6,12 +6,12 @@ namespace larkspan::presentation {
 
 /// A day in the grid of a calendar.
 struct CalendarDay {
-    /// What the calendar is asked to choose.
+    /// Passed to the calendar when the day is chosen.
     int id = 0;
     std::string number{};
-    /// The whole date, for whoever does not see where the day stands.
+    /// The full date, for assistive technologies.
     std::string name{};
-    /// Of the month that is shown, and not one of its neighbours.
+    /// Whether the day is in the shown month and not in a neighbouring one.
     bool isInMonth = false;
     bool isToday = false;
     bool isChosen = false;

@@ -16,7 +16,7 @@ using support::Time;
 
 namespace {
 
-/// "UTC", "UTC+1" or "UTC-3:30".
+/// The offset as "UTC", "UTC+1" or "UTC-3:30".
 std::string offsetText(minutes ahead)
 {
     std::string text = "UTC";
@@ -48,7 +48,7 @@ std::string DateTimePicker::zone() const
 {
     const auto offset = offsetText(floor<minutes>(ports_.locale.utcOffset(*moment)));
     const auto name = ports_.locale.zoneName(*moment);
-    // A zone without letters is called by its offset, only not as clearly.
+    // A name without letters is only a less clear form of the offset.
     const bool isNamed = !name.empty() && std::isalpha(static_cast<unsigned char>(name.front())) != 0;
     return !isNamed || name == offset ? offset : name + " (" + offset + ")";
 }

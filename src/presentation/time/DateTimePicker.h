@@ -14,8 +14,8 @@
 
 namespace larkspan::presentation {
 
-/// The choice of a moment by a calendar and a clock of the user's time zone. A moment that nobody touched is kept to
-/// the millisecond; whatever is chosen is a whole minute. Main thread only.
+/// The choice of a moment by a calendar and a clock of the user's time zone. An unchanged moment keeps its
+/// milliseconds; a chosen one is a whole minute. Main thread only.
 class DateTimePicker final : public support::Observable {
 public:
     struct Ports {
@@ -26,12 +26,12 @@ public:
     DateTimePicker(Ports ports, support::Time moment);
 
     support::Published<support::Time> moment;
-    /// The calendar shows it; the user may look through others than that of `moment`.
+    /// The month in the calendar; the user may browse to other months than that of `moment`.
     support::Published<std::chrono::year_month> shownMonth;
 
-    /// Begins anew with another moment.
+    /// Starts again with another moment.
     void show(support::Time other);
-    /// The user has chosen another moment than the one that it began with.
+    /// Whether the user has chosen another moment than the initial one.
     bool isChanged() const { return *moment != initial_; }
 
     std::string date() const { return ports_.locale.dateOnly(*moment); }
@@ -40,15 +40,15 @@ public:
     std::string zone() const;
 
     std::string month() const { return ports_.locale.monthAndYear(*shownMonth); }
-    /// Over the columns.
+    /// The names over the columns.
     std::vector<std::string> weekdays() const;
-    /// Week by week.
+    /// The days of the calendar, week by week.
     std::vector<CalendarDay> days() const;
     void browseMonths(int count);
-    /// The day of that id.
+    /// Chooses the day with this id.
     void chooseDay(int id);
 
-    /// From the chosen day or, where that is out of sight, from the first one of the month that is shown.
+    /// Moves from the chosen day or, if that is not visible, from the first day of the shown month.
     void moveDays(int count);
     void moveMonths(int count);
     void moveToBeginOfWeek();
@@ -56,12 +56,12 @@ public:
 
     std::string hour() const;
     std::string minute() const;
-    /// Empty where the clock has twenty-four hours.
+    /// The half of the day; empty on a clock of twenty-four hours.
     std::string dayHalf() const;
-    /// What is typed counts at once; what is no time counts nothing.
+    /// Typed digits take effect at once; an invalid time is ignored.
     void typeHour(std::string_view digits);
     void typeMinute(std::string_view digits);
-    /// So much time passes, whatever the clocks show.
+    /// Moves by elapsed time, whatever the clocks show.
     void moveTime(std::chrono::minutes step);
     void switchDayHalf();
 

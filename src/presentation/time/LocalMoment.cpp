@@ -7,7 +7,7 @@ using support::Time;
 Time momentAt(const platform::LocaleText& locale, LocalTime wanted, Time near)
 {
     using namespace std::chrono_literals;
-    // No zone is a day from UTC, and none changes its clocks twice within two days.
+    // Zones differ by less than a day from UTC, and change their clocks at most once in two days.
     const Time asUTC(wanted.time_since_epoch());
     const Time before = asUTC - locale.utcOffset(asUTC - 24h);
     const Time after = asUTC - locale.utcOffset(asUTC + 24h);

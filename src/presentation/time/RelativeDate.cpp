@@ -15,7 +15,7 @@ struct Unit {
     std::string_view name;
 };
 
-// A month and a year are as long as they are in the mean of the calendar.
+// Months and years have their mean length in the calendar.
 constexpr std::array<Unit, 7> units{{{years(1), "year"}, {months(1), "month"}, {weeks(1), "week"}, {days(1), "day"},
     {hours(1), "hour"}, {minutes(1), "minute"}, {seconds(1), "second"}}};
 
