@@ -25,8 +25,8 @@
 
 namespace larkspan::components {
 
-/// One component, its editor and its deletion. It has a copy of the record and tells its owner of each success, so that
-/// nothing is fetched again. Main thread only; closing it stops no request.
+/// One component, its editor and its deletion. It has a copy of the record and reports each success to its owner, so
+/// that nothing is fetched again. Main thread only; closing it cancels no request.
 class ComponentDetailView final : public presentation::EditableDetail {
 public:
     struct Ports {
@@ -40,7 +40,7 @@ public:
         std::function<void(const model::Component&)> onDelete;
         /// Closes the screen.
         std::function<void()> dismiss;
-        /// Nobody knows whether an order took place: fetches the list anew.
+        /// Called when it is unknown whether a write took effect: fetches the list again.
         std::function<void()> lookAgain = {};
     };
 
@@ -51,7 +51,7 @@ public:
         std::string_view label;
         std::string_view value;
     };
-    /// Those that can be chosen; the service may hold other words.
+    /// The statuses that can be chosen; the service may have others.
     static constexpr std::array<StatusChoice, 3> statusChoices{
         {{"Up", "up"}, {"Degraded", "degraded"}, {"Down", "down"}}};
 
@@ -65,31 +65,31 @@ public:
     support::Published<std::string> editedStatus{*this, "up"};
     support::Published<std::string> editedDescription{*this};
     support::Published<std::optional<std::string>> editedGroupId{*this};
-    /// The question of every detail, by the name that it has for a component.
+    /// The base's flag under the name that it has for a component.
     support::Published<bool>& showingDeleteConfirmation = showDeleteConfirmation;
 
-    /// The screen came up: fetches the groups that there are.
+    /// Called when the screen opens: fetches the groups.
     void appear();
     const std::string& id() const { return component->id; }
 
     presentation::Pill status() const { return componentStatusPill(component->status); }
     bool showsDetails() const;
-    /// The rows of the group "Details", which may be there without any.
+    /// The rows of the group "Details", which is also shown without any.
     std::vector<presentation::Fact> details() const;
     /// Empty for none.
     std::string description() const
     {
         return presentation::inPart(component->description.value_or(""), presentation::mostOfAText);
     }
-    /// Opens the component's address; what is no web address is not opened.
+    /// Opens the component's address; any other than a web address is not opened.
     void openURL() const;
 
-    /// The place of the edited status among those that can be chosen; absent for any other word.
+    /// The index of the edited status in those that can be chosen; absent for any other status.
     std::optional<std::size_t> selectedStatus() const;
     void chooseStatus(std::size_t place) { editedStatus = std::string(statusChoices.at(place).value); }
     bool showsGroupPicker() const { return !groups->empty(); }
     std::vector<presentation::Choice> groupChoices() const { return presentation::choicesOf("None", *groups); }
-    /// The empty text stands for no group.
+    /// Empty for no group.
     std::string selectedGroup() const { return editedGroupId->value_or(""); }
     void chooseGroup(const std::string& id);
     bool isSaveEnabled() const override;

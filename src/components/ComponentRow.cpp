@@ -89,7 +89,7 @@ std::vector<ComponentRow> componentRows(
     }
     Sections sections(components.size() + groups.size() + 2);
     for (const auto& group : groups) {
-        // An id stands for one section: where the service repeats it, its components still show once.
+        // Each id has one section: if the service repeats a group, its components are still shown once.
         sections.add("group:" + group.id, group.name, std::exchange(grouped[group.id], {}));
     }
     sections.addUnlessEmpty("ungrouped", "Ungrouped", ungrouped);

@@ -10,13 +10,13 @@
 
 namespace larkspan::components {
 
-/// A line in the list of a page's components: one of them, or the heading of a section.
+/// A line in the list of a page's components: a component, or the heading of a section.
 struct ComponentRow {
-    /// Of the component's row; a heading's is its own.
+    /// The id of the component's row; headings have other ids.
     std::string id{};
     std::string title{};
     bool isHeading = false;
-    /// What stands next to it in the list is a component.
+    /// Whether the previous row is a component.
     bool followsComponent = false;
     bool precedesComponent = false;
     std::string symbol{};
@@ -30,8 +30,8 @@ struct ComponentRow {
     bool operator==(const ComponentRow&) const = default;
 };
 
-/// The list of a page: a section for each group, then one of the components in no group and one of those whose group is
-/// not among `groups`, both only where there are such. All in the order in which they are given.
+/// The list of a page: a section for each group, then one for the components in no group and one for those whose group
+/// is not in `groups`, both only if not empty. All in the given order.
 std::vector<ComponentRow> componentRows(
     const std::vector<model::Component>& components, const std::vector<model::ComponentGroup>& groups);
 

@@ -7,13 +7,13 @@
 
 namespace larkspan::components {
 
-/// The symbol of a component's status. The status is the service's own word, known in any case of letters but with no
-/// blank, hyphen or underscore added.
+/// The symbol of a component's status. The status is the service's word; the case of letters is ignored, but no
+/// additional blank, hyphen or underscore.
 std::string_view componentStatusIcon(std::string_view status);
 
 presentation::Tone componentStatusColor(std::string_view status);
 
-/// The word as the service has it, only capitalised.
+/// The service's word, capitalised.
 presentation::Pill componentStatusPill(std::string_view status);
 
 }  // namespace larkspan::components

@@ -16,7 +16,7 @@
 
 namespace larkspan::components {
 
-/// The components of one page: their list by group, and the one that is opened. Main thread only.
+/// The components of one page: their list by group, and the opened component. Main thread only.
 class StatusPageComponentsView final : public presentation::ListScreen,
                                        public std::enable_shared_from_this<StatusPageComponentsView> {
 public:
@@ -38,11 +38,11 @@ public:
 
     presentation::FailureAlert* alert() const override { return &viewModel->alert; }
 
-    /// Opens the component of that id; nothing if it has gone meanwhile.
+    /// Opens the component with this id; does nothing if it no longer exists.
     void openComponent(const std::string& id);
-    /// Brings the list back into sight as it is: nothing is fetched for that.
+    /// Shows the list again as it is, without fetching.
     void closeComponent();
-    /// Of `presentedComponent`; null without one.
+    /// The screen of `presentedComponent`; null without one.
     const std::shared_ptr<ComponentDetailView>& detail() const { return presentedComponent.screen(); }
 
 private:

@@ -18,8 +18,8 @@
 
 namespace larkspan::components {
 
-/// The components of one page and their groups, fetched beside each other. A failed load leaves none of either; a
-/// running load outlives the screen that began it.
+/// The components of one page and their groups, fetched concurrently. A failed load removes both; a running load may
+/// outlive the screen that started it.
 class StatusPageComponentsViewModel final : public presentation::FetchedRecords,
                                             public std::enable_shared_from_this<StatusPageComponentsViewModel> {
 public:
@@ -27,7 +27,7 @@ public:
 
     const std::string pageId;
 
-    /// In the order in which the service gave them.
+    /// In the service's order.
     presentation::RecordList<model::Component> components{*this};
     support::Published<std::vector<model::ComponentGroup>> componentGroups{*this};
     support::Published<bool> isLoading{*this, false};
@@ -39,7 +39,7 @@ public:
     void loadComponents() { load(); }
     void load() override;
 
-    /// A failure shows for as long as its alert is up, and after it a page without components.
+    /// A failure is shown as long as its alert is, and then a page without components.
     presentation::Content content() const override;
     std::string failureText() const override { return errorMessage->value_or("Could not load components."); }
 

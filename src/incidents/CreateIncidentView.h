@@ -25,7 +25,7 @@ public:
         std::function<void(const model::Incident&)> onCreated;
         /// Closes the sheet.
         std::function<void()> dismiss;
-        /// Nobody knows whether an order took place: fetches the list anew.
+        /// Called when it is unknown whether a write took effect: fetches the list again.
         std::function<void()> lookAgain = {};
     };
 

@@ -9,7 +9,7 @@ namespace larkspan::incidents {
 
 presentation::Tone incidentStatusColor(model::IncidentStatus status);
 
-/// Of a severity's name in any case of letters; an account may have names of its own, which are gray.
+/// The colour of a severity by name, ignoring the case of letters; an account's own names are gray.
 presentation::Tone severityColor(std::string_view name);
 
 }  // namespace larkspan::incidents

@@ -102,7 +102,7 @@ Task<void> IncidentDetailView::escalate(std::shared_ptr<IncidentDetailView> self
     co_await std::move(refetching);
 }
 
-// Acknowledging and escalating answer without the record.
+// The answers to acknowledging and escalating do not contain the record.
 Task<void> IncidentDetailView::refetch(std::shared_ptr<IncidentDetailView> self)
 {
     auto fetching = self->ports_.api.fetchIncident(self->incident->id);

@@ -23,8 +23,8 @@
 
 namespace larkspan::incidents {
 
-/// One incident, and what can be done to it. It changes no record by itself: after each success it gives the service's
-/// own to its owner, who hands it back with `show`. Main thread only; closing it stops no request.
+/// One incident and its actions. It changes no record itself: after each success it passes the service's record to its
+/// owner, which passes it back with `show`. Main thread only; closing it cancels no request.
 class IncidentDetailView final : public presentation::EditableDetail {
 public:
     struct Ports {
@@ -39,7 +39,7 @@ public:
         std::function<void(const model::Incident&)> onUpdate;
         /// Closes the screen.
         std::function<void()> dismiss;
-        /// Nobody knows whether an order took place: fetches the list anew.
+        /// Called when it is unknown whether a write took effect: fetches the list again.
         std::function<void()> lookAgain = {};
     };
 
@@ -48,9 +48,9 @@ public:
     IncidentDetailView(Ports ports, model::Incident incident, Owner owner);
 
     support::Published<model::Incident> incident;
-    /// The update that is being written.
+    /// The text of the update that is being written.
     support::Published<std::string> editMessage{*this};
-    /// The description as it is shown.
+    /// The description in its shown form.
     const std::shared_ptr<MessageView> message;
 
     const std::string& id() const { return incident->id; }
@@ -60,7 +60,7 @@ public:
     std::vector<presentation::Pill> pills() const { return headerPills(*incident); }
     std::vector<presentation::TimelineRow> timeline() const { return incidentTimeline(*incident, ports_.locale); }
     std::string duration() const { return incidentDuration(*incident, ports_.clock.now()); }
-    /// Empty for nobody.
+    /// The assigned person; empty for nobody.
     std::string assignedTo() const { return incident->assignedTo.value_or(""); }
     /// The message in markdown.
     std::string description() const { return incident->message.value_or(""); }
@@ -68,18 +68,18 @@ public:
 
     /// In the order of the screen; none while the editor is open.
     std::vector<presentation::ActionButton> buttons() const;
-    /// Does what the button of that id says; nothing if there is none or it is disabled.
+    /// Performs the action of the button with this id; does nothing if there is none or it is disabled.
     void press(std::string_view id);
 
     void performAction(DetailAction wanted);
 
     bool isSaveEnabled() const override;
-    /// Sends what has been typed; the editor closes when the service has it.
+    /// Sends the typed text; the editor closes when the service has it.
     void saveUpdate();
 
 private:
     std::vector<presentation::Command<IncidentDetailView>> commands() const;
-    /// Each update begins with nothing.
+    /// Each update starts empty.
     void fillEditor() override { editMessage = {}; }
     bool isEdited() const override;
     support::Task<void> remove() override;
@@ -89,7 +89,7 @@ private:
     static support::Task<void> escalate(std::shared_ptr<IncidentDetailView> self);
     static support::Task<void> deleteIncident(std::shared_ptr<IncidentDetailView> self);
     static support::Task<void> refetch(std::shared_ptr<IncidentDetailView> self);
-    /// Hands on what an order has made of the incident.
+    /// Passes on the incident as an action has changed it.
     void take(const model::Incident& answer) const;
     static support::Task<void> save(std::shared_ptr<IncidentDetailView> self, std::string text);
 

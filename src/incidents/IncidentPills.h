@@ -14,7 +14,7 @@ presentation::Pill statusPill(const model::Incident& incident);
 /// Absent if the incident has no severity.
 std::optional<presentation::Pill> severityPill(const model::Incident& incident);
 
-/// Those under the title of an incident that is shown alone: status, severity, acknowledgement.
+/// The pills under the title of an opened incident: status, severity, acknowledgement.
 std::vector<presentation::Pill> headerPills(const model::Incident& incident);
 
 }  // namespace larkspan::incidents

@@ -14,7 +14,7 @@ namespace larkspan::incidents {
 struct IncidentRow {
     std::string id{};
     std::string title{};
-    /// Of the dot.
+    /// The colour of the dot.
     presentation::Tone tone = presentation::Tone::gray;
     std::optional<presentation::Pill> severity{};
     std::string date{};

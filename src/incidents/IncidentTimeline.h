@@ -12,7 +12,7 @@ namespace larkspan::incidents {
 std::vector<presentation::TimelineRow> incidentTimeline(
     const model::Incident& incident, const platform::LocaleText& locale);
 
-/// How long the incident lasted or, if it is not resolved, has lasted by `now`.
+/// The duration of the incident, up to `now` if it is not resolved.
 std::string incidentDuration(const model::Incident& incident, support::Time now);
 
 }  // namespace larkspan::incidents

@@ -59,7 +59,7 @@ Task<void> StatusPageIncidentsView::lookAgain(std::shared_ptr<StatusPageIncident
     auto loading = self->viewModel->loading();
     co_await std::move(loading);
     const auto* const found = self->viewModel->incidents.find(id);
-    // The detail covers the list, so what took place is seen there.
+    // The detail covers the list, so it has to show the result.
     if (found && self->presentedIncident.isOf(id)) self->takeBack(*found);
 }
 
@@ -69,8 +69,8 @@ void StatusPageIncidentsView::dismiss(const std::string& id)
     closeIncident();
 }
 
-// A request that the user did not wait for ends behind the list, which was loaded before it, or behind another
-// incident.
+// A request that the user did not wait for may end while the list, which was loaded before, or another incident is
+// shown.
 void StatusPageIncidentsView::loadIfInSight()
 {
     if (!presentedIncident.isOpen()) viewModel->load();

@@ -16,7 +16,7 @@
 
 namespace larkspan::incidents {
 
-/// The incidents of one page: their list, the one that is opened and the form of a new one. Main thread only.
+/// The incidents of one page: their list, the opened incident and the form of a new one. Main thread only.
 class StatusPageIncidentsView final : public presentation::ListScreen,
                                       public std::enable_shared_from_this<StatusPageIncidentsView> {
 public:
@@ -35,15 +35,15 @@ public:
 
     std::vector<IncidentRow> rows() const;
 
-    /// Opens the incident of that row; nothing if it has gone meanwhile.
+    /// Opens the incident in that row; does nothing if it no longer exists.
     void openIncident(const std::string& id);
-    /// Brings the list back into sight, and so up to date.
+    /// Shows the list again, which fetches it.
     void closeIncident();
-    /// Of `presentedIncident`; null without one.
+    /// The screen of `presentedIncident`; null without one.
     const std::shared_ptr<IncidentDetailView>& detail() const { return presentedIncident.screen(); }
 
     void openCreateIncident();
-    /// What the sheet shows; null while it is down.
+    /// The sheet's screen; null while it is closed.
     const std::shared_ptr<CreateIncidentView>& form() const { return showCreateIncident.screen(); }
 
 private:

@@ -8,14 +8,14 @@
 
 namespace larkspan::incidents {
 
-/// The incidents of one page, fetched apart from the account's cycle.
+/// The incidents of one page, fetched independently of the account's cycle.
 class StatusPageIncidentsViewModel final : public presentation::FetchedList<model::Incident> {
 public:
     StatusPageIncidentsViewModel(platform::Executor& main, api::IncidentEndpoints& api, std::string page);
 
     const std::string pageId;
 
-    /// The list, in the order in which the service gave it.
+    /// The list in the service's order.
     presentation::RecordList<model::Incident>& incidents = records;
 };
 

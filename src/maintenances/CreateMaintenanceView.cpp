@@ -54,7 +54,7 @@ bool CreateMaintenanceView::isSelectionComplete() const
 
 bool CreateMaintenanceView::canBeSent() const
 {
-    // In minutes, which is what the pickers show: one that was not touched still has its seconds.
+    // In minutes, as the pickers show them: an unchanged picker still has its seconds.
     using std::chrono::minutes;
     const auto start = std::chrono::floor<minutes>(*scheduledFor->moment);
     return EventForm::canBeSent() && std::chrono::floor<minutes>(*scheduledUntil->moment) > start;

@@ -28,19 +28,19 @@ public:
         std::function<void(const model::Maintenance&)> onCreated;
         /// Closes the sheet.
         std::function<void()> dismiss;
-        /// Nobody knows whether an order took place: fetches the list anew.
+        /// Called when it is unknown whether a write took effect: fetches the list again.
         std::function<void()> lookAgain = {};
     };
 
     CreateMaintenanceView(Ports ports, std::string pageId, Owner owner);
 
-    /// From now on for an hour, unless something else is chosen.
+    /// By default, from now on for an hour.
     const std::shared_ptr<presentation::DateTimePicker> scheduledFor;
     const std::shared_ptr<presentation::DateTimePicker> scheduledUntil;
 
     [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer) override;
 
-    /// A component is enough; a monitor of it may be left open.
+    /// A component is sufficient, even without a monitor.
     bool isSelectionComplete() const override;
     bool hasUnsavedText() const override;
 

@@ -140,7 +140,7 @@ void MaintenanceDetailView::saveEdits()
     if (hasEditedTitle()) action->run(save(held(this), edits()));
 }
 
-// Which end may follow which start is the service's to say, and an emptied message is left as it is there.
+// The service decides which end is allowed for a start; an empty message leaves the service's one unchanged.
 MaintenanceChanges MaintenanceDetailView::edits() const
 {
     return {.title = *editedTitle,

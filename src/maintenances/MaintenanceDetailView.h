@@ -24,8 +24,8 @@
 
 namespace larkspan::maintenances {
 
-/// One maintenance, and what can be done to it. It keeps a copy of its record, which the service's answers replace, and
-/// tells its owner of each. Main thread only; closing it stops no request.
+/// One maintenance and its actions. It keeps a copy of the record, which the service's answers replace, and reports
+/// each to its owner. Main thread only; closing it cancels no request.
 class MaintenanceDetailView final : public presentation::EditableDetail {
 public:
     struct Ports {
@@ -41,26 +41,26 @@ public:
         std::function<void(const model::Maintenance&)> onDelete;
         /// Closes the screen.
         std::function<void()> dismiss;
-        /// Nobody knows whether an order took place: fetches the list anew.
+        /// Called when it is unknown whether a write took effect: fetches the list again.
         std::function<void()> lookAgain = {};
     };
 
     MaintenanceDetailView(Ports ports, model::Maintenance maintenance, Owner owner);
 
-    /// The record shown. Its status is as it was decoded, also when its start passes meanwhile.
+    /// The shown record. Its status stays as decoded, even if its start passes meanwhile.
     support::Published<model::Maintenance> currentMaintenance;
     support::Published<std::string> editedTitle{*this};
     support::Published<std::string> editedMessage{*this};
     const std::shared_ptr<presentation::DateTimePicker> editedScheduledFor;
     const std::shared_ptr<presentation::DateTimePicker> editedScheduledUntil;
-    /// The description as it is shown.
+    /// The description in its shown form.
     const std::shared_ptr<incidents::MessageView> message;
 
     const std::string& id() const { return currentMaintenance->id; }
     std::string title() const { return *isEditing ? "Edit Maintenance" : currentMaintenance->title; }
     presentation::Pill status() const { return statusPill(currentMaintenance->status); }
     std::vector<presentation::TimelineRow> timeline() const;
-    /// Those below the divider.
+    /// The rows below the divider.
     std::vector<presentation::TimelineRow> recordRows() const;
     /// The message in markdown.
     std::string description() const { return currentMaintenance->message.value_or(""); }
@@ -68,14 +68,14 @@ public:
 
     /// In the order of the screen; none in the editor.
     std::vector<presentation::ActionButton> buttons() const;
-    /// Does what the button of that id says; nothing if there is none or it is disabled.
+    /// Performs the action of the button with this id; does nothing if there is none or it is disabled.
     void press(std::string_view id);
 
     void startMaintenance();
     void completeMaintenance();
 
     bool isSaveEnabled() const override;
-    /// Sends what was edited; the editor closes when the service has it.
+    /// Sends the edits; the editor closes when the service has them.
     void saveEdits();
 
 private:

@@ -12,7 +12,7 @@ namespace larkspan::maintenances {
 struct MaintenanceRow {
     std::string id{};
     std::string title{};
-    /// Its tone is the dot's, too.
+    /// Its tone is also the dot's.
     presentation::Pill status{};
     /// The day of the planned start; empty if there is none.
     std::string date{};

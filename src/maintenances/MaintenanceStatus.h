@@ -8,7 +8,7 @@
 
 namespace larkspan::maintenances {
 
-// What a record without dates calls itself is shown, but nothing can be done with it.
+// Other words, of records without dates, are shown, but allow no action.
 inline constexpr std::string_view scheduled = "scheduled";
 inline constexpr std::string_view inProgress = "in_progress";
 inline constexpr std::string_view completed = "completed";
@@ -17,7 +17,7 @@ std::string maintenanceStatusLabel(std::string_view status);
 
 presentation::Tone maintenanceStatusColor(std::string_view status);
 
-/// The status as a word on its colour.
+/// The status as a word with its colour.
 presentation::Pill statusPill(std::string_view status);
 
 }  // namespace larkspan::maintenances

@@ -14,7 +14,7 @@ namespace {
 constexpr const char* changeSymbol = "arrow.triangle.2.circlepath";
 constexpr const char* changeLabel = "Updated";
 
-/// Rows of the moments that are there.
+/// Adds a row for each existing moment.
 class Timeline {
 public:
     explicit Timeline(const platform::LocaleText& locale)
@@ -36,7 +36,7 @@ private:
 
 }  // namespace
 
-// The end is the planned one until the maintenance is over, and the real one afterwards; before, it goes by both names.
+// The record has only one end, so until the maintenance is completed it is shown both as planned and as actual.
 std::vector<TimelineRow> maintenanceTimeline(const Maintenance& maintenance, const platform::LocaleText& locale)
 {
     const auto plannedEnd = maintenance.status == completed ? std::nullopt : maintenance.completedAt;

@@ -8,12 +8,12 @@
 
 namespace larkspan::maintenances {
 
-/// What was planned and what came of it.
+/// The planned and the actual times.
 std::vector<presentation::TimelineRow> maintenanceTimeline(
     const model::Maintenance& maintenance, const platform::LocaleText& locale);
 
-/// When the record was made, and changed since. It stands apart; without a creation there is nothing to part, and the
-/// change ends the rows above.
+/// The times of the record's creation and last change, shown separately. Empty without a creation; the change is then
+/// the last of the rows above.
 std::vector<presentation::TimelineRow> recordTimeline(
     const model::Maintenance& maintenance, const platform::LocaleText& locale);
 

@@ -15,8 +15,8 @@
 
 namespace larkspan::maintenances {
 
-/// The maintenances of one page: their list, the one that is opened and the form of a new one. Unlike that of
-/// incidents, the list takes over at once what is changed or deleted in front of it. Main thread only.
+/// The maintenances of one page: their list, the opened maintenance and the form of a new one. Unlike that of
+/// incidents, the list applies changes and deletions in front of it at once. Main thread only.
 class StatusPageMaintenancesView final : public presentation::ListScreen,
                                          public std::enable_shared_from_this<StatusPageMaintenancesView> {
 public:
@@ -35,15 +35,15 @@ public:
 
     std::vector<MaintenanceRow> rows() const;
 
-    /// Opens the maintenance of that row; nothing if it has gone meanwhile.
+    /// Opens the maintenance in that row; does nothing if it no longer exists.
     void openMaintenance(const std::string& id);
-    /// Brings the list back into sight, and so up to date.
+    /// Shows the list again, which fetches it.
     void closeMaintenance();
-    /// Of `presentedMaintenance`; null without one.
+    /// The screen of `presentedMaintenance`; null without one.
     const std::shared_ptr<MaintenanceDetailView>& detail() const { return presentedMaintenance.screen(); }
 
     void openCreateMaintenance();
-    /// What the sheet shows; null while it is down.
+    /// The sheet's screen; null while it is closed.
     const std::shared_ptr<CreateMaintenanceView>& form() const { return showCreateSheet.screen(); }
 
 private:

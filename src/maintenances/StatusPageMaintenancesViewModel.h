@@ -8,14 +8,14 @@
 
 namespace larkspan::maintenances {
 
-/// The maintenances of one page, of those of the whole account that the service lists.
+/// The maintenances of one page, selected from the account's list.
 class StatusPageMaintenancesViewModel final : public presentation::FetchedList<model::Maintenance> {
 public:
     StatusPageMaintenancesViewModel(platform::Executor& main, api::MaintenanceEndpoints& api, std::string page);
 
     const std::string pageId;
 
-    /// The list, in the order in which the service gave it.
+    /// The list in the service's order.
     presentation::RecordList<model::Maintenance>& maintenances = records;
 };
 

@@ -7,15 +7,15 @@
 
 namespace larkspan::monitors {
 
-/// What is told of the selected sample.
+/// The text about the selected sample.
 struct LatencyCallout {
     std::string value{};
-    /// Empty where the sample has no time.
+    /// Empty if the sample has no time.
     std::string time{};
 
     static LatencyCallout of(const LatencyDataPoint& point, const platform::LocaleText& locale);
 
-    /// Both as a screen reader says them.
+    /// Both texts for a screen reader.
     std::string words() const;
 
     bool operator==(const LatencyCallout&) const = default;

@@ -10,7 +10,7 @@ namespace {
 
 constexpr double intervals = 5;
 
-/// 1, 2 or 5 times a power of ten: of these the nearest by ratio.
+/// The nearest by ratio of 1, 2 or 5 times a power of ten.
 double roundStep(double step)
 {
     const double power = std::pow(10, std::floor(std::log10(step)));

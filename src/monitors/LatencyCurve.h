@@ -12,17 +12,17 @@ struct LatencyDomain {
     double lower = 0;
     double upper = 1;
 
-    /// Where a value is between them: 0 at the bottom of the plot, 1 at its top.
+    /// The relative place of a value: 0 at the bottom of the plot, 1 at its top.
     double shareOf(double value) const { return (value - lower) / (upper - lower); }
 
     bool operator==(const LatencyDomain&) const = default;
 };
 
-/// Chosen as for any area: zero belongs to it, since an area stands on zero, and both ends are round numbers, so that
-/// graphs of similar monitors look alike. Where all is zero it reaches to 1, and the line lies at the bottom.
+/// The domain for `points`: it includes zero, since the area starts at zero, and both ends are round numbers, so that
+/// graphs of similar monitors look alike. If all values are zero it ends at 1, and the line is at the bottom.
 LatencyDomain latencyDomain(const std::vector<LatencyDataPoint>& points);
 
-/// What a latency graph draws.
+/// The curve of a latency graph.
 struct LatencyCurve {
     std::vector<LatencyDataPoint> points{};
     LatencyDomain domain{};

@@ -9,7 +9,7 @@
 
 namespace larkspan::monitors {
 
-/// A sample as the latency graph draws it: evenly spaced by `index`, whatever its time.
+/// A sample in a latency graph: evenly spaced by `index`, whatever its time.
 struct LatencyDataPoint {
     int index = 0;
     /// In milliseconds.
@@ -19,8 +19,8 @@ struct LatencyDataPoint {
     bool operator==(const LatencyDataPoint&) const = default;
 };
 
-/// The samples of `metrics` with their times where it has such, even if there are none among them, else those of
-/// `latency` without.
+/// The samples of `metrics` with their times if it has that list, even an empty one; else those of `latency`, without
+/// times.
 std::vector<LatencyDataPoint> latencyDataPoints(
     const std::vector<std::int64_t>& latency, const std::optional<model::MonitorMetricsWindow>& metrics);
 

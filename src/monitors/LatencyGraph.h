@@ -8,13 +8,13 @@
 
 namespace larkspan::monitors {
 
-/// A latency graph as a row shows it.
+/// The latency graph of a row.
 struct LatencyGraph {
-    /// Null where there is no graph.
+    /// Null if there is no graph.
     std::shared_ptr<const LatencyCurve> curve{};
-    /// Of a point that the curve has.
+    /// The index of an existing point.
     std::optional<int> selectedIndex{};
-    /// Of the selected point.
+    /// The callout of the selected point.
     LatencyCallout callout{};
 
     static LatencyGraph of(std::shared_ptr<const LatencyCurve> curve, std::optional<int> selectedLatencyIndex,

@@ -4,16 +4,16 @@
 
 namespace larkspan::monitors {
 
-/// How far from the plot's left edge a sample stands, in a plot of that width: the first at the left edge, the last at
-/// the right one, and one that is alone in the middle.
+/// The distance of a sample from the left edge of a plot of this width: the first sample is at the left edge, the last
+/// one at the right edge, and a single one in the middle.
 double latencyX(int index, int count, double plotWidth);
 
-/// The place on the axis of indexes at `x` from the plot's left edge: no whole number as a rule, and beyond the first
-/// and the last index where `x` is beyond the plot. None where there is no plot.
+/// The place on the axis of indexes at the distance `x` from the plot's left edge: usually not an integer, and beyond
+/// the first or last index if `x` is outside the plot. Empty if there is no plot.
 std::optional<double> latencyPosition(double x, int count, double plotWidth);
 
-/// Where the left edge of a callout goes that is to be centred over `x`: it stays inside the graph from side to side,
-/// and begins at its left edge if it is wider.
+/// The left edge of a callout that is centred over `x` but stays inside the graph; the graph's left edge if the callout
+/// is wider.
 double calloutLeft(double x, double calloutWidth, double graphWidth);
 
 }  // namespace larkspan::monitors

@@ -14,7 +14,7 @@ struct MetricBadge {
     std::string value{};
     std::string label{};
     presentation::Tone color = presentation::Tone::blue;
-    /// It is a `TrendBadge`, whose icon stands closer.
+    /// Whether it is a `TrendBadge`, whose icon is closer to the text.
     bool isTrend = false;
 
     bool operator==(const MetricBadge&) const = default;
@@ -28,7 +28,7 @@ struct TrendBadge {
     MetricBadge drawn() const;
 };
 
-/// In the order of the row; what the window does not have is left out.
+/// In the order of the row; missing figures are left out.
 std::vector<MetricBadge> metricBadges(const model::MonitorMetricsWindow& metrics);
 
 }  // namespace larkspan::monitors

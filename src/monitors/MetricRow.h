@@ -17,7 +17,7 @@ struct MetricRow {
     bool operator==(const MetricRow&) const = default;
 };
 
-/// In the order of the panel; what the window does not have is left out.
+/// In the order of the panel; missing figures are left out.
 std::vector<MetricRow> metricRows(const model::MonitorMetricsWindow& metrics);
 
 }  // namespace larkspan::monitors

@@ -10,17 +10,17 @@ namespace larkspan::monitors {
 std::string_view monitorStatusIcon(model::MonitorStatus status);
 presentation::Tone monitorStatusColor(model::MonitorStatus status);
 
-/// Of a trend's word in any case of letters. Up is green for whatever goes up, the response time too: the service's
-/// word says whether things get better, not which way the number goes.
+/// The colour of a trend's word, ignoring the case of letters. Up is always green, even for the response time: the
+/// service's word says whether things improve, not whether the number grows.
 presentation::Tone trendColor(std::string_view trend);
 std::string_view trendIcon(std::string_view trend);
 
-/// Of a region's word in any case of letters; words that nobody knows are gray.
+/// The colour of a region's word, ignoring the case of letters; unknown words are gray.
 presentation::Tone regionStatusColor(std::string_view status);
 
-/// Of a response time in milliseconds: quick, slow or too slow.
+/// The colour of a response time in milliseconds: fast, slow or too slow.
 presentation::Tone responseTimeColor(double milliseconds);
-/// Of the share of time that a monitor was up, in percent.
+/// The colour of an uptime in percent.
 presentation::Tone uptimeColor(double percentage);
 
 }  // namespace larkspan::monitors

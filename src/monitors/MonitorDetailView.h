@@ -22,8 +22,8 @@
 
 namespace larkspan::monitors {
 
-/// One monitor, and what can be done to it. It works on a copy of the record, which it fetches anew after each action,
-/// and hands that on to its owner. Main thread only; closing it stops no request.
+/// One monitor and its actions. It has a copy of the record, which it fetches again after each action and passes to its
+/// owner. Main thread only; closing it cancels no request.
 class MonitorDetailView final : public support::Observable, public std::enable_shared_from_this<MonitorDetailView> {
 public:
     struct Ports {
@@ -35,7 +35,7 @@ public:
 
     struct Owner {
         std::function<void(const model::Monitor&)> onUpdate;
-        /// Nobody knows whether an order took place: fetches the list anew.
+        /// Called when it is unknown whether a write took effect: fetches the list again.
         std::function<void()> lookAgain = {};
     };
 
@@ -45,12 +45,12 @@ public:
 
     MonitorDetailView(Ports ports, model::Monitor monitor, Owner owner);
 
-    /// The record as the screen shows it.
+    /// The shown record.
     support::Published<model::Monitor> currentMonitor;
-    /// The request that runs, and the alert of the one that failed.
+    /// The running request, and the alert of a failed one.
     const std::shared_ptr<presentation::RunningAction> action;
 
-    /// Calls `observer` before anything changes that the screen shows.
+    /// Calls `observer` before anything that the screen shows changes.
     [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer);
 
     const std::string& id() const { return currentMonitor->id; }
@@ -60,18 +60,18 @@ public:
     void show(model::Monitor changed) { currentMonitor = std::move(changed); }
 
     std::vector<presentation::Pill> pills() const { return headerPills(*currentMonitor); }
-    /// The group "Details"; what the record does not have is left out.
+    /// The group "Details"; missing values are left out.
     std::vector<presentation::Fact> details() const;
-    /// The group "Last Check": the day, and the time of day as its caption. All empty without.
+    /// The group "Last Check": the day, and the time of day as its caption. Empty without a check.
     presentation::Fact lastCheck() const;
 
     /// In the order of the screen.
     std::vector<presentation::ActionButton> buttons() const;
-    /// Does what the button of that id says; nothing if there is none or it is disabled.
+    /// Performs the action of the button with this id; does nothing if there is none or it is disabled.
     void press(std::string_view id);
     void perform(DetailAction wanted);
 
-    /// Opens the monitor's URL; what is no web address is not opened.
+    /// Opens the monitor's URL; any other than a web address is not opened.
     void openURL() const;
 
 private:

@@ -14,7 +14,7 @@ std::string statusWord(const model::Monitor& monitor);
 /// The type in capitals, such as "HTTP".
 presentation::Pill typePill(const model::Monitor& monitor);
 
-/// How a monitor stands and what it is, as its own screen begins.
+/// The state and the type of a monitor, at the top of its screen.
 std::vector<presentation::Pill> headerPills(const model::Monitor& monitor);
 
 }  // namespace larkspan::monitors

@@ -15,7 +15,7 @@ namespace larkspan::monitors {
 
 /// One monitor in the list of its page.
 struct MonitorRow {
-    /// Of the buttons.
+    /// The ids of the buttons.
     static constexpr std::string_view pauseResume = "pauseResume";
     static constexpr std::string_view checkNow = "checkNow";
 
@@ -25,13 +25,13 @@ struct MonitorRow {
     std::string status{};
     presentation::Tone tone = presentation::Tone::gray;
     presentation::Pill type{};
-    /// The metrics are shown, or what stands in their place.
+    /// Whether the metrics, or a text in their place, are shown.
     bool isOpen = false;
-    /// The button that opens and closes them spins and cannot be pressed.
+    /// Whether the button that opens and closes them shows progress and cannot be pressed.
     bool isLoading = false;
-    /// What that button says.
+    /// The text of that button.
     std::string disclosure{};
-    /// Only while the metrics are there and closed.
+    /// Only while metrics are loaded and closed.
     std::vector<MetricBadge> badges{};
     std::vector<presentation::ActionButton> buttons{};
 

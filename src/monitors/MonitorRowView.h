@@ -18,8 +18,8 @@
 
 namespace larkspan::monitors {
 
-/// What is open in one row of the list: the monitor's metrics of a day, fetched when they are first asked for and kept
-/// from then on. Main thread only; a running fetch outlives the row.
+/// The opened part of one row of the list: the monitor's metrics for a day, fetched when first opened and kept from
+/// then on. Main thread only; a running fetch may outlive the row.
 class MonitorRowView final : public support::Observable, public std::enable_shared_from_this<MonitorRowView> {
 public:
     static constexpr const char* range = "24h";
@@ -37,23 +37,23 @@ public:
     support::Published<bool> isLoadingMetrics{*this, false};
     support::Published<std::optional<std::string>> metricsLoadError{*this};
 
-    /// Tells its changes itself, since they are many and the list shows nothing of them.
+    /// Observed separately, since it changes often and the list does not show it.
     struct Selection final : support::Observable {
         support::Published<std::optional<int>> selectedLatencyIndex{*this};
     };
     Selection selection;
 
-    /// Opens the metrics, or closes them; not while they are loaded.
+    /// Opens or closes the metrics; does nothing while they are being loaded.
     void toggleMetrics();
     /// Fetches the metrics again after a failure.
     void retry();
 
     bool showsPanel() const { return *showingMetrics && !*isLoadingMetrics && metrics->has_value(); }
-    /// What stands in place of the panel while there is none: that it is loaded, or why it could not be.
+    /// Shown in place of the panel: that it is being loaded, or why it could not be.
     presentation::Marker instead() const;
     bool offersRetry() const { return *showingMetrics && !*isLoadingMetrics && !metrics->has_value(); }
 
-    /// The panel's graph; without a curve where there is none to show.
+    /// The panel's graph; without a curve if there is none to show.
     LatencyGraph latencyGraph() const;
     /// Selects the sample that is nearest to a place on the graph's axis of indexes.
     void selectLatency(double position);
@@ -61,7 +61,7 @@ public:
     /// The panel's figures and regions; empty without metrics.
     std::vector<MetricRow> figures() const;
     std::vector<RegionRow> regions() const;
-    /// Below the regions: how many more there are; empty for none.
+    /// The text below the regions: how many more there are; empty for none.
     std::string moreRegions() const;
 
 private:

@@ -8,21 +8,21 @@
 
 namespace larkspan::monitors {
 
-/// How a monitor stands seen from one region.
+/// A monitor's state as seen from one region.
 struct RegionRow {
     std::string name{};
     /// In milliseconds.
     std::string average{};
-    /// Of the dot.
+    /// The colour of the dot.
     presentation::Tone tone = presentation::Tone::gray;
 
     bool operator==(const RegionRow&) const = default;
 };
 
-/// In the order of the window, as many as a panel shows.
+/// The rows in the order of the window, as many as a panel shows.
 std::vector<RegionRow> regionRows(const model::MonitorMetricsWindow& metrics);
 
-/// How many more there are; empty for none.
+/// The text for how many more there are; empty for none.
 std::string moreRegions(const model::MonitorMetricsWindow& metrics);
 
 }  // namespace larkspan::monitors

@@ -25,7 +25,7 @@
 
 namespace larkspan::monitors {
 
-/// The monitors of one page: their list, what is open in its rows, and the one that is opened. Main thread only.
+/// The monitors of one page: their list, the opened parts of its rows, and the opened monitor. Main thread only.
 class StatusPageMonitorsView final : public presentation::ListScreen,
                                      public std::enable_shared_from_this<StatusPageMonitorsView> {
 public:
@@ -37,7 +37,7 @@ public:
         platform::LinkOpener& links;
     };
 
-    /// By the row's id; a row that was never opened has none.
+    /// By the row's id; rows that were never opened have none.
     using RowViews = std::map<std::string, std::shared_ptr<MonitorRowView>, std::less<>>;
 
     StatusPageMonitorsView(Ports ports, model::StatusPage page);
@@ -50,20 +50,19 @@ public:
 
     std::vector<MonitorRow> rows() const;
 
-    /// The rows that were opened; one stays as it is for as long as its monitor is in the list. What changes in it, it
-    /// tells itself.
+    /// The rows that were opened; each exists as long as its monitor is in the list, and has its own observers.
     const RowViews& rowViews() const { return *rowViews_; }
     void toggleMetrics(const std::string& id);
 
-    /// Does what the button of that id says in that row; nothing while an action on its monitor runs.
+    /// Performs the action of the button with this id in that row; does nothing while an action on its monitor runs.
     void press(const std::string& id, std::string_view button);
 
     presentation::FailureAlert* alert() const override { return &viewModel->alert; }
 
-    /// Opens the monitor of that row; nothing if it has gone meanwhile.
+    /// Opens the monitor in that row; does nothing if it no longer exists.
     void openMonitor(const std::string& id);
     void closeMonitor();
-    /// Of `presentedMonitor`; null without one.
+    /// The screen of `presentedMonitor`; null without one.
     const std::shared_ptr<MonitorDetailView>& detail() const { return presentedMonitor.screen(); }
 
     bool isHeld() const override { return !viewModel->performingActions->empty(); }

@@ -16,15 +16,15 @@
 
 namespace larkspan::monitors {
 
-/// The monitors of one page, and what can be done to each of them from the list. Actions on several monitors run beside
-/// each other; those on one are kept apart by its row, which disables its buttons meanwhile.
+/// The monitors of one page, and their actions in the list. Actions on several monitors run concurrently; the row of a
+/// monitor disables its buttons while one runs.
 class StatusPageMonitorsViewModel final : public presentation::FetchedList<model::Monitor> {
 public:
     StatusPageMonitorsViewModel(platform::Executor& main, api::MonitorEndpoints& api, std::string page);
 
     const std::string pageId;
 
-    /// Those of the page alone, in the order in which the service gave the account's.
+    /// The monitors of the page only, in the service's order.
     presentation::RecordList<model::Monitor>& monitors = records;
     const std::shared_ptr<MonitorActions> actions;
     /// The ids of the monitors with an action running.
@@ -37,11 +37,11 @@ public:
 
     void loadMonitors() { load(); }
 
-    /// Pauses the monitor or, if that record says that it is paused, resumes it; then fetches its row anew. It never
-    /// throws, and a failure of the second step is told to nobody: the row stays as it was. The monitor is marked from
+    /// Pauses the monitor or, if its record says that it is paused, resumes it; then fetches its row again. Never
+    /// throws; a failure of the second step is not reported, and the row does not change. The monitor is marked from
     /// the call on, so that a second press in the same turn finds it busy.
     support::Task<void> togglePause(model::Monitor monitor);
-    /// Asks for a check, then fetches the monitor's row anew at once, which may be before the check has ended.
+    /// Starts a check, then fetches the monitor's row again at once, which may be before the check has ended.
     support::Task<void> checkMonitor(model::Monitor monitor);
 
 private:

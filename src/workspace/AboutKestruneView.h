@@ -9,10 +9,10 @@
 
 namespace larkspan::workspace {
 
-/// The about box: what the program is, which build of it, and where to read more. Main thread only.
+/// The about box: the program, its build, and addresses to read more. Main thread only.
 class AboutKestruneView {
 public:
-    /// What the build says of itself; an empty version counts as none.
+    /// The description of the build; an empty version counts as none.
     struct Bundle {
         std::string shortVersion;
         std::string buildNumber;
@@ -29,7 +29,7 @@ public:
     const std::string& version() const { return version_; }
     const std::string& build() const { return build_; }
 
-    /// Such as "Version 1.0 (1)".
+    /// The version, such as "Version 1.0 (1)".
     std::string versionText() const { return "Version " + version_ + " (" + build_ + ")"; }
 
     const std::array<presentation::Link, 3>& links() const { return links_; }

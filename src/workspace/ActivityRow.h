@@ -8,7 +8,7 @@
 
 namespace larkspan::workspace {
 
-/// An incident or a maintenance that a page has now.
+/// A current incident or maintenance of a page.
 struct ActivityRow {
     std::string id{};
     std::string symbol{};

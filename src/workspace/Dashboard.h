@@ -35,8 +35,8 @@
 
 namespace larkspan::workspace {
 
-/// The dashboard: which of its states shows, and every word in it. It owns no data; all comes from the account's state.
-/// Main thread only.
+/// The dashboard: its state and its texts. It owns no data; everything comes from the account's state. Main thread
+/// only.
 class Dashboard final : public support::Observable,
                         public core::QuitGuard,
                         public std::enable_shared_from_this<Dashboard> {
@@ -69,39 +69,39 @@ public:
     presentation::Opened<StatusPageDetailView> openedPage{*this};
     /// The reference of the text after "Updated "; it ticks, so that the text ages on screen.
     support::Published<support::Time> currentTime;
-    /// The key that the demo's settings tell; empty in the program. Set before they are opened.
+    /// The key that the demo's settings show; empty in the program. Set it before the settings are opened.
     std::string demoKey;
 
-    /// Calls `observer` before anything changes that the dashboard shows, the account's state included.
+    /// Calls `observer` before anything that the dashboard shows changes, including the account's state.
     [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer);
 
     presentation::Content content() const;
-    /// What stands in place of the list; all empty while there is one.
+    /// The placeholder in place of the list; empty while there are pages.
     presentation::Placeholder placeholder() const;
     presentation::Headline headline() const { return DashboardOperationalSummary::of(state()).headline(); }
     std::vector<StatusPageRow> rows() const;
-    /// The place of the selected page among the rows; absent if it is not there.
+    /// The index of the selected page in the rows; absent if it is not there.
     std::optional<std::size_t> selectedRow() const;
     bool showsRefreshFailure() const;
-    /// Of when the data is, or that it is being fetched.
+    /// The age of the data, or that it is being fetched.
     presentation::Marker status() const;
     bool isRefreshEnabled() const;
 
     void refresh() { ports_.appState->refreshNow(); }
     void chooseRefreshInterval(std::chrono::seconds interval);
 
-    /// Selects the page and opens it, if the account has it. One that is open already stays as it is; where something
-    /// is typed in another that would be lost, the user is asked first.
+    /// Selects the page and opens it, if the account has it. A page that is open already does not change; if text in
+    /// another page would be lost, the user is asked first.
     void openPage(const std::string& id);
-    /// The user has gone back to the list.
+    /// Closes the page because the user has gone back to the list.
     void closePage();
 
     bool asksBeforeQuitting(std::function<void()> quit) override { return asksBefore(quit); }
 
     void openSettings();
-    /// The sheet has closed, in whatever way; a key that was saved takes effect now.
+    /// Called when the sheet has closed in any way; a saved key takes effect now.
     void closeSettings();
-    /// What the sheet shows; null while it is down.
+    /// The sheet's screen; null while it is closed.
     const std::shared_ptr<Settings>& settings() const { return showingSettings.screen(); }
 
 private:
@@ -110,9 +110,9 @@ private:
     StatusPageDetailView::Ports portsOfPage() const;
     bool asksBefore(const std::function<void()>& leave);
     void showPage(const std::string& id);
-    /// Time goes on, for what shows a distance from now.
+    /// Updates the time, for texts that show a distance from now.
     void tick();
-    /// Takes over what the account's list has made of the opened page.
+    /// Updates the opened page from the account's list.
     void followOpenedPage();
 
     Ports ports_;

@@ -15,12 +15,12 @@ namespace larkspan::workspace {
 struct DashboardOperationalSummary {
     core::OverallStatus overallStatus = core::OverallStatus::unknown;
     int statusPageCount = 0;
-    /// Pages that are anything but operational.
+    /// The number of pages that are not operational.
     int affectedPageCount = 0;
     int activeIncidentCount = 0;
     int activeMaintenanceCount = 0;
     int scheduledMaintenanceCount = 0;
-    /// The latest cycle failed, or there is no network. Wider than `OverallStatus::stale`.
+    /// Whether the latest cycle failed or there is no network. Wider than `OverallStatus::stale`.
     bool isStale = false;
 
     static DashboardOperationalSummary of(const core::AppStateManager& state);
@@ -29,7 +29,7 @@ struct DashboardOperationalSummary {
     std::vector<std::string> operationalDetails() const;
     std::string_view symbolName() const;
     presentation::Tone tone() const;
-    /// All of these as the dashboard shows them; the details stand in one line.
+    /// All of this as the dashboard shows it, with the details in one line.
     presentation::Headline headline() const;
 
     bool operator==(const DashboardOperationalSummary&) const = default;

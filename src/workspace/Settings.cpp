@@ -101,7 +101,7 @@ void Settings::saveAndVerify()
 {
     std::string key(support::trimmed(*apiKey));
     if (key.empty() || !isSaveEnabled()) return;
-    // The field holds one character more than that and no others, so what stands there may not be all that was pasted.
+    // The field accepts only one character more, so it may not contain all of a pasted text.
     if (apiKey->size() > longestKey) {
         validationState = invalid(failureText(APIKeyVerificationResult::invalid));
         return;

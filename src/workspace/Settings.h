@@ -16,15 +16,15 @@
 
 namespace larkspan::workspace {
 
-/// The settings sheet: a key is pasted, verified, stored and deleted. Main thread only. Made anew each time the
-/// sheet opens; closing it stops nothing, so a key that is being verified is still stored if it is accepted.
+/// The settings sheet: a key is pasted, verified, stored and deleted. Main thread only. A new object is made each time
+/// the sheet opens; closing it cancels nothing, so a key that is being verified is still stored if it is accepted.
 class Settings final : public support::Observable, public std::enable_shared_from_this<Settings> {
 public:
     struct Ports {
         platform::Executor& main;
         std::shared_ptr<core::AppStateManager> appState;
         api::APIKeyStore& keys;
-        /// The one key that works, where that is no secret; empty where it is the user's own.
+        /// The only key that works, if that is no secret; empty if it is the user's own.
         std::string demoKey = {};
     };
 
@@ -44,42 +44,42 @@ public:
 
     explicit Settings(Ports ports, std::function<void()> onApiKeyDeleted = {});
 
-    /// Longer than any key, and as much as a request carries everywhere.
+    /// Longer than any key, and short enough for a request's header everywhere.
     static constexpr std::size_t longestKey = 4096;
     static constexpr std::string_view lookingText = "Looking for your API key...";
 
     support::Published<std::string> apiKey{*this};
-    /// The store has not said yet whether it holds a key; it may be waiting for the user.
+    /// Whether the store has not answered yet if it contains a key; it may be waiting for the user.
     support::Published<bool> isLooking{*this, false};
     support::Published<bool> hasExistingKey{*this, false};
     support::Published<ValidationState> validationState{*this};
     support::Published<bool> showDeleteConfirmation{*this, false};
 
-    /// The row "API key saved" stands in place of the field.
+    /// Whether the row "API key saved" is shown in place of the field.
     bool showsSavedKey() const { return *hasExistingKey && apiKey->empty(); }
-    /// The field is there, with what belongs to it.
+    /// Whether the field and its controls are shown.
     bool showsField() const { return !*isLooking && !showsSavedKey(); }
     bool isSaveEnabled() const;
-    /// Beside "API key saved": what came of the verification; all empty while nothing has been verified.
+    /// Beside "API key saved": the result of the verification; empty while nothing has been verified.
     presentation::Marker marker() const;
-    /// Under the field: why the key was refused; all empty if it was not.
+    /// Under the field: why the key was refused; empty if it was not.
     presentation::Marker refusal() const;
-    /// Under that: which key works in the demo; all empty in the program.
+    /// Under that: which key works in the demo; empty in the program.
     presentation::Marker demoHint() const;
     /// In place of both, while the store is asked.
     presentation::Marker search() const;
 
-    /// The sheet came up: looks whether a key is stored.
+    /// Called when the sheet opens: checks whether a key is stored.
     void appear();
 
-    /// The user changed the field.
+    /// Called when the user changes the field.
     void edit(std::string text);
 
     void saveAndVerify();
     void confirmDelete();
     void cancelDelete() { showDeleteConfirmation = false; }
 
-    /// The user confirmed the deletion.
+    /// Deletes the key; called when the user has confirmed.
     void deleteKey();
 
 private:

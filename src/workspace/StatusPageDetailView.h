@@ -25,7 +25,7 @@
 
 namespace larkspan::workspace {
 
-/// One status page, opened: its tabs, of which the selected one alone has a screen. Main thread only.
+/// One opened status page: its tabs, of which only the selected one has a screen. Main thread only.
 class StatusPageDetailView final : public support::Observable {
 public:
     struct Ports {
@@ -46,22 +46,22 @@ public:
 
     StatusPageDetailView(Ports ports, model::StatusPage opened);
 
-    /// The record as the dashboard last handed it in.
+    /// The record that the dashboard passed in last.
     support::Published<model::StatusPage> page;
-    /// When the page was last told that time goes on, which moves the distances in its overview.
+    /// The time of the last tick, the reference of the relative times in the overview.
     support::Published<support::Time> currentTime;
 
-    /// Calls `observer` before anything changes that the page shows, the account's state included.
+    /// Calls `observer` before anything that the page shows changes, including the account's state.
     [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer);
 
     Tab selectedTab() const { return static_cast<Tab>(opened_->index()); }
     /// Leaves the screen of the tab that was selected, and makes that of `tab` anew; the selected tab stays as it is.
     void select(Tab tab);
-    /// The tab beside the selected one, forwards or backwards; over the ends it goes round.
+    /// Selects the next or the previous tab, wrapping around at the ends.
     void selectNext();
     void selectPrevious();
 
-    /// Fetches anew what the selected tab shows; the overview is made of the account's lists.
+    /// Fetches the data of the selected tab again; the overview uses the account's lists.
     void refresh();
 
     StatusPageOverviewView overview() const;
@@ -74,12 +74,12 @@ public:
     /// The screen of the tab "Maintenances"; null while another is selected.
     std::shared_ptr<maintenances::StatusPageMaintenancesView> maintenances() const { return opened<Maintenances>(); }
 
-    /// The page is not to go by itself: something would be lost with it, or an order has not ended.
+    /// Whether the page must not be removed automatically: text would be lost, or an action has not ended.
     bool isHeld() const;
-    /// As `GuardedScreen` has it, for what is open in the page.
+    /// As `GuardedScreen::asksBefore`, for the screens that are open in the page.
     bool asksBefore(const std::function<void()>& leave);
 
-    /// Opens the page as the public sees it; what is no web address is not opened.
+    /// Opens the public page; any other than a web address is not opened.
     void openPublicURL() const;
 
 private:

@@ -15,19 +15,19 @@
 
 namespace larkspan::workspace {
 
-/// A page in summary: what its record says, and what the account's lists say of it. It asks the service for nothing.
+/// A page in summary, from its record and from the account's lists. It sends no requests.
 struct StatusPageOverviewView {
     presentation::Headline status{};
-    /// The group "Status Page"; empty where the record has nothing of it.
+    /// The group "Status Page"; empty if the record has none of its values.
     std::vector<presentation::Fact> information{};
     std::vector<ActivityRow> activity{};
-    /// Stands in place of the activity where there is none; all empty else.
+    /// Shown in place of the activity if there is none; otherwise empty.
     presentation::Marker quiet{};
-    /// The group "About This Status Page"; empty where the page has no description.
+    /// The group "About This Status Page"; empty if the page has no description.
     std::string about{};
-    /// The group "Uptime"; empty where the page has no figures.
+    /// The group "Uptime"; empty if the page has no figures.
     std::vector<presentation::Fact> uptime{};
-    /// Below the figures: how many more there are; empty for none.
+    /// The text below the figures: how many more there are; empty for none.
     std::string moreUptime{};
 
     static StatusPageOverviewView of(const model::StatusPage& page, const core::AppStateManager& state,
@@ -36,13 +36,13 @@ struct StatusPageOverviewView {
     bool operator==(const StatusPageOverviewView&) const = default;
 };
 
-/// The name of a period of figures, such as "Last 24 Hours"; a period that has none is its own.
+/// The name of a period of figures, such as "Last 24 Hours"; a period without one is its own name.
 std::string_view periodLabel(std::string_view period);
 
-/// Those of the page that run, acknowledged or not, in the order of the account.
+/// The page's open incidents, acknowledged or not, in the order of the account.
 std::vector<model::Incident> activeIncidents(const model::StatusPage& page, const core::AppStateManager& state);
 
-/// Those of the page that are in progress, in the order of the account.
+/// The page's maintenances in progress, in the order of the account.
 std::vector<model::Maintenance> activeMaintenances(const model::StatusPage& page, const core::AppStateManager& state);
 
 }  // namespace larkspan::workspace

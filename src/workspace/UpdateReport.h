@@ -7,13 +7,13 @@
 
 namespace larkspan::workspace {
 
-/// What the dialog about updates says.
+/// The texts of the dialog about updates.
 struct UpdateReport {
     std::string title;
     std::string text;
     bool showsProgress = false;
 
-    /// Of a check that still runs if `finding` is absent.
+    /// The report of a check; of a running one if `finding` is absent.
     static UpdateReport of(const std::optional<platform::UpdateCheck>& finding);
 
     bool operator==(const UpdateReport&) const = default;
