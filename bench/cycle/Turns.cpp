@@ -69,7 +69,7 @@ void measure(std::size_t incidents, std::size_t cycles)
         while (main.turn() | worker.turn()) {}
         if (client.state().incidents->size() != incidents)
             throw std::runtime_error("a cycle did not bring the incidents");
-        // The first one fetches what the transport then remembers.
+        // The first one fetches the answers that the transport then remembers.
         if (count == 0) continue;
         turns.push_back(main.longest());
         work.push_back(worker.all());

@@ -220,7 +220,7 @@ void measureOpening(ProgramsWindow& programs, std::size_t rows)
     expose(programs.window());
     std::vector<double> taken;
     QElapsedTimer timer;
-    // The first one fetches what the transport then remembers.
+    // The first one fetches the answers that the transport then remembers.
     for (int count = 0; count <= openings; ++count) {
         timer.start();
         programs.openIncidents(rows);

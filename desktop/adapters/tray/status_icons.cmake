@@ -22,7 +22,7 @@ foreach(row IN LISTS LARKSPAN_STATUS_ICONS)
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${drawing})
 
     file(READ ${drawing} svg)
-    # GTK's hosts recolour every path of a symbolic icon, Plasma what has this class.
+    # GTK's hosts recolour every path of a symbolic icon, Plasma those with this class.
     string(REGEX REPLACE "class=\"[^\"]*\"([^>]*)>" "class=\"ColorScheme-Text\"\\1>\n  <style type=\"text/css\" \
 id=\"current-color-scheme\">.ColorScheme-Text { color: #2e3436 }</style>" svg "${svg}")
     set(file ${status_icons_folder}/com.kestrune.larkspan-${status}-symbolic.svg)

@@ -33,7 +33,7 @@ bool changesDirection(char32_t character)
     return (character >= U'\u202A' && character <= U'\u202E') || (character >= U'\u2066' && character <= U'\u2069');
 }
 
-/// U+FFFC stands for an embedded object, which do not occur here.
+/// U+FFFC represents an embedded object, which does not occur here.
 bool isUnshowable(char32_t character)
 {
     return character < U' ' || (character >= 0x7F && character < 0xA0) || character == U'\uFFFC';

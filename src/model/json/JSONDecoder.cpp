@@ -124,7 +124,7 @@ Result read(const std::string& body, support::Time now, Result (*decodeRoot)(con
         reading.failIfTooLong();
         return result;
     } catch (const DecodingError&) {
-        // This error comes before the one that no other shape was found either.
+        // Reported instead of the failure to find another shape.
         reading.failIfTooLong();
         throw;
     }
