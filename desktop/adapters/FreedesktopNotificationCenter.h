@@ -19,8 +19,8 @@ class QDBusPendingCall;
 
 namespace larkspan::adapters {
 
-/// Notifications through `org.freedesktop.Notifications` on the session bus. Never waits for the
-/// server; a notice that no server accepts before the deadline is dropped.
+/// Notifications through `org.freedesktop.Notifications` on the session bus. Never waits for the server; a notice that
+/// no server accepts before the deadline is dropped.
 class FreedesktopNotificationCenter final : public QObject, public platform::NotificationCenter {
     Q_OBJECT
 

@@ -10,8 +10,8 @@
 
 namespace larkspan::adapters {
 
-/// Calls `continuation` with the unique name of the process that owns the name on the bus, empty if none does;
-/// never if `context` has been destroyed. Qt's own function blocks until the bus answers.
+/// Calls `continuation` with the unique name of the process that owns the name on the bus, empty if none does; never if
+/// `context` has been destroyed. Qt's own function blocks until the bus answers.
 template <typename Continuation>
 void whenOwnerIsKnown(QObject* context, const QDBusConnection& bus, const QString& name, Continuation continuation)
 {

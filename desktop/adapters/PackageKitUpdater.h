@@ -14,8 +14,8 @@
 
 namespace larkspan::adapters {
 
-/// Updates by the distribution's packages: asks PackageKit on the system bus, which also installs them.
-/// A check that starts while another one runs gets the same answer. A destroyed updater calls no callback.
+/// Updates by the distribution's packages: asks PackageKit on the system bus, which also installs them. A check that
+/// starts while another one runs gets the same answer. A destroyed updater calls no callback.
 class PackageKitUpdater final : public QObject, public platform::Updater {
     Q_OBJECT
 

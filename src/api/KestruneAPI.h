@@ -25,8 +25,8 @@ public:
 };
 
 /// The program's only access to the service. Its operations may be awaited on any executor; they run on the client's
-/// own and interleave there while they wait. They throw `APIError`, `platform::URLError` or `model::DecodingError`.
-/// A write is sent once, whatever its result; a read may be sent a second time if its kept connection turns out to be
+/// own and interleave there while they wait. They throw `APIError`, `platform::URLError` or `model::DecodingError`. A
+/// write is sent once, whatever its result; a read may be sent a second time if its kept connection turns out to be
 /// closed. Must outlive every task that it has returned.
 ///
 /// Code that uses the operations of one resource only takes that base.

@@ -7,8 +7,8 @@
 
 namespace larkspan::api {
 
-/// The one secret that outlives the program: the API key, as UTF-8 text in the user's credential store.
-/// Nothing is cached. The store may block, so call these functions on the client's executor.
+/// The one secret that outlives the program: the API key, as UTF-8 text in the user's credential store. Nothing is
+/// cached. The store may block, so call these functions on the client's executor.
 struct KeychainHelper {
     static constexpr platform::CredentialItem item{.service = "KestruneAPIKeyService", .account = "KestruneAPIKey"};
 

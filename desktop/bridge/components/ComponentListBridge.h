@@ -13,8 +13,8 @@
 
 namespace larkspan::bridge {
 
-/// A page's components for QML; texts and decisions are those of `components::StatusPageComponentsView`.
-/// The base is named in full, since QML's tools look for the name as it is written here.
+/// A page's components for QML; texts and decisions are those of `components::StatusPageComponentsView`. The base is
+/// named in full, since QML's tools look for the name as it is written here.
 class ComponentListBridge : public larkspan::bridge::ListBridge {
     Q_OBJECT
     QML_ELEMENT

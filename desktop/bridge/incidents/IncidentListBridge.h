@@ -14,8 +14,8 @@
 
 namespace larkspan::bridge {
 
-/// A page's incidents for QML; texts and decisions are those of `incidents::StatusPageIncidentsView`.
-/// The base is named in full, since QML's tools look for the name as it is written here.
+/// A page's incidents for QML; texts and decisions are those of `incidents::StatusPageIncidentsView`. The base is named
+/// in full, since QML's tools look for the name as it is written here.
 class IncidentListBridge : public larkspan::bridge::ListBridge {
     Q_OBJECT
     QML_ELEMENT

@@ -14,8 +14,8 @@
 
 namespace larkspan::bridge {
 
-/// A list of `Value::Row`, each converted to a `Value` when a screen asks for it. A row has an `id` and a
-/// `title` and can be compared. A refresh patches the rows by id, so that scroll position, focus and selection survive.
+/// A list of `Value::Row`, each converted to a `Value` when a screen asks for it. A row has an `id` and a `title` and
+/// can be compared. A refresh patches the rows by id, so that scroll position, focus and selection survive.
 template <typename Value>
 class RowListModel final : public ListModel {
 public:

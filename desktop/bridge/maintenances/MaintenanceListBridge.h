@@ -14,8 +14,8 @@
 
 namespace larkspan::bridge {
 
-/// A page's maintenances for QML; texts and decisions are those of `maintenances::StatusPageMaintenancesView`.
-/// The base is named in full, since QML's tools look for the name as it is written here.
+/// A page's maintenances for QML; texts and decisions are those of `maintenances::StatusPageMaintenancesView`. The base
+/// is named in full, since QML's tools look for the name as it is written here.
 class MaintenanceListBridge : public larkspan::bridge::ListBridge {
     Q_OBJECT
     QML_ELEMENT

@@ -17,8 +17,8 @@
 
 namespace larkspan::bridge {
 
-/// A page's monitors for QML; texts and decisions are those of `monitors::StatusPageMonitorsView`.
-/// The base is named in full, since QML's tools look for the name as it is written here.
+/// A page's monitors for QML; texts and decisions are those of `monitors::StatusPageMonitorsView`. The base is named in
+/// full, since QML's tools look for the name as it is written here.
 class MonitorListBridge : public larkspan::bridge::ListBridge {
     Q_OBJECT
     QML_ELEMENT

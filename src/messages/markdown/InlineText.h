@@ -25,8 +25,8 @@ struct InlineRun {
     bool operator==(const InlineRun&) const = default;
 };
 
-/// Text without its inline markup. The runs cover the text in order; neighbours differ in style or
-/// link, and none is empty.
+/// Text without its inline markup. The runs cover the text in order; neighbours differ in style or link, and none is
+/// empty.
 struct InlineText {
     std::string text;
     std::vector<InlineRun> runs;

@@ -18,8 +18,8 @@
 
 namespace larkspan::presentation {
 
-/// The part of a form that asks what is affected: the whole page, or a component of a group and one of its monitors.
-/// An empty text always means no selection. Main thread only; its fetches may outlive the form.
+/// The part of a form that asks what is affected: the whole page, or a component of a group and one of its monitors. An
+/// empty text always means no selection. Main thread only; its fetches may outlive the form.
 class ComponentSelection final : public support::Observable, public std::enable_shared_from_this<ComponentSelection> {
 public:
     struct Ports {

@@ -9,8 +9,8 @@
 
 namespace larkspan::peers {
 
-/// A desktop's panel in its own process: the list of items, and what a user and a host do with the newest one.
-/// Bytes are hexadecimal text. Ends with the object.
+/// A desktop's panel in its own process: the list of items, and what a user and a host do with the newest one. Bytes
+/// are hexadecimal text. Ends with the object.
 class TrayHost {
 public:
     /// Without a host there is only the list, which nobody shows.

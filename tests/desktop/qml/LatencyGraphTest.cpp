@@ -15,8 +15,8 @@ namespace {
 
 using bridge::LatencyGraphValue;
 
-/// A graph of 408 points' width, 4 of them empty on each side, in a scrolling list; the values of its samples are
-/// "10", "20" and so on.
+/// A graph of 408 points' width, 4 of them empty on each side, in a scrolling list; the values of its samples are "10",
+/// "20" and so on.
 class LatencyGraphOnScreen : public testing::Test, public KitWindow {
 protected:
     LatencyGraphOnScreen()
