@@ -12,7 +12,6 @@ namespace larkspan::simulator {
 
 using Headers = std::vector<std::pair<std::string, std::string>>;
 
-/// A request as received.
 struct Request {
     /// The header's value, ignoring the case of `name`; the first one if it is repeated.
     std::optional<std::string_view> header(std::string_view name) const;

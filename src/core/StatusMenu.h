@@ -26,7 +26,6 @@ struct StatusMenuState {
 /// The rows of the menu, top to bottom.
 std::vector<platform::MenuRow> menuRows(const StatusMenuState& state);
 
-/// The tooltip of the panel's item.
 std::string statusTooltip(const StatusMenuState& state);
 
 }  // namespace larkspan::core

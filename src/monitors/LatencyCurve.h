@@ -22,7 +22,6 @@ struct LatencyDomain {
 /// graphs of similar monitors look alike. If all values are zero it ends at 1, and the line is at the bottom.
 LatencyDomain latencyDomain(const std::vector<LatencyDataPoint>& points);
 
-/// The curve of a latency graph.
 struct LatencyCurve {
     std::vector<LatencyDataPoint> points{};
     LatencyDomain domain{};

@@ -11,7 +11,6 @@
 
 namespace larkspan::simulator {
 
-/// The result of a request.
 struct HttpsResult {
     CURLcode code = CURLE_OK;
     long status = 0;

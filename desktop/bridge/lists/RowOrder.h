@@ -19,7 +19,6 @@ std::vector<bool> longestRun(const std::vector<std::size_t>& places);
 /// The current indexes of the elements that become first, second and so on when `places` are sorted.
 std::vector<std::size_t> ascending(const std::vector<std::size_t>& places);
 
-/// `places` in that order.
 std::vector<std::size_t> placesInOrder(const std::vector<std::size_t>& places, const std::vector<std::size_t>& order);
 
 /// The index before which the element that is wanted at `place` is inserted into the run.

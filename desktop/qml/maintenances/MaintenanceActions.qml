@@ -2,7 +2,6 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// The actions of a maintenance.
 Column {
     id: actions
     required property MaintenanceDetailBridge maintenance

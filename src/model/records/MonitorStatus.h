@@ -4,7 +4,6 @@
 
 namespace larkspan::model {
 
-/// The state of a monitor.
 enum class MonitorStatus { operational, degraded, down, paused, unknown };
 
 template <>

@@ -6,7 +6,6 @@
 
 namespace larkspan::model {
 
-/// The status of a page.
 enum class StatusPageStatus { operational, degraded, down, maintenance, unknown };
 
 template <>

@@ -54,7 +54,6 @@ public:
 protected:
     EventForm(ComponentSelection::Ports ports, std::string pageId, SelectionWords words, GuardedScreen::Owner owner);
 
-    /// Whether the form can be sent.
     virtual bool canBeSent() const;
     /// Sends the request; the form exists until the task has ended.
     virtual support::Task<void> create() = 0;

@@ -12,7 +12,6 @@ inline constexpr std::chrono::local_days lastDay{std::chrono::year{9999} / 12 / 
 /// Six weeks, so that every month takes the same space: those of `month` and the following ones.
 std::array<std::chrono::local_days, 42> weeksOf(std::chrono::year_month month, std::chrono::weekday firstDayOfWeek);
 
-/// The first day of the week of `day`.
 std::chrono::local_days beginOfWeek(std::chrono::local_days day, std::chrono::weekday firstDayOfWeek);
 
 /// The same day of another month, or the last day of a month that is too short.

@@ -45,7 +45,6 @@ public:
     /// The days of the calendar, week by week.
     std::vector<CalendarDay> days() const;
     void browseMonths(int count);
-    /// Chooses the day with this id.
     void chooseDay(int id);
 
     /// Moves from the chosen day or, if that is not visible, from the first day of the shown month.

@@ -24,7 +24,6 @@ struct FocusStop {
     QRectF seen{};
     /// The most of its height that can be visible at once.
     qreal mostHeight = 0;
-    /// All rings in the window.
     std::vector<QRectF> rings{};
 };
 

@@ -10,7 +10,6 @@ class QQuickWindow;
 
 namespace larkspan::gallery {
 
-/// A text on the screen.
 struct ShownText {
     QString text{};
     /// The place where it is painted, in the window.

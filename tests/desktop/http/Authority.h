@@ -27,7 +27,6 @@ struct Identity {
     CertificateHandle certificate;
 };
 
-/// The terms of a certificate.
 struct CertificateTerms {
     /// Whether the key is as short as was usual in the 1990s.
     bool hasWeakKey = false;

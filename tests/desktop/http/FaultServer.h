@@ -18,7 +18,6 @@
 
 namespace larkspan::adapters {
 
-/// A request as received.
 struct ReceivedRequest {
     std::string line;
     std::vector<std::string> headers;

@@ -93,7 +93,6 @@ protected:
     QQuickItem& list() const { return item(QStringLiteral("list")); }
     QAccessibleInterface& accessible() const { return *QAccessible::queryAccessibleInterface(&graph()); }
 
-    /// The texts in the graph.
     QStringList texts() const { return names(QAccessible::StaticText); }
 
     QStringList names(QAccessible::Role role) const

@@ -18,7 +18,6 @@ protected:
 
     QQuickItem& label(const char* text) const { return item(Role::StaticText, QString::fromUtf8(text)); }
     QQuickItem& heading(const char* text) const { return item(Role::Heading, QString::fromUtf8(text)); }
-    /// The group with this title.
     const QQuickItem& group(const char* title) const { return *heading(title).parentItem()->parentItem(); }
 };
 

@@ -21,7 +21,6 @@ protected:
     static const QQuickItem& lineOf(const QQuickItem& text) { return *text.parentItem(); }
 
     static double baselineOf(const QQuickItem& text) { return frameOf(text).top() + text.baselineOffset(); }
-    /// A letter of an item's mark.
     const QQuickItem& letterOf(const char* mark) const
     {
         return *partOf(words(mark), "text", QString::fromUtf8(mark).first(1));

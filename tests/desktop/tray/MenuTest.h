@@ -12,7 +12,6 @@ namespace larkspan::adapters {
 
 class MenuTest : public TrayTest {
 protected:
-    /// A panel with these rows.
     std::unique_ptr<peers::TrayHost> panelWith(const std::vector<platform::MenuRow>& rows)
     {
         item.setMenu(rows);

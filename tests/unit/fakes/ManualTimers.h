@@ -33,7 +33,6 @@ public:
         now_ = end;
     }
 
-    /// The periods of the running timers.
     std::vector<std::chrono::milliseconds> periods()
     {
         dropStopped();
