@@ -25,7 +25,7 @@ std::shared_ptr<const void> MonitorActions::mark(const std::string& id)
     return {this, unmark};
 }
 
-Task<void> MonitorActions::order(MonitorAction action, const Monitor& monitor) const
+Task<void> MonitorActions::order(MonitorAction action, Monitor monitor) const
 {
     if (action == MonitorAction::checkNow) return api_.runMonitor(monitor.id);
     return monitor.isPaused ? api_.resumeMonitor(monitor.id) : api_.pauseMonitor(monitor.id);

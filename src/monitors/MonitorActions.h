@@ -43,7 +43,7 @@ public:
         std::shared_ptr<MonitorActions> self, MonitorAction action, model::Monitor monitor);
 
 private:
-    support::Task<void> order(MonitorAction action, const model::Monitor& monitor) const;
+    support::Task<void> order(MonitorAction action, model::Monitor monitor) const;
 
     api::MonitorEndpoints& api_;
 };
