@@ -22,7 +22,9 @@ std::string availableText(const platform::UpdateCheck& check)
 
 UpdateReport UpdateReport::of(const std::optional<platform::UpdateCheck>& finding)
 {
-    if (!finding) return {.title = "Checking for Updates…", .text = {}, .showsProgress = true};
+    if (!finding) {
+        return {.title = "Checking for Updates…", .text = {}, .showsProgress = true, .closeLabel = "Close"};
+    }
     switch (finding->finding) {
     case Finding::upToDate:
         return {.title = "You’re Up to Date",

@@ -16,15 +16,17 @@ struct UpdateReportValue {
     Q_PROPERTY(QString title MEMBER title)
     Q_PROPERTY(QString text MEMBER text)
     Q_PROPERTY(bool showsProgress MEMBER showsProgress)
+    Q_PROPERTY(QString closeLabel MEMBER closeLabel)
 
 public:
     QString title{};
     QString text{};
     bool showsProgress = false;
+    QString closeLabel{};
 
     static UpdateReportValue of(const workspace::UpdateReport& report)
     {
-        return {words(report.title), words(report.text), report.showsProgress};
+        return {words(report.title), words(report.text), report.showsProgress, words(report.closeLabel)};
     }
 
     bool operator==(const UpdateReportValue&) const = default;

@@ -31,6 +31,7 @@ class StatusPageDetailBridge : public ScreenBridge {
     Q_PROPERTY(QString pickerLabel READ pickerLabel CONSTANT)
     Q_PROPERTY(QList<QString> tabs READ tabs CONSTANT)
     Q_PROPERTY(int selectedTab READ selectedTab NOTIFY changed)
+    Q_PROPERTY(bool isOverview READ isOverview NOTIFY changed)
     Q_PROPERTY(larkspan::bridge::HeadlineValue status MEMBER status_ NOTIFY changed)
     Q_PROPERTY(QList<larkspan::bridge::FactValue> information MEMBER information_ NOTIFY changed)
     Q_PROPERTY(larkspan::bridge::ListModel* activity READ activity CONSTANT)
@@ -55,6 +56,7 @@ public:
     QString pickerLabel() const { return words(workspace::StatusPageDetailView::pickerLabel); }
     QList<QString> tabs() const;
     int selectedTab() const { return static_cast<int>(view_->selectedTab()); }
+    bool isOverview() const { return view_->selectedTab() == workspace::StatusPageDetailView::Tab::overview; }
     ListModel* activity() { return &activity_; }
     IncidentListBridge* incidents() const { return incidents_.get(); }
     MonitorListBridge* monitors() const { return monitors_.get(); }

@@ -9,14 +9,13 @@ ScreenFrame {
 
     title: page.title
     canGoBack: true
-    // The overview is for reading, the lists of the other tabs have actions.
-    readonly property int overviewTab: 0
     function enter(tab: int) {
         view.page.select(tab)
         takeFocus()
     }
+    // The overview is for reading, the lists of the other tabs have actions.
     function takeFocus() {
-        if (view.page.selectedTab === overviewTab) picker.forceActiveFocus(Qt.ShortcutFocusReason)
+        if (view.page.isOverview) picker.forceActiveFocus(Qt.ShortcutFocusReason)
         else screen.forceActiveFocus(Qt.ShortcutFocusReason)
     }
 
@@ -55,7 +54,7 @@ ScreenFrame {
             : view.page.monitors ? monitors
             : view.page.components ? components
             : view.page.maintenances ? maintenances
-            : view.page.selectedTab === view.overviewTab ? overview : null
+            : view.page.isOverview ? overview : null
         onLoaded: item.focus = true
     }
     Component {

@@ -11,7 +11,7 @@ MessageDialog {
     showsProgress: updates.report.showsProgress
 
     CommandButton {
-        text: dialog.updates.report.showsProgress ? qsTr("Close") : qsTr("OK")
+        text: dialog.updates.report.closeLabel
         isProminent: true
         focus: true
         onClicked: dialog.close()

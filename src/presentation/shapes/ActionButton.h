@@ -14,7 +14,7 @@ struct ActionButton {
     std::string symbol{};
     Tone tone = Tone::primary;
     bool isProminent = false;
-    /// Stands beside its like where the other buttons stand one below the other.
+    /// Whether it is placed beside the other paired button where buttons stand one below the other.
     bool isPaired = false;
     bool isEnabled = true;
 

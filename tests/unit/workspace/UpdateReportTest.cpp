@@ -22,7 +22,8 @@ TEST_P(UpdateReports, TellEachFindingInWords)
 }
 
 INSTANTIATE_TEST_SUITE_P(EachFinding, UpdateReports,
-    testing::Values(ReportRow{std::nullopt, {.title = "Checking for Updates…", .text = "", .showsProgress = true}},
+    testing::Values(ReportRow{std::nullopt,
+                        {.title = "Checking for Updates…", .text = "", .showsProgress = true, .closeLabel = "Close"}},
         ReportRow{UpdateCheck{.finding = Finding::upToDate, .installedVersion = "1.2"},
             {.title = "You’re Up to Date", .text = "Kestrune 1.2 is the newest version available."}},
         ReportRow{UpdateCheck{.finding = Finding::upToDate},
