@@ -12,7 +12,7 @@ using support::Task;
 
 namespace {
 
-constexpr presentation::EventForm::SelectionWords selectionWords{.noMonitor = "Select a monitor",
+constexpr ComponentSelection::Words selectionWords{.noMonitor = "Select a monitor",
     .hintForPage = "Choose a group only when the incident is limited to it.",
     .hintForComponent = "Then choose the affected component within that group.",
     .failure = ComponentSelection::ComponentFailure::silent};

@@ -14,7 +14,7 @@ using support::Task;
 
 namespace {
 
-constexpr presentation::EventForm::SelectionWords selectionWords{.noMonitor = "All monitors on this component",
+constexpr ComponentSelection::Words selectionWords{.noMonitor = "All monitors on this component",
     .hintForPage = "Leave this as Entire status page for page-wide maintenance.",
     .hintForComponent = "Choose the affected component and, optionally, one monitor.",
     .failure = ComponentSelection::ComponentFailure::told};

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QList>
+#include <QString>
 #include <QtQml/qqmlregistration.h>
 
 #include <memory>
 
+#include "bridge/screens/ComponentSelectionBridge.h"
 #include "bridge/screens/GuardedScreenBridge.h"
-#include "bridge/values/ChoiceValue.h"
 #include "presentation/forms/EventForm.h"
 
 namespace larkspan::bridge {
@@ -16,50 +16,23 @@ class EventFormBridge : public larkspan::bridge::GuardedScreenBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("what the forms of all events are")
-    Q_PROPERTY(QList<larkspan::bridge::ChoiceValue> groups MEMBER groups_ NOTIFY changed)
-    Q_PROPERTY(QString selectedGroup READ selectedGroup NOTIFY changed)
-    Q_PROPERTY(bool showsComponents READ showsComponents NOTIFY changed)
-    Q_PROPERTY(bool isComponentPickerEnabled READ isComponentPickerEnabled NOTIFY changed)
-    Q_PROPERTY(QList<larkspan::bridge::ChoiceValue> components MEMBER components_ NOTIFY changed)
-    Q_PROPERTY(QString selectedComponent READ selectedComponent NOTIFY changed)
-    Q_PROPERTY(bool isLoadingMonitors READ isLoadingMonitors NOTIFY changed)
-    Q_PROPERTY(bool showsMonitors READ showsMonitors NOTIFY changed)
-    Q_PROPERTY(QList<larkspan::bridge::ChoiceValue> monitors MEMBER monitors_ NOTIFY changed)
-    Q_PROPERTY(QString selectedMonitor READ selectedMonitor NOTIFY changed)
-    Q_PROPERTY(bool isLoadingComponents READ isLoadingComponents NOTIFY changed)
-    Q_PROPERTY(QString selectionHint READ selectionHint NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::ComponentSelectionBridge* selection READ selection CONSTANT)
     Q_PROPERTY(QString busyText READ busyText CONSTANT)
 
 public:
-    QString selectedGroup() const { return wholeText(*selection().selectedComponentGroupID); }
-    bool showsComponents() const { return selection().showsComponentPicker(); }
-    bool isComponentPickerEnabled() const { return selection().isComponentPickerEnabled(); }
-    QString selectedComponent() const { return wholeText(*selection().selectedComponentID); }
-    bool isLoadingMonitors() const { return *selection().isLoadingMonitors; }
-    bool showsMonitors() const { return selection().showsMonitorPicker(); }
-    QString selectedMonitor() const { return wholeText(*selection().selectedMonitorID); }
-    bool isLoadingComponents() const { return *selection().isLoadingComponents; }
-    QString selectionHint() const { return words(form_->selectionHint()); }
+    ComponentSelectionBridge* selection() { return &selection_; }
     QString busyText() const { return words(presentation::EventForm::busyText); }
 
     Q_INVOKABLE void editTitle(const QString& text) { form_->title = text.toStdString(); }
     Q_INVOKABLE void editMessage(const QString& text) { form_->message = text.toStdString(); }
-    Q_INVOKABLE void chooseGroup(const QString& id) { form_->selection->chooseGroup(id.toStdString()); }
-    Q_INVOKABLE void chooseComponent(const QString& id) { form_->selection->chooseComponent(id.toStdString()); }
-    Q_INVOKABLE void chooseMonitor(const QString& id) { form_->selection->chooseMonitor(id.toStdString()); }
     Q_INVOKABLE void save() { form_->save(); }
 
 protected:
     EventFormBridge(std::shared_ptr<presentation::EventForm> form, const ScreenUpdates& updates, QObject* parent);
 
 private:
-    const presentation::ComponentSelection& selection() const { return *form_->selection; }
-    void readState() override;
-
     std::shared_ptr<presentation::EventForm> form_;
-    QList<ChoiceValue> groups_;
-    QList<ChoiceValue> components_;
-    QList<ChoiceValue> monitors_;
+    ComponentSelectionBridge selection_;
 };
 
 }  // namespace larkspan::bridge

@@ -5,50 +5,50 @@ import Larkspan.Bridge
 // The choice of what an event affects: the whole page, or a component of a group and one of its monitors.
 GroupBox {
     id: group
-    required property EventFormBridge form
+    required property ComponentSelectionBridge selection
 
     title: qsTr("Affected Components")
 
     ChoicePicker {
         width: parent.width
         text: qsTr("Component Group")
-        choices: group.form.groups
-        selected: group.form.selectedGroup
-        onChosen: id => group.form.chooseGroup(id)
+        choices: group.selection.groups
+        selected: group.selection.selectedGroup
+        onChosen: id => group.selection.chooseGroup(id)
     }
     ChoicePicker {
         width: parent.width
-        visible: group.form.showsComponents
-        enabled: group.form.isComponentPickerEnabled
+        visible: group.selection.showsComponents
+        enabled: group.selection.isComponentPickerEnabled
         text: qsTr("Component")
-        choices: group.form.components
-        selected: group.form.selectedComponent
-        onChosen: id => group.form.chooseComponent(id)
+        choices: group.selection.components
+        selected: group.selection.selectedComponent
+        onChosen: id => group.selection.chooseComponent(id)
     }
     IconLabel {
         width: parent.width
-        visible: group.form.isLoadingMonitors
+        visible: group.selection.isLoadingMonitors
         showsProgress: true
         text: qsTr("Loading monitors…")
     }
     ChoicePicker {
         width: parent.width
-        visible: group.form.showsMonitors
+        visible: group.selection.showsMonitors
         text: qsTr("Monitor")
-        choices: group.form.monitors
-        selected: group.form.selectedMonitor
-        onChosen: id => group.form.chooseMonitor(id)
+        choices: group.selection.monitors
+        selected: group.selection.selectedMonitor
+        onChosen: id => group.selection.chooseMonitor(id)
     }
     IconLabel {
         width: parent.width
-        visible: group.form.isLoadingComponents
+        visible: group.selection.isLoadingComponents
         showsProgress: true
         text: qsTr("Loading components…")
     }
     Label {
         width: parent.width
-        visible: !group.form.isLoadingComponents
-        text: group.form.selectionHint
+        visible: !group.selection.isLoadingComponents
+        text: group.selection.hint
         font.pointSize: Theme.caption
         color: Theme.secondary
         wrapMode: Text.Wrap

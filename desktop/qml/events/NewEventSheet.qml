@@ -53,7 +53,7 @@ Sheet {
     }
     AffectedComponents {
         width: parent.width
-        form: sheet.form
+        selection: sheet.form.selection
     }
     Column {
         id: rest

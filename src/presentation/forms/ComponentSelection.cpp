@@ -15,10 +15,10 @@ using support::Child;
 using support::Task;
 
 ComponentSelection::ComponentSelection(
-    Ports ports, std::string pageId, ComponentFailure failure, std::function<void(std::string)> alert)
+    Ports ports, std::string pageId, Words words, std::function<void(std::string)> alert)
     : ports_(ports)
     , pageId_(std::move(pageId))
-    , failure_(failure)
+    , words_(words)
     , alert_(std::move(alert))
 {
 }
@@ -44,7 +44,7 @@ Task<void> ComponentSelection::fetchChoices(std::shared_ptr<ComponentSelection> 
     }
     if (failure) {
         self->offer({}, {});
-        if (self->failure_ == ComponentFailure::told) self->tell("Could not load components: ", failure);
+        if (self->words_.failure == ComponentFailure::told) self->tell("Could not load components: ", failure);
         self->isLoadingComponents = false;
         co_return;
     }
@@ -141,9 +141,14 @@ std::vector<Choice> ComponentSelection::componentChoices() const
     return choicesOf("Select a component", offeredComponents_);
 }
 
-std::vector<Choice> ComponentSelection::monitorChoices(std::string nameOfNone) const
+std::vector<Choice> ComponentSelection::monitorChoices() const
 {
-    return choicesOf(std::move(nameOfNone), offeredMonitors());
+    return choicesOf(std::string(words_.noMonitor), offeredMonitors());
+}
+
+std::string_view ComponentSelection::hint() const
+{
+    return showsComponentPicker() ? words_.hintForComponent : words_.hintForPage;
 }
 
 }  // namespace larkspan::presentation

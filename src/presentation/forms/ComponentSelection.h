@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "api/ComponentEndpoints.h"
@@ -32,9 +33,17 @@ public:
     /// Whether the user is told if the components could not be fetched; some forms can do without them.
     enum class ComponentFailure { silent, told };
 
+    /// The texts of one kind of event for the choice of what it affects.
+    struct Words {
+        /// The entry for no monitor.
+        std::string_view noMonitor;
+        std::string_view hintForPage;
+        std::string_view hintForComponent;
+        ComponentFailure failure;
+    };
+
     /// `alert` is called with the words of a failure.
-    ComponentSelection(
-        Ports ports, std::string pageId, ComponentFailure failure, std::function<void(std::string)> alert);
+    ComponentSelection(Ports ports, std::string pageId, Words words, std::function<void(std::string)> alert);
 
     support::Published<Components> components{*this};
     support::Published<ComponentGroups> componentGroups{*this};
@@ -56,7 +65,9 @@ public:
     /// The entries of the pickers; the first of each means no selection.
     std::vector<Choice> groupChoices() const;
     std::vector<Choice> componentChoices() const;
-    std::vector<Choice> monitorChoices(std::string nameOfNone) const;
+    std::vector<Choice> monitorChoices() const;
+    /// The hint about the choice of a group, or about the next choice.
+    std::string_view hint() const;
 
     bool showsComponentPicker() const { return !selectedComponentGroupID->empty(); }
     bool isComponentPickerEnabled() const { return !*isLoadingComponents && !offeredComponents_.empty(); }
@@ -76,7 +87,7 @@ private:
 
     const Ports ports_;
     const std::string pageId_;
-    const ComponentFailure failure_;
+    const Words words_;
     const std::function<void(std::string)> alert_;
     // Kept because sorting by the locale is too slow for each time the form is drawn.
     ComponentGroups offeredGroups_;

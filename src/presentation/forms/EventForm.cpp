@@ -6,13 +6,12 @@
 
 namespace larkspan::presentation {
 
-EventForm::EventForm(
-    ComponentSelection::Ports ports, std::string page, SelectionWords words, GuardedScreen::Owner owner)
+EventForm::EventForm(ComponentSelection::Ports ports, std::string page, ComponentSelection::Words selectionWords,
+    GuardedScreen::Owner owner)
     : GuardedScreen(ports.main, std::move(owner))
     , pageId(std::move(page))
-    , selection(std::make_shared<ComponentSelection>(ports, pageId, words.failure,
+    , selection(std::make_shared<ComponentSelection>(ports, pageId, selectionWords,
           [action = action](std::string failure) { action->alert.raise(std::move(failure)); }))
-    , words_(words)
 {
 }
 
@@ -21,11 +20,6 @@ support::Subscriptions EventForm::observe(const std::function<void()>& observer)
     auto subscriptions = GuardedScreen::observe(observer);
     subscriptions.push_back(selection->objectWillChange(observer));
     return subscriptions;
-}
-
-std::string_view EventForm::selectionHint() const
-{
-    return selection->showsComponentPicker() ? words_.hintForComponent : words_.hintForPage;
 }
 
 // The service accepts a title of line ends, so only blanks count as empty.

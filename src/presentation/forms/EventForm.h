@@ -3,9 +3,7 @@
 #include <functional>
 #include <memory>
 #include <string>
-#include <string_view>
 #include <utility>
-#include <vector>
 
 #include "presentation/forms/ComponentSelection.h"
 #include "presentation/screens/GuardedScreen.h"
@@ -18,15 +16,6 @@ namespace larkspan::presentation {
 /// text until the service has it. Main thread only.
 class EventForm : public GuardedScreen {
 public:
-    /// The texts of one kind of event for the choice of what it affects.
-    struct SelectionWords {
-        /// The entry for no monitor.
-        std::string_view noMonitor;
-        std::string_view hintForPage;
-        std::string_view hintForComponent;
-        ComponentSelection::ComponentFailure failure;
-    };
-
     static constexpr const char* busyText = "Creating...";
 
     const std::string pageId;
@@ -40,9 +29,6 @@ public:
     /// Called when the sheet opens: fetches the choices.
     void appear() { selection->load(); }
 
-    std::vector<Choice> monitorChoices() const { return selection->monitorChoices(std::string(words_.noMonitor)); }
-    /// The hint about the choice of a group, or about the next choice.
-    std::string_view selectionHint() const;
     virtual bool isSelectionComplete() const = 0;
 
     bool isSaveEnabled() const override;
@@ -52,7 +38,8 @@ public:
     bool isCloseEnabled() const override { return isIdle(); }
 
 protected:
-    EventForm(ComponentSelection::Ports ports, std::string pageId, SelectionWords words, GuardedScreen::Owner owner);
+    EventForm(ComponentSelection::Ports ports, std::string pageId, ComponentSelection::Words selectionWords,
+        GuardedScreen::Owner owner);
 
     virtual bool canBeSent() const;
     /// Sends the request; the form exists until the task has ended.
@@ -67,9 +54,6 @@ protected:
         onCreated(created);
         self->dismiss();
     }
-
-private:
-    const SelectionWords words_;
 };
 
 }  // namespace larkspan::presentation

@@ -22,17 +22,17 @@ TEST_F(FormOfAnIncident, OpensEmptyForTheEntirePageWithSubscribersNotified)
     EXPECT_EQ(*form->selection->selectedComponentGroupID, "");
     EXPECT_FALSE(form->isSaveEnabled());
     EXPECT_TRUE(form->isCloseEnabled());
-    EXPECT_EQ(form->selectionHint(), "Choose a group only when the incident is limited to it.");
+    EXPECT_EQ(form->selection->hint(), "Choose a group only when the incident is limited to it.");
     form->selection->chooseGroup("back");
-    EXPECT_EQ(form->selectionHint(), "Then choose the affected component within that group.");
+    EXPECT_EQ(form->selection->hint(), "Then choose the affected component within that group.");
 }
 
 TEST_F(FormOfAnIncident, NamesTheMonitorThatIsNotYetChosen)
 {
     opened();
     choose("back", "api");
-    EXPECT_EQ(form->monitorChoices().at(0), (presentation::Choice{"", "Select a monitor"}));
-    EXPECT_EQ(form->monitorChoices().size(), 3u);
+    EXPECT_EQ(form->selection->monitorChoices().at(0), (presentation::Choice{"", "Select a monitor"}));
+    EXPECT_EQ(form->selection->monitorChoices().size(), 3u);
 }
 
 struct TitleRow {

@@ -24,9 +24,9 @@ TEST_F(FormOfAMaintenance, OpensEmptyForTheEntirePageAndTheNextHour)
     EXPECT_EQ(*form->scheduledFor->moment, clock.time);
     EXPECT_EQ(*form->scheduledUntil->moment, clock.time + 3600s);
     EXPECT_FALSE(form->isSaveEnabled());
-    EXPECT_EQ(form->selectionHint(), "Leave this as Entire status page for page-wide maintenance.");
+    EXPECT_EQ(form->selection->hint(), "Leave this as Entire status page for page-wide maintenance.");
     form->selection->chooseGroup("back");
-    EXPECT_EQ(form->selectionHint(), "Choose the affected component and, optionally, one monitor.");
+    EXPECT_EQ(form->selection->hint(), "Choose the affected component and, optionally, one monitor.");
 }
 
 TEST_F(FormOfAMaintenance, LeftAsItIsWithATitleTypedHasDatesAnHourApartAndCanBeSaved)
@@ -90,8 +90,8 @@ TEST_F(FormOfAMaintenance, WithAComponentAndAllItsMonitorsLeavesTheMonitorsOut)
 {
     titled();
     choose("back", "api");
-    EXPECT_EQ(form->monitorChoices().at(0), (presentation::Choice{"", "All monitors on this component"}));
-    EXPECT_EQ(form->monitorChoices().size(), 3u);
+    EXPECT_EQ(form->selection->monitorChoices().at(0), (presentation::Choice{"", "All monitors on this component"}));
+    EXPECT_EQ(form->selection->monitorChoices().size(), 3u);
     EXPECT_TRUE(form->isSaveEnabled());
     EXPECT_EQ(saved(), R"({"title":"Upgrade","status_page_id":"p",)" + anHour + R"(,"affected_components":"api"})");
 }

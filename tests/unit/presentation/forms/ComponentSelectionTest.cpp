@@ -25,7 +25,9 @@ class SelectionOfComponents : public testing::Test, public fakes::PageComponents
 protected:
     std::shared_ptr<ComponentSelection> made(Failure failure = Failure::silent)
     {
-        return std::make_shared<ComponentSelection>(ComponentSelection::Ports{main, api, api, locale}, "p", failure,
+        return std::make_shared<ComponentSelection>(ComponentSelection::Ports{main, api, api, locale}, "p",
+            ComponentSelection::Words{
+                .noMonitor = "Any", .hintForPage = "", .hintForComponent = "", .failure = failure},
             [this](std::string words) { alerts.push_back(std::move(words)); });
     }
 
@@ -160,7 +162,7 @@ TEST_F(SelectionOfComponents, FetchesTheMonitorsOfAChosenComponentAndOffersThemA
     run();
     EXPECT_FALSE(*selection->isLoadingMonitors);
     EXPECT_TRUE(selection->showsMonitorPicker());
-    EXPECT_EQ(selection->monitorChoices("Any"), (Choices{{"", "Any"}, {"m2", "Ping"}, {"m1", "HTTP"}}));
+    EXPECT_EQ(selection->monitorChoices(), (Choices{{"", "Any"}, {"m2", "Ping"}, {"m1", "HTTP"}}));
 }
 
 TEST_F(SelectionOfComponents, OfAComponentWithoutMonitorsOffersNone)
@@ -245,7 +247,7 @@ TEST_F(SelectionOfComponents, TakesTheChoiceOfAMonitorBackWhereAListLandsThatLac
     EXPECT_EQ(*selection->selectedMonitorID, "of api");
     answerMonitor("of cron");
     EXPECT_EQ(*selection->selectedMonitorID, "");
-    EXPECT_EQ(selection->monitorChoices("Any"), (Choices{{"", "Any"}, {"of cron", "n"}}));
+    EXPECT_EQ(selection->monitorChoices(), (Choices{{"", "Any"}, {"of cron", "n"}}));
 }
 
 TEST_F(SelectionOfComponents, KeepsTheChosenMonitorWhereAListLandsThatHasIt)

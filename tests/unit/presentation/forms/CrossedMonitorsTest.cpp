@@ -38,7 +38,12 @@ protected:
     /// Lets the last request for monitors be answered first.
     void crossTheAnswers() { std::swap(this->transport.pending.front(), this->transport.pending.back()); }
 
-    Choices offered() const { return this->form->selection->monitorChoices("None"); }
+    /// Beside the entry for none.
+    Choices offered() const
+    {
+        const auto all = this->form->selection->monitorChoices();
+        return {all.begin() + 1, all.end()};
+    }
     std::string chosen() const { return *this->form->selection->selectedMonitorID; }
 };
 
@@ -58,7 +63,7 @@ TYPED_TEST(MonitorsOfTwoComponents, ThatComeInTheirOrderLeaveThoseOfTheChosenOne
     this->answer("of-api");
     this->form->selection->chooseMonitor("of-api");
     this->answer("of-cron");
-    EXPECT_EQ(this->offered(), (Choices{{"", "None"}, {"of-cron", "n"}}));
+    EXPECT_EQ(this->offered(), (Choices{{"of-cron", "n"}}));
     EXPECT_EQ(this->chosen(), "");
 }
 
@@ -66,10 +71,10 @@ TYPED_TEST(MonitorsOfTwoComponents, ThatCrossEachOtherAreThoseThatCameLastAndThe
 {
     this->crossTheAnswers();
     this->answer("of-cron");
-    EXPECT_EQ(this->offered(), (Choices{{"", "None"}, {"of-cron", "n"}}));
+    EXPECT_EQ(this->offered(), (Choices{{"of-cron", "n"}}));
     this->form->selection->chooseMonitor("of-cron");
     this->answer("of-api");
-    EXPECT_EQ(this->offered(), (Choices{{"", "None"}, {"of-api", "n"}}));
+    EXPECT_EQ(this->offered(), (Choices{{"of-api", "n"}}));
     EXPECT_EQ(this->chosen(), "") << "what is sent is what is seen";
     EXPECT_EQ(*this->form->selection->selectedComponentID, "cron");
 }
@@ -90,7 +95,7 @@ TYPED_TEST(MonitorsOfTwoComponents, OfWhichTheFirstAreRefusedBehindTheOthersLeav
     this->form->selection->chooseMonitor("of-cron");
     this->transport.answer(HttpResponse{500, ""});
     this->run();
-    EXPECT_EQ(this->offered(), (Choices{{"", "None"}, {"of-cron", "n"}}));
+    EXPECT_EQ(this->offered(), (Choices{{"of-cron", "n"}}));
     EXPECT_EQ(this->chosen(), "of-cron");
 }
 
