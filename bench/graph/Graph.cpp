@@ -20,6 +20,7 @@
 #include "Arguments.h"
 #include "account/MonitorMetrics.h"
 #include "bridge/items/LatencyPlotItem.h"
+#include "bridge/values/SelectedLatencyValue.h"
 #include "fakes/FakeLocaleText.h"
 #include "qml/Renderer.h"
 #include "service/WallClock.h"
@@ -27,7 +28,6 @@
 namespace {
 
 using namespace larkspan;
-using bridge::LatencyGraphValue;
 
 std::shared_ptr<const monitors::LatencyCurve> dayOfMinutes()
 {
@@ -41,10 +41,10 @@ std::shared_ptr<const monitors::LatencyCurve> dayOfMinutes()
     return monitors::LatencyCurve::of(std::move(points));
 }
 
-LatencyGraphValue graphOf(const std::shared_ptr<const monitors::LatencyCurve>& curve, std::optional<int> selected)
+bridge::SelectedLatencyValue selectionOf(const monitors::LatencyCurve& curve, int selected)
 {
     static const fakes::FakeLocaleText locale;
-    return LatencyGraphValue::of(monitors::LatencyGraph::of(curve, selected, locale));
+    return bridge::SelectedLatencyValue::of(monitors::SelectedLatency::of(curve, selected, locale));
 }
 
 template <typename Work>
@@ -67,7 +67,7 @@ double paintingOf(QSizeF size, std::size_t times)
     const auto scale = qGuiApp->devicePixelRatio();
     bridge::LatencyPlotItem plot;
     plot.setSize(size);
-    plot.setGraph(graphOf(dayOfMinutes(), std::nullopt));
+    plot.setProperty("curve", QVariant::fromValue(bridge::LatencyCurveValue{dayOfMinutes()}));
     plot.setProperty("lineColor", QColor(Qt::blue));
     plot.setProperty("areaColor", QColor(0, 0, 255, 25));
     QImage image((size * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
@@ -92,8 +92,9 @@ double selectingIn(QSizeF size, std::size_t times)
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     QQmlComponent component(&engine);
     component.setData("import QtQuick\nimport Larkspan\nimport Larkspan.Bridge\n"
-                      "Window {\nid: window\nproperty latencyGraph graph\n"
-                      "LatencyGraph { y: 60; width: window.width; height: window.height - 60; graph: window.graph }\n}",
+                      "Window {\nid: window\nproperty latencyCurve curve\nproperty selectedLatency selection\n"
+                      "LatencyGraph {\ny: 60; width: window.width; height: window.height - 60\n"
+                      "curve: window.curve; selection: window.selection\n}\n}",
         {});
     const std::unique_ptr<QQuickWindow> window(qobject_cast<QQuickWindow*>(component.create()));
     if (!window) throw std::runtime_error(component.errorString().toStdString());
@@ -102,9 +103,10 @@ double selectingIn(QSizeF size, std::size_t times)
     while (!window->isExposed()) QCoreApplication::processEvents();
 
     const auto curve = dayOfMinutes();
+    window->setProperty("curve", QVariant::fromValue(bridge::LatencyCurveValue{curve}));
     return medianOf(times, [&](std::size_t count) {
         const auto selected = static_cast<int>(count * 7) % curve->count();
-        window->setProperty("graph", QVariant::fromValue(graphOf(curve, selected)));
+        window->setProperty("selection", QVariant::fromValue(selectionOf(*curve, selected)));
         draw(*window);
     });
 }

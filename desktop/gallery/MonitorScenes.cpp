@@ -91,7 +91,7 @@ Row& opened(Monitors& view, const std::string& id)
 
 void arrive(Row& row, MonitorMetricsWindow window)
 {
-    row.metrics = std::move(window);
+    row.land(std::move(window));
     row.isLoadingMetrics = false;
 }
 
@@ -107,14 +107,14 @@ void open(Monitors& view)
 void selected(Monitors& view)
 {
     open(view);
-    view.rowViews().at("1")->selectLatency(61);
+    view.rowViews().at("1")->panel()->selectLatency(61);
 }
 
 void graph(Monitors& view, const std::string& id, std::vector<std::int64_t> latency, int selectedIndex)
 {
     auto& row = opened(view, id);
     arrive(row, {.latency = std::move(latency)});
-    row.selectLatency(selectedIndex);
+    row.panel()->selectLatency(selectedIndex);
 }
 
 void graphs(Monitors& view)

@@ -37,7 +37,7 @@ MonitorRow MonitorRow::of(const Monitor& monitor, const MonitorRowView* view, bo
         .isLoading = view && *view->isLoadingMetrics,
         .disclosure = isOpen ? "Hide latency graph" : "Show latency graph",
         .buttons = buttonsOf(monitor, !isPerformingAction)};
-    if (view && view->metrics->has_value() && !isOpen) row.badges = metricBadges(**view->metrics);
+    if (view && view->panel() && !isOpen) row.badges = metricBadges(view->panel()->metrics);
     return row;
 }
 

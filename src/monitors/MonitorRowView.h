@@ -3,13 +3,10 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "api/MonitorEndpoints.h"
 #include "model/records/MonitorMetricsWindow.h"
-#include "monitors/LatencyGraph.h"
-#include "monitors/MetricRow.h"
-#include "monitors/RegionRow.h"
+#include "monitors/MetricsPanel.h"
 #include "platform/Executor.h"
 #include "platform/LocaleText.h"
 #include "presentation/shapes/Marker.h"
@@ -32,46 +29,32 @@ public:
 
     MonitorRowView(Ports ports, std::string monitorID);
 
-    support::Published<std::optional<model::MonitorMetricsWindow>> metrics{*this};
     support::Published<bool> showingMetrics{*this, false};
     support::Published<bool> isLoadingMetrics{*this, false};
     support::Published<std::optional<std::string>> metricsLoadError{*this};
 
-    /// Observed separately, since it changes often and the list does not show it.
-    struct Selection final : support::Observable {
-        support::Published<std::optional<int>> selectedLatencyIndex{*this};
-    };
-    Selection selection;
+    /// The metrics and what is shown of them; null until they have arrived.
+    const std::shared_ptr<MetricsPanel>& panel() const { return *panel_; }
+    /// Makes the panel of metrics that have arrived.
+    void land(model::MonitorMetricsWindow metrics);
 
     /// Opens or closes the metrics; does nothing while they are being loaded.
     void toggleMetrics();
     /// Fetches the metrics again after a failure.
     void retry();
 
-    bool showsPanel() const { return *showingMetrics && !*isLoadingMetrics && metrics->has_value(); }
+    bool showsPanel() const { return *showingMetrics && !*isLoadingMetrics && panel(); }
     /// Shown in place of the panel: that it is being loaded, or why it could not be.
     presentation::Marker instead() const;
-    bool offersRetry() const { return *showingMetrics && !*isLoadingMetrics && !metrics->has_value(); }
-
-    /// The panel's graph; without a curve if there is none to show.
-    LatencyGraph latencyGraph() const;
-    /// Selects the sample that is nearest to a place on the graph's axis of indexes.
-    void selectLatency(double position);
-
-    /// The panel's figures and regions; empty without metrics.
-    std::vector<MetricRow> figures() const;
-    std::vector<RegionRow> regions() const;
-    /// The text below the regions: how many more there are; empty for none.
-    std::string moreRegions() const;
+    bool offersRetry() const { return *showingMetrics && !*isLoadingMetrics && !panel(); }
 
 private:
     void load();
     static support::Task<void> loadMetrics(std::shared_ptr<MonitorRowView> self);
 
-    std::vector<LatencyDataPoint> latencyPoints() const;
-
     const Ports ports_;
     const std::string monitorID_;
+    support::Published<std::shared_ptr<MetricsPanel>> panel_{*this};
 };
 
 }  // namespace larkspan::monitors

@@ -31,24 +31,17 @@ std::optional<monitors::LatencyMove> moveOf(int key)
 LatencyPlotItem::LatencyPlotItem(QQuickItem* parent)
     : QQuickPaintedItem(parent)
 {
-    connect(this, &LatencyPlotItem::lookChanged, this, [this] { update(); });
-    connect(this, &LatencyPlotItem::lookChanged, this, &LatencyPlotItem::selectedXChanged);
-    connect(this, &LatencyPlotItem::graphChanged, this, &LatencyPlotItem::selectedXChanged);
+    for (const auto drawn : {&LatencyPlotItem::lookChanged, &LatencyPlotItem::curveChanged}) {
+        connect(this, drawn, this, [this] { update(); });
+        connect(this, drawn, this, &LatencyPlotItem::selectedXChanged);
+    }
+    connect(this, &LatencyPlotItem::selectedIndexChanged, this, &LatencyPlotItem::selectedXChanged);
     connect(this, &QQuickItem::widthChanged, this, &LatencyPlotItem::selectedXChanged);
-}
-
-void LatencyPlotItem::setGraph(const LatencyGraphValue& graph)
-{
-    const bool isSameCurve
-        = graph_.curve == graph.curve || (graph_.curve && graph.curve && *graph_.curve == *graph.curve);
-    if (!isSameCurve) update();
-    graph_ = graph;
-    emit graphChanged();
 }
 
 double LatencyPlotItem::selectedX() const
 {
-    return inset_ + monitors::latencyX(graph_.selectedIndex, count(), plotWidth());
+    return inset_ + monitors::latencyX(selectedIndex_, count(), plotWidth());
 }
 
 void LatencyPlotItem::point(double x)
@@ -60,7 +53,7 @@ bool LatencyPlotItem::move(int key)
 {
     const auto move = moveOf(key);
     if (!move) return false;
-    const auto held = graph_.selectedIndex < 0 ? std::nullopt : std::optional(graph_.selectedIndex);
+    const auto held = selectedIndex_ < 0 ? std::nullopt : std::optional(selectedIndex_);
     if (const auto index = monitors::movedIndex(count(), held, *move)) emit selected(*index);
     return true;
 }
@@ -72,11 +65,11 @@ double LatencyPlotItem::calloutLeft(double selectedX, double calloutWidth) const
 
 void LatencyPlotItem::paint(QPainter* painter)
 {
-    if (!graph_.curve) return;
+    if (!curve_.curve) return;
     const double scale = painter->worldTransform().m11();
     const QSize pixels = (size() * scale).toSize();
     auto picture = latencyPicture(
-        *graph_.curve, pixels, {lineColor_, areaColor_, lineWidth_ * scale, inset_ * scale, cornerRadius_ * scale});
+        *curve_.curve, pixels, {lineColor_, areaColor_, lineWidth_ * scale, inset_ * scale, cornerRadius_ * scale});
     picture.setDevicePixelRatio(scale);
     painter->drawImage(QPointF(), picture);
 }

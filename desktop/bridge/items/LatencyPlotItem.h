@@ -4,7 +4,7 @@
 #include <QQuickPaintedItem>
 #include <QtQml/qqmlregistration.h>
 
-#include "bridge/values/LatencyGraphValue.h"
+#include "bridge/values/LatencyCurveValue.h"
 
 namespace larkspan::bridge {
 
@@ -13,7 +13,9 @@ namespace larkspan::bridge {
 class LatencyPlotItem : public QQuickPaintedItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(LatencyPlot)
-    Q_PROPERTY(larkspan::bridge::LatencyGraphValue graph READ graph WRITE setGraph NOTIFY graphChanged)
+    Q_PROPERTY(larkspan::bridge::LatencyCurveValue curve MEMBER curve_ NOTIFY curveChanged)
+    /// -1 for none.
+    Q_PROPERTY(int selectedIndex MEMBER selectedIndex_ NOTIFY selectedIndexChanged)
     Q_PROPERTY(QColor lineColor MEMBER lineColor_ NOTIFY lookChanged)
     Q_PROPERTY(QColor areaColor MEMBER areaColor_ NOTIFY lookChanged)
     Q_PROPERTY(double lineWidth MEMBER lineWidth_ NOTIFY lookChanged)
@@ -25,8 +27,6 @@ class LatencyPlotItem : public QQuickPaintedItem {
 public:
     explicit LatencyPlotItem(QQuickItem* parent = nullptr);
 
-    const LatencyGraphValue& graph() const { return graph_; }
-    void setGraph(const LatencyGraphValue& graph);
     double selectedX() const;
 
     /// Selects the sample that is nearest to a pointer at `x`.
@@ -39,17 +39,19 @@ public:
     void paint(QPainter* painter) override;
 
 signals:
-    void graphChanged();
+    void curveChanged();
+    void selectedIndexChanged();
     void lookChanged();
     void selectedXChanged();
     /// Emitted when a place on the axis of indexes is chosen.
     void selected(double position);
 
 private:
-    int count() const { return graph_.curve ? graph_.curve->count() : 0; }
+    int count() const { return curve_.curve ? curve_.curve->count() : 0; }
     double plotWidth() const { return width() - 2 * inset_; }
 
-    LatencyGraphValue graph_;
+    LatencyCurveValue curve_;
+    int selectedIndex_ = -1;
     QColor lineColor_;
     QColor areaColor_;
     double lineWidth_ = 2;

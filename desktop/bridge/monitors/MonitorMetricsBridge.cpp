@@ -2,26 +2,22 @@
 
 #include <utility>
 
-#include "bridge/lists/ValueList.h"
-
 namespace larkspan::bridge {
 
 MonitorMetricsBridge::MonitorMetricsBridge(
     std::shared_ptr<monitors::MonitorRowView> view, const ScreenUpdates& updates, QObject* parent)
     : ScreenBridge(updates, parent)
+    , updates_(updates)
     , view_(std::move(view))
 {
     followChangesOf(*view_);
-    followChangesOf(view_->selection);
     MonitorMetricsBridge::readState();
 }
 
 void MonitorMetricsBridge::readState()
 {
+    panel_.follow(view_->panel(), updates_);
     instead_ = MarkerValue::of(view_->instead());
-    graph_ = LatencyGraphValue::of(view_->latencyGraph());
-    figures_ = valuesOf<MetricRowValue>(view_->figures());
-    regions_ = valuesOf<RegionRowValue>(view_->regions());
 }
 
 }  // namespace larkspan::bridge

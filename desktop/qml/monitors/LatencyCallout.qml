@@ -5,7 +5,7 @@ import Larkspan.Bridge
 // The callout of the selected sample of a latency graph.
 Rectangle {
     id: callout
-    required property latencyGraph graph
+    required property selectedLatency selection
     readonly property bool floats: true
 
     implicitWidth: lines.implicitWidth + 2 * Theme.itemGap
@@ -15,7 +15,7 @@ Rectangle {
     border.width: Theme.hairline
     border.color: Theme.line
     Accessible.role: Accessible.ToolTip
-    Accessible.name: graph.words
+    Accessible.name: selection.words
 
     Column {
         id: lines
@@ -24,14 +24,14 @@ Rectangle {
 
         Label {
             anchors.horizontalCenter: parent.horizontalCenter
-            text: callout.graph.value
+            text: callout.selection.value
             font.pointSize: Theme.caption
             font.weight: Font.Medium
         }
         Label {
             anchors.horizontalCenter: parent.horizontalCenter
             visible: text !== ""
-            text: callout.graph.time
+            text: callout.selection.time
             font.pointSize: Theme.caption2
             color: Theme.secondary
         }

@@ -6,14 +6,15 @@ import Larkspan.Bridge
 // over the content above the graph.
 Item {
     id: view
-    required property latencyGraph graph
+    required property latencyCurve curve
+    required property selectedLatency selection
     signal selected(position: real)
 
-    readonly property bool hasSelection: graph.selectedIndex >= 0
+    readonly property bool hasSelection: selection.index >= 0
     // The value of the slider for screen readers.
-    readonly property real value: graph.selectedValue
-    readonly property real minimumValue: graph.lowestValue
-    readonly property real maximumValue: graph.highestValue
+    readonly property real value: selection.milliseconds
+    readonly property real minimumValue: curve.lowestValue
+    readonly property real maximumValue: curve.highestValue
 
     implicitHeight: Theme.graphHeight
     activeFocusOnTab: true
@@ -37,7 +38,8 @@ Item {
     LatencyPlot {
         id: plot
         anchors.fill: parent
-        graph: view.graph
+        curve: view.curve
+        selectedIndex: view.selection.index
         lineColor: Theme.blue
         areaColor: Qt.alpha(Theme.blue, Theme.areaOpacity)
         lineWidth: Theme.curveWidth
@@ -69,6 +71,6 @@ Item {
         visible: view.hasSelection
         x: Math.round(plot.calloutLeft(plot.selectedX, width))
         y: -height - Theme.halfUnit
-        graph: view.graph
+        selection: view.selection
     }
 }

@@ -5,17 +5,18 @@ import Larkspan.Bridge
 // A monitor's metrics for a day: the graph, the figures and the regions.
 Column {
     id: panel
-    required property MonitorMetricsBridge metrics
+    required property MetricsPanelBridge metrics
     // Whether the row is the current one, so that its controls can be reached with the keyboard.
     required property bool isCurrent
 
     spacing: Theme.unit
 
     LatencyGraph {
-        visible: graph.isShown
+        visible: curve.isShown
         width: parent.width
         activeFocusOnTab: panel.isCurrent || activeFocus
-        graph: panel.metrics.graph
+        curve: panel.metrics.curve
+        selection: panel.metrics.selection
         onSelected: position => panel.metrics.selectLatency(position)
     }
     Rectangle {

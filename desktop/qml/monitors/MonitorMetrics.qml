@@ -15,7 +15,7 @@ Column {
         width: parent.width
         active: expanded.metrics.showsPanel
         sourceComponent: MetricsPanel {
-            metrics: expanded.metrics
+            metrics: expanded.metrics.panel
             isCurrent: expanded.isCurrent
         }
     }

@@ -5,7 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "KitWindow.h"
-#include "bridge/values/LatencyGraphValue.h"
+#include "bridge/values/LatencyCurveValue.h"
+#include "bridge/values/SelectedLatencyValue.h"
 #include "fakes/FakeLocaleText.h"
 #include "monitors/LatencySelection.h"
 
@@ -13,7 +14,8 @@ namespace larkspan {
 
 namespace {
 
-using bridge::LatencyGraphValue;
+using bridge::LatencyCurveValue;
+using bridge::SelectedLatencyValue;
 
 /// A graph of 408 points' width, 4 of them empty on each side, in a scrolling list; the values of its samples are "10",
 /// "20" and so on.
@@ -21,7 +23,8 @@ class LatencyGraphOnScreen : public testing::Test, public KitWindow {
 protected:
     LatencyGraphOnScreen()
         : KitWindow(QStringLiteral(R"(
-            property latencyGraph graph
+            property latencyCurve curve
+            property selectedLatency selection
             property real position: NaN
             property int selections: 0
             Flickable {
@@ -35,7 +38,8 @@ protected:
                     x: 20
                     y: 100
                     width: 408
-                    graph: window.graph
+                    curve: window.curve
+                    selection: window.selection
                     onSelected: position => { window.position = position; window.selections += 1 }
                 }
                 Item { objectName: "other"; activeFocusOnTab: true }
@@ -50,6 +54,7 @@ protected:
         for (int index = 0; index < static_cast<int>(count); ++index) points.push_back({index, 10 * (index + 1)});
         if (!points.empty()) points.back().timestamp = support::Time{};
         curve_ = monitors::LatencyCurve::of(points);
+        setProperty("curve", QVariant::fromValue(LatencyCurveValue{curve_}));
         select(std::nullopt);
     }
 
@@ -57,8 +62,8 @@ protected:
     void select(std::optional<int> index)
     {
         selected_ = index;
-        setProperty("graph",
-            QVariant::fromValue(LatencyGraphValue::of(monitors::LatencyGraph::of(curve_, selected_, locale_))));
+        setProperty("selection",
+            QVariant::fromValue(SelectedLatencyValue::of(monitors::SelectedLatency::of(*curve_, selected_, locale_))));
     }
     void takeSelection()
     {

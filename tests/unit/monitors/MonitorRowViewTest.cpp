@@ -90,8 +90,8 @@ TEST_F(RowOfAMonitor, ShowsThePanelOnceItsMetricsAreThere)
     EXPECT_TRUE(row->showsPanel());
     EXPECT_FALSE(shown().isLoading);
     EXPECT_EQ(row->instead(), Marker{});
-    EXPECT_EQ(row->figures(), (std::vector<MetricRow>{{"Avg Response", "312 ms", Tone::orange}}));
-    EXPECT_EQ(row->regions(), (std::vector<RegionRow>{{"eu", "4ms", Tone::green}}));
+    EXPECT_EQ(row->panel()->figures, (std::vector<MetricRow>{{"Avg Response", "312 ms", Tone::orange}}));
+    EXPECT_EQ(row->panel()->regions, (std::vector<RegionRow>{{"eu", "4ms", Tone::green}}));
     EXPECT_TRUE(shown().badges.empty());
 }
 
@@ -115,13 +115,27 @@ TEST_F(RowOfAMonitor, FetchesItsMetricsOnceForItsLife)
     EXPECT_EQ(transport.requests.size(), 1u);
 }
 
+TEST_F(RowOfAMonitor, MakesItsPanelOnceWhenItsMetricsLand)
+{
+    serve(fullWindow);
+    EXPECT_EQ(row->panel(), nullptr);
+    open();
+    const auto made = row->panel();
+    ASSERT_NE(made, nullptr);
+    made->selectLatency(1);
+    row->toggleMetrics();
+    open();
+    EXPECT_EQ(row->panel(), made);
+    EXPECT_EQ(*made->selectedLatencyIndex, 1) << "as it was left";
+}
+
 TEST_F(RowOfAMonitor, AMonitorMetricsWindowWithEveryFieldAbsentStillCountsAsPresent)
 {
     serve(R"({"metrics": {"7": {}}})");
     open();
     EXPECT_TRUE(row->showsPanel());
-    EXPECT_TRUE(row->figures().empty());
-    EXPECT_TRUE(row->regions().empty());
+    EXPECT_TRUE(row->panel()->figures.empty());
+    EXPECT_TRUE(row->panel()->regions.empty());
     EXPECT_FALSE(row->offersRetry());
 }
 

@@ -1,3 +1,5 @@
+#include "monitors/MetricsPanel.h"
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -16,17 +18,17 @@ using Values = std::vector<std::int64_t>;
 
 class LatencyOfAMonitor : public testing::Test, public fakes::ScriptedService {
 protected:
-    void arrive(MonitorMetricsWindow window)
+    MetricsPanel& arrive(MonitorMetricsWindow window)
     {
         row->showingMetrics = true;
-        row->metrics = std::move(window);
+        row->land(std::move(window));
+        return *row->panel();
     }
 
     Values drawn() const
     {
         Values values;
-        const auto graph = row->latencyGraph();
-        for (const auto& point : graph.curve->points) values.push_back(point.value);
+        for (const auto& point : row->panel()->curve->points) values.push_back(point.value);
         return values;
     }
 
@@ -37,19 +39,18 @@ protected:
 
 TEST_F(LatencyOfAMonitor, HasNoGraphWithoutMetricsWithoutLatencyAndWithAnEmptyOne)
 {
-    EXPECT_EQ(row->latencyGraph(), LatencyGraph{});
-    arrive({});
-    EXPECT_EQ(row->latencyGraph(), LatencyGraph{});
-    arrive({.latency = Values{}, .latencyPoints = std::vector<model::LatencyPoint>{{1, {}}}});
-    EXPECT_EQ(row->latencyGraph(), LatencyGraph{}) << "whatever points there are";
+    EXPECT_EQ(row->panel(), nullptr);
+    EXPECT_EQ(arrive({}).curve, nullptr);
+    EXPECT_EQ(arrive({.latency = Values{}, .latencyPoints = std::vector<model::LatencyPoint>{{1, {}}}}).curve, nullptr)
+        << "whatever points there are";
 }
 
 TEST_F(LatencyOfAMonitor, AnEmptyLatencyArrayHidesTheGraphButTheRowsBelowItAreStillShown)
 {
-    arrive({.avgMs = 250, .latency = Values{}});
-    EXPECT_EQ(row->latencyGraph(), LatencyGraph{});
+    const auto& panel = arrive({.avgMs = 250, .latency = Values{}});
+    EXPECT_EQ(panel.curve, nullptr);
     EXPECT_TRUE(row->showsPanel());
-    EXPECT_EQ(row->figures().size(), 1u);
+    EXPECT_EQ(panel.figures.size(), 1u);
 }
 
 TEST_F(LatencyOfAMonitor, IsThatOfThePointsWhereThereAreSuch)
@@ -60,38 +61,45 @@ TEST_F(LatencyOfAMonitor, IsThatOfThePointsWhereThereAreSuch)
 
 TEST_F(LatencyOfAMonitor, IsAnEmptyPlotWhereThePointsAreNoneBesideALatency)
 {
-    arrive({.latency = Values{5, 6}, .latencyPoints = std::vector<model::LatencyPoint>{}});
+    auto& panel = arrive({.latency = Values{5, 6}, .latencyPoints = std::vector<model::LatencyPoint>{}});
     EXPECT_EQ(drawn(), Values{});
-    row->selectLatency(0);
-    EXPECT_EQ(*row->selection.selectedLatencyIndex, std::nullopt);
+    panel.selectLatency(0);
+    EXPECT_EQ(*panel.selectedLatencyIndex, std::nullopt);
+}
+
+TEST_F(LatencyOfAMonitor, WithoutAGraphHasNothingToSelect)
+{
+    auto& panel = arrive({.avgMs = 250});
+    panel.selectLatency(0);
+    EXPECT_EQ(*panel.selectedLatencyIndex, std::nullopt);
+    EXPECT_EQ(panel.selectedLatency(), std::nullopt);
 }
 
 TEST_F(LatencyOfAMonitor, SelectsTheNearestSampleAndTellsIt)
 {
-    arrive({.latency = Values{10, 20, 30, 40, 50}});
-    EXPECT_EQ(row->latencyGraph().selectedIndex, std::nullopt);
-    row->selectLatency(3.5);
-    EXPECT_EQ(*row->selection.selectedLatencyIndex, 3);
-    EXPECT_EQ(row->latencyGraph().callout.value, "40 ms");
+    auto& panel = arrive({.latency = Values{10, 20, 30, 40, 50}});
+    EXPECT_EQ(panel.selectedLatency(), std::nullopt);
+    panel.selectLatency(3.5);
+    EXPECT_EQ(*panel.selectedLatencyIndex, 3);
+    EXPECT_EQ(panel.selectedLatency()->callout.value, "40 ms");
 }
 
 TEST_F(LatencyOfAMonitor, KeepsItsSelectionWhileItIsClosedAndOpenedAgain)
 {
-    arrive({.latency = Values{10, 20, 30}});
-    row->selectLatency(2);
+    arrive({.latency = Values{10, 20, 30}}).selectLatency(2);
     row->toggleMetrics();
     row->toggleMetrics();
-    EXPECT_EQ(row->latencyGraph().selectedIndex, 2);
+    EXPECT_EQ(row->panel()->selectedLatency()->point.index, 2);
 }
 
 TEST_F(LatencyOfAMonitor, TellsOfASelectionApartFromTheRestOfTheRow)
 {
-    arrive({.latency = Values{10, 20, 30}});
+    auto& panel = arrive({.latency = Values{10, 20, 30}});
     int ofTheRow = 0;
     int ofTheSelection = 0;
     const auto whole = row->objectWillChange([&ofTheRow] { ++ofTheRow; });
-    const auto selection = row->selection.objectWillChange([&ofTheSelection] { ++ofTheSelection; });
-    row->selectLatency(1);
+    const auto selection = panel.objectWillChange([&ofTheSelection] { ++ofTheSelection; });
+    panel.selectLatency(1);
     EXPECT_EQ(ofTheRow, 0);
     EXPECT_EQ(ofTheSelection, 1);
 }
