@@ -12,28 +12,38 @@
 
 namespace larkspan::api {
 
-/// The operations of each resource, with a common engine.
-template <typename... Endpoints>
-class OperationsOf : public RequestEngine, public Endpoints... {
-public:
-    /// `serviceHost` is a host or host:port and is reached over HTTPS.
-    OperationsOf(Ports ports, const std::string& serviceHost)
-        : RequestEngine(ports, serviceHost)
-        , Endpoints(static_cast<RequestEngine&>(*this))...
-    {
-    }
-};
-
 /// The program's only access to the service. Its operations may be awaited on any executor; they run on the client's
 /// own and interleave there while they wait. They throw `APIError`, `platform::URLError` or `model::DecodingError`. A
 /// write is sent once, whatever its result; a read may be sent a second time if its kept connection turns out to be
 /// closed. Must outlive every task that it has returned.
 ///
 /// Code that uses the operations of one resource only takes that base.
-class KestruneAPI final : public OperationsOf<StatusPageEndpoints, IncidentEndpoints, MaintenanceEndpoints,
-                              MonitorEndpoints, ComponentEndpoints, TeamEndpoints> {
+class KestruneAPI final : public RequestEngine,
+                          public StatusPageEndpoints,
+                          public IncidentEndpoints,
+                          public MaintenanceEndpoints,
+                          public MonitorEndpoints,
+                          public ComponentEndpoints,
+                          public TeamEndpoints {
 public:
-    using OperationsOf::OperationsOf;
+    /// `serviceHost` is a host or host:port and is reached over HTTPS.
+    KestruneAPI(Ports ports, const std::string& serviceHost)
+        : KestruneAPI(ports, serviceHost, *this)
+    {
+    }
+
+private:
+    // A base would take a plain `*this` for an object to copy.
+    KestruneAPI(Ports ports, const std::string& serviceHost, RequestEngine& engine)
+        : RequestEngine(ports, serviceHost)
+        , StatusPageEndpoints(engine)
+        , IncidentEndpoints(engine)
+        , MaintenanceEndpoints(engine)
+        , MonitorEndpoints(engine)
+        , ComponentEndpoints(engine)
+        , TeamEndpoints(engine)
+    {
+    }
 };
 
 }  // namespace larkspan::api
