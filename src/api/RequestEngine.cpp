@@ -82,7 +82,7 @@ Task<std::string> RequestEngine::exchange(HttpRequest request, std::stop_token s
 {
     auto send = [this, request = std::move(request), stop](support::Completion<HttpTransport::Result> answer) mutable {
         auto complete = [answer = std::move(answer)](HttpTransport::Result result) mutable {
-            answer.give(support::Outcome<HttpTransport::Result>::success(std::move(result)));
+            answer.giveInThisTurn(support::Outcome<HttpTransport::Result>::success(std::move(result)));
         };
         ports_.transport.send(std::move(request), std::move(stop), std::move(complete));
     };

@@ -36,10 +36,10 @@ public:
 
     virtual ~HttpTransport() = default;
 
-    /// Sends `request` and calls `complete` once, never inside this call. A write is sent once, whatever happens to the
-    /// connection. Redirects are followed within the origin of the URL only, and for a write only where the status says
-    /// how to go on (303, 307, 308); any other is returned as its status code. A stop ends the request with
-    /// `cancelled`. A destroyed transport does not call `complete`.
+    /// Sends `request` and calls `complete` once, in a later turn of the client's executor. A write is sent once,
+    /// whatever happens to the connection. Redirects are followed within the origin of the URL only, and for a write
+    /// only where the status says how to go on (303, 307, 308); any other is returned as its status code. A stop ends
+    /// the request with `cancelled`. A destroyed transport does not call `complete`.
     virtual void send(HttpRequest request, std::stop_token stop, support::UniqueFunction<void(Result)> complete) = 0;
 };
 

@@ -50,7 +50,7 @@ private:
         } catch (...) {
             state->outcome = Outcome<T>::failure(std::current_exception());
         }
-        if (auto waiter = std::exchange(state->waiter, std::nullopt)) waiter->give(Outcome<void>::success());
+        if (auto waiter = std::exchange(state->waiter, std::nullopt)) waiter->giveInThisTurn(Outcome<void>::success());
     }
 
     static Task<void> awaitEnd(StatePointer state)

@@ -2,6 +2,7 @@
 
 #include <asio/awaitable.hpp>
 #include <asio/co_spawn.hpp>
+#include <asio/this_coro.hpp>
 #include <asio/use_awaitable.hpp>
 
 #include <exception>
@@ -59,11 +60,16 @@ inline void start(platform::Executor& executor, Task<void> task)
     });
 }
 
-/// Runs `task` on `executor` and resumes the awaiter where it awaited, with the task's result or exception.
+/// Runs `task` on `executor` and resumes the awaiter where it awaited, with the task's result or exception. An awaiter
+/// that is there already goes on with `task` itself.
 template <typename T>
 Task<T> on(platform::Executor& executor, Task<T> task)
 {
-    return asio::co_spawn(TaskExecutor(executor), std::move(task), detail::awaitTask);
+    const TaskExecutor wanted(executor);
+    const TaskExecutor present = co_await asio::this_coro::executor;
+    if (present == wanted) co_return co_await std::move(task);
+    auto elsewhere = asio::co_spawn(wanted, std::move(task), detail::awaitTask);
+    co_return co_await std::move(elsewhere);
 }
 
 }  // namespace larkspan::support

@@ -20,6 +20,11 @@ TEST_P(ComponentEndpoint, SendsItsMethodToItsURLWithItsBodyAndGivesItsResult)
     expectRequestAndResult();
 }
 
+TEST_P(ComponentEndpoint, IsOneWayToTheClientAndOneBack)
+{
+    expectOneWayThereAndOneBack();
+}
+
 INSTANTIATE_TEST_SUITE_P(EachOperation, ComponentEndpoint,
     testing::Values(
         EndpointRow{"fetchComponents", [](ScriptedService& s) { return resultOf(s, s.api.fetchComponents("p")); },

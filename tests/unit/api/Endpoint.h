@@ -66,6 +66,15 @@ protected:
         EXPECT_EQ(sent.url, row.url);
         EXPECT_EQ(sent.body.value_or("none"), row.body);
     }
+
+    void expectOneWayThereAndOneBack()
+    {
+        const auto& row = GetParam();
+        transport.script(row.url, 200, row.answer);
+        row.call(*this);
+        EXPECT_EQ(client.posts(), 2) << "the operation and the service's answer";
+        EXPECT_EQ(main.posts(), 3) << "the result, and the start and the end of the task that waits for it";
+    }
 };
 
 }  // namespace larkspan::api

@@ -25,6 +25,11 @@ TEST_P(IncidentEndpoint, SendsItsMethodToItsURLWithItsBodyAndGivesItsResult)
     expectRequestAndResult();
 }
 
+TEST_P(IncidentEndpoint, IsOneWayToTheClientAndOneBack)
+{
+    expectOneWayThereAndOneBack();
+}
+
 INSTANTIATE_TEST_SUITE_P(EachOperation, IncidentEndpoint,
     testing::Values(
         EndpointRow{"fetchIncidents", [](ScriptedService& s) { return resultOf(s, s.api.fetchIncidents()); },
@@ -144,6 +149,15 @@ TEST_F(Incidents, ResolveAsksForTheStatesAndSendsTheIdOfTheFirstThatIsCalledReso
     EXPECT_EQ(transport.requests[1].method, "PATCH");
     EXPECT_EQ(transport.requests[1].url, incidentURL);
     EXPECT_EQ(transport.requests[1].body, R"({"incident_state_id":"12","append_update":true})");
+}
+
+TEST_F(Incidents, AResolveIsOneWayToTheClientAndOneBackForBothItsRequests)
+{
+    transport.script(statesURL, 200, theStates);
+    transport.script(incidentURL, 200, anIncident);
+    result(api.resolveIncident("7"));
+    EXPECT_EQ(client.posts(), 3) << "the operation and two answers";
+    EXPECT_EQ(main.posts(), 3) << "the result, and the start and the end of the task that waits for it";
 }
 
 TEST_F(Incidents, ResolveGivesTheRecordAsTheServiceSendsItWithNoLocalChange)

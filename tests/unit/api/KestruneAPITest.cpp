@@ -295,6 +295,14 @@ TEST_F(Send, ARawRequestFailsByItsStatusToo)
     EXPECT_EQ(failure(api.sendRawRequest(Base::feature, "components")), "Server returned HTTP status code 403.");
 }
 
+TEST_F(Send, ARawRequestIsOneWayToTheClientAndOneBack)
+{
+    transport.script("https://service.example/user/api/components", 200, "");
+    result(api.sendRawRequest(Base::feature, "components"));
+    EXPECT_EQ(client.posts(), 2);
+    EXPECT_EQ(main.posts(), 3);
+}
+
 class ValidateAPIKey : public Send {};
 
 TEST_F(ValidateAPIKey, SendsTheGivenKeyAndNotTheStoredOne)
@@ -307,6 +315,14 @@ TEST_F(ValidateAPIKey, SendsTheGivenKeyAndNotTheStoredOne)
     EXPECT_EQ(request.url, pagesURL);
     EXPECT_EQ(request.headers, (Headers{{"Authorization", "Bearer k-candidate"}, {"X-API-Key", "k-candidate"}}));
     EXPECT_EQ(credentials.reads, readsBefore);
+}
+
+TEST_F(ValidateAPIKey, IsOneWayToTheClientAndOneBack)
+{
+    transport.script(pagesURL, 200, "");
+    result(api.validateAPIKey("k-candidate"));
+    EXPECT_EQ(client.posts(), 2);
+    EXPECT_EQ(main.posts(), 3);
 }
 
 TEST_F(ValidateAPIKey, AcceptsAnEmptyBody)

@@ -24,6 +24,11 @@ TEST_P(MaintenanceEndpoint, SendsItsMethodToItsURLWithItsBodyAndGivesItsResult)
     expectRequestAndResult();
 }
 
+TEST_P(MaintenanceEndpoint, IsOneWayToTheClientAndOneBack)
+{
+    expectOneWayThereAndOneBack();
+}
+
 INSTANTIATE_TEST_SUITE_P(EachOperation, MaintenanceEndpoint,
     testing::Values(
         EndpointRow{"fetchMaintenances", [](ScriptedService& s) { return resultOf(s, s.api.fetchMaintenances()); },

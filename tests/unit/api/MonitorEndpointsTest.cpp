@@ -19,6 +19,11 @@ TEST_P(MonitorEndpoint, SendsItsMethodToItsURLWithItsBodyAndGivesItsResult)
     expectRequestAndResult();
 }
 
+TEST_P(MonitorEndpoint, IsOneWayToTheClientAndOneBack)
+{
+    expectOneWayThereAndOneBack();
+}
+
 /// The ids of the monitors that have a window.
 std::string monitorsIn(const MonitorEndpoints::MetricsWindows& windows)
 {

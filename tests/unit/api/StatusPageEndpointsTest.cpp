@@ -18,6 +18,11 @@ TEST_P(StatusPageEndpoint, SendsItsMethodToItsURLWithItsBodyAndGivesItsResult)
     expectRequestAndResult();
 }
 
+TEST_P(StatusPageEndpoint, IsOneWayToTheClientAndOneBack)
+{
+    expectOneWayThereAndOneBack();
+}
+
 INSTANTIATE_TEST_SUITE_P(EachOperation, StatusPageEndpoint,
     testing::Values(EndpointRow{"updateStatusPage",
                         [](ScriptedService& s) {

@@ -17,6 +17,11 @@ TEST_P(TeamEndpoint, SendsItsMethodToItsURLWithItsBodyAndGivesItsResult)
     expectRequestAndResult();
 }
 
+TEST_P(TeamEndpoint, IsOneWayToTheClientAndOneBack)
+{
+    expectOneWayThereAndOneBack();
+}
+
 INSTANTIATE_TEST_SUITE_P(EachOperation, TeamEndpoint,
     testing::Values(
         EndpointRow{"fetchOnCallStatus", [](ScriptedService& s) { return s.result(s.api.fetchOnCallStatus()).userId; },

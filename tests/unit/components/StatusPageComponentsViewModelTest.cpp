@@ -177,12 +177,10 @@ TEST_F(LoadOfComponents, BesideAnotherIsWonByTheLastToFinish)
     load();
     load();
     ASSERT_EQ(transport.pending.size(), 2u);
-    auto first = std::move(transport.pending.front());
-    transport.pending.pop_front();
-    transport.answer(HttpResponse{200, list({componentRecord("second")})});
+    transport.answer(HttpResponse{200, list({componentRecord("second")})}, 1);
     run();
     EXPECT_EQ(model->components->at(0).id, "second");
-    first.complete(HttpResponse{200, list({componentRecord("first")})});
+    transport.answer(HttpResponse{200, list({componentRecord("first")})});
     run();
     EXPECT_EQ(model->components->at(0).id, "first");
 }

@@ -44,6 +44,16 @@ TEST_F(Poll, FiringDuringARunningCycleSendsNothingAndIsNotMadeUpFor)
     EXPECT_EQ(transport.requests.size(), 2u);
 }
 
+TEST_F(Poll, GoesToTheClientAndComesBackOnceForEachOfItsFourRequests)
+{
+    servePages({"p1"}, {{"p1", "operational"}});
+    const auto before = main.posts();
+    refresh();
+    ASSERT_EQ(transport.requests.size(), 4u);
+    EXPECT_EQ(client.posts(), 8) << "four operations and their answers";
+    EXPECT_EQ(main.posts() - before, 10) << "four results, and start and end of the cycle and of two fetches at once";
+}
+
 TEST_F(Poll, IsTheOnlyRetryOfAFailedCycle)
 {
     transport.script(pagesURL, 500, "");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <deque>
 #include <map>
 #include <stdexcept>
@@ -35,7 +36,7 @@ public:
             pending.push_back({std::move(request), std::move(stop), std::move(complete)});
             return;
         }
-        executor_.post([result = scripted->second, complete = std::move(complete)]() mutable { complete(result); });
+        post(std::move(complete), scripted->second);
     }
 
     /// Answers each later request for `url` with `result`; without a script, requests wait for `answer`.
@@ -48,19 +49,25 @@ public:
     /// Makes later requests for `url` wait again.
     void forget(const std::string& url) { answers_.erase(url); }
 
-    /// Completes the oldest waiting request.
-    void answer(Result result)
+    /// Answers the oldest waiting request, or the one that so many `older` ones wait before.
+    void answer(Result result, std::size_t older = 0)
     {
-        if (pending.empty()) throw std::logic_error("no request is waiting");
-        auto oldest = std::move(pending.front());
-        pending.pop_front();
-        oldest.complete(std::move(result));
+        if (pending.size() <= older) throw std::logic_error("no such request is waiting");
+        const auto answered = pending.begin() + static_cast<std::ptrdiff_t>(older);
+        post(std::move(answered->complete), std::move(result));
+        pending.erase(answered);
     }
 
     std::vector<platform::HttpRequest> requests;
     std::deque<Pending> pending;
 
 private:
+    void post(support::UniqueFunction<void(Result)> complete, Result result)
+    {
+        executor_.post(
+            [complete = std::move(complete), result = std::move(result)]() mutable { complete(std::move(result)); });
+    }
+
     platform::Executor& executor_;
     std::map<std::string, Result> answers_;
 };

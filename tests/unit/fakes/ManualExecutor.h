@@ -18,6 +18,14 @@ public:
     {
         const std::scoped_lock lock(mutex_);
         queue_.push_back(std::move(work));
+        ++posts_;
+    }
+
+    /// How often something was posted, run by now or not.
+    int posts()
+    {
+        const std::scoped_lock lock(mutex_);
+        return posts_;
     }
 
     /// Runs the oldest piece of work; returns false if there was none.
@@ -55,6 +63,7 @@ private:
 
     std::mutex mutex_;
     std::deque<support::UniqueFunction<void()>> queue_;
+    int posts_ = 0;
 };
 
 }  // namespace larkspan::fakes

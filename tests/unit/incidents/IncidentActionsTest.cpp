@@ -26,6 +26,16 @@ TEST_F(DetailOfAnIncident, AcknowledgesThenFetchesTheRecordAndHandsItOver)
     EXPECT_EQ(view->action->alert.words(), "");
 }
 
+TEST_F(DetailOfAnIncident, AcknowledgesByTwoWaysToTheClientAndTwoBack)
+{
+    transport.script(actionURL + "acknowledge", 200, "{}");
+    transport.script(recordURL, 200, record(acknowledged));
+    opened()->press("acknowledge");
+    run();
+    EXPECT_EQ(client.posts(), 4) << "two operations and their answers";
+    EXPECT_EQ(main.posts(), 4) << "two results, and the start and the end of the action";
+}
+
 TEST_F(DetailOfAnIncident, EscalatesThenFetchesTheRecordAndHandsItOver)
 {
     transport.script(actionURL + "escalate", 200, "");

@@ -67,6 +67,21 @@ TEST(Completion, GivesAFailureAsAnException)
     EXPECT_EQ(result, "lost");
 }
 
+TEST(Completion, GivenInATurnOfTheAwaitersExecutorItMayResumeTheAwaiterInThatTurn)
+{
+    ManualExecutor home;
+    Desk desk;
+    std::string result;
+    start(home, awaitParcel(&desk, &result));
+    home.run();
+    home.post([&] {
+        desk->giveInThisTurn(Outcome<Parcel>::success(Parcel(42)));
+        EXPECT_EQ(result, "42");
+    });
+    home.runOne();
+    EXPECT_EQ(result, "42");
+}
+
 TEST(Completion, MayBeGivenFromAnotherThread)
 {
     std::string result;

@@ -81,6 +81,15 @@ TEST(Task, RunElsewhereResumesWhereItWasAwaited)
     EXPECT_EQ(value, 7);
 }
 
+TEST(Task, OnTheExecutorWhereItIsAwaitedItTakesNoTurnOfItsOwn)
+{
+    ManualExecutor home;
+    int value = 0;
+    start(home, awaitElsewhere(home, give(7), &value));
+    home.runOne();
+    EXPECT_EQ(value, 7);
+}
+
 Task<void> catchElsewhere(platform::Executor& elsewhere, std::string* caught)
 {
     try {
