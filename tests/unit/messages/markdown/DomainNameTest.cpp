@@ -32,7 +32,8 @@ INSTANTIATE_TEST_SUITE_P(OfASCII, DomainName,
 INSTANTIATE_TEST_SUITE_P(OfOtherScripts, DomainName,
     testing::Values(DomainRow{"bücher.example", "xn--bcher-kva.example"}, DomainRow{"a.ü.b", "a.xn--tda.b"},
         DomainRow{"münchen-ost.de", "xn--mnchen-ost-9db.de"}, DomainRow{"аpple.com", "xn--pple-43d.com"},
-        DomainRow{"☃.net", "xn--n3h.net"}, DomainRow{"😀.example", "xn--e28h.example"}));
+        DomainRow{"faß.example", "xn--fa-hia.example"}, DomainRow{"☃.net", "xn--n3h.net"},
+        DomainRow{"😀.example", "xn--e28h.example"}));
 
 // The samples of RFC 3492, section 7.1.
 INSTANTIATE_TEST_SUITE_P(OfTheStandard, DomainName,
