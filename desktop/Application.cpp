@@ -8,7 +8,7 @@
 #include "BuildSettings.h"
 #include "adapters/TerminationSignals.h"
 #include "qml/MainWindow.h"
-#include "workspace/Dashboard.h"
+#include "workspace/DashboardView.h"
 
 namespace larkspan {
 
@@ -41,7 +41,7 @@ Application::Application(adapters::MainExecutor& main, ServiceAccess service)
     , app_(std::make_unique<core::LarkspanApp>(core::AppStateManager::Ports{main_, timers_, clock_, notifications_,
           networkMonitor_, statusItems_, updates_, windows_, service_.credentials, api_}))
 {
-    auto dashboard = std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{
+    auto dashboard = std::make_shared<workspace::DashboardView>(workspace::DashboardView::Ports{
         main_, timers_, clock_, service_.credentials, keys_, app_->appState(), locale_, links_, api_});
     dashboard->demoKey = service_.demoKey;
     app_->appState()->guardQuitting(dashboard);

@@ -22,7 +22,7 @@
 #include "adapters/tray/StatusNotifierItem.h"
 #include "api/APIKeyStore.h"
 #include "api/KestruneAPI.h"
-#include "bridge/menu/MenuBridge.h"
+#include "bridge/menu/StatusMenuBridge.h"
 #include "core/LarkspanApp.h"
 #include "core/UpdaterController.h"
 #include "workspace/AboutKestruneView.h"
@@ -73,7 +73,7 @@ private:
     adapters::QtLocaleText locale_;
     adapters::PackageKitUpdater updater_;
     adapters::StatusNotifierItem tray_;
-    bridge::MenuBridge menu_;
+    bridge::StatusMenuBridge menu_;
     adapters::StatusItems statusItems_;
     workspace::AboutKestruneView about_;
     api::KestruneAPI api_;

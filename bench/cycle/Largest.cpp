@@ -18,7 +18,7 @@
 #include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocaleText.h"
 #include "model/json/JSONValue.h"
-#include "workspace/Dashboard.h"
+#include "workspace/DashboardView.h"
 
 namespace {
 
@@ -28,7 +28,7 @@ constexpr auto most = model::JSONReading::mostRecords;
 
 std::string page(std::size_t number)
 {
-    static const std::string name(adapters::largestBodyTaken / most - 100, 'x');
+    static const std::string name(adapters::largestAcceptedBody / most - 100, 'x');
     return R"({"id":")" + std::to_string(number) + R"(","name":")" + name + "\"},";
 }
 
@@ -36,7 +36,7 @@ std::string page(std::size_t number)
 std::string pages(std::size_t step)
 {
     std::string body = "[";
-    body.reserve(adapters::largestBodyTaken);
+    body.reserve(adapters::largestAcceptedBody);
     for (std::size_t first = 0; first < step; ++first) {
         for (auto number = first; number < most; number += step) body += page(number);
     }
@@ -64,7 +64,7 @@ double longestTurn()
     api::APIKeyStore keys(worker, client.store());
     const fakes::FakeLocaleText locale;
     fakes::FakeLinkOpener links;
-    auto dashboard = std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{main, client.timers(),
+    auto dashboard = std::make_shared<workspace::DashboardView>(workspace::DashboardView::Ports{main, client.timers(),
         client.clock(), client.store(), keys, client.sharedState(), locale, links, client.api()});
     const bridge::ScreenUpdates updates(main);
     const bridge::DashboardBridge window(dashboard, updates);

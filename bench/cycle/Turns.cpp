@@ -20,7 +20,7 @@
 #include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocaleText.h"
 #include "service/WallClock.h"
-#include "workspace/Dashboard.h"
+#include "workspace/DashboardView.h"
 
 namespace {
 
@@ -55,7 +55,7 @@ void measure(std::size_t incidents, std::size_t cycles)
     api::APIKeyStore keys(worker, client.store());
     const fakes::FakeLocaleText locale;
     fakes::FakeLinkOpener links;
-    auto dashboard = std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{main, client.timers(),
+    auto dashboard = std::make_shared<workspace::DashboardView>(workspace::DashboardView::Ports{main, client.timers(),
         client.clock(), client.store(), keys, client.sharedState(), locale, links, client.api()});
     const bridge::ScreenUpdates updates(main);
     const bridge::DashboardBridge window(dashboard, updates);

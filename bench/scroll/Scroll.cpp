@@ -166,10 +166,10 @@ private:
     fakes::FakeUpdater updater_;
     workspace::AboutKestruneView about_{workspace::AboutKestruneView::Bundle(), links_};
     support::Published<bool> showingAbout_{*this, false};
-    bridge::MenuBridge menu_{[] {}};
-    std::shared_ptr<workspace::Dashboard> dashboard_
-        = std::make_shared<workspace::Dashboard>(workspace::Dashboard::Ports{main_, client_.timers(), client_.clock(),
-            client_.store(), keys_, client_.sharedState(), locale_, links_, client_.api()});
+    bridge::StatusMenuBridge menu_{[] {}};
+    std::shared_ptr<workspace::DashboardView> dashboard_
+        = std::make_shared<workspace::DashboardView>(workspace::DashboardView::Ports{main_, client_.timers(),
+            client_.clock(), client_.store(), keys_, client_.sharedState(), locale_, links_, client_.api()});
     MainWindow mainWindow_{
         {dashboard_, std::make_shared<core::UpdaterController>(updater_), about_, showingAbout_, *this, menu_}, main_};
 };

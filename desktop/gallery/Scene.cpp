@@ -162,7 +162,7 @@ std::function<void(Stage&)> with(std::function<void(AppStateManager&)> arrange)
 void nothing(Stage&) {}
 
 /// A scene of the settings sheet over an account without events.
-std::function<void(Stage&)> settings(std::function<void(workspace::Settings&)> arrange)
+std::function<void(Stage&)> settings(std::function<void(workspace::SettingsView&)> arrange)
 {
     return [arrange = std::move(arrange)](Stage& stage) {
         quietDay(stage.state());
@@ -172,7 +172,7 @@ std::function<void(Stage&)> settings(std::function<void(workspace::Settings&)> a
 }
 
 /// The same with a key in the store.
-std::function<void(Stage&)> savedSettings(std::function<void(workspace::Settings&)> arrange)
+std::function<void(Stage&)> savedSettings(std::function<void(workspace::SettingsView&)> arrange)
 {
     return [open = settings(std::move(arrange))](Stage& stage) {
         stage.storeKey();
@@ -180,9 +180,9 @@ std::function<void(Stage&)> savedSettings(std::function<void(workspace::Settings
     };
 }
 
-using Kind = workspace::Settings::ValidationState::Kind;
+using Kind = workspace::SettingsView::ValidationState::Kind;
 
-void justOpened(workspace::Settings&) {}
+void justOpened(workspace::SettingsView&) {}
 
 void ofTheDemo(Stage& stage)
 {
@@ -190,30 +190,30 @@ void ofTheDemo(Stage& stage)
     settings(justOpened)(stage);
 }
 
-void looking(workspace::Settings& sheet)
+void looking(workspace::SettingsView& sheet)
 {
     // The stage's store answers at once, unlike a store that asks for a password.
     QTimer::singleShot(20, [settings = sheet.shared_from_this()] { settings->isLooking = true; });
 }
 
-void verifying(workspace::Settings& sheet)
+void verifying(workspace::SettingsView& sheet)
 {
     sheet.edit(typedKey);
     sheet.validationState = {Kind::validating};
 }
 
-void refused(workspace::Settings& sheet)
+void refused(workspace::SettingsView& sheet)
 {
     sheet.edit(typedKey);
     sheet.validationState = {Kind::invalid, "Request timed out. Kestrune may be slow or unreachable."};
 }
 
-void connected(workspace::Settings& sheet)
+void connected(workspace::SettingsView& sheet)
 {
     sheet.validationState = {Kind::valid};
 }
 
-void aboutToDelete(workspace::Settings& sheet)
+void aboutToDelete(workspace::SettingsView& sheet)
 {
     sheet.confirmDelete();
 }

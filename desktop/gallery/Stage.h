@@ -13,11 +13,11 @@
 #include "adapters/SystemClock.h"
 #include "api/APIKeyStore.h"
 #include "api/KestruneAPI.h"
-#include "bridge/menu/MenuBridge.h"
+#include "bridge/menu/StatusMenuBridge.h"
 #include "core/AppStateManager.h"
 #include "qml/MainWindow.h"
 #include "workspace/AboutKestruneView.h"
-#include "workspace/Dashboard.h"
+#include "workspace/DashboardView.h"
 
 namespace larkspan::gallery {
 
@@ -58,7 +58,7 @@ public:
     explicit Stage(adapters::MainExecutor& main);
 
     core::AppStateManager& state() { return *state_; }
-    workspace::Dashboard& dashboard() { return *dashboard_; }
+    workspace::DashboardView& dashboard() { return *dashboard_; }
     core::UpdaterController& updates() { return *updates_; }
     void storeKey() { outside_.storedKey = "stored"; }
     void showAbout() { showingAbout_ = true; }
@@ -72,13 +72,13 @@ private:
     NoOutside outside_;
     adapters::QtLocaleText locale_;
     support::Published<bool> showingAbout_{*this, false};
-    bridge::MenuBridge menu_{[this] { showAbout(); }};
+    bridge::StatusMenuBridge menu_{[this] { showAbout(); }};
     api::KestruneAPI api_{{main_, outside_, outside_, clock_}, "kestrune.example"};
     api::APIKeyStore keys_{main_, outside_};
     workspace::AboutKestruneView about_{workspace::AboutKestruneView::Bundle(), outside_};
     std::shared_ptr<core::UpdaterController> updates_ = std::make_shared<core::UpdaterController>(outside_);
     std::shared_ptr<core::AppStateManager> state_;
-    std::shared_ptr<workspace::Dashboard> dashboard_;
+    std::shared_ptr<workspace::DashboardView> dashboard_;
 };
 
 }  // namespace larkspan::gallery

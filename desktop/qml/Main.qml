@@ -5,9 +5,9 @@ import Larkspan.Bridge
 Window {
     id: window
     required property DashboardBridge dashboard
-    required property AboutBridge about
-    required property UpdateBridge updates
-    required property MenuBridge menu
+    required property AboutKestruneBridge about
+    required property UpdateReportBridge updates
+    required property StatusMenuBridge menu
     required property AppearanceBridge appearance
     signal quitRequested
 

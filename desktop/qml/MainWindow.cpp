@@ -25,7 +25,7 @@ MainWindow::MainWindow(Content content, platform::Executor& main)
     , updates_(std::move(content.updates), screenUpdates_)
 {
     bridge::hideSecretsFromAccessibility();
-    bridge::tellAccessibilityWhatIsOutOfReach();
+    bridge::reportUnreachableItems();
     // Captions have no mnemonics: otherwise Alt and the space bar would press "Save & Verify".
     qt_set_sequence_auto_mnemonic(false);
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));

@@ -5,16 +5,16 @@
 
 #include <memory>
 
-#include "bridge/menu/MenuBridge.h"
+#include "bridge/menu/StatusMenuBridge.h"
 #include "bridge/screens/ScreenUpdates.h"
-#include "bridge/workspace/AboutBridge.h"
+#include "bridge/workspace/AboutKestruneBridge.h"
 #include "bridge/workspace/AppearanceBridge.h"
 #include "bridge/workspace/DashboardBridge.h"
-#include "bridge/workspace/UpdateBridge.h"
+#include "bridge/workspace/UpdateReportBridge.h"
 #include "core/UpdaterController.h"
 #include "platform/Executor.h"
 #include "workspace/AboutKestruneView.h"
-#include "workspace/Dashboard.h"
+#include "workspace/DashboardView.h"
 
 class QQuickWindow;
 
@@ -27,13 +27,13 @@ class MainWindow final : public QObject {
 public:
     /// The content of the screens; references must outlive the window.
     struct Content {
-        std::shared_ptr<workspace::Dashboard> dashboard;
+        std::shared_ptr<workspace::DashboardView> dashboard;
         std::shared_ptr<core::UpdaterController> updates;
         const workspace::AboutKestruneView& about;
         /// Whether the about box is shown: a field of `aboutOwner`.
         support::Published<bool>& showingAbout;
         support::Observable& aboutOwner;
-        bridge::MenuBridge& menu;
+        bridge::StatusMenuBridge& menu;
     };
 
     MainWindow(Content content, platform::Executor& main);
@@ -49,8 +49,8 @@ private:
     bridge::ScreenUpdates screenUpdates_;
     bridge::AppearanceBridge appearance_;
     bridge::DashboardBridge dashboard_;
-    bridge::AboutBridge about_;
-    bridge::UpdateBridge updates_;
+    bridge::AboutKestruneBridge about_;
+    bridge::UpdateReportBridge updates_;
     QQmlApplicationEngine engine_;
     QQuickWindow* window_ = nullptr;
 };

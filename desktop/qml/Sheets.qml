@@ -6,27 +6,27 @@ import Larkspan.Bridge
 Item {
     id: sheets
     required property DashboardBridge dashboard
-    required property AboutBridge about
-    required property UpdateBridge updates
+    required property AboutKestruneBridge about
+    required property UpdateReportBridge updates
 
     PopupLoader {
         isShown: sheets.dashboard.settings !== null
         onDismissed: sheets.dashboard.closeSettings()
-        sourceComponent: SettingsSheet {
+        sourceComponent: SettingsView {
             settings: sheets.dashboard.settings
         }
     }
     PopupLoader {
         isShown: sheets.about.isShowing
         onDismissed: sheets.about.close()
-        sourceComponent: AboutSheet {
+        sourceComponent: AboutKestruneView {
             about: sheets.about
         }
     }
     PopupLoader {
         isShown: sheets.updates.isShowing
         onDismissed: sheets.updates.dismiss()
-        sourceComponent: UpdateDialog {
+        sourceComponent: UpdateReportDialog {
             updates: sheets.updates
         }
     }

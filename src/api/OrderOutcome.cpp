@@ -9,7 +9,7 @@ using platform::URLError;
 
 namespace {
 
-bool mayHaveTakenPlace(const APIError& failure)
+bool mayHaveTakenEffect(const APIError& failure)
 {
     switch (failure.kind()) {
     case APIError::Case::decoding:
@@ -23,7 +23,7 @@ bool mayHaveTakenPlace(const APIError& failure)
     return false;
 }
 
-bool mayHaveTakenPlace(URLError::Code code)
+bool mayHaveTakenEffect(URLError::Code code)
 {
     switch (code) {
     case URLError::Code::notConnectedToInternet:
@@ -48,14 +48,14 @@ bool mayHaveTakenPlace(URLError::Code code)
 
 }  // namespace
 
-bool mayHaveTakenPlace(const std::exception_ptr& failure)
+bool mayHaveTakenEffect(const std::exception_ptr& failure)
 {
     try {
         std::rethrow_exception(failure);
     } catch (const APIError& error) {
-        return mayHaveTakenPlace(error);
+        return mayHaveTakenEffect(error);
     } catch (const URLError& error) {
-        return mayHaveTakenPlace(error.code());
+        return mayHaveTakenEffect(error.code());
     } catch (const model::DecodingError&) {
         return true;
     } catch (...) {

@@ -10,7 +10,7 @@ namespace larkspan::api {
 
 /// Whether a write that ended with `failure` may have taken effect: its answer was lost, cannot be read, or reports an
 /// error inside the service. False if it was refused or never sent.
-bool mayHaveTakenPlace(const std::exception_ptr& failure);
+bool mayHaveTakenEffect(const std::exception_ptr& failure);
 
 /// Returns `answer` if it is about the changed record, the one with this id; an answer about another record is treated
 /// as unreadable.

@@ -28,7 +28,7 @@ constexpr presentation::Confirmation deletion{
 
 ComponentDetailView::ComponentDetailView(Ports ports, std::string page, Component shown, Owner owner)
     : EditableDetail(
-          ports.main, deletion, {.dismiss = std::move(owner.dismiss), .lookAgain = std::move(owner.lookAgain)})
+          ports.main, deletion, {.dismiss = std::move(owner.dismiss), .reloadList = std::move(owner.reloadList)})
     , pageId(std::move(page))
     , component(*this, std::move(shown))
     , ports_(ports)

@@ -41,7 +41,7 @@ public:
         /// Closes the screen.
         std::function<void()> dismiss;
         /// Called when it is unknown whether a write took effect: fetches the list again.
-        std::function<void()> lookAgain = {};
+        std::function<void()> reloadList = {};
     };
 
     static constexpr std::string_view title = "Component Details";

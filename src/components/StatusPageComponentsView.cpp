@@ -42,7 +42,7 @@ ComponentDetailView::Owner StatusPageComponentsView::ownerOf(const std::string& 
                 }),
         .onDelete = whileAlive(view, &StatusPageComponentsView::onDelete),
         .dismiss = whileAlive(view, [opened](StatusPageComponentsView& self) { self.dismiss(opened); }),
-        .lookAgain = whileAlive(view, [](StatusPageComponentsView& self) { self.viewModel->load(); })};
+        .reloadList = whileAlive(view, [](StatusPageComponentsView& self) { self.viewModel->load(); })};
 }
 
 void StatusPageComponentsView::onDelete(const Component& deleted)

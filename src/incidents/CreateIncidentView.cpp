@@ -21,7 +21,7 @@ constexpr ComponentSelection::Words selectionWords{.noMonitor = "Select a monito
 
 CreateIncidentView::CreateIncidentView(Ports ports, std::string page, Owner owner)
     : EventForm(ports.selection, std::move(page), selectionWords,
-          {.dismiss = std::move(owner.dismiss), .lookAgain = std::move(owner.lookAgain)})
+          {.dismiss = std::move(owner.dismiss), .reloadList = std::move(owner.reloadList)})
     , api_(ports.api)
     , onCreated_(std::move(owner.onCreated))
 {

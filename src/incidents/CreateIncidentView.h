@@ -26,7 +26,7 @@ public:
         /// Closes the sheet.
         std::function<void()> dismiss;
         /// Called when it is unknown whether a write took effect: fetches the list again.
-        std::function<void()> lookAgain = {};
+        std::function<void()> reloadList = {};
     };
 
     CreateIncidentView(Ports ports, std::string pageId, Owner owner);

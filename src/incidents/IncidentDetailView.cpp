@@ -29,7 +29,7 @@ constexpr presentation::Confirmation deletion{.title = "Delete Incident",
 
 IncidentDetailView::IncidentDetailView(Ports ports, Incident shown, Owner owner)
     : EditableDetail(
-          ports.main, deletion, {.dismiss = std::move(owner.dismiss), .lookAgain = std::move(owner.lookAgain)})
+          ports.main, deletion, {.dismiss = std::move(owner.dismiss), .reloadList = std::move(owner.reloadList)})
     , incident(*this, std::move(shown))
     , message(std::make_shared<MessageView>(ports.links))
     , ports_(ports)

@@ -41,37 +41,37 @@ void StatusPageIncidentsView::openIncident(const std::string& id)
 IncidentDetailView::Owner StatusPageIncidentsView::ownerOf(const std::string& opened)
 {
     const auto view = weak_from_this();
-    return {.onUpdate = whileAlive(view, &StatusPageIncidentsView::takeBack),
+    return {.onUpdate = whileAlive(view, &StatusPageIncidentsView::updateDetail),
         .dismiss = whileAlive(view, [opened](StatusPageIncidentsView& self) { self.dismiss(opened); }),
-        .lookAgain = whileAlive(view, [opened](StatusPageIncidentsView& self) {
-            support::start(self.ports_.main, lookAgain(self.shared_from_this(), opened));
+        .reloadList = whileAlive(view, [opened](StatusPageIncidentsView& self) {
+            support::start(self.ports_.main, reloadList(self.shared_from_this(), opened));
         })};
 }
 
-void StatusPageIncidentsView::takeBack(const Incident& changed)
+void StatusPageIncidentsView::updateDetail(const Incident& changed)
 {
-    if (!presentedIncident.isOf(changed.id)) return loadIfInSight();
+    if (!presentedIncident.isOf(changed.id)) return loadIfVisible();
     detail()->show(changed);
 }
 
-Task<void> StatusPageIncidentsView::lookAgain(std::shared_ptr<StatusPageIncidentsView> self, std::string id)
+Task<void> StatusPageIncidentsView::reloadList(std::shared_ptr<StatusPageIncidentsView> self, std::string id)
 {
     auto loading = self->viewModel->loading();
     co_await std::move(loading);
     const auto* const found = self->viewModel->incidents.find(id);
     // The detail covers the list, so it has to show the result.
-    if (found && self->presentedIncident.isOf(id)) self->takeBack(*found);
+    if (found && self->presentedIncident.isOf(id)) self->updateDetail(*found);
 }
 
 void StatusPageIncidentsView::dismiss(const std::string& id)
 {
-    if (!presentedIncident.isOf(id)) return loadIfInSight();
+    if (!presentedIncident.isOf(id)) return loadIfVisible();
     closeIncident();
 }
 
 // A request that the user did not wait for may end while the list, which was loaded before, or another incident is
 // shown.
-void StatusPageIncidentsView::loadIfInSight()
+void StatusPageIncidentsView::loadIfVisible()
 {
     if (!presentedIncident.isOpen()) viewModel->load();
 }
@@ -96,7 +96,7 @@ CreateIncidentView::Owner StatusPageIncidentsView::ownerOfForm()
                     self.viewModel->incidents.insertFirst(created);
                 }),
         .dismiss = whileAlive(view, [](StatusPageIncidentsView& self) { self.showCreateIncident.close(); }),
-        .lookAgain = whileAlive(view, [](StatusPageIncidentsView& self) { self.viewModel->load(); })};
+        .reloadList = whileAlive(view, [](StatusPageIncidentsView& self) { self.viewModel->load(); })};
 }
 
 }  // namespace larkspan::incidents

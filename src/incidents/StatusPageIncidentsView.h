@@ -52,10 +52,10 @@ private:
 
     IncidentDetailView::Owner ownerOf(const std::string& opened);
     CreateIncidentView::Owner ownerOfForm();
-    static support::Task<void> lookAgain(std::shared_ptr<StatusPageIncidentsView> self, std::string id);
-    void takeBack(const model::Incident& changed);
+    static support::Task<void> reloadList(std::shared_ptr<StatusPageIncidentsView> self, std::string id);
+    void updateDetail(const model::Incident& changed);
     void dismiss(const std::string& id);
-    void loadIfInSight();
+    void loadIfVisible();
 
     const Ports ports_;
 };

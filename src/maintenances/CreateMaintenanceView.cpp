@@ -29,7 +29,7 @@ api::Ids idsOf(const std::string& id)
 
 CreateMaintenanceView::CreateMaintenanceView(Ports ports, std::string page, Owner owner)
     : EventForm(ports.selection, std::move(page), selectionWords,
-          {.dismiss = std::move(owner.dismiss), .lookAgain = std::move(owner.lookAgain)})
+          {.dismiss = std::move(owner.dismiss), .reloadList = std::move(owner.reloadList)})
     , scheduledFor(std::make_shared<DateTimePicker>(
           DateTimePicker::Ports{ports.clock, ports.selection.locale}, ports.clock.now()))
     , scheduledUntil(std::make_shared<DateTimePicker>(

@@ -29,7 +29,7 @@ public:
         /// Closes the sheet.
         std::function<void()> dismiss;
         /// Called when it is unknown whether a write took effect: fetches the list again.
-        std::function<void()> lookAgain = {};
+        std::function<void()> reloadList = {};
     };
 
     CreateMaintenanceView(Ports ports, std::string pageId, Owner owner);

@@ -28,7 +28,7 @@ constexpr presentation::Confirmation deletion{.title = "Delete Maintenance",
 
 MaintenanceDetailView::MaintenanceDetailView(Ports ports, Maintenance shown, Owner owner)
     : EditableDetail(
-          ports.main, deletion, {.dismiss = std::move(owner.dismiss), .lookAgain = std::move(owner.lookAgain)})
+          ports.main, deletion, {.dismiss = std::move(owner.dismiss), .reloadList = std::move(owner.reloadList)})
     , currentMaintenance(*this, std::move(shown))
     , editedScheduledFor(
           std::make_shared<DateTimePicker>(DateTimePicker::Ports{ports.clock, ports.locale}, ports.clock.now()))

@@ -42,7 +42,7 @@ public:
         /// Closes the screen.
         std::function<void()> dismiss;
         /// Called when it is unknown whether a write took effect: fetches the list again.
-        std::function<void()> lookAgain = {};
+        std::function<void()> reloadList = {};
     };
 
     MaintenanceDetailView(Ports ports, model::Maintenance maintenance, Owner owner);

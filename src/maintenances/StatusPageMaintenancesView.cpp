@@ -42,7 +42,7 @@ MaintenanceDetailView::Owner StatusPageMaintenancesView::ownerOf(const std::stri
                 }),
         .onDelete = whileAlive(view, &StatusPageMaintenancesView::onDelete),
         .dismiss = whileAlive(view, [opened](StatusPageMaintenancesView& self) { self.dismiss(opened); }),
-        .lookAgain = whileAlive(view, [](StatusPageMaintenancesView& self) { self.viewModel->load(); })};
+        .reloadList = whileAlive(view, [](StatusPageMaintenancesView& self) { self.viewModel->load(); })};
 }
 
 void StatusPageMaintenancesView::onDelete(const Maintenance& deleted)
@@ -76,7 +76,7 @@ CreateMaintenanceView::Owner StatusPageMaintenancesView::ownerOfForm()
                     self.viewModel->maintenances.insertFirst(created);
                 }),
         .dismiss = whileAlive(view, [](StatusPageMaintenancesView& self) { self.showCreateSheet.close(); }),
-        .lookAgain = whileAlive(view, [](StatusPageMaintenancesView& self) { self.viewModel->load(); })};
+        .reloadList = whileAlive(view, [](StatusPageMaintenancesView& self) { self.viewModel->load(); })};
 }
 
 }  // namespace larkspan::maintenances

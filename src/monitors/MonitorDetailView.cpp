@@ -18,7 +18,7 @@ using support::Task;
 
 MonitorDetailView::MonitorDetailView(Ports ports, Monitor monitor, Owner owner)
     : currentMonitor(*this, std::move(monitor))
-    , action(std::make_shared<presentation::RunningAction>(ports.main, std::move(owner.lookAgain)))
+    , action(std::make_shared<presentation::RunningAction>(ports.main, std::move(owner.reloadList)))
     , ports_(std::move(ports))
     , onUpdate_(std::move(owner.onUpdate))
 {

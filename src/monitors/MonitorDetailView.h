@@ -36,7 +36,7 @@ public:
     struct Owner {
         std::function<void(const model::Monitor&)> onUpdate;
         /// Called when it is unknown whether a write took effect: fetches the list again.
-        std::function<void()> lookAgain = {};
+        std::function<void()> reloadList = {};
     };
 
     using DetailAction = MonitorAction;

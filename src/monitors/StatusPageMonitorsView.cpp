@@ -95,7 +95,7 @@ void StatusPageMonitorsView::openMonitor(const std::string& id)
                                        [](StatusPageMonitorsView& self, const Monitor& refreshed) {
                                            self.viewModel->monitors.replace(refreshed);
                                        }),
-        .lookAgain = whileAlive(view, [](StatusPageMonitorsView& self) { self.viewModel->load(); })};
+        .reloadList = whileAlive(view, [](StatusPageMonitorsView& self) { self.viewModel->load(); })};
     presentedMonitor.open(std::make_shared<MonitorDetailView>(std::move(ports), *opened, std::move(owner)));
 }
 

@@ -10,7 +10,7 @@
 namespace larkspan::adapters {
 
 /// The largest body that the program accepts, in bytes.
-inline constexpr std::size_t largestBodyTaken = 16 * 1024 * 1024;
+inline constexpr std::size_t largestAcceptedBody = 16 * 1024 * 1024;
 
 /// The limits and the trust of a transport; the defaults are the program's.
 struct TransportSettings {
@@ -21,7 +21,7 @@ struct TransportSettings {
     std::chrono::milliseconds idleTimeout = std::chrono::seconds(30);
 
     /// The largest size of a body after decompression, in bytes.
-    std::size_t largestBody = largestBodyTaken;
+    std::size_t largestBody = largestAcceptedBody;
 
     /// How long a read waits for the connection that another one uses before it gets a new one.
     std::chrono::milliseconds patience{500};

@@ -147,7 +147,7 @@ QAccessibleInterface* accessOf(const QString& className, QObject* object)
 
 }  // namespace
 
-void tellAccessibilityWhatIsOutOfReach()
+void reportUnreachableItems()
 {
     QAccessible::installFactory(accessOf);
 }

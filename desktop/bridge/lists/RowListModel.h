@@ -69,7 +69,7 @@ void RowListModel<Value>::update(std::vector<Row> wanted)
 {
     if (wanted == rows_) return;
     auto places = wantedPlaces(idsOf(rows_), idsOf(wanted));
-    if (isCheaperAnew(places, wanted.size())) {
+    if (isResetCheaper(places, wanted.size())) {
         beginResetModel();
         rows_ = std::move(wanted);
         endResetModel();

@@ -49,7 +49,7 @@ std::vector<std::optional<std::size_t>> wantedPlaces(
     return places;
 }
 
-bool isCheaperAnew(const std::vector<std::optional<std::size_t>>& places, std::size_t wanted)
+bool isResetCheaper(const std::vector<std::optional<std::size_t>>& places, std::size_t wanted)
 {
     constexpr std::size_t mostRuns = 200;
 

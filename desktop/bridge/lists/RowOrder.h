@@ -32,7 +32,7 @@ inline constexpr std::size_t mostRowsMoved = 2'000'000;
 
 /// Whether so many runs of rows are inserted and removed in such a long list that resetting it is cheaper than
 /// patching.
-bool isCheaperAnew(const std::vector<std::optional<std::size_t>>& places, std::size_t wanted);
+bool isResetCheaper(const std::vector<std::optional<std::size_t>>& places, std::size_t wanted);
 
 /// Moves the element at `from` to before the one at `to`.
 template <typename Elements>

@@ -5,7 +5,7 @@
 namespace larkspan::bridge {
 
 DashboardBridge::DashboardBridge(
-    std::shared_ptr<workspace::Dashboard> dashboard, const ScreenUpdates& updates, QObject* parent)
+    std::shared_ptr<workspace::DashboardView> dashboard, const ScreenUpdates& updates, QObject* parent)
     : ScreenBridge(updates, parent)
     , dashboard_(std::move(dashboard))
     , updates_(updates)
@@ -33,7 +33,7 @@ int DashboardBridge::selectedRow() const
 QStringList DashboardBridge::refreshIntervalLabels() const
 {
     QStringList labels;
-    for (const auto interval : workspace::Dashboard::refreshIntervals) {
+    for (const auto interval : workspace::DashboardView::refreshIntervals) {
         labels << QString::fromStdString(workspace::refreshIntervalLabel(interval));
     }
     return labels;
@@ -41,7 +41,7 @@ QStringList DashboardBridge::refreshIntervalLabels() const
 
 void DashboardBridge::chooseRefreshInterval(int choice)
 {
-    dashboard_->chooseRefreshInterval(workspace::Dashboard::refreshIntervals.at(static_cast<std::size_t>(choice)));
+    dashboard_->chooseRefreshInterval(workspace::DashboardView::refreshIntervals.at(static_cast<std::size_t>(choice)));
 }
 
 }  // namespace larkspan::bridge

@@ -14,11 +14,11 @@
 #include "bridge/values/StatusPageRowValue.h"
 #include "bridge/workspace/SettingsBridge.h"
 #include "bridge/workspace/StatusPageDetailBridge.h"
-#include "workspace/Dashboard.h"
+#include "workspace/DashboardView.h"
 
 namespace larkspan::bridge {
 
-/// The dashboard's state for QML; texts and decisions are those of `workspace::Dashboard`.
+/// The dashboard's state for QML; texts and decisions are those of `workspace::DashboardView`.
 class DashboardBridge : public ScreenBridge {
     Q_OBJECT
     QML_ELEMENT
@@ -43,16 +43,16 @@ class DashboardBridge : public ScreenBridge {
 
 public:
     DashboardBridge(
-        std::shared_ptr<workspace::Dashboard> dashboard, const ScreenUpdates& updates, QObject* parent = nullptr);
+        std::shared_ptr<workspace::DashboardView> dashboard, const ScreenUpdates& updates, QObject* parent = nullptr);
 
-    QString windowTitle() const { return words(workspace::Dashboard::windowTitle); }
+    QString windowTitle() const { return words(workspace::DashboardView::windowTitle); }
     bool showsList() const { return dashboard_->content() == presentation::Content::records; }
     const MarkerValue& status() const { return status_; }
-    QString listHeading() const { return words(workspace::Dashboard::listHeading); }
+    QString listHeading() const { return words(workspace::DashboardView::listHeading); }
     ListModel* rows() { return &rows_; }
     int selectedRow() const;
     bool showsRefreshFailure() const { return dashboard_->showsRefreshFailure(); }
-    QString refreshFailedText() const { return words(workspace::Dashboard::refreshFailedText); }
+    QString refreshFailedText() const { return words(workspace::DashboardView::refreshFailedText); }
     bool isRefreshEnabled() const { return dashboard_->isRefreshEnabled(); }
     QStringList refreshIntervalLabels() const;
     SettingsBridge* settings() const { return settings_.get(); }
@@ -68,13 +68,13 @@ public:
 private:
     void readState() override;
 
-    std::shared_ptr<workspace::Dashboard> dashboard_;
+    std::shared_ptr<workspace::DashboardView> dashboard_;
     const ScreenUpdates& updates_;
     PlaceholderValue placeholder_;
     HeadlineValue headline_;
     MarkerValue status_;
     RowListModel<StatusPageRowValue> rows_;
-    ChildScreen<SettingsBridge, workspace::Settings> settings_;
+    ChildScreen<SettingsBridge, workspace::SettingsView> settings_;
     ChildScreen<StatusPageDetailBridge, workspace::StatusPageDetailView> openedPage_;
 };
 

@@ -5,7 +5,7 @@
 namespace larkspan::bridge {
 
 SettingsBridge::SettingsBridge(
-    std::shared_ptr<workspace::Settings> settings, const ScreenUpdates& updates, QObject* parent)
+    std::shared_ptr<workspace::SettingsView> settings, const ScreenUpdates& updates, QObject* parent)
     : ScreenBridge(updates, parent)
     , settings_(std::move(settings))
 {

@@ -7,12 +7,12 @@
 #include "bridge/screens/ScreenBridge.h"
 #include "bridge/values/ConfirmationValue.h"
 #include "bridge/values/MarkerValue.h"
-#include "workspace/Settings.h"
+#include "workspace/SettingsView.h"
 
 namespace larkspan::bridge {
 
-/// The settings sheet's state for QML; texts and decisions are those of `workspace::Settings`. The key is only taken,
-/// never given back: no property contains it.
+/// The settings sheet's state for QML; texts and decisions are those of `workspace::SettingsView`. The key is only
+/// taken, never given back: no property contains it.
 class SettingsBridge : public ScreenBridge {
     Q_OBJECT
     QML_ELEMENT
@@ -34,18 +34,18 @@ class SettingsBridge : public ScreenBridge {
 
 public:
     SettingsBridge(
-        std::shared_ptr<workspace::Settings> settings, const ScreenUpdates& updates, QObject* parent = nullptr);
+        std::shared_ptr<workspace::SettingsView> settings, const ScreenUpdates& updates, QObject* parent = nullptr);
 
     bool holdsKey() const { return !settings_->apiKey->empty(); }
     bool hasExistingKey() const { return *settings_->hasExistingKey; }
     bool showsSavedKey() const { return settings_->showsSavedKey(); }
     bool showsField() const { return settings_->showsField(); }
-    int longestEntry() const { return static_cast<int>(workspace::Settings::longestKey) + 1; }
+    int longestEntry() const { return static_cast<int>(workspace::SettingsView::longestKey) + 1; }
     bool isSaveEnabled() const { return settings_->isSaveEnabled(); }
     bool showsDeleteConfirmation() const { return *settings_->showDeleteConfirmation; }
     ConfirmationValue deleteConfirmation() const
     {
-        return ConfirmationValue::of(workspace::Settings::deleteConfirmation);
+        return ConfirmationValue::of(workspace::SettingsView::deleteConfirmation);
     }
     MarkerValue marker() const { return MarkerValue::of(settings_->marker()); }
     MarkerValue refusal() const { return MarkerValue::of(settings_->refusal()); }
@@ -59,7 +59,7 @@ public:
     Q_INVOKABLE void deleteKey() { settings_->deleteKey(); }
 
 private:
-    std::shared_ptr<workspace::Settings> settings_;
+    std::shared_ptr<workspace::SettingsView> settings_;
 };
 
 }  // namespace larkspan::bridge

@@ -6,11 +6,11 @@
 
 #include <memory>
 
-#include "bridge/components/ComponentListBridge.h"
-#include "bridge/incidents/IncidentListBridge.h"
+#include "bridge/components/StatusPageComponentsBridge.h"
+#include "bridge/incidents/StatusPageIncidentsBridge.h"
 #include "bridge/lists/RowListModel.h"
-#include "bridge/maintenances/MaintenanceListBridge.h"
-#include "bridge/monitors/MonitorListBridge.h"
+#include "bridge/maintenances/StatusPageMaintenancesBridge.h"
+#include "bridge/monitors/StatusPageMonitorsBridge.h"
 #include "bridge/screens/ChildScreen.h"
 #include "bridge/screens/ScreenBridge.h"
 #include "bridge/values/ActivityRowValue.h"
@@ -40,13 +40,13 @@ class StatusPageDetailBridge : public ScreenBridge {
     Q_PROPERTY(QList<larkspan::bridge::FactValue> uptime MEMBER uptime_ NOTIFY changed)
     Q_PROPERTY(QString moreUptime MEMBER moreUptime_ NOTIFY changed)
     /// The screen of the tab "Incidents"; null while another is selected.
-    Q_PROPERTY(larkspan::bridge::IncidentListBridge* incidents READ incidents NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::StatusPageIncidentsBridge* incidents READ incidents NOTIFY changed)
     /// The screen of the tab "Monitors"; null while another is selected.
-    Q_PROPERTY(larkspan::bridge::MonitorListBridge* monitors READ monitors NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::StatusPageMonitorsBridge* monitors READ monitors NOTIFY changed)
     /// The screen of the tab "Components"; null while another is selected.
-    Q_PROPERTY(larkspan::bridge::ComponentListBridge* components READ components NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::StatusPageComponentsBridge* components READ components NOTIFY changed)
     /// The screen of the tab "Maintenances"; null while another is selected.
-    Q_PROPERTY(larkspan::bridge::MaintenanceListBridge* maintenances READ maintenances NOTIFY changed)
+    Q_PROPERTY(larkspan::bridge::StatusPageMaintenancesBridge* maintenances READ maintenances NOTIFY changed)
 
 public:
     StatusPageDetailBridge(
@@ -58,10 +58,10 @@ public:
     int selectedTab() const { return static_cast<int>(view_->selectedTab()); }
     bool isOverview() const { return view_->selectedTab() == workspace::StatusPageDetailView::Tab::overview; }
     ListModel* activity() { return &activity_; }
-    IncidentListBridge* incidents() const { return incidents_.get(); }
-    MonitorListBridge* monitors() const { return monitors_.get(); }
-    ComponentListBridge* components() const { return components_.get(); }
-    MaintenanceListBridge* maintenances() const { return maintenances_.get(); }
+    StatusPageIncidentsBridge* incidents() const { return incidents_.get(); }
+    StatusPageMonitorsBridge* monitors() const { return monitors_.get(); }
+    StatusPageComponentsBridge* components() const { return components_.get(); }
+    StatusPageMaintenancesBridge* maintenances() const { return maintenances_.get(); }
 
     Q_INVOKABLE void select(int tab);
     Q_INVOKABLE void selectNext() { view_->selectNext(); }
@@ -81,10 +81,10 @@ private:
     QString about_;
     QList<FactValue> uptime_;
     QString moreUptime_;
-    ChildScreen<IncidentListBridge, incidents::StatusPageIncidentsView> incidents_;
-    ChildScreen<MonitorListBridge, monitors::StatusPageMonitorsView> monitors_;
-    ChildScreen<ComponentListBridge, components::StatusPageComponentsView> components_;
-    ChildScreen<MaintenanceListBridge, maintenances::StatusPageMaintenancesView> maintenances_;
+    ChildScreen<StatusPageIncidentsBridge, incidents::StatusPageIncidentsView> incidents_;
+    ChildScreen<StatusPageMonitorsBridge, monitors::StatusPageMonitorsView> monitors_;
+    ChildScreen<StatusPageComponentsBridge, components::StatusPageComponentsView> components_;
+    ChildScreen<StatusPageMaintenancesBridge, maintenances::StatusPageMaintenancesView> maintenances_;
 };
 
 }  // namespace larkspan::bridge

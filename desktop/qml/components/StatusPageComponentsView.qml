@@ -4,7 +4,7 @@ import Larkspan.Bridge
 
 ListArea {
     id: view
-    required property ComponentListBridge components
+    required property StatusPageComponentsBridge components
 
     list: components
 

@@ -5,7 +5,7 @@ import Larkspan.Bridge
 ScreenFrame {
     id: view
     required property DashboardBridge dashboard
-    required property MenuBridge menu
+    required property StatusMenuBridge menu
 
     title: dashboard.windowTitle
     isTitleDispensable: true
@@ -32,7 +32,7 @@ ScreenFrame {
             enabled: view.dashboard.isRefreshEnabled
             onClicked: view.dashboard.refresh()
         },
-        AppMenuButton {
+        StatusMenuButton {
             menu: view.menu
         }
     ]

@@ -4,7 +4,7 @@ import Larkspan.Bridge
 
 ListArea {
     id: view
-    required property IncidentListBridge incidents
+    required property StatusPageIncidentsBridge incidents
 
     list: incidents
 

@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-NewEventSheet {
+EventFormSheet {
     id: sheet
     required property CreateMaintenanceBridge maintenance
 

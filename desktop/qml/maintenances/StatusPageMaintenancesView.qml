@@ -4,7 +4,7 @@ import Larkspan.Bridge
 
 ListArea {
     id: view
-    required property MaintenanceListBridge maintenances
+    required property StatusPageMaintenancesBridge maintenances
 
     list: maintenances
     hasBoldTitle: false

@@ -5,7 +5,7 @@ import Larkspan.Bridge
 // The opened part of a monitor's row: its metrics, or what is shown in their place.
 Column {
     id: expanded
-    required property MonitorMetricsBridge metrics
+    required property MonitorRowBridge metrics
     required property bool isCurrent
 
     spacing: Theme.unit

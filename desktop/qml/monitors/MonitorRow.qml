@@ -8,7 +8,7 @@ CardRow {
     id: delegate
     required property monitorRow row
     // The opened part; null for a row that was never opened.
-    property MonitorMetricsBridge metrics
+    property MonitorRowBridge metrics
     signal disclosed
     signal commanded(button: string)
 

@@ -4,7 +4,7 @@ import Larkspan.Bridge
 
 ListArea {
     id: view
-    required property MonitorListBridge monitors
+    required property StatusPageMonitorsBridge monitors
 
     list: monitors
 

@@ -33,7 +33,7 @@ FocusScope {
     }
     RecordPage {
         id: incidentPage
-        readonly property IncidentListBridge incidents: pages.dashboard.openedPage ? pages.dashboard.openedPage.incidents : null
+        readonly property StatusPageIncidentsBridge incidents: pages.dashboard.openedPage ? pages.dashboard.openedPage.incidents : null
         readonly property IncidentDetailBridge incident: incidents ? incidents.detail : null
 
         record: incident
@@ -44,7 +44,7 @@ FocusScope {
     }
     PushedPage {
         id: monitorPage
-        readonly property MonitorListBridge monitors: pages.dashboard.openedPage ? pages.dashboard.openedPage.monitors : null
+        readonly property StatusPageMonitorsBridge monitors: pages.dashboard.openedPage ? pages.dashboard.openedPage.monitors : null
         readonly property MonitorDetailBridge monitor: monitors ? monitors.detail : null
 
         isShown: monitor !== null
@@ -57,7 +57,7 @@ FocusScope {
     }
     RecordPage {
         id: componentPage
-        readonly property ComponentListBridge components: pages.dashboard.openedPage ? pages.dashboard.openedPage.components : null
+        readonly property StatusPageComponentsBridge components: pages.dashboard.openedPage ? pages.dashboard.openedPage.components : null
         readonly property ComponentDetailBridge detail: components ? components.detail : null
 
         record: detail
@@ -68,7 +68,7 @@ FocusScope {
     }
     RecordPage {
         id: maintenancePage
-        readonly property MaintenanceListBridge maintenances: pages.dashboard.openedPage ? pages.dashboard.openedPage.maintenances : null
+        readonly property StatusPageMaintenancesBridge maintenances: pages.dashboard.openedPage ? pages.dashboard.openedPage.maintenances : null
         readonly property MaintenanceDetailBridge maintenance: maintenances ? maintenances.detail : null
 
         record: maintenance

@@ -32,7 +32,7 @@ void EditableDetail::closeEditor()
 {
     showDiscardConfirmation = false;
     isEditing = false;
-    letGo();
+    runPendingLeave();
 }
 
 void EditableDetail::leave()

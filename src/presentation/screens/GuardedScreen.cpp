@@ -5,7 +5,7 @@
 namespace larkspan::presentation {
 
 GuardedScreen::GuardedScreen(platform::Executor& main, Owner owner)
-    : action(std::make_shared<RunningAction>(main, std::move(owner.lookAgain)))
+    : action(std::make_shared<RunningAction>(main, std::move(owner.reloadList)))
     , dismiss_(std::move(owner.dismiss))
 {
 }
@@ -48,10 +48,10 @@ void GuardedScreen::dismiss()
 {
     isDismissed_ = true;
     dismiss_();
-    letGo();
+    runPendingLeave();
 }
 
-void GuardedScreen::letGo()
+void GuardedScreen::runPendingLeave()
 {
     if (const auto leave = std::exchange(leaveFor_, nullptr)) leave();
 }
@@ -63,7 +63,7 @@ void GuardedScreen::discardChanges()
     showDiscardConfirmation = false;
     // An action that removes the whole screen does not need it closed, which it may refuse while a request runs.
     if (leaveFor_)
-        letGo();
+        runPendingLeave();
     else
         close();
 }

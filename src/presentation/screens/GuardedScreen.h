@@ -49,14 +49,14 @@ protected:
         std::function<void()> dismiss;
         /// Called when it is unknown whether a write took effect: fetches the list from which the screen was opened
         /// again.
-        std::function<void()> lookAgain;
+        std::function<void()> reloadList;
     };
 
     GuardedScreen(platform::Executor& main, Owner owner);
 
     void dismiss();
     /// Performs the action that was waiting, because nothing would be lost any more.
-    void letGo();
+    void runPendingLeave();
 
     /// `screen` as a pointer for its requests to hold.
     template <typename Screen>

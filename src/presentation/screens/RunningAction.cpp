@@ -10,9 +10,9 @@ namespace larkspan::presentation {
 
 using support::Task;
 
-RunningAction::RunningAction(platform::Executor& main, std::function<void()> lookAgain)
+RunningAction::RunningAction(platform::Executor& main, std::function<void()> reloadList)
     : main_(main)
-    , lookAgain_(std::move(lookAgain))
+    , lookAgain_(std::move(reloadList))
 {
 }
 
@@ -34,7 +34,7 @@ Task<void> RunningAction::carryOut(std::shared_ptr<RunningAction> self, Task<voi
     }
     if (failure) self->alert.raise(support::localizedDescription(failure));
     self->isInProgress = false;
-    if (failure && self->lookAgain_ && api::mayHaveTakenPlace(failure)) self->lookAgain_();
+    if (failure && self->lookAgain_ && api::mayHaveTakenEffect(failure)) self->lookAgain_();
 }
 
 }  // namespace larkspan::presentation

@@ -14,8 +14,8 @@ namespace larkspan::presentation {
 /// only; a running action may outlive the screen that started it.
 class RunningAction final : public support::Observable, public std::enable_shared_from_this<RunningAction> {
 public:
-    /// `lookAgain` is called if an action has failed but may have taken effect.
-    explicit RunningAction(platform::Executor& main, std::function<void()> lookAgain = {});
+    /// `reloadList` is called if an action has failed but may have taken effect.
+    explicit RunningAction(platform::Executor& main, std::function<void()> reloadList = {});
 
     support::Published<bool> isInProgress{*this, false};
     FailureAlert alert{*this};

@@ -88,7 +88,7 @@ void DateTimePicker::chooseDay(int id)
     choose(local_days(std::chrono::days(id)), timeOfDay());
 }
 
-local_days DateTimePicker::dayInSight() const
+local_days DateTimePicker::visibleDay() const
 {
     const auto weeks = weeksOf(*shownMonth, ports_.locale.firstDayOfWeek());
     return day() >= weeks.front() && day() <= weeks.back() ? day() : local_days(*shownMonth / 1);
@@ -96,22 +96,22 @@ local_days DateTimePicker::dayInSight() const
 
 void DateTimePicker::moveDays(int count)
 {
-    choose(dayInSight() + std::chrono::days(count), timeOfDay());
+    choose(visibleDay() + std::chrono::days(count), timeOfDay());
 }
 
 void DateTimePicker::moveMonths(int count)
 {
-    choose(monthsLater(dayInSight(), count), timeOfDay());
+    choose(monthsLater(visibleDay(), count), timeOfDay());
 }
 
 void DateTimePicker::moveToBeginOfWeek()
 {
-    choose(beginOfWeek(dayInSight(), ports_.locale.firstDayOfWeek()), timeOfDay());
+    choose(beginOfWeek(visibleDay(), ports_.locale.firstDayOfWeek()), timeOfDay());
 }
 
 void DateTimePicker::moveToEndOfWeek()
 {
-    choose(beginOfWeek(dayInSight(), ports_.locale.firstDayOfWeek()) + std::chrono::days(6), timeOfDay());
+    choose(beginOfWeek(visibleDay(), ports_.locale.firstDayOfWeek()) + std::chrono::days(6), timeOfDay());
 }
 
 ClockFace DateTimePicker::face() const

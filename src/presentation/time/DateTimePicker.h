@@ -67,7 +67,7 @@ public:
 private:
     ClockFace face() const;
     std::chrono::local_days day() const { return ports_.locale.day(*moment); }
-    std::chrono::local_days dayInSight() const;
+    std::chrono::local_days visibleDay() const;
     std::chrono::minutes timeOfDay() const;
     int hourOfDay() const { return static_cast<int>(timeOfDay() / std::chrono::hours(1)); }
     int minuteOfHour() const { return static_cast<int>(timeOfDay().count()) % 60; }

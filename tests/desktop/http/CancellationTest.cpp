@@ -100,7 +100,7 @@ TEST_F(Transport, GivesTheTurnOfACancelledReadToTheNext)
     EXPECT_THAT(second.get(), answers(200));
 }
 
-TEST_F(Transport, TakesAStopAfterTheEndForNothing)
+TEST_F(Transport, IgnoresAStopAfterTheEnd)
 {
     FaultServer server(identity(), [](Conversation& peer, const auto&) { peer.answer("200 OK"); });
     std::stop_source stop;
@@ -121,7 +121,7 @@ TEST_F(Transport, CompletesOnceWhenAStopRacesWithTheAnswer)
     }
 }
 
-TEST_F(Transport, DropsCompletionsUncalledWhenItGoesAndWithinMilliseconds)
+TEST_F(Transport, DropsCompletionsUncalledWhenItIsDestroyedAndWithinMilliseconds)
 {
     FaultServer server(identity(), hangs);
     auto running = begin(get(server.url()));

@@ -97,7 +97,7 @@ TEST_F(TimeLimit, OfSilenceEndsABodyThatStops)
     expectTimeOut(get(server.url()), 100ms);
 }
 
-TEST_F(TimeLimit, OfSilenceBeginsAnewWithEachByteOfHeadAndBody)
+TEST_F(TimeLimit, OfSilenceStartsAgainWithEachByteOfHeadAndBody)
 {
     settings.idleTimeout = 600ms;
     FaultServer server(identity(), drips("HTTP/1.1 200 OK\r\nX: y\r\nContent-Length: 9\r\n\r\n123456789", 20ms));

@@ -118,7 +118,7 @@ TEST(WithoutASessionBus, ANoticeIsDropped)
     turnFor(20ms);
 }
 
-TEST(ABusThatEnds, TakesNothingWithIt)
+TEST(ABusThatEnds, DoesNotEndTheProgram)
 {
     peers::PrivateBus bus;
     FreedesktopNotificationCenter center(bus.connect(), deadline);

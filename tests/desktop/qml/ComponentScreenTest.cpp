@@ -21,7 +21,7 @@ TEST_F(ComponentsOnScreen, AreRowsUnderTheHeadingsOfTheirSections)
     EXPECT_TRUE(names(Role::StaticText).contains(QStringLiteral("Serves all.")));
 }
 
-TEST_F(ComponentsOnScreen, AHeadingIsPassedByWhicheverKeyGoesThroughTheRows)
+TEST_F(ComponentsOnScreen, AHeadingIsSkippedByEveryKeyThatMovesThroughTheRows)
 {
     item(Role::List, QStringLiteral("Components")).forceActiveFocus(Qt::TabFocusReason);
     QStringList met{focused()};

@@ -21,8 +21,8 @@ protected:
     api::APIKeyStore keys{client, credentials};
     fakes::FakeLocaleText locale;
     fakes::FakeLinkOpener links;
-    std::shared_ptr<workspace::Dashboard> dashboard = std::make_shared<workspace::Dashboard>(
-        workspace::Dashboard::Ports{main, timers, clock, credentials, keys, state, locale, links, api});
+    std::shared_ptr<workspace::DashboardView> dashboard = std::make_shared<workspace::DashboardView>(
+        workspace::DashboardView::Ports{main, timers, clock, credentials, keys, state, locale, links, api});
     ScreenUpdates updatesOfWindow{main};
 };
 

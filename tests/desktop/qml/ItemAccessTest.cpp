@@ -9,9 +9,9 @@ namespace larkspan {
 namespace {
 
 /// A window with a button, covered by a sheet with a button and by an alert.
-class WhatAScreenReaderIsTold : public testing::Test, public KitWindow {
+class AccessibleState : public testing::Test, public KitWindow {
 protected:
-    WhatAScreenReaderIsTold()
+    AccessibleState()
         : KitWindow(QStringLiteral(R"(
             property bool isEnabled: true
             property bool showsSheet: false
@@ -67,7 +67,7 @@ protected:
     bool shows(const char* name) const { return !stateOf(name).offscreen && !stateOf(name).invisible; }
 };
 
-TEST_F(WhatAScreenReaderIsTold, AnItemIsDisabledWhileItOrWhatItStandsInIs)
+TEST_F(AccessibleState, AnItemIsDisabledWhileItOrWhatItStandsInIs)
 {
     EXPECT_FALSE(isDisabled("below"));
     setProperty("isEnabled", false);
@@ -77,7 +77,7 @@ TEST_F(WhatAScreenReaderIsTold, AnItemIsDisabledWhileItOrWhatItStandsInIs)
     EXPECT_FALSE(isDisabled("below"));
 }
 
-TEST_F(WhatAScreenReaderIsTold, WhatASheetCoversDoesNotShowUntilItIsGone)
+TEST_F(AccessibleState, WhatASheetCoversDoesNotShowUntilItIsGone)
 {
     EXPECT_TRUE(shows("below"));
     setProperty("showsSheet", true);
@@ -88,7 +88,7 @@ TEST_F(WhatAScreenReaderIsTold, WhatASheetCoversDoesNotShowUntilItIsGone)
     EXPECT_TRUE(shows("below"));
 }
 
-TEST_F(WhatAScreenReaderIsTold, AnAlertCoversTheSheetBeneathIt)
+TEST_F(AccessibleState, AnAlertCoversTheSheetBeneathIt)
 {
     setProperty("showsSheet", true);
     setProperty("showsAlert", true);
@@ -98,7 +98,7 @@ TEST_F(WhatAScreenReaderIsTold, AnAlertCoversTheSheetBeneathIt)
     EXPECT_TRUE(shows("inSheet"));
 }
 
-TEST_F(WhatAScreenReaderIsTold, AMenuOverASheetCoversNothing)
+TEST_F(AccessibleState, AMenuOverASheetCoversNothing)
 {
     setProperty("showsSheet", true);
     setProperty("showsMenu", true);
@@ -107,7 +107,7 @@ TEST_F(WhatAScreenReaderIsTold, AMenuOverASheetCoversNothing)
     EXPECT_FALSE(shows("below"));
 }
 
-TEST_F(WhatAScreenReaderIsTold, PressingWhatIsDisabledDoesNothing)
+TEST_F(AccessibleState, PressingWhatIsDisabledDoesNothing)
 {
     QStringList all;
     for (const auto* const name : {"below", "tool", "pressable", "row"}) {
@@ -118,7 +118,7 @@ TEST_F(WhatAScreenReaderIsTold, PressingWhatIsDisabledDoesNothing)
     }
 }
 
-TEST_F(WhatAScreenReaderIsTold, PressingWhatASheetCoversDoesNothing)
+TEST_F(AccessibleState, PressingWhatASheetCoversDoesNothing)
 {
     setProperty("showsSheet", true);
     EXPECT_EQ(pressed("below"), QStringList());
@@ -127,7 +127,7 @@ TEST_F(WhatAScreenReaderIsTold, PressingWhatASheetCoversDoesNothing)
     EXPECT_EQ(pressed("below"), (QStringList{"inSheet", "below"}));
 }
 
-TEST_F(WhatAScreenReaderIsTold, AnItemHasTheRoleTheNameTheActionsAndTheParentThatQtGivesIt)
+TEST_F(AccessibleState, AnItemHasTheRoleTheNameTheActionsAndTheParentThatQtGivesIt)
 {
     auto* const access = QAccessible::queryAccessibleInterface(&item(QStringLiteral("below")));
     EXPECT_EQ(access->role(), QAccessible::Button);

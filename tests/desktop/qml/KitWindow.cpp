@@ -13,7 +13,7 @@ namespace larkspan {
 KitWindow::KitWindow(const QString& body)
 {
     // As the program does, before anything asks for an item's accessible interface.
-    bridge::tellAccessibilityWhatIsOutOfReach();
+    bridge::reportUnreachableItems();
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
     QQmlComponent component(&engine_);
     const auto text

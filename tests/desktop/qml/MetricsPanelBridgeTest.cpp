@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "api/KestruneAPI.h"
-#include "bridge/monitors/MonitorMetricsBridge.h"
+#include "bridge/monitors/MonitorRowBridge.h"
 #include "fakes/FakeLocaleText.h"
 #include "fakes/ScriptedService.h"
 
@@ -46,7 +46,7 @@ protected:
     std::shared_ptr<monitors::MonitorRowView> row
         = std::make_shared<monitors::MonitorRowView>(monitors::MonitorRowView::Ports{main, api, locale}, "7");
     ScreenUpdates updates{main};
-    MonitorMetricsBridge bridge{row, updates};
+    MonitorRowBridge bridge{row, updates};
 };
 
 TEST_F(MetricsForScreens, TellOfASelectionAndOfNothingElse)

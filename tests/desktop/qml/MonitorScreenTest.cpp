@@ -213,7 +213,7 @@ TEST_F(MonitorsOnScreen, WhileAnActionRunsOnItsOwnScreenNoKeyLeavesIt)
     EXPECT_EQ(names(Role::ListItem), (QStringList{"Gateway", "Mail"}));
 }
 
-TEST_F(MonitorsOnScreen, TheListAndItsPageCanBeLeftInMidRequest)
+TEST_F(MonitorsOnScreen, TheListAndItsPageCanBeLeftDuringARequest)
 {
     choose("Show latency graph");
     choose("Check Now");

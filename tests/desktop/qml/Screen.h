@@ -12,7 +12,7 @@
 #include "fakes/FakeLocaleText.h"
 #include "fakes/PolledAccount.h"
 #include "qml/MainWindow.h"
-#include "workspace/Dashboard.h"
+#include "workspace/DashboardView.h"
 
 namespace larkspan {
 
@@ -58,8 +58,8 @@ public:
     api::APIKeyStore keys{client, credentials};
     fakes::FakeLinkOpener links;
     fakes::FakeLocaleText locale;
-    std::shared_ptr<workspace::Dashboard> dashboard = std::make_shared<workspace::Dashboard>(
-        workspace::Dashboard::Ports{main, timers, clock, credentials, keys, state, locale, links, api});
+    std::shared_ptr<workspace::DashboardView> dashboard = std::make_shared<workspace::DashboardView>(
+        workspace::DashboardView::Ports{main, timers, clock, credentials, keys, state, locale, links, api});
     workspace::AboutKestruneView about{{.shortVersion = "1.2",
                                            .buildNumber = "34",
                                            .websiteAddress = "https://site.example",
@@ -67,7 +67,7 @@ public:
                                            .organisationAddress = "https://source.example"},
         links};
     AboutOwner aboutOwner;
-    bridge::MenuBridge menu{[this] { aboutOwner.showingAbout = true; }};
+    bridge::StatusMenuBridge menu{[this] { aboutOwner.showingAbout = true; }};
     MainWindow mainWindow{{dashboard, updates, about, aboutOwner.showingAbout, aboutOwner, menu}, main};
 };
 

@@ -76,7 +76,7 @@ TEST_F(UpdatesOfAWindow, AChangeThatIsOnItsWayWhenNobodySeesItAnyMoreIsKeptToo)
     EXPECT_EQ(told, 1);
 }
 
-TEST_F(UpdatesOfAWindow, AScreenThatWentBeforeItsNoticeIsNotTold)
+TEST_F(UpdatesOfAWindow, AScreenThatWasDestroyedBeforeItsNoticeIsNotNotified)
 {
     std::optional<ChangeNotice> notice = counting(told);
     notice->announce();

@@ -19,7 +19,7 @@ using Code = platform::URLError::Code;
 template <typename Error>
 bool mayHaveTakenPlaceAfter(const Error& error)
 {
-    return mayHaveTakenPlace(std::make_exception_ptr(error));
+    return mayHaveTakenEffect(std::make_exception_ptr(error));
 }
 
 TEST(OrderOutcome, IsUnknownWhereTheAnswerWasLost)

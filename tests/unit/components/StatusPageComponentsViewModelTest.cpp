@@ -116,7 +116,7 @@ TEST_P(FailedComponents, LeaveBothListsEmptyAlthoughTheGroupsCame)
     expectNothing();
 }
 
-TEST_P(FailedComponents, AreNoNewsIfTheGroupsFailToo)
+TEST_P(FailedComponents, SayTheSameIfTheGroupsFailToo)
 {
     transport.script(listURL, GetParam().answer);
     transport.script(groupsURL, 500, "");

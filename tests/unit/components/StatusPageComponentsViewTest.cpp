@@ -268,7 +268,7 @@ TEST_F(OpenedComponent, ThatIsClosedLeavesTheListAsItIsWithoutAFetch)
     EXPECT_TRUE(transport.requests.empty());
 }
 
-TEST_F(OpenedComponent, ThatIsTakenAwayInMidRequestDoesNotComeBackButItsRowIsPatched)
+TEST_F(OpenedComponent, ThatIsClosedDuringARequestDoesNotComeBackButItsRowIsPatched)
 {
     save();
     view->closeComponent();

@@ -105,7 +105,7 @@ TEST_F(OpenedIncident, ThatIsDeletedClosesAndIsGoneAfterTheLoad)
     EXPECT_EQ(ids(), Words{"2"});
 }
 
-TEST_F(OpenedIncident, ThatIsClosedInMidRequestDoesNotComeBackButItsRowIsBroughtUpToDate)
+TEST_F(OpenedIncident, ThatIsClosedDuringARequestDoesNotComeBackButItsRowIsBroughtUpToDate)
 {
     transport.script(feature + "1/escalate", 200, "{}");
     view->detail()->press("escalate");
@@ -133,7 +133,7 @@ TEST_F(OpenedIncident, ThatIsClosedWhileItIsDeletedIsGoneWhenTheServiceHasDone)
     EXPECT_EQ(ids(), Words{"2"});
 }
 
-TEST_F(OpenedIncident, ThatEndsItsRequestBehindAnotherLeavesThatOneAlone)
+TEST_F(OpenedIncident, WhoseRequestEndsAfterAnotherWasOpenedDoesNotChangeThatOne)
 {
     view->detail()->deleteRecord();
     run();

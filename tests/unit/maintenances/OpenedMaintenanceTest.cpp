@@ -113,7 +113,7 @@ TEST_F(OpenedMaintenance, ThatIsDeletedLosesItsRowAtOnceAndCloses)
     EXPECT_EQ(transport.pending.size(), 1u) << "the list came into sight and is fetched once";
 }
 
-TEST_F(OpenedMaintenance, ThatIsClosedInMidRequestDoesNotComeBackButItsRowIsPatched)
+TEST_F(OpenedMaintenance, ThatIsClosedDuringARequestDoesNotComeBackButItsRowIsPatched)
 {
     view->detail()->startMaintenance();
     run();

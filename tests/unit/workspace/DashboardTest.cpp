@@ -1,4 +1,4 @@
-#include "workspace/Dashboard.h"
+#include "workspace/DashboardView.h"
 
 #include <gtest/gtest.h>
 
@@ -25,7 +25,7 @@ protected:
     api::APIKeyStore keys{client, credentials};
     fakes::FakeLocaleText locale;
     fakes::FakeLinkOpener links;
-    Dashboard dashboard{{main, timers, clock, credentials, keys, state, locale, links, api}};
+    DashboardView dashboard{{main, timers, clock, credentials, keys, state, locale, links, api}};
 };
 
 TEST_F(DashboardScreen, BeforeTheFirstCycleIsEmpty)
@@ -152,7 +152,7 @@ TEST_F(DashboardScreen, AnErrorThatWentInTheMeantimeLeavesNoErrorState)
 
 TEST_F(DashboardScreen, TheListIsHeadedStatusPages)
 {
-    EXPECT_EQ(Dashboard::listHeading, "Status Pages");
+    EXPECT_EQ(DashboardView::listHeading, "Status Pages");
 }
 
 TEST_F(DashboardScreen, ChoosingAnIntervalSetsIt)
@@ -284,7 +284,7 @@ INSTANTIATE_TEST_SUITE_P(EachChoiceAndBoundary, IntervalLabel,
 
 TEST(RefreshIntervals, AreTheFourOffered)
 {
-    EXPECT_EQ(Dashboard::refreshIntervals, (std::array<std::chrono::seconds, 4>{30s, 60s, 120s, 300s}));
+    EXPECT_EQ(DashboardView::refreshIntervals, (std::array<std::chrono::seconds, 4>{30s, 60s, 120s, 300s}));
 }
 
 }  // namespace

@@ -9,7 +9,7 @@
 #include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocaleText.h"
 #include "fakes/PolledAccount.h"
-#include "workspace/Dashboard.h"
+#include "workspace/DashboardView.h"
 
 namespace larkspan::workspace {
 
@@ -49,8 +49,8 @@ protected:
     api::APIKeyStore keys{client, credentials};
     fakes::FakeLocaleText locale;
     fakes::FakeLinkOpener links;
-    std::shared_ptr<Dashboard> dashboard = std::make_shared<Dashboard>(
-        Dashboard::Ports{main, timers, clock, credentials, keys, state, locale, links, api});
+    std::shared_ptr<DashboardView> dashboard = std::make_shared<DashboardView>(
+        DashboardView::Ports{main, timers, clock, credentials, keys, state, locale, links, api});
 };
 
 }  // namespace larkspan::workspace

@@ -1,4 +1,4 @@
-#include "workspace/Settings.h"
+#include "workspace/SettingsView.h"
 
 #include <gtest/gtest.h>
 
@@ -16,19 +16,19 @@ namespace {
 using api::KeychainHelper;
 using platform::HttpResponse;
 using platform::URLError;
-using Kind = Settings::ValidationState::Kind;
+using Kind = SettingsView::ValidationState::Kind;
 
 class SettingsSheet : public testing::Test, public fakes::PolledAccount {
 protected:
-    std::shared_ptr<Settings> opened()
+    std::shared_ptr<SettingsView> opened()
     {
-        auto settings = std::make_shared<Settings>(Settings::Ports{main, state, keys}, [this] { ++deletions; });
+        auto settings = std::make_shared<SettingsView>(SettingsView::Ports{main, state, keys}, [this] { ++deletions; });
         settings->appear();
         run();
         return settings;
     }
 
-    std::shared_ptr<Settings> openedWithoutKey()
+    std::shared_ptr<SettingsView> openedWithoutKey()
     {
         KeychainHelper::deleteAPIKey(credentials);
         return opened();
@@ -36,7 +36,7 @@ protected:
 
     /// The settings without a stored key, after `text` was entered and "Save & Verify" was pressed, as far as that
     /// runs.
-    std::shared_ptr<Settings> enteredWithoutKey(std::string text)
+    std::shared_ptr<SettingsView> enteredWithoutKey(std::string text)
     {
         auto settings = openedWithoutKey();
         settings->edit(std::move(text));
@@ -67,7 +67,7 @@ TEST_F(SettingsSheet, WithoutAStoredKeyShowsTheFieldAndADisabledButton)
 
 TEST_F(SettingsSheet, UntilTheStoreHasAnsweredItShowsThatItLooksAndOffersNoField)
 {
-    const auto settings = std::make_shared<Settings>(Settings::Ports{main, state, keys});
+    const auto settings = std::make_shared<SettingsView>(SettingsView::Ports{main, state, keys});
     settings->appear();
     EXPECT_EQ(settings->search().text, "Looking for your API key...");
     EXPECT_TRUE(settings->search().showsProgress);
@@ -82,7 +82,7 @@ TEST_F(SettingsSheet, UntilTheStoreHasAnsweredItShowsThatItLooksAndOffersNoField
 
 TEST_F(SettingsSheet, TellsTheKeyOfTheDemoAndNoneInTheProgram)
 {
-    const Settings ofTheDemo(Settings::Ports{main, state, keys, "open-sesame"});
+    const SettingsView ofTheDemo(SettingsView::Ports{main, state, keys, "open-sesame"});
     EXPECT_EQ(ofTheDemo.demoHint(),
         (presentation::Marker{.symbol = "info.circle", .text = "The API key of this demo is \"open-sesame\"."}));
     EXPECT_EQ(opened()->demoHint(), presentation::Marker{});
@@ -90,7 +90,7 @@ TEST_F(SettingsSheet, TellsTheKeyOfTheDemoAndNoneInTheProgram)
 
 TEST_F(SettingsSheet, LooksAtTheStoreOnTheClientsThreadOnly)
 {
-    const auto settings = std::make_shared<Settings>(Settings::Ports{main, state, keys});
+    const auto settings = std::make_shared<SettingsView>(SettingsView::Ports{main, state, keys});
     const int readsBefore = credentials.reads;
     settings->appear();
     main.run();
@@ -315,7 +315,7 @@ TEST_F(SettingsSheet, DeletingRemovesTheKeyResetsTheScreenAndTellsItsOpener)
 
 TEST_F(SettingsSheet, DeletingWithNobodyToTellStillDeletesAndResets)
 {
-    const auto settings = std::make_shared<Settings>(Settings::Ports{main, state, keys});
+    const auto settings = std::make_shared<SettingsView>(SettingsView::Ports{main, state, keys});
     settings->appear();
     run();
     settings->deleteKey();
@@ -325,7 +325,7 @@ TEST_F(SettingsSheet, DeletingWithNobodyToTellStillDeletesAndResets)
 }
 
 struct MarkerRow {
-    Settings::ValidationState state;
+    SettingsView::ValidationState state;
     presentation::Marker marker;
 };
 

@@ -53,7 +53,7 @@ TEST(NamedCharacters, AreSortedAndAllThere)
     EXPECT_TRUE(std::ranges::is_sorted(named, {}, &NamedCharacter::name));
 }
 
-TEST(JoiningCharacters, AreSortedAndApart)
+TEST(JoiningCharacters, AreSortedAndDoNotOverlap)
 {
     const auto ranges = joiningCharacters();
     for (std::size_t index = 0; index < ranges.size(); ++index) {

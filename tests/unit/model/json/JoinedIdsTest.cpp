@@ -6,7 +6,7 @@ namespace larkspan::model {
 
 namespace {
 
-TEST(JoinedIds, ArePartedByCommasWithoutBlanksInTheirOrder)
+TEST(JoinedIds, AreSeparatedByCommasWithoutBlanksInTheirOrder)
 {
     EXPECT_EQ(joinedIds({"b", "", "a,c"}), "b,,a,c");
     EXPECT_EQ(joinedIds({"b"}), "b");

@@ -1,4 +1,4 @@
-#include "bridge/menu/MenuBridge.h"
+#include "bridge/menu/StatusMenuBridge.h"
 
 #include <algorithm>
 #include <iterator>
@@ -18,19 +18,19 @@ MenuRow aboutRow()
 
 }  // namespace
 
-MenuBridge::MenuBridge(std::function<void()> showAbout, QObject* parent)
+StatusMenuBridge::StatusMenuBridge(std::function<void()> showAbout, QObject* parent)
     : QObject(parent)
     , showAbout_(std::move(showAbout))
 {
-    MenuBridge::setMenu({});
+    StatusMenuBridge::setMenu({});
 }
 
-void MenuBridge::show(std::function<void(const MenuRow& row)> perform)
+void StatusMenuBridge::show(std::function<void(const MenuRow& row)> perform)
 {
     perform_ = std::move(perform);
 }
 
-void MenuBridge::setMenu(const std::vector<MenuRow>& rows)
+void StatusMenuBridge::setMenu(const std::vector<MenuRow>& rows)
 {
     wanted_.clear();
     wanted_.reserve(rows.size() + 2);
@@ -40,29 +40,29 @@ void MenuBridge::setMenu(const std::vector<MenuRow>& rows)
     follow();
 }
 
-void MenuBridge::setOpen(bool isOpen)
+void StatusMenuBridge::setOpen(bool isOpen)
 {
     isOpen_ = isOpen;
     follow();
 }
 
-void MenuBridge::follow()
+void StatusMenuBridge::follow()
 {
     if (!isOpen_ || hasSameRows(wanted_)) rows_.update(wanted_);
 }
 
-bool MenuBridge::hasSameRows(const std::vector<MenuEntry>& entries) const
+bool StatusMenuBridge::hasSameRows(const std::vector<MenuEntry>& entries) const
 {
     return std::ranges::equal(rows_.rows(), entries, {}, &MenuEntry::id, &MenuEntry::id);
 }
 
-bool MenuBridge::isCommand(int place) const
+bool StatusMenuBridge::isCommand(int place) const
 {
     return place >= 0 && place < rows_.rowCount()
         && rows_.rows()[static_cast<std::size_t>(place)].row.kind == MenuRow::Kind::command;
 }
 
-void MenuBridge::choose(int place)
+void StatusMenuBridge::choose(int place)
 {
     if (!isCommand(place)) return;
     if (place == rows_.rowCount() - 1) return showAbout_();
@@ -71,7 +71,7 @@ void MenuBridge::choose(int place)
     if (perform_) perform_(row);
 }
 
-int MenuBridge::placeOfKey(const QString& key) const
+int StatusMenuBridge::placeOfKey(const QString& key) const
 {
     const auto wanted = key.toLower().toStdString();
     if (wanted.empty()) return -1;
@@ -81,7 +81,7 @@ int MenuBridge::placeOfKey(const QString& key) const
     return found == entries.end() ? -1 : static_cast<int>(found - entries.begin());
 }
 
-int MenuBridge::nextCommand(int place, int step) const
+int StatusMenuBridge::nextCommand(int place, int step) const
 {
     for (int next = place + step; next >= 0 && next < rows_.rowCount(); next += step) {
         if (isCommand(next)) return next;

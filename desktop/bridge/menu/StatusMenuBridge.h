@@ -14,14 +14,14 @@
 namespace larkspan::bridge {
 
 /// The rows of the panel's item for the window's menu button, with the entry for the about box below them.
-class MenuBridge : public QObject, public platform::StatusItem {
+class StatusMenuBridge : public QObject, public platform::StatusItem {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
     Q_PROPERTY(larkspan::bridge::ListModel* rows READ rows CONSTANT)
 
 public:
-    explicit MenuBridge(std::function<void()> showAbout, QObject* parent = nullptr);
+    explicit StatusMenuBridge(std::function<void()> showAbout, QObject* parent = nullptr);
 
     /// Not a panel: these rows are in the window, and are hidden with it.
     bool isShown() const override { return false; }

@@ -29,7 +29,7 @@
 #include "support/Observable.h"
 #include "support/Time.h"
 #include "workspace/DashboardOperationalSummary.h"
-#include "workspace/Settings.h"
+#include "workspace/SettingsView.h"
 #include "workspace/StatusPageDetailView.h"
 #include "workspace/StatusPageRow.h"
 
@@ -37,9 +37,9 @@ namespace larkspan::workspace {
 
 /// The dashboard: its state and its texts. It owns no data; everything comes from the account's state. Main thread
 /// only.
-class Dashboard final : public support::Observable,
-                        public core::QuitGuard,
-                        public std::enable_shared_from_this<Dashboard> {
+class DashboardView final : public support::Observable,
+                            public core::QuitGuard,
+                            public std::enable_shared_from_this<DashboardView> {
 public:
     struct Ports {
         platform::Executor& main;
@@ -59,10 +59,10 @@ public:
     static constexpr std::array<std::chrono::seconds, 4> refreshIntervals{
         std::chrono::seconds(30), std::chrono::seconds(60), std::chrono::seconds(120), std::chrono::seconds(300)};
 
-    explicit Dashboard(Ports ports);
+    explicit DashboardView(Ports ports);
 
     /// The settings sheet.
-    presentation::Opened<Settings> showingSettings{*this};
+    presentation::Opened<SettingsView> showingSettings{*this};
     /// The page that the user has opened, or that the menu has.
     support::Published<std::optional<std::string>> selectedPageId{*this};
     /// The selected page's own screen.
@@ -102,7 +102,7 @@ public:
     /// Called when the sheet has closed in any way; a saved key takes effect now.
     void closeSettings();
     /// The sheet's screen; null while it is closed.
-    const std::shared_ptr<Settings>& settings() const { return showingSettings.screen(); }
+    const std::shared_ptr<SettingsView>& settings() const { return showingSettings.screen(); }
 
 private:
     const core::AppStateManager& state() const { return *ports_.appState; }

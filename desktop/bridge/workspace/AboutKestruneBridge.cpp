@@ -1,10 +1,10 @@
-#include "bridge/workspace/AboutBridge.h"
+#include "bridge/workspace/AboutKestruneBridge.h"
 
 #include "bridge/lists/ValueList.h"
 
 namespace larkspan::bridge {
 
-AboutBridge::AboutBridge(const workspace::AboutKestruneView& about, support::Published<bool>& showing,
+AboutKestruneBridge::AboutKestruneBridge(const workspace::AboutKestruneView& about, support::Published<bool>& showing,
     support::Observable& owner, const ScreenUpdates& updates, QObject* parent)
     : ScreenBridge(updates, parent)
     , about_(about)
@@ -13,22 +13,22 @@ AboutBridge::AboutBridge(const workspace::AboutKestruneView& about, support::Pub
     followChangesOf(owner);
 }
 
-QString AboutBridge::title() const
+QString AboutKestruneBridge::title() const
 {
     return words(workspace::AboutKestruneView::title);
 }
 
-QString AboutBridge::text() const
+QString AboutKestruneBridge::text() const
 {
     return words(workspace::AboutKestruneView::text);
 }
 
-QList<LinkValue> AboutBridge::links() const
+QList<LinkValue> AboutKestruneBridge::links() const
 {
     return valuesOf<LinkValue>(about_.links());
 }
 
-void AboutBridge::openLink(int place)
+void AboutKestruneBridge::openLink(int place)
 {
     about_.open(about_.links().at(static_cast<std::size_t>(place)));
 }

@@ -1,4 +1,4 @@
-#include "workspace/Settings.h"
+#include "workspace/SettingsView.h"
 
 #include <utility>
 
@@ -11,9 +11,9 @@ using support::Task;
 
 namespace {
 
-Settings::ValidationState invalid(std::string message)
+SettingsView::ValidationState invalid(std::string message)
 {
-    return {Settings::ValidationState::Kind::invalid, std::move(message)};
+    return {SettingsView::ValidationState::Kind::invalid, std::move(message)};
 }
 
 std::string failureText(APIKeyVerificationResult result)
@@ -31,18 +31,18 @@ std::string failureText(APIKeyVerificationResult result)
 
 }  // namespace
 
-Settings::Settings(Ports ports, std::function<void()> onApiKeyDeleted)
+SettingsView::SettingsView(Ports ports, std::function<void()> onApiKeyDeleted)
     : ports_(std::move(ports))
     , onApiKeyDeleted_(std::move(onApiKeyDeleted))
 {
 }
 
-bool Settings::isSaveEnabled() const
+bool SettingsView::isSaveEnabled() const
 {
     return !support::trimmed(*apiKey).empty() && validationState->kind != ValidationState::Kind::validating;
 }
 
-presentation::Marker Settings::marker() const
+presentation::Marker SettingsView::marker() const
 {
     using presentation::Tone;
     switch (validationState->kind) {
@@ -60,44 +60,44 @@ presentation::Marker Settings::marker() const
     return {};
 }
 
-presentation::Marker Settings::refusal() const
+presentation::Marker SettingsView::refusal() const
 {
     return validationState->kind == ValidationState::Kind::invalid ? marker() : presentation::Marker{};
 }
 
-presentation::Marker Settings::demoHint() const
+presentation::Marker SettingsView::demoHint() const
 {
     if (ports_.demoKey.empty()) return {};
     return {.symbol = "info.circle", .text = "The API key of this demo is \"" + ports_.demoKey + "\"."};
 }
 
-presentation::Marker Settings::search() const
+presentation::Marker SettingsView::search() const
 {
     if (!*isLooking) return {};
     return {.text = std::string(lookingText), .tone = presentation::Tone::secondary, .showsProgress = true};
 }
 
-void Settings::appear()
+void SettingsView::appear()
 {
     isLooking = true;
     support::start(ports_.main, lookForKey(shared_from_this()));
 }
 
-Task<void> Settings::lookForKey(std::shared_ptr<Settings> self)
+Task<void> SettingsView::lookForKey(std::shared_ptr<SettingsView> self)
 {
     auto looking = self->ports_.keys.hasAPIKey();
     self->hasExistingKey = co_await std::move(looking);
     self->isLooking = false;
 }
 
-void Settings::edit(std::string text)
+void SettingsView::edit(std::string text)
 {
     if (text == *apiKey) return;
     apiKey = std::move(text);
     if (validationState->kind != ValidationState::Kind::idle) validationState = {};
 }
 
-void Settings::saveAndVerify()
+void SettingsView::saveAndVerify()
 {
     std::string key(support::trimmed(*apiKey));
     if (key.empty() || !isSaveEnabled()) return;
@@ -110,7 +110,7 @@ void Settings::saveAndVerify()
     support::start(ports_.main, verify(shared_from_this(), std::move(key)));
 }
 
-Task<void> Settings::verify(std::shared_ptr<Settings> self, std::string key)
+Task<void> SettingsView::verify(std::shared_ptr<SettingsView> self, std::string key)
 {
     auto verifying = self->ports_.appState->verifyAPIKey(key);
     const auto result = co_await std::move(verifying);
@@ -129,18 +129,18 @@ Task<void> Settings::verify(std::shared_ptr<Settings> self, std::string key)
     self->validationState = {ValidationState::Kind::valid};
 }
 
-void Settings::confirmDelete()
+void SettingsView::confirmDelete()
 {
     showDeleteConfirmation = true;
 }
 
-void Settings::deleteKey()
+void SettingsView::deleteKey()
 {
     showDeleteConfirmation = false;
     support::start(ports_.main, removeKey(shared_from_this()));
 }
 
-Task<void> Settings::removeKey(std::shared_ptr<Settings> self)
+Task<void> SettingsView::removeKey(std::shared_ptr<SettingsView> self)
 {
     auto removing = self->ports_.keys.deleteAPIKey();
     co_await std::move(removing);

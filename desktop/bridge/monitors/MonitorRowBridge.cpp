@@ -1,20 +1,20 @@
-#include "bridge/monitors/MonitorMetricsBridge.h"
+#include "bridge/monitors/MonitorRowBridge.h"
 
 #include <utility>
 
 namespace larkspan::bridge {
 
-MonitorMetricsBridge::MonitorMetricsBridge(
+MonitorRowBridge::MonitorRowBridge(
     std::shared_ptr<monitors::MonitorRowView> view, const ScreenUpdates& updates, QObject* parent)
     : ScreenBridge(updates, parent)
     , updates_(updates)
     , view_(std::move(view))
 {
     followChangesOf(*view_);
-    MonitorMetricsBridge::readState();
+    MonitorRowBridge::readState();
 }
 
-void MonitorMetricsBridge::readState()
+void MonitorRowBridge::readState()
 {
     panel_.follow(view_->panel(), updates_);
     instead_ = MarkerValue::of(view_->instead());

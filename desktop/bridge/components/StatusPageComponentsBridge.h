@@ -15,7 +15,7 @@ namespace larkspan::bridge {
 
 /// A page's components for QML; texts and decisions are those of `components::StatusPageComponentsView`. The base is
 /// named in full, since QML's tools look for the name as it is written here.
-class ComponentListBridge : public larkspan::bridge::ListBridge {
+class StatusPageComponentsBridge : public larkspan::bridge::ListBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
@@ -23,7 +23,7 @@ class ComponentListBridge : public larkspan::bridge::ListBridge {
     Q_PROPERTY(larkspan::bridge::ComponentDetailBridge* detail READ detail NOTIFY changed)
 
 public:
-    ComponentListBridge(std::shared_ptr<components::StatusPageComponentsView> view, const ScreenUpdates& updates,
+    StatusPageComponentsBridge(std::shared_ptr<components::StatusPageComponentsView> view, const ScreenUpdates& updates,
         QObject* parent = nullptr);
 
     ListModel* rows() override { return &rows_; }

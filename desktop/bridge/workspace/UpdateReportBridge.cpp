@@ -1,10 +1,10 @@
-#include "bridge/workspace/UpdateBridge.h"
+#include "bridge/workspace/UpdateReportBridge.h"
 
 #include <utility>
 
 namespace larkspan::bridge {
 
-UpdateBridge::UpdateBridge(
+UpdateReportBridge::UpdateReportBridge(
     std::shared_ptr<core::UpdaterController> controller, const ScreenUpdates& updates, QObject* parent)
     : ScreenBridge(updates, parent)
     , controller_(std::move(controller))

@@ -1,4 +1,4 @@
-#include "bridge/monitors/MonitorListBridge.h"
+#include "bridge/monitors/StatusPageMonitorsBridge.h"
 
 #include <QQmlEngine>
 
@@ -7,26 +7,26 @@
 
 namespace larkspan::bridge {
 
-MonitorListBridge::MonitorListBridge(
+StatusPageMonitorsBridge::StatusPageMonitorsBridge(
     std::shared_ptr<monitors::StatusPageMonitorsView> view, const ScreenUpdates& updates, QObject* parent)
     : ListBridge(view, updates, parent)
     , view_(std::move(view))
 {
-    MonitorListBridge::readState();
+    StatusPageMonitorsBridge::readState();
 }
 
-void MonitorListBridge::press(const QString& id, const QString& button)
+void StatusPageMonitorsBridge::press(const QString& id, const QString& button)
 {
     view_->press(id.toStdString(), button.toStdString());
 }
 
-MonitorMetricsBridge* MonitorListBridge::metricsOf(const QString& id) const
+MonitorRowBridge* StatusPageMonitorsBridge::metricsOf(const QString& id) const
 {
     const auto row = openedRows_.find(id.toStdString());
     return row == openedRows_.end() ? nullptr : row->second.metrics.get();
 }
 
-void MonitorListBridge::readState()
+void StatusPageMonitorsBridge::readState()
 {
     ListBridge::readState();
     closeRowsThatLeft();
@@ -35,7 +35,7 @@ void MonitorListBridge::readState()
     detail_.follow(view_->detail(), updates());
 }
 
-void MonitorListBridge::closeRowsThatLeft()
+void StatusPageMonitorsBridge::closeRowsThatLeft()
 {
     const auto hasLeft
         = [this](const monitors::MonitorRow& row) { return row.isOpen && !view_->rowViews().contains(row.id); };
@@ -45,7 +45,7 @@ void MonitorListBridge::closeRowsThatLeft()
     rows_.update(std::move(rows));
 }
 
-void MonitorListBridge::followOpenedRows()
+void StatusPageMonitorsBridge::followOpenedRows()
 {
     const auto& rowViews = view_->rowViews();
     for (auto& [id, row] : openedRows_) {

@@ -11,7 +11,7 @@
 namespace larkspan::bridge {
 
 /// The dialog about updates; texts are those of `workspace::UpdateReport`.
-class UpdateBridge : public ScreenBridge {
+class UpdateReportBridge : public ScreenBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
@@ -19,7 +19,7 @@ class UpdateBridge : public ScreenBridge {
     Q_PROPERTY(larkspan::bridge::UpdateReportValue report READ report NOTIFY changed)
 
 public:
-    UpdateBridge(
+    UpdateReportBridge(
         std::shared_ptr<core::UpdaterController> controller, const ScreenUpdates& updates, QObject* parent = nullptr);
 
     bool isShowing() const { return *controller_->isShowing; }

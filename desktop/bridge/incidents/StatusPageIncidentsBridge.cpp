@@ -1,18 +1,18 @@
-#include "bridge/incidents/IncidentListBridge.h"
+#include "bridge/incidents/StatusPageIncidentsBridge.h"
 
 #include <utility>
 
 namespace larkspan::bridge {
 
-IncidentListBridge::IncidentListBridge(
+StatusPageIncidentsBridge::StatusPageIncidentsBridge(
     std::shared_ptr<incidents::StatusPageIncidentsView> view, const ScreenUpdates& updates, QObject* parent)
     : ListBridge(view, updates, parent)
     , view_(std::move(view))
 {
-    IncidentListBridge::readState();
+    StatusPageIncidentsBridge::readState();
 }
 
-void IncidentListBridge::readState()
+void StatusPageIncidentsBridge::readState()
 {
     ListBridge::readState();
     rows_.update(view_->rows());

@@ -4,7 +4,7 @@ import Larkspan.Bridge
 
 Sheet {
     id: sheet
-    required property AboutBridge about
+    required property AboutKestruneBridge about
 
     title: qsTr("About Kestrune")
     preferredWidth: Theme.aboutWidth

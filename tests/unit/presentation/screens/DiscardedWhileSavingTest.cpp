@@ -12,9 +12,9 @@ using platform::HttpResponse;
 
 /// A text whose loss the user confirms before the service has answered the request to save it.
 template <typename Record>
-class DiscardedInMidSave : public EditedRecord<Record> {
+class DiscardedWhileSaving : public EditedRecord<Record> {
 protected:
-    DiscardedInMidSave()
+    DiscardedWhileSaving()
     {
         this->save();
         this->run();
@@ -29,9 +29,9 @@ protected:
 };
 
 using Records = testing::Types<EditedIncident, EditedMaintenance, EditedComponent>;
-TYPED_TEST_SUITE(DiscardedInMidSave, Records, fakes::NameOfAList);
+TYPED_TEST_SUITE(DiscardedWhileSaving, Records, fakes::NameOfAList);
 
-TYPED_TEST(DiscardedInMidSave, LeavesOnceForWhatWasWantedAndHarmsNothingWhenTheSaveEnds)
+TYPED_TEST(DiscardedWhileSaving, LeavesOnceForWhatWasWantedAndHarmsNothingWhenTheSaveEnds)
 {
     int left = 0;
     ASSERT_TRUE(this->detail().asksBefore([&left] { ++left; }));
@@ -46,7 +46,7 @@ TYPED_TEST(DiscardedInMidSave, LeavesOnceForWhatWasWantedAndHarmsNothingWhenTheS
     EXPECT_EQ(this->transport.requests.front().url, this->recordURL) << "it was not taken back";
 }
 
-TYPED_TEST(DiscardedInMidSave, LeavesOnceAlsoWhereTheSaveIsRefused)
+TYPED_TEST(DiscardedWhileSaving, LeavesOnceAlsoWhereTheSaveIsRefused)
 {
     int left = 0;
     ASSERT_TRUE(this->detail().asksBefore([&left] { ++left; }));
@@ -58,9 +58,9 @@ TYPED_TEST(DiscardedInMidSave, LeavesOnceAlsoWhereTheSaveIsRefused)
 
 /// The records that can be left while they are saved.
 template <typename Record>
-class LeftInMidSave : public DiscardedInMidSave<Record> {
+class LeftWhileSaving : public DiscardedWhileSaving<Record> {
 protected:
-    LeftInMidSave()
+    LeftWhileSaving()
     {
         this->detail().requestClose();
         EXPECT_TRUE(*this->detail().showDiscardConfirmation);
@@ -77,9 +77,9 @@ protected:
 };
 
 using Leavable = testing::Types<EditedIncident, EditedMaintenance>;
-TYPED_TEST_SUITE(LeftInMidSave, Leavable, fakes::NameOfAList);
+TYPED_TEST_SUITE(LeftWhileSaving, Leavable, fakes::NameOfAList);
 
-TYPED_TEST(LeftInMidSave, ShowsTheRecordAtOnceAndWithTheTextWhenTheServiceHasTakenThat)
+TYPED_TEST(LeftWhileSaving, ShowsTheRecordAtOnceAndWithTheTextWhenTheServiceHasTakenThat)
 {
     this->expectTheRecordWithoutItsEditor();
     EXPECT_EQ(this->detail().description(), "");
@@ -89,14 +89,14 @@ TYPED_TEST(LeftInMidSave, ShowsTheRecordAtOnceAndWithTheTextWhenTheServiceHasTak
     EXPECT_EQ(this->detail().action->alert.words(), "");
 }
 
-TYPED_TEST(LeftInMidSave, SaysWhyTheSaveWasRefusedAndOpensNoEditorForThat)
+TYPED_TEST(LeftWhileSaving, SaysWhyTheSaveWasRefusedAndOpensNoEditorForThat)
 {
     this->end({422, ""});
     this->expectTheRecordWithoutItsEditor();
     EXPECT_EQ(this->detail().action->alert.words(), "Server returned HTTP status code 422.");
 }
 
-TYPED_TEST(LeftInMidSave, OpensItsEditorAgainOnlyWhenTheSaveHasEnded)
+TYPED_TEST(LeftWhileSaving, OpensItsEditorAgainOnlyWhenTheSaveHasEnded)
 {
     this->detail().beginEditing();
     this->expectTheRecordWithoutItsEditor();

@@ -1,18 +1,18 @@
-#include "bridge/components/ComponentListBridge.h"
+#include "bridge/components/StatusPageComponentsBridge.h"
 
 #include <utility>
 
 namespace larkspan::bridge {
 
-ComponentListBridge::ComponentListBridge(
+StatusPageComponentsBridge::StatusPageComponentsBridge(
     std::shared_ptr<components::StatusPageComponentsView> view, const ScreenUpdates& updates, QObject* parent)
     : ListBridge(view, updates, parent)
     , view_(std::move(view))
 {
-    ComponentListBridge::readState();
+    StatusPageComponentsBridge::readState();
 }
 
-void ComponentListBridge::readState()
+void StatusPageComponentsBridge::readState()
 {
     ListBridge::readState();
     rows_.update(view_->rows());

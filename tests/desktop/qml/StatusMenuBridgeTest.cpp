@@ -1,4 +1,4 @@
-#include "bridge/menu/MenuBridge.h"
+#include "bridge/menu/StatusMenuBridge.h"
 
 #include <QSignalSpy>
 
@@ -35,14 +35,14 @@ MenuRow quit()
     return {.kind = MenuRow::Kind::command, .title = "Quit", .action = MenuRow::Action::quitApp, .keyEquivalent = "q"};
 }
 
-MenuRowValue rowAt(MenuBridge& menu, int place)
+MenuRowValue rowAt(StatusMenuBridge& menu, int place)
 {
     return menu.rows()->data(menu.rows()->index(place), ListModel::RowRole).value<MenuRowValue>();
 }
 
 class WindowMenu : public testing::Test {
 protected:
-    static QStringList titles(MenuBridge& menu)
+    static QStringList titles(StatusMenuBridge& menu)
     {
         QStringList found;
         for (int place = 0; place < menu.rows()->rowCount(); ++place) {
@@ -54,7 +54,7 @@ protected:
 
     int abouts = 0;
     Rows performed;
-    MenuBridge menu{[this] { ++abouts; }};
+    StatusMenuBridge menu{[this] { ++abouts; }};
 };
 
 TEST_F(WindowMenu, HasTheAboutBoxBelowThePanelsRowsAndFromTheStart)

@@ -9,7 +9,7 @@
 
 #include "bridge/lists/RowListModel.h"
 #include "bridge/monitors/MonitorDetailBridge.h"
-#include "bridge/monitors/MonitorMetricsBridge.h"
+#include "bridge/monitors/MonitorRowBridge.h"
 #include "bridge/screens/ChildScreen.h"
 #include "bridge/screens/ListBridge.h"
 #include "bridge/values/MonitorRowValue.h"
@@ -19,7 +19,7 @@ namespace larkspan::bridge {
 
 /// A page's monitors for QML; texts and decisions are those of `monitors::StatusPageMonitorsView`. The base is named in
 /// full, since QML's tools look for the name as it is written here.
-class MonitorListBridge : public larkspan::bridge::ListBridge {
+class StatusPageMonitorsBridge : public larkspan::bridge::ListBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
@@ -27,7 +27,7 @@ class MonitorListBridge : public larkspan::bridge::ListBridge {
     Q_PROPERTY(larkspan::bridge::MonitorDetailBridge* detail READ detail NOTIFY changed)
 
 public:
-    MonitorListBridge(std::shared_ptr<monitors::StatusPageMonitorsView> view, const ScreenUpdates& updates,
+    StatusPageMonitorsBridge(std::shared_ptr<monitors::StatusPageMonitorsView> view, const ScreenUpdates& updates,
         QObject* parent = nullptr);
 
     ListModel* rows() override { return &rows_; }
@@ -38,12 +38,12 @@ public:
     Q_INVOKABLE void open(const QString& id) { view_->openMonitor(id.toStdString()); }
     Q_INVOKABLE void closeDetail() { view_->closeMonitor(); }
     /// The opened part of that monitor's row; null for a row that was never opened.
-    Q_INVOKABLE larkspan::bridge::MonitorMetricsBridge* metricsOf(const QString& id) const;
+    Q_INVOKABLE larkspan::bridge::MonitorRowBridge* metricsOf(const QString& id) const;
 
 private:
     /// A row that was opened; the list shows parts of it too.
     struct OpenedRow {
-        ChildScreen<MonitorMetricsBridge, monitors::MonitorRowView> metrics;
+        ChildScreen<MonitorRowBridge, monitors::MonitorRowView> metrics;
         support::Subscription changes;
     };
 

@@ -5,14 +5,14 @@ import Larkspan.Bridge
 // Opens the rows of the panel's item, for desktops that show no such item and for users who are in the window.
 ToolbarButton {
     id: button
-    required property MenuBridge menu
+    required property StatusMenuBridge menu
 
     symbol: "line.3.horizontal"
     help: qsTr("Menu")
     isMenuOpen: popup.visible
     onClicked: popup.open()
 
-    AppMenu {
+    StatusMenu {
         id: popup
         x: button.width - width
         y: button.height + Theme.halfUnit

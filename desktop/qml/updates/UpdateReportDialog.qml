@@ -4,7 +4,7 @@ import Larkspan.Bridge
 
 MessageDialog {
     id: dialog
-    required property UpdateBridge updates
+    required property UpdateReportBridge updates
 
     title: updates.report.title
     text: updates.report.text

@@ -9,7 +9,7 @@ namespace {
 using platform::HttpResponse;
 
 /// Screens that are left, or whose page is removed, while the service has not answered yet.
-class IncidentsClosedInMidRequest : public IncidentsOnScreen {
+class IncidentsClosedDuringARequest : public IncidentsOnScreen {
 protected:
     /// Removes the page from the account while it is open.
     void losePage()
@@ -33,7 +33,7 @@ protected:
     }
 };
 
-TEST_F(IncidentsClosedInMidRequest, APageThatIsLeftWhileItsIncidentsLoadStaysClosed)
+TEST_F(IncidentsClosedDuringARequest, APageThatIsLeftWhileItsIncidentsLoadStaysClosed)
 {
     transport.forget(pageIncidentsURL);
     press(Qt::Key_F5);
@@ -42,7 +42,7 @@ TEST_F(IncidentsClosedInMidRequest, APageThatIsLeftWhileItsIncidentsLoadStaysClo
     expectDashboard({"a"});
 }
 
-TEST_F(IncidentsClosedInMidRequest, ATabThatIsLeftWhileItLoadsFetchesAnewWhenItIsBack)
+TEST_F(IncidentsClosedDuringARequest, ATabThatIsLeftWhileItLoadsFetchesAnewWhenItIsBack)
 {
     transport.forget(pageIncidentsURL);
     press(Qt::Key_F5);
@@ -55,7 +55,8 @@ TEST_F(IncidentsClosedInMidRequest, ATabThatIsLeftWhileItLoadsFetchesAnewWhenItI
     EXPECT_EQ(names(Role::ListItem), QStringList{"Login errors"});
 }
 
-TEST_F(IncidentsClosedInMidRequest, AnIncidentThatIsLeftByThePanelWhileItIsWorkedOnStaysClosedAndTellsNobodyOfARefusal)
+TEST_F(
+    IncidentsClosedDuringARequest, AnIncidentThatIsLeftByThePanelWhileItIsWorkedOnStaysClosedAndTellsNobodyOfARefusal)
 {
     servePages({"a", "b"}, {});
     refresh();
@@ -73,7 +74,7 @@ TEST_F(IncidentsClosedInMidRequest, AnIncidentThatIsLeftByThePanelWhileItIsWorke
     }
 }
 
-TEST_F(IncidentsClosedInMidRequest, AnIncidentWhosePageGoesWhileItIsWorkedOnTellsHowThatEndsAndGoesWithTheNextCycle)
+TEST_F(IncidentsClosedDuringARequest, AnIncidentWhosePageGoesWhileItIsWorkedOnTellsHowThatEndsAndGoesWithTheNextCycle)
 {
     openFirst();
     choose("Escalate");
@@ -86,7 +87,7 @@ TEST_F(IncidentsClosedInMidRequest, AnIncidentWhosePageGoesWhileItIsWorkedOnTell
     expectDashboard({"b"});
 }
 
-TEST_F(IncidentsClosedInMidRequest, AFormStaysUntilItsIncidentIsCreated)
+TEST_F(IncidentsClosedDuringARequest, AFormStaysUntilItsIncidentIsCreated)
 {
     openForm();
     type("Title", "Mail");
@@ -102,7 +103,7 @@ TEST_F(IncidentsClosedInMidRequest, AFormStaysUntilItsIncidentIsCreated)
     EXPECT_EQ(names(Role::ListItem).value(0), QStringLiteral("Mail"));
 }
 
-TEST_F(IncidentsClosedInMidRequest, AFormWhosePageGoesWhileItIsSentShowsHowThatEndsAndThePageGoesWithTheNextCycle)
+TEST_F(IncidentsClosedDuringARequest, AFormWhosePageGoesWhileItIsSentShowsHowThatEndsAndThePageGoesWithTheNextCycle)
 {
     openForm();
     type("Title", "Mail");
@@ -118,7 +119,7 @@ TEST_F(IncidentsClosedInMidRequest, AFormWhosePageGoesWhileItIsSentShowsHowThatE
     expectDashboard({"b"});
 }
 
-TEST_F(IncidentsClosedInMidRequest, AFormThatIsLeftWhileItsChoicesLoadStaysClosed)
+TEST_F(IncidentsClosedDuringARequest, AFormThatIsLeftWhileItsChoicesLoadStaysClosed)
 {
     choose("New Incident");
     EXPECT_TRUE(names(Role::ProgressBar).contains(QStringLiteral("Loading components…")));

@@ -18,7 +18,7 @@ namespace larkspan::workspace {
 
 /// The settings sheet: a key is pasted, verified, stored and deleted. Main thread only. A new object is made each time
 /// the sheet opens; closing it cancels nothing, so a key that is being verified is still stored if it is accepted.
-class Settings final : public support::Observable, public std::enable_shared_from_this<Settings> {
+class SettingsView final : public support::Observable, public std::enable_shared_from_this<SettingsView> {
 public:
     struct Ports {
         platform::Executor& main;
@@ -42,7 +42,7 @@ public:
         .confirm = "Delete",
         .cancel = "Cancel"};
 
-    explicit Settings(Ports ports, std::function<void()> onApiKeyDeleted = {});
+    explicit SettingsView(Ports ports, std::function<void()> onApiKeyDeleted = {});
 
     /// Longer than any key, and short enough for a request's header everywhere.
     static constexpr std::size_t longestKey = 4096;
@@ -83,9 +83,9 @@ public:
     void deleteKey();
 
 private:
-    static support::Task<void> lookForKey(std::shared_ptr<Settings> self);
-    static support::Task<void> verify(std::shared_ptr<Settings> self, std::string key);
-    static support::Task<void> removeKey(std::shared_ptr<Settings> self);
+    static support::Task<void> lookForKey(std::shared_ptr<SettingsView> self);
+    static support::Task<void> verify(std::shared_ptr<SettingsView> self, std::string key);
+    static support::Task<void> removeKey(std::shared_ptr<SettingsView> self);
 
     Ports ports_;
     std::function<void()> onApiKeyDeleted_;

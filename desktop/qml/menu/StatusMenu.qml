@@ -6,7 +6,7 @@ import Larkspan.Bridge
 // The panel item's rows as a menu of the window, which opens as fast with a thousand pages as with one.
 T.Popup {
     id: popup
-    required property MenuBridge menu
+    required property StatusMenuBridge menu
 
     width: T.Overlay.overlay ? Math.min(Theme.menuWidth * Theme.scale, T.Overlay.overlay.width - 2 * Theme.unit) : 0
     height: Math.min(list.contentHeight + 2 * padding, T.Overlay.overlay ? T.Overlay.overlay.height - Theme.headerHeight - 2 * Theme.unit : 0)
@@ -39,7 +39,7 @@ T.Popup {
         Accessible.role: Accessible.PopupMenu
         Accessible.name: qsTr("Menu")
 
-        delegate: AppMenuRow {
+        delegate: StatusMenuRow {
             width: ListView.view.width
             isCurrent: ListView.isCurrentItem
             onEntered: list.currentIndex = index

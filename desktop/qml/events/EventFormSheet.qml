@@ -51,7 +51,7 @@ Sheet {
             onEdited: text => sheet.form.editMessage(text)
         }
     }
-    AffectedComponents {
+    ComponentSelection {
         width: parent.width
         selection: sheet.form.selection
     }

@@ -16,7 +16,7 @@ namespace larkspan::bridge {
 
 /// A page's incidents for QML; texts and decisions are those of `incidents::StatusPageIncidentsView`. The base is named
 /// in full, since QML's tools look for the name as it is written here.
-class IncidentListBridge : public larkspan::bridge::ListBridge {
+class StatusPageIncidentsBridge : public larkspan::bridge::ListBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
@@ -25,7 +25,7 @@ class IncidentListBridge : public larkspan::bridge::ListBridge {
     Q_PROPERTY(larkspan::bridge::CreateIncidentBridge* form READ form NOTIFY changed)
 
 public:
-    IncidentListBridge(std::shared_ptr<incidents::StatusPageIncidentsView> view, const ScreenUpdates& updates,
+    StatusPageIncidentsBridge(std::shared_ptr<incidents::StatusPageIncidentsView> view, const ScreenUpdates& updates,
         QObject* parent = nullptr);
 
     ListModel* rows() override { return &rows_; }

@@ -13,7 +13,7 @@
 namespace larkspan::bridge {
 
 /// The opened part of a monitor's row for QML; texts and decisions are those of `monitors::MonitorRowView`.
-class MonitorMetricsBridge : public ScreenBridge {
+class MonitorRowBridge : public ScreenBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
@@ -25,7 +25,7 @@ class MonitorMetricsBridge : public ScreenBridge {
     Q_PROPERTY(bool offersRetry READ offersRetry NOTIFY changed)
 
 public:
-    MonitorMetricsBridge(
+    MonitorRowBridge(
         std::shared_ptr<monitors::MonitorRowView> view, const ScreenUpdates& updates, QObject* parent = nullptr);
 
     bool showsPanel() const { return view_->showsPanel(); }

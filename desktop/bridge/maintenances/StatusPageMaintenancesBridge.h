@@ -16,7 +16,7 @@ namespace larkspan::bridge {
 
 /// A page's maintenances for QML; texts and decisions are those of `maintenances::StatusPageMaintenancesView`. The base
 /// is named in full, since QML's tools look for the name as it is written here.
-class MaintenanceListBridge : public larkspan::bridge::ListBridge {
+class StatusPageMaintenancesBridge : public larkspan::bridge::ListBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
@@ -25,8 +25,8 @@ class MaintenanceListBridge : public larkspan::bridge::ListBridge {
     Q_PROPERTY(larkspan::bridge::CreateMaintenanceBridge* form READ form NOTIFY changed)
 
 public:
-    MaintenanceListBridge(std::shared_ptr<maintenances::StatusPageMaintenancesView> view, const ScreenUpdates& updates,
-        QObject* parent = nullptr);
+    StatusPageMaintenancesBridge(std::shared_ptr<maintenances::StatusPageMaintenancesView> view,
+        const ScreenUpdates& updates, QObject* parent = nullptr);
 
     ListModel* rows() override { return &rows_; }
     MaintenanceDetailBridge* detail() const { return detail_.get(); }

@@ -1,18 +1,18 @@
-#include "bridge/maintenances/MaintenanceListBridge.h"
+#include "bridge/maintenances/StatusPageMaintenancesBridge.h"
 
 #include <utility>
 
 namespace larkspan::bridge {
 
-MaintenanceListBridge::MaintenanceListBridge(
+StatusPageMaintenancesBridge::StatusPageMaintenancesBridge(
     std::shared_ptr<maintenances::StatusPageMaintenancesView> view, const ScreenUpdates& updates, QObject* parent)
     : ListBridge(view, updates, parent)
     , view_(std::move(view))
 {
-    MaintenanceListBridge::readState();
+    StatusPageMaintenancesBridge::readState();
 }
 
-void MaintenanceListBridge::readState()
+void StatusPageMaintenancesBridge::readState()
 {
     ListBridge::readState();
     rows_.update(view_->rows());

@@ -10,7 +10,7 @@
 namespace larkspan::bridge {
 
 /// The about box for QML; texts are those of `workspace::AboutKestruneView`.
-class AboutBridge : public ScreenBridge {
+class AboutKestruneBridge : public ScreenBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
@@ -22,7 +22,7 @@ class AboutBridge : public ScreenBridge {
 
 public:
     /// `showing` is a field of `owner`.
-    AboutBridge(const workspace::AboutKestruneView& about, support::Published<bool>& showing,
+    AboutKestruneBridge(const workspace::AboutKestruneView& about, support::Published<bool>& showing,
         support::Observable& owner, const ScreenUpdates& updates, QObject* parent = nullptr);
 
     bool isShowing() const { return *showing_; }

@@ -1,4 +1,4 @@
-#include "workspace/Dashboard.h"
+#include "workspace/DashboardView.h"
 
 #include <algorithm>
 #include <utility>
@@ -16,7 +16,7 @@ using presentation::Marker;
 using presentation::Placeholder;
 using presentation::Tone;
 
-Dashboard::Dashboard(Ports ports)
+DashboardView::DashboardView(Ports ports)
     : currentTime(*this, ports.clock.now())
     , ports_(std::move(ports))
     , tick_(ports_.timers.every(10s, [this] { tick(); }))
@@ -26,23 +26,23 @@ Dashboard::Dashboard(Ports ports)
 {
 }
 
-void Dashboard::tick()
+void DashboardView::tick()
 {
     currentTime = ports_.clock.now();
     if (openedPage.isOpen()) openedPage.screen()->currentTime = ports_.clock.now();
 }
 
-support::Subscriptions Dashboard::observe(const std::function<void()>& observer)
+support::Subscriptions DashboardView::observe(const std::function<void()>& observer)
 {
     return {objectWillChange(observer), ports_.appState->objectWillChange(observer)};
 }
 
-Content Dashboard::content() const
+Content DashboardView::content() const
 {
     return presentation::contentOf(!state().statusPages->empty(), *state().isLoading, *state().refreshError != nullptr);
 }
 
-Placeholder Dashboard::placeholder() const
+Placeholder DashboardView::placeholder() const
 {
     static const presentation::Placeholders placeholders{.loading = "Loading Dashboard...",
         .failure = {.symbol = "exclamationmark.triangle",
@@ -57,12 +57,12 @@ Placeholder Dashboard::placeholder() const
     return presentation::placeholderOf(content(), placeholders, presentation::failureText(*state().refreshError));
 }
 
-std::vector<StatusPageRow> Dashboard::rows() const
+std::vector<StatusPageRow> DashboardView::rows() const
 {
     return presentation::rowsOf(*state().statusPages, StatusPageRow::of);
 }
 
-std::optional<std::size_t> Dashboard::selectedRow() const
+std::optional<std::size_t> DashboardView::selectedRow() const
 {
     const auto& pages = *state().statusPages;
     const auto* const selected = *selectedPageId ? presentation::recordOfRow(pages, **selectedPageId) : nullptr;
@@ -70,12 +70,12 @@ std::optional<std::size_t> Dashboard::selectedRow() const
     return static_cast<std::size_t>(selected - pages.data());
 }
 
-bool Dashboard::showsRefreshFailure() const
+bool DashboardView::showsRefreshFailure() const
 {
     return content() == Content::records && *state().refreshError;
 }
 
-Marker Dashboard::status() const
+Marker DashboardView::status() const
 {
     if (*state().isLoading) return {.text = "Refreshing...", .showsProgress = true};
     if (!*state().lastRefresh) return {};
@@ -87,34 +87,35 @@ Marker Dashboard::status() const
         .tone = Tone::primary};
 }
 
-bool Dashboard::isRefreshEnabled() const
+bool DashboardView::isRefreshEnabled() const
 {
     return !*state().isLoading;
 }
 
-void Dashboard::chooseRefreshInterval(std::chrono::seconds interval)
+void DashboardView::chooseRefreshInterval(std::chrono::seconds interval)
 {
     ports_.appState->setRefreshInterval(interval);
 }
 
-const model::StatusPage* Dashboard::selectedPage() const
+const model::StatusPage* DashboardView::selectedPage() const
 {
     const auto row = selectedRow();
     return row ? &(*state().statusPages)[*row] : nullptr;
 }
 
-void Dashboard::openPage(const std::string& id)
+void DashboardView::openPage(const std::string& id)
 {
     if (openedPage.isOpen() && *selectedPageId == id) return;
-    if (!asksBefore(support::whileAlive(weak_from_this(), [id](Dashboard& self) { self.showPage(id); }))) showPage(id);
+    if (!asksBefore(support::whileAlive(weak_from_this(), [id](DashboardView& self) { self.showPage(id); })))
+        showPage(id);
 }
 
-bool Dashboard::asksBefore(const std::function<void()>& leave)
+bool DashboardView::asksBefore(const std::function<void()>& leave)
 {
     return openedPage.isOpen() && openedPage.screen()->asksBefore(leave);
 }
 
-void Dashboard::showPage(const std::string& id)
+void DashboardView::showPage(const std::string& id)
 {
     selectedPageId = id;
     const auto* const page = selectedPage();
@@ -124,18 +125,18 @@ void Dashboard::showPage(const std::string& id)
         openedPage.close();
 }
 
-StatusPageDetailView::Ports Dashboard::portsOfPage() const
+StatusPageDetailView::Ports DashboardView::portsOfPage() const
 {
     return {ports_.main, ports_.clock, ports_.locale, ports_.links, ports_.credentials, ports_.api, ports_.appState};
 }
 
-void Dashboard::closePage()
+void DashboardView::closePage()
 {
     selectedPageId = std::nullopt;
     openedPage.close();
 }
 
-void Dashboard::followOpenedPage()
+void DashboardView::followOpenedPage()
 {
     const auto lists = state().publishedLists();
     const bool isOfNewLists = std::exchange(followedLists_, lists) != lists;
@@ -149,16 +150,16 @@ void Dashboard::followOpenedPage()
     if (isOfNewLists && !opened.isHeld()) closePage();
 }
 
-void Dashboard::openSettings()
+void DashboardView::openSettings()
 {
     if (showingSettings.isOpen()) return;
     ports_.credentials.allowPromptAgain();
     const auto onApiKeyDeleted = [appState = ports_.appState] { appState->clearAccountData(); };
-    const Settings::Ports ports{ports_.main, ports_.appState, ports_.keys, demoKey};
-    showingSettings.open(std::make_shared<Settings>(ports, onApiKeyDeleted));
+    const SettingsView::Ports ports{ports_.main, ports_.appState, ports_.keys, demoKey};
+    showingSettings.open(std::make_shared<SettingsView>(ports, onApiKeyDeleted));
 }
 
-void Dashboard::closeSettings()
+void DashboardView::closeSettings()
 {
     if (showingSettings.close()) refresh();
 }
