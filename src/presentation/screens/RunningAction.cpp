@@ -12,7 +12,7 @@ using support::Task;
 
 RunningAction::RunningAction(platform::Executor& main, std::function<void()> reloadList)
     : main_(main)
-    , lookAgain_(std::move(reloadList))
+    , reloadList_(std::move(reloadList))
 {
 }
 
@@ -34,7 +34,7 @@ Task<void> RunningAction::carryOut(std::shared_ptr<RunningAction> self, Task<voi
     }
     if (failure) self->alert.raise(support::localizedDescription(failure));
     self->isInProgress = false;
-    if (failure && self->lookAgain_ && api::mayHaveTakenEffect(failure)) self->lookAgain_();
+    if (failure && self->reloadList_ && api::mayHaveTakenEffect(failure)) self->reloadList_();
 }
 
 }  // namespace larkspan::presentation

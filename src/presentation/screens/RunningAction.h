@@ -27,7 +27,7 @@ private:
     static support::Task<void> carryOut(std::shared_ptr<RunningAction> self, support::Task<void> work);
 
     platform::Executor& main_;
-    const std::function<void()> lookAgain_;
+    const std::function<void()> reloadList_;
 };
 
 }  // namespace larkspan::presentation
