@@ -76,7 +76,7 @@ TYPED_TEST(FormForScreens, MakesNoListOfChoicesAgainWhileATextIsTyped)
 {
     const ListsOfChoices before(this->selection());
     ASSERT_EQ(before.monitors.size(), 3);
-    const QSignalSpy form(this->bridge.get(), &ScreenBridge::changed);
+    const QSignalSpy changes(this->bridge.get(), &ScreenBridge::changed);
     const QSignalSpy choices(&this->selection(), &ScreenBridge::changed);
     for (const auto* const text : {"D", "Do", "Dow", "Down"}) {
         this->bridge->editTitle(QString::fromUtf8(text));
@@ -84,7 +84,7 @@ TYPED_TEST(FormForScreens, MakesNoListOfChoicesAgainWhileATextIsTyped)
         this->bridge->editMessage(QString::fromUtf8(text));
         this->run();
     }
-    EXPECT_EQ(form.count(), 8);
+    EXPECT_EQ(changes.count(), 8);
     EXPECT_EQ(choices.count(), 0);
     EXPECT_TRUE(before.areStill(ListsOfChoices(this->selection())));
     EXPECT_TRUE(this->form->hasUnsavedText());
@@ -92,12 +92,12 @@ TYPED_TEST(FormForScreens, MakesNoListOfChoicesAgainWhileATextIsTyped)
 
 TYPED_TEST(FormForScreens, MakesThemOnceForAChoiceWhichTheFormHearsOfToo)
 {
-    const QSignalSpy form(this->bridge.get(), &ScreenBridge::changed);
+    const QSignalSpy changes(this->bridge.get(), &ScreenBridge::changed);
     const QSignalSpy choices(&this->selection(), &ScreenBridge::changed);
     this->selection().chooseGroup({});
     this->run();
     EXPECT_EQ(choices.count(), 1);
-    EXPECT_EQ(form.count(), 1) << "it decides whether the form can be saved";
+    EXPECT_EQ(changes.count(), 1) << "it decides whether the form can be saved";
     EXPECT_EQ(ListsOfChoices(this->selection()).components.size(), 1);
 }
 
