@@ -18,6 +18,7 @@
 #include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocaleText.h"
 #include "model/json/JSONValue.h"
+#include "support/ScreenUpdates.h"
 #include "workspace/DashboardView.h"
 
 namespace {
@@ -66,7 +67,7 @@ double longestTurn()
     fakes::FakeLinkOpener links;
     auto dashboard = std::make_shared<workspace::DashboardView>(workspace::DashboardView::Ports{main, client.timers(),
         client.clock(), client.store(), keys, client.sharedState(), locale, links, client.api()});
-    const bridge::ScreenUpdates updates(main);
+    const support::ScreenUpdates updates(main);
     const bridge::DashboardBridge window(dashboard, updates);
     adapters::DBusMenuModel panel;
 

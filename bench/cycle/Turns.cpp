@@ -20,6 +20,7 @@
 #include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocaleText.h"
 #include "service/WallClock.h"
+#include "support/ScreenUpdates.h"
 #include "workspace/DashboardView.h"
 
 namespace {
@@ -57,7 +58,7 @@ void measure(std::size_t incidents, std::size_t cycles)
     fakes::FakeLinkOpener links;
     auto dashboard = std::make_shared<workspace::DashboardView>(workspace::DashboardView::Ports{main, client.timers(),
         client.clock(), client.store(), keys, client.sharedState(), locale, links, client.api()});
-    const bridge::ScreenUpdates updates(main);
+    const support::ScreenUpdates updates(main);
     const bridge::DashboardBridge window(dashboard, updates);
 
     std::vector<double> turns;

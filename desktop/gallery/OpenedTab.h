@@ -15,7 +15,7 @@ workspace::StatusPageDetailView& openTab(Stage& stage, workspace::StatusPageDeta
 /// A scene of a tab, whose screen is `view` of the page.
 template <typename View>
 std::function<void(Stage&)> sceneOfTab(workspace::StatusPageDetailView::Tab tab,
-    const std::shared_ptr<View>& (workspace::StatusPageDetailView::*view)() const, std::function<void(View&)> arrange)
+    std::shared_ptr<View> (workspace::StatusPageDetailView::*view)() const, std::function<void(View&)> arrange)
 {
     return [tab, view, arrange = std::move(arrange)](Stage& stage) { arrange(*(openTab(stage, tab).*view)()); };
 }

@@ -6,13 +6,13 @@
 #include <memory>
 
 #include "bridge/menu/StatusMenuBridge.h"
-#include "bridge/screens/ScreenUpdates.h"
 #include "bridge/workspace/AboutKestruneBridge.h"
 #include "bridge/workspace/AppearanceBridge.h"
 #include "bridge/workspace/DashboardBridge.h"
 #include "bridge/workspace/UpdateReportBridge.h"
 #include "core/UpdaterController.h"
 #include "platform/Executor.h"
+#include "support/ScreenUpdates.h"
 #include "workspace/AboutKestruneView.h"
 #include "workspace/DashboardView.h"
 
@@ -46,7 +46,7 @@ signals:
     void quitRequested();
 
 private:
-    bridge::ScreenUpdates screenUpdates_;
+    support::ScreenUpdates screenUpdates_;
     bridge::AppearanceBridge appearance_;
     bridge::DashboardBridge dashboard_;
     bridge::AboutKestruneBridge about_;

@@ -76,7 +76,7 @@ private:
 
     const Ports ports_;
     support::Published<RowViews> rowViews_{*this};
-    const presentation::AfterChanges loads_;
+    const support::AfterChanges loads_;
 };
 
 }  // namespace larkspan::monitors

@@ -2,20 +2,23 @@
 
 #include <utility>
 
-#include "support/WhileAlive.h"
+namespace larkspan::support {
 
-namespace larkspan::presentation {
-
-AfterChanges::AfterChanges(platform::Executor& main, support::Observable& observed, std::function<void()> react)
-    : reaction_(std::make_shared<Reaction>(Reaction{.react = std::move(react)}))
-    , changes_(observed.objectWillChange([&main, reaction = reaction_.get(), weak = std::weak_ptr(reaction_)] {
-        if (std::exchange(reaction->isPosted, true)) return;
-        main.post(support::whileAlive(weak, [](Reaction& posted) {
-            posted.isPosted = false;
-            posted.react();
-        }));
-    }))
+AfterChanges::AfterChanges(const ScreenUpdates& updates, std::function<void()> react)
+    : board_(updates.board_)
+    , reaction_(std::make_shared<ScreenUpdates::Reaction>(ScreenUpdates::Reaction{std::move(react)}))
 {
 }
 
-}  // namespace larkspan::presentation
+AfterChanges::AfterChanges(platform::Executor& main, Observable& observed, std::function<void()> react)
+    : AfterChanges(ScreenUpdates(main), std::move(react))
+{
+    changes_ = observed.objectWillChange([this] { announce(); });
+}
+
+void AfterChanges::announce() const
+{
+    ScreenUpdates::announce(board_, reaction_);
+}
+
+}  // namespace larkspan::support

@@ -119,7 +119,7 @@ private:
     std::unique_ptr<platform::Timer> tick_;
     support::Subscription openStatusPage_;
     std::size_t followedLists_ = 0;
-    const presentation::AfterChanges accountChanges_;
+    const support::AfterChanges accountChanges_;
 };
 
 /// The label of one interval choice: "Every 30 seconds", "Every 1 minute", "Every 2 minutes".

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "bridge/screens/ScreenUpdates.h"
+#include "support/ScreenUpdates.h"
 
 namespace larkspan::bridge {
 
@@ -14,7 +14,7 @@ class ChildScreen {
 public:
     /// Creates the bridge of `shown`, or releases it if `shown` is null; the same object keeps its bridge. Returns
     /// false if nothing changed.
-    bool follow(const std::shared_ptr<Shown>& shown, const ScreenUpdates& updates)
+    bool follow(const std::shared_ptr<Shown>& shown, const support::ScreenUpdates& updates)
     {
         if (shown_ == shown) return false;
         shown_ = shown;

@@ -4,7 +4,7 @@ namespace larkspan::bridge {
 
 ScreenBridge::ScreenBridge(const ScreenUpdates& updates, QObject* parent)
     : QObject(parent)
-    , notice_(updates, [this] {
+    , changes_(updates, [this] {
         readState();
         emit changed();
     })
@@ -13,7 +13,7 @@ ScreenBridge::ScreenBridge(const ScreenUpdates& updates, QObject* parent)
 
 std::function<void()> ScreenBridge::observer()
 {
-    return [this] { notice_.announce(); };
+    return [this] { changes_.announce(); };
 }
 
 }  // namespace larkspan::bridge

@@ -7,10 +7,13 @@
 #include <utility>
 #include <vector>
 
-#include "bridge/screens/ScreenUpdates.h"
+#include "support/AfterChanges.h"
 #include "support/Observable.h"
+#include "support/ScreenUpdates.h"
 
 namespace larkspan::bridge {
+
+using support::ScreenUpdates;
 
 /// A screen that shows more than its own fields, and can be observed as a whole.
 template <typename Screen>
@@ -48,7 +51,7 @@ protected:
     virtual void readState() {}
 
 private:
-    ChangeNotice notice_;
+    const support::AfterChanges changes_;
     support::Subscriptions subscriptions_;
 };
 

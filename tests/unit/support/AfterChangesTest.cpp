@@ -7,12 +7,12 @@
 
 #include "fakes/ManualExecutor.h"
 
-namespace larkspan::presentation {
+namespace larkspan::support {
 
 namespace {
 
-struct Counter final : support::Observable {
-    support::Published<int> count{*this, 0};
+struct Counter final : Observable {
+    Published<int> count{*this, 0};
 };
 
 class ReactionToChanges : public testing::Test {
@@ -63,4 +63,4 @@ TEST_F(ReactionToChanges, DoesNotComeOnceNobodyWaitsForIt)
 
 }  // namespace
 
-}  // namespace larkspan::presentation
+}  // namespace larkspan::support

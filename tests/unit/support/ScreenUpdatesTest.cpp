@@ -1,18 +1,19 @@
-#include "bridge/screens/ScreenUpdates.h"
+#include "support/ScreenUpdates.h"
 
 #include <gtest/gtest.h>
 
 #include <optional>
 
 #include "fakes/ManualExecutor.h"
+#include "support/AfterChanges.h"
 
-namespace larkspan::bridge {
+namespace larkspan::support {
 
 namespace {
 
 class UpdatesOfAWindow : public testing::Test {
 protected:
-    ChangeNotice counting(int& count)
+    AfterChanges counting(int& count)
     {
         return {updates, [&count] { ++count; }};
     }
@@ -78,12 +79,13 @@ TEST_F(UpdatesOfAWindow, AChangeThatIsOnItsWayWhenNobodySeesItAnyMoreIsKeptToo)
 
 TEST_F(UpdatesOfAWindow, AScreenThatWasDestroyedBeforeItsNoticeIsNotNotified)
 {
-    std::optional<ChangeNotice> notice = counting(told);
+    const auto tell = [this] { ++told; };
+    std::optional<AfterChanges> notice(std::in_place, updates, tell);
     notice->announce();
     notice.reset();
     main.run();
 
-    notice = counting(told);
+    notice.emplace(updates, tell);
     updates.hold();
     notice->announce();
     notice.reset();
@@ -95,7 +97,7 @@ TEST_F(UpdatesOfAWindow, AScreenThatWasDestroyedBeforeItsNoticeIsNotNotified)
 TEST_F(UpdatesOfAWindow, AWindowThatWentBeforeTheNoticeOfItsScreenHarmsNothing)
 {
     std::optional<ScreenUpdates> gone(std::in_place, main);
-    const ChangeNotice notice(*gone, [this] { ++told; });
+    const AfterChanges notice(*gone, [this] { ++told; });
     notice.announce();
     gone.reset();
     main.run();
@@ -104,4 +106,4 @@ TEST_F(UpdatesOfAWindow, AWindowThatWentBeforeTheNoticeOfItsScreenHarmsNothing)
 
 }  // namespace
 
-}  // namespace larkspan::bridge
+}  // namespace larkspan::support
