@@ -39,6 +39,7 @@ void CurlTransport::stop()
 void CurlTransport::send(
     platform::HttpRequest request, std::stop_token stop, support::UniqueFunction<void(Result)> complete)
 {
+    if (loop_.isOnItsThread()) return operations_->begin(std::move(request), std::move(stop), std::move(complete));
     loop_.post([operations = std::weak_ptr(operations_), request = std::move(request), stop = std::move(stop),
                    complete = std::move(complete)]() mutable {
         if (const auto alive = operations.lock())

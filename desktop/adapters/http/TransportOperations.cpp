@@ -8,12 +8,6 @@
 
 namespace larkspan::adapters {
 
-namespace {
-
-using Code = platform::URLError::Code;
-
-}  // namespace
-
 TransportOperations::TransportOperations(ClientLoop& loop, TransportSettings settings)
     : loop_(loop)
     , settings_(std::move(settings))
@@ -23,23 +17,29 @@ TransportOperations::TransportOperations(ClientLoop& loop, TransportSettings set
 void TransportOperations::begin(platform::HttpRequest request, std::stop_token stop, Complete complete)
 {
     if (isStopped_) return;
-    if (stop.stop_requested()) return complete(Code::cancelled);
-    if (!canBeSent(request)) return complete(Code::unknown);
 
     const auto id = ++lastId_;
-    const auto end = ClientLoop::Clock::now() + request.timeout;
     auto& operation = operations_[id];
     operation.request = std::move(request);
     operation.complete = std::move(complete);
+    if (stop.stop_requested()) return endingLater(id, Code::cancelled)();
+    if (!canBeSent(operation.request)) return endingLater(id, Code::unknown)();
+
+    const auto end = ClientLoop::Clock::now() + operation.request.timeout;
     operation.deadline = loop_.at(end, [this, id] { finish(id, Code::timedOut); });
-    operation.onStop.emplace(std::move(stop), StopNotice{loop_, weak_from_this(), id});
+    operation.onStop.emplace(std::move(stop), endingLater(id, Code::cancelled));
     findProxy(id);
 }
 
-void TransportOperations::StopNotice::operator()() const
+TransportOperations::Ending TransportOperations::endingLater(Id id, Code code)
 {
-    loop.post([requests = operations, stopped = id] {
-        if (const auto alive = requests.lock()) alive->finish(stopped, Code::cancelled);
+    return {loop_, weak_from_this(), id, code};
+}
+
+void TransportOperations::Ending::operator()() const
+{
+    loop.post([requests = operations, ended = id, failure = code] {
+        if (const auto alive = requests.lock()) alive->finish(ended, failure);
     });
 }
 

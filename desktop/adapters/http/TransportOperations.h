@@ -34,11 +34,14 @@ public:
 
 private:
     using Id = std::uint64_t;
+    using Code = platform::URLError::Code;
 
-    struct StopNotice {
+    /// Ends a request in a later turn of the loop. May be called from any thread.
+    struct Ending {
         ClientLoop& loop;
         std::weak_ptr<TransportOperations> operations;
         Id id;
+        Code code;
 
         void operator()() const;
     };
@@ -47,12 +50,13 @@ private:
         platform::HttpRequest request;
         Complete complete;
         ClientLoop::Alarm deadline;
-        std::optional<std::stop_callback<StopNotice>> onStop;
+        std::optional<std::stop_callback<Ending>> onStop;
         std::optional<std::string> proxy;
         ClientLoop::Alarm endOfPatience;
         std::unique_ptr<CurlExchange> exchange;
     };
 
+    Ending endingLater(Id id, Code code);
     void findProxy(Id id);
     void bringProxy(Id id, std::string proxy);
     void takeProxy(Id id, std::string proxy);

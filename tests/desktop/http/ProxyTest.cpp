@@ -68,6 +68,19 @@ HttpRequest withKey(HttpRequest made)
     return made;
 }
 
+TEST_F(Transport, TakesUpARequestOfItsOwnLoopInTheSameTurn)
+{
+    UnansweredProxy desktop;
+    settings.proxies = &desktop;
+    std::promise<bool> isUnderWay;
+    loop.post([&] {
+        transport().send(get("https://a.invalid/"), {}, [](const Result&) {});
+        isUnderWay.set_value(desktop.isAsked());
+    });
+    EXPECT_TRUE(isUnderWay.get_future().get());
+    dropTransport();
+}
+
 TEST_F(Transport, GoesThroughTheProxyOfTheDesktopAndTellsItNoKey)
 {
     FaultServer server(identity(), welcome);
