@@ -14,14 +14,14 @@ namespace {
 
 const Json& required(const Json& json, const char* key)
 {
-    const auto* value = json.find(key);
-    if (!value) throw BadOrder(std::string("\"") + key + "\" is missing.");
+    const auto value = json.find(key);
+    if (value == json.end()) throw BadOrder(std::string("\"") + key + "\" is missing.");
     return *value;
 }
 
 const std::string& requiredText(const Json& json, const char* key)
 {
-    const auto* text = required(json, key).string();
+    const auto* text = required(json, key).get_ptr<const Json::string_t*>();
     if (!text) throw BadOrder(std::string("\"") + key + "\" is no text.");
     return *text;
 }
@@ -39,26 +39,26 @@ PageHealth readHealth(const std::string& name)
 
 void changePage(StatusPage& page, const Json& order)
 {
-    if (order.find("health")) page.setHealth(readHealth(requiredText(order, "health")));
-    if (order.find("name")) page.name = requiredText(order, "name");
-    if (order.find("status")) page.status = requiredText(order, "status");
-    if (order.find("code"))
+    if (order.contains("health")) page.setHealth(readHealth(requiredText(order, "health")));
+    if (order.contains("name")) page.name = requiredText(order, "name");
+    if (order.contains("status")) page.status = requiredText(order, "status");
+    if (order.contains("code"))
         page.overview = StatusPage::Overview{requiredText(order, "code"), requiredText(order, "label")};
 }
 
 Account readAccount(const Json& order, support::Time now)
 {
-    if (order.find("seed")) {
+    if (order.contains("seed")) {
         const auto size = seedSize(requiredText(order, "seed"));
         if (!size) throw BadOrder("There is no such seed.");
         auto account = seededAccount(*size, now);
-        if (order.find("id_prefix")) prefixIds(account, requiredText(order, "id_prefix"));
+        if (order.contains("id_prefix")) prefixIds(account, requiredText(order, "id_prefix"));
         return account;
     }
-    const auto* list = required(order, "pages").array();
-    if (!list) throw BadOrder("\"pages\" is no list.");
+    const auto& list = required(order, "pages");
+    if (!list.is_array()) throw BadOrder("\"pages\" is no list.");
     Account account;
-    for (const auto& item : *list) {
+    for (const auto& item : list) {
         StatusPage page;
         page.id = requiredText(item, "id");
         page.name = requiredText(item, "name");
@@ -70,9 +70,9 @@ Account readAccount(const Json& order, support::Time now)
 
 std::map<std::string, KeyRights, std::less<>> readKeys(const Json& order)
 {
-    if (!order.object()) throw BadOrder("Keys come as an object.");
+    if (!order.is_object()) throw BadOrder("Keys come as an object.");
     std::map<std::string, KeyRights, std::less<>> keys;
-    for (const auto& [key, rights] : *order.object()) {
+    for (const auto& [key, rights] : order.items()) {
         if (rights == Json("full")) {
             keys.emplace(key, KeyRights::full);
         } else if (rights == Json("none")) {
@@ -93,10 +93,10 @@ ResultShape readShape(const Json& order)
 
 Json wireRequests(const std::vector<Request>& requests)
 {
-    Json::Array list;
+    auto list = Json::array();
     for (const auto& request : requests) {
-        Json::Object headers;
-        for (const auto& [name, value] : request.headers) headers.emplace_back(name, value);
+        auto headers = Json::object();
+        for (const auto& [name, value] : request.headers) headers[name] = value;
         list.push_back(Json::object({{"method", request.method}, {"target", request.target},
             {"headers", std::move(headers)}, {"body", request.body}}));
     }
@@ -109,7 +109,7 @@ const Answer done{204};
 
 Control::Control(Service& service, ServerCertificates& certificates)
 {
-    const auto order = [](const Call& call) { return Json::parse(call.request.body); };
+    const auto order = [](const Call& call) { return parsedJson(call.request.body); };
 
     router_.add("POST", "/simulator/faults", [&service, order](const Call& call) {
         service.inject(readFaultRule(order(call)));
@@ -166,13 +166,13 @@ Reply Control::answer(const Request& request)
     try {
         Account none;
         answer = router_.route(request, none, {});
-    } catch (const std::runtime_error& error) {
+    } catch (const std::exception& error) {
         answer = {400, Json::object({{"error", error.what()}})};
     }
     Reply reply;
     reply.status = answer.status;
     reply.headers = std::move(answer.headers);
-    if (answer.result) reply.body = answer.result->text();
+    if (answer.result) reply.body = textOf(*answer.result);
     return reply;
 }
 

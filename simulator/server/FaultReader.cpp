@@ -3,6 +3,8 @@
 #include <functional>
 #include <map>
 
+#include "json/Json.h"
+
 namespace larkspan::simulator {
 
 namespace {
@@ -15,30 +17,28 @@ public:
     {
     }
 
-    std::optional<std::int64_t> number(const char* key) const
+    std::optional<std::uint64_t> number(const char* key) const
     {
-        const auto* value = json_.find(key);
-        if (!value) return std::nullopt;
-        const auto number = value->integer();
-        if (!number || *number < 0) throw BadOrder(std::string("\"") + key + "\" is no whole number from 0.");
-        return number;
+        const auto value = json_.find(key);
+        if (value == json_.end()) return std::nullopt;
+        if (!value->is_number_unsigned()) throw BadOrder(std::string("\"") + key + "\" is no whole number from 0.");
+        return value->get<std::uint64_t>();
     }
 
     std::optional<std::string> text(const char* key) const
     {
-        const auto* value = json_.find(key);
-        if (!value) return std::nullopt;
-        if (!value->string()) throw BadOrder(std::string("\"") + key + "\" is no text.");
-        return *value->string();
+        const auto value = json_.find(key);
+        if (value == json_.end()) return std::nullopt;
+        if (!value->is_string()) throw BadOrder(std::string("\"") + key + "\" is no text.");
+        return value->get<std::string>();
     }
 
     bool truth(const char* key) const
     {
-        const auto* value = json_.find(key);
-        if (!value) return false;
-        const auto truth = value->boolean();
-        if (!truth) throw BadOrder(std::string("\"") + key + "\" is neither true nor false.");
-        return *truth;
+        const auto value = json_.find(key);
+        if (value == json_.end()) return false;
+        if (!value->is_boolean()) throw BadOrder(std::string("\"") + key + "\" is neither true nor false.");
+        return value->get<bool>();
     }
 
     template <typename Value>
@@ -53,13 +53,7 @@ public:
     std::chrono::milliseconds time(std::chrono::milliseconds otherwise) const
     {
         const auto found = number("milliseconds");
-        return found ? std::chrono::milliseconds(*found) : otherwise;
-    }
-
-    std::optional<std::uint64_t> after() const
-    {
-        const auto found = number("after");
-        return found ? std::optional(static_cast<std::uint64_t>(*found)) : std::nullopt;
+        return found ? std::chrono::milliseconds(static_cast<std::int64_t>(*found)) : otherwise;
     }
 
 private:
@@ -69,8 +63,7 @@ private:
 Fault readDrip(const Members& members)
 {
     const fault::Drip usual;
-    const auto bytes = members.number("bytes").value_or(static_cast<std::int64_t>(usual.bytes));
-    return fault::Drip{static_cast<std::uint64_t>(bytes), members.time(usual.pause)};
+    return fault::Drip{members.number("bytes").value_or(usual.bytes), members.time(usual.pause)};
 }
 
 Fault readBody(const Members& members)
@@ -82,9 +75,8 @@ Fault readBody(const Members& members)
 
 Fault readHugeBody(const Members& members)
 {
-    const auto bytes = members.number("bytes");
     fault::HugeBody huge;
-    if (bytes) huge.bytes = static_cast<std::uint64_t>(*bytes);
+    huge.bytes = members.number("bytes").value_or(huge.bytes);
     huge.isPacked = members.truth("packed");
     return huge;
 }
@@ -111,9 +103,11 @@ const std::map<std::string, ReadFault, std::less<>>& faultReaders()
         {"delay", [](const Members& members) { return fault::Delay{members.time({})}; }},
         {"hang", [](const Members&) { return fault::Hang{}; }},
         {"drip", readDrip},
-        {"reset", [](const Members& members) { return fault::Reset{members.after()}; }},
+        {"reset", [](const Members& members) { return fault::Reset{members.number("after")}; }},
         {"truncation",
-            [](const Members& members) { return fault::Truncation{members.after(), members.truth("hides_length")}; }},
+            [](const Members& members) {
+                return fault::Truncation{members.number("after"), members.truth("hides_length")};
+            }},
         {"closed_before_first_byte", [](const Members&) { return fault::ClosedBeforeFirstByte{}; }},
         {"not_http", [](const Members&) { return fault::NotHttp{}; }},
         {"body", readBody},

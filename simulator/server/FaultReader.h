@@ -3,7 +3,7 @@
 #include <stdexcept>
 
 #include "service/FaultPlan.h"
-#include "json/Json.h"
+#include "json/JsonForward.h"
 
 namespace larkspan::simulator {
 

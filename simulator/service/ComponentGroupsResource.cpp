@@ -15,11 +15,11 @@ namespace {
 std::optional<Json> listedComponents(const ComponentGroup& group, const Account& account)
 {
     if (!group.listsComponents) return std::nullopt;
-    Json::Array components;
+    auto components = Json::array();
     for (const auto& component : account.components) {
         if (component.groupId == group.id) components.push_back(wireComponent(component));
     }
-    return Json(std::move(components));
+    return components;
 }
 
 Json wireGroup(const ComponentGroup& group, const Account& account)
@@ -35,7 +35,7 @@ Json wireGroup(const ComponentGroup& group, const Account& account)
 Answer listGroups(const Call& call)
 {
     const auto page = knownPageOfQuery(call.account, call.request.query("status_page_id"));
-    Json::Array groups;
+    auto groups = Json::array();
     for (const auto& group : call.account.componentGroups) {
         if (group.statusPageId == page) groups.push_back(wireGroup(group, call.account));
     }

@@ -22,7 +22,7 @@ Answer listComponents(const Call& call)
     if (call.request.query("status_page_id")) {
         page = knownPageOfQuery(call.account, call.request.query("status_page_id"));
     }
-    Json::Array components;
+    auto components = Json::array();
     for (const auto& component : call.account.components) {
         if (!page || component.statusPageId == page) components.push_back(wireComponent(component));
     }

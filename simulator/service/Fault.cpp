@@ -2,20 +2,18 @@
 
 #include <algorithm>
 
+#include "json/Json.h"
+
 namespace larkspan::simulator {
 
 namespace {
 
 /// The list of a result: the result itself, or the first list in an envelope.
-Json::Array* listWithin(Json& result)
+Json* listWithin(Json& result)
 {
-    if (auto* list = result.array()) return list;
-    if (auto* members = result.object()) {
-        for (auto& [key, value] : *members) {
-            if (auto* list = value.array()) return list;
-        }
-    }
-    return nullptr;
+    if (result.is_array()) return &result;
+    const auto list = std::ranges::find_if(result, [](const Json& value) { return value.is_array(); });
+    return list != result.end() ? &*list : nullptr;
 }
 
 struct SpoilResult {
@@ -23,10 +21,10 @@ struct SpoilResult {
 
     void operator()(const fault::WrongShape&) const
     {
-        if (result.array()) {
+        if (result.is_array()) {
             result = Json::object({{"items", std::move(result)}});
         } else {
-            result = Json::Array{std::move(result)};
+            result = Json::array({std::move(result)});
         }
     }
 
@@ -34,8 +32,8 @@ struct SpoilResult {
     {
         auto* list = listWithin(result);
         if (!list || list->empty()) return;
-        auto* element = (*list)[list->size() / 2].object();
-        if (element) std::erase_if(*element, [](const Json::Member& member) { return member.first == "id"; });
+        auto& element = (*list)[list->size() / 2];
+        if (element.is_object()) element.erase("id");
     }
 
     template <typename Other>
@@ -51,7 +49,7 @@ struct SpoilReply {
     {
         reply.status = status.code;
         const bool mayHaveBody = status.code != 204 && status.code != 304;
-        reply.body = mayHaveBody ? Json::object({{"error", "Something went wrong"}}).text() : std::string();
+        reply.body = mayHaveBody ? textOf(Json::object({{"error", "Something went wrong"}})) : std::string();
     }
 
     void operator()(const fault::Delay& delay) const { reply.delivery.delay += delay.time; }

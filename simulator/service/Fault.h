@@ -7,7 +7,7 @@
 #include <variant>
 
 #include "service/Exchange.h"
-#include "json/Json.h"
+#include "json/JsonForward.h"
 
 namespace larkspan::simulator {
 

@@ -44,7 +44,7 @@ Json wireState(const IncidentState& state)
 Answer listIncidents(const Call& call)
 {
     const auto page = call.request.query("status_page_id");
-    Json::Array incidents;
+    auto incidents = Json::array();
     for (const auto& incident : call.account.incidents) {
         if (!page || incident.statusPageId == page) incidents.push_back(wireIncident(incident, call.account));
     }

@@ -43,10 +43,10 @@ Json wireMonitor(const Monitor& monitor)
 
 Json wireWithMetrics(const Monitor& monitor, support::Time now)
 {
-    Json::Object windows;
+    auto windows = Json::object();
     for (const auto& span : spans) {
         auto window = wireFigures(metricsOf(monitor, span.length, now), monitor.metricsForm);
-        if (window) windows.emplace_back(span.name, *std::move(window));
+        if (window) windows[span.name] = *std::move(window);
     }
     return wireRecord({
         {"id", monitor.id},
@@ -61,7 +61,7 @@ Json wireWithMetrics(const Monitor& monitor, support::Time now)
 Answer listUnderComponents(const Call& call)
 {
     const auto components = call.request.queryList("component_ids");
-    Json::Array monitors;
+    auto monitors = Json::array();
     for (const auto& monitor : call.account.monitors) {
         const bool isAsked = monitor.componentId && std::ranges::count(components, *monitor.componentId) > 0;
         if (isAsked) monitors.push_back(wireWithMetrics(monitor, call.now));
@@ -75,12 +75,12 @@ Answer listMetrics(const Call& call)
     const auto range = call.request.query("range").value_or("");
     const auto span = std::ranges::find(spans, range, &Span::name);
     if (span == spans.end()) throw Refusal(422, "There is no such range.");
-    Json::Object windows;
+    auto windows = Json::object();
     for (const auto& id : call.request.queryList("ids")) {
         const auto* monitor = call.account.findMonitor(id);
         if (!monitor) continue;
         auto window = wireWindow(metricsOf(*monitor, span->length, call.now), monitor->metricsForm);
-        if (window) windows.emplace_back(id, *std::move(window));
+        if (window) windows[id] = *std::move(window);
     }
     return ok(wireRecord({{"metrics", std::move(windows)}}));
 }

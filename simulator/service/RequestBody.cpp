@@ -23,8 +23,8 @@ Value required(const char* key, std::optional<Value> value)
 Json parsed(const std::string& text)
 {
     try {
-        return Json::parse(text);
-    } catch (const Json::Malformed&) {
+        return parsedJson(text);
+    } catch (const Json::exception&) {
         throw Refusal(unprocessable, "The body is no JSON.");
     }
 }
@@ -40,15 +40,15 @@ Refusal::Refusal(int status, const std::string& sentence)
 RequestBody::RequestBody(const Request& request)
     : json_(parsed(request.body))
 {
-    if (!json_.object()) throw Refusal(unprocessable, "The body is no object.");
+    if (!json_.is_object()) throw Refusal(unprocessable, "The body is no object.");
 }
 
 std::optional<std::string> RequestBody::text(const char* key) const
 {
     const auto* value = find(key);
     if (!value) return std::nullopt;
-    if (!value->string()) throw wrong(key, "is no text.");
-    return *value->string();
+    if (!value->is_string()) throw wrong(key, "is no text.");
+    return value->get<std::string>();
 }
 
 std::string RequestBody::requiredText(const char* key) const
@@ -60,11 +60,11 @@ std::vector<std::string> RequestBody::requiredTexts(const char* key) const
 {
     const auto* value = find(key);
     if (!value) throw wrong(key, "is missing.");
-    if (!value->array()) throw wrong(key, "is no list.");
+    if (!value->is_array()) throw wrong(key, "is no list.");
     std::vector<std::string> texts;
-    for (const auto& item : *value->array()) {
-        if (!item.string()) throw wrong(key, "holds something that is no text.");
-        texts.push_back(*item.string());
+    for (const auto& item : *value) {
+        if (!item.is_string()) throw wrong(key, "holds something that is no text.");
+        texts.push_back(item.get<std::string>());
     }
     return texts;
 }
@@ -85,8 +85,8 @@ std::optional<bool> RequestBody::flag(const char* key) const
 {
     const auto* value = find(key);
     if (!value) return std::nullopt;
-    if (!value->boolean()) throw wrong(key, "is neither true nor false.");
-    return value->boolean();
+    if (!value->is_boolean()) throw wrong(key, "is neither true nor false.");
+    return value->get<bool>();
 }
 
 bool RequestBody::requiredFlag(const char* key) const
@@ -110,8 +110,8 @@ support::Time RequestBody::requiredDate(const char* key) const
 
 const Json* RequestBody::find(const char* key) const
 {
-    const auto* value = json_.find(key);
-    return value && !value->isNull() ? value : nullptr;
+    const auto value = json_.find(key);
+    return value != json_.end() && !value->is_null() ? &*value : nullptr;
 }
 
 }  // namespace larkspan::simulator

@@ -139,9 +139,9 @@ Reply Service::State::replyTo(const Request& request, const std::vector<Fault>& 
     const bool isSuccess = answer.status >= 200 && answer.status < 300;
     if (isSuccess) {
         for (const auto& fault : faultsOfRequest) spoil(fault, *answer.result);
-        reply.body = shaped(std::move(answer), shape).text();
+        reply.body = textOf(shaped(std::move(answer), shape));
     } else {
-        reply.body = answer.result->text();
+        reply.body = textOf(*answer.result);
     }
     return reply;
 }

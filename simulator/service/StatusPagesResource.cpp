@@ -37,7 +37,7 @@ Json wirePage(const StatusPage& page)
 
 Json wireOverview(const std::vector<StatusPage>& pages)
 {
-    Json::Array entries;
+    auto entries = Json::array();
     for (const auto& page : pages) {
         if (!page.overview) continue;
         auto status = wireRecord({{"code", page.overview->code}, {"label", page.overview->label}});

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "account/Component.h"
-#include "json/Json.h"
+#include "json/JsonForward.h"
 
 namespace larkspan::simulator {
 

@@ -6,9 +6,9 @@ namespace larkspan::simulator {
 
 namespace {
 
-Json::Array wireLatency(const MonitorMetrics& metrics)
+Json wireLatency(const MonitorMetrics& metrics)
 {
-    Json::Array latency;
+    auto latency = Json::array();
     for (const auto& sample : metrics.samples) latency.emplace_back(sample.milliseconds);
     return latency;
 }
@@ -36,9 +36,9 @@ Json wireTrend(double change, double notable, MetricsForm form)
     return change < -notable ? "down" : "stable";
 }
 
-Json::Array malformedRegions(const MonitorMetrics& metrics)
+Json malformedRegions(const MonitorMetrics& metrics)
 {
-    Json::Array regions;
+    auto regions = Json::array();
     for (const auto& region : metrics.regions) {
         regions.push_back(wireRecord({{"region_id", region.id}, {"status", region.state}}));
     }
@@ -77,23 +77,18 @@ Json figuresWithGaps(const MonitorMetrics& metrics)
     return wireRecord({{"avg_ms", metrics.averageMs}, {"uptime_percentage", Json()}, {"updated", metrics.updated}});
 }
 
-void add(Json& window, const char* key, Json value)
-{
-    window.object()->emplace_back(key, std::move(value));
-}
-
 void addLists(Json& window, const MonitorMetrics& metrics, MetricsForm form)
 {
     auto latency = wireLatency(metrics);
     if (form == MetricsForm::malformed) {
-        add(window, "region_states", malformedRegions(metrics));
+        window["region_states"] = malformedRegions(metrics);
         latency.front() = 12.5;
     } else if (form != MetricsForm::gaps) {
-        add(window, "region_states", wireList(metrics.regions, wireRegion));
+        window["region_states"] = wireList(metrics.regions, wireRegion);
     }
-    if (form != MetricsForm::gaps) add(window, "latency_points", wireList(metrics.samples, wireSample));
+    if (form != MetricsForm::gaps) window["latency_points"] = wireList(metrics.samples, wireSample);
     if (form == MetricsForm::noLatency) latency.clear();
-    add(window, "latency", std::move(latency));
+    window["latency"] = std::move(latency);
 }
 
 }  // namespace
@@ -113,7 +108,7 @@ std::optional<Json> wireFigures(const MonitorMetrics& metrics, MetricsForm form)
     case MetricsForm::noLatency: return figures(metrics, form);
     case MetricsForm::gaps: return figuresWithGaps(metrics);
     case MetricsForm::malformed: return malformedFigures(metrics);
-    case MetricsForm::empty: return Json(Json::Object());
+    case MetricsForm::empty: return Json::object();
     case MetricsForm::missing: break;
     }
     return std::nullopt;

@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "account/MonitorMetrics.h"
-#include "json/Json.h"
+#include "json/JsonForward.h"
 
 namespace larkspan::simulator {
 

@@ -7,12 +7,11 @@ namespace larkspan::simulator {
 
 Json wireRecord(std::initializer_list<std::pair<const char*, WireValue>> fields)
 {
-    Json::Object members;
-    members.reserve(fields.size());
+    auto record = Json::object();
     for (const auto& [key, value] : fields) {
-        if (value.json()) members.emplace_back(key, *value.json());
+        if (value.json()) record[key] = *value.json();
     }
-    return members;
+    return record;
 }
 
 Json wireId(const std::string& id)

@@ -49,8 +49,7 @@ Json wireId(const std::string& id);
 template <typename Record, typename Wire>
 Json wireList(const std::vector<Record>& records, Wire wire)
 {
-    Json::Array list;
-    list.reserve(records.size());
+    auto list = Json::array();
     for (const auto& record : records) list.push_back(wire(record));
     return list;
 }

@@ -25,7 +25,10 @@ protected:
         });
     }
 
-    std::size_t countOf(const std::string& listPath) { return Json::parse(send("GET", listPath).body).array()->size(); }
+    std::size_t countOf(const std::string& listPath)
+    {
+        return parsedJson(send("GET", listPath).body).get_ref<Json::array_t&>().size();
+    }
 };
 
 TEST_F(ComponentEndpoints, ListsThoseOfAPageOrOfTheAccount)
@@ -39,13 +42,13 @@ TEST_F(ComponentEndpoints, ListsThoseOfAPageOrOfTheAccount)
 
 TEST_F(ComponentEndpoints, AListMayComeInItsOwnEnvelope)
 {
-    const auto bare = Json::parse(send("GET", componentsPath).body);
-    const auto bareGroups = Json::parse(send("GET", groupsOfPage).body);
+    const auto bare = parsedJson(send("GET", componentsPath).body);
+    const auto bareGroups = parsedJson(send("GET", groupsOfPage).body);
     service_.setShape(ResultShape::inOwnEnvelope);
 
-    EXPECT_EQ(Json::parse(send("GET", componentsPath).body), Json::object({{"components", bare}}));
-    EXPECT_EQ(Json::parse(send("GET", groupsOfPage).body), Json::object({{"component_groups", bareGroups}}));
-    EXPECT_NE(Json::parse(send("GET", samples::pagesPath).body).find("data"), nullptr);
+    EXPECT_EQ(parsedJson(send("GET", componentsPath).body), Json::object({{"components", bare}}));
+    EXPECT_EQ(parsedJson(send("GET", groupsOfPage).body), Json::object({{"component_groups", bareGroups}}));
+    EXPECT_TRUE(parsedJson(send("GET", samples::pagesPath).body).contains("data"));
 }
 
 TEST_F(ComponentEndpoints, CreatePutsTheNewOneLastIntoItsGroupsPage)
@@ -56,7 +59,7 @@ TEST_F(ComponentEndpoints, CreatePutsTheNewOneLastIntoItsGroupsPage)
     EXPECT_EQ(reply.body,
         R"({"id":11,"name":"CDN","description":"d","monitor_state":"up","component_group_id":"group-2",)"
         R"("status_page_id":"page-2"})");
-    EXPECT_EQ(Json::parse(send("GET", componentsPath).body).array()->back(), Json::parse(reply.body));
+    EXPECT_EQ(parsedJson(send("GET", componentsPath).body).back(), parsedJson(reply.body));
 }
 
 TEST_F(ComponentEndpoints, CreateWithoutAGroupBelongsToNoPage)

@@ -43,7 +43,7 @@ TEST_F(ControlOrders, ReplaceThePages)
     EXPECT_EQ(pages().body, R"([{"id":"x","name":"Ünique","status":"degraded"}])");
 
     EXPECT_EQ(order("PUT", "pages", R"({"seed":"large"})"), 204);
-    EXPECT_EQ(Json::parse(pages().body).array()->size(), 1'000u);
+    EXPECT_EQ(parsedJson(pages().body).size(), 1'000u);
 }
 
 TEST_F(ControlOrders, SeedRecordsWhoseIdsBeginAsTold)
@@ -101,7 +101,7 @@ TEST_P(BadOrders, AreAnsweredWithWhatIsWrongAndChangeNothing)
     const auto reply = control_.answer({GetParam().method, "/simulator/" + GetParam().path, {}, GetParam().body});
 
     EXPECT_EQ(reply.status, 400);
-    EXPECT_EQ(Json::parse(reply.body), Json::object({{"error", GetParam().error}}));
+    EXPECT_EQ(parsedJson(reply.body), Json::object({{"error", GetParam().error}}));
     EXPECT_EQ(pages().body, before);
 }
 
@@ -122,10 +122,27 @@ INSTANTIATE_TEST_SUITE_P(EachMistake, BadOrders,
         BadOrderRow{"PUT", "shape", R"({"shape":"round"})", R"(There is no shape "round".)"},
         BadOrderRow{"PUT", "certificate", R"({"certificate":"gold"})", "There is no such certificate."}));
 
-TEST_F(ControlOrders, ThatAreNoJsonAreBad)
+TEST_F(ControlOrders, TellOfARequestWhoseBytesAreNoTextToo)
 {
-    EXPECT_EQ(order("POST", "faults", "status"), 400);
+    service_.answer({"POST", samples::pagesPath, {}, "\xff{}"});
+
+    const auto requests = parsedJson(control_.answer({"GET", "/simulator/requests", {}, {}}).body);
+
+    EXPECT_EQ(requests.at(0).at("body"), Json("\uFFFD{}"));
 }
+
+class OrdersThatAreNoJson : public ControlOrders, public testing::WithParamInterface<const char*> {};
+
+TEST_P(OrdersThatAreNoJson, AreBad)
+{
+    const auto reply = control_.answer({"POST", "/simulator/faults", {}, GetParam()});
+
+    EXPECT_EQ(reply.status, 400);
+    EXPECT_TRUE(parsedJson(reply.body).at("error").is_string());
+}
+
+INSTANTIATE_TEST_SUITE_P(EachMistake, OrdersThatAreNoJson,
+    testing::Values("", "status", R"({"fault":)", R"({"fault":"hang"} {})", "\"\xff\xfe\"", R"({"times":1e999})"));
 
 struct FaultNameRow {
     std::string json;
@@ -136,7 +153,7 @@ class FaultNames : public testing::TestWithParam<FaultNameRow> {};
 
 TEST_P(FaultNames, StandForTheirFaults)
 {
-    EXPECT_EQ(readFaultRule(Json::parse(GetParam().json)).fault.index(), GetParam().kind);
+    EXPECT_EQ(readFaultRule(parsedJson(GetParam().json)).fault.index(), GetParam().kind);
 }
 
 template <typename Kind>
@@ -165,7 +182,7 @@ INSTANTIATE_TEST_SUITE_P(EachName, FaultNames,
 TEST(FaultRule, ReadsWhatTheFaultNeedsAndWhomItBefalls)
 {
     const auto rule = readFaultRule(
-        Json::parse(R"({"fault":"drip","bytes":7,"milliseconds":30,"path":"/a","method":"GET","times":4})"));
+        parsedJson(R"({"fault":"drip","bytes":7,"milliseconds":30,"path":"/a","method":"GET","times":4})"));
 
     EXPECT_EQ(std::get<fault::Drip>(rule.fault).bytes, 7u);
     EXPECT_EQ(std::get<fault::Drip>(rule.fault).pause, 30ms);

@@ -35,11 +35,11 @@ TEST(DemoAccount, ShowsItsPagesToTheKeyInItsStoreAndLives)
     fakes::ManualClock clock;
     DemoAccount account(clock, item, 1ms);
 
-    const auto before = Json::parse(fetchPages(account));
+    const auto before = parsedJson(fetchPages(account));
     clock.time += 1min;
-    const auto after = Json::parse(fetchPages(account));
+    const auto after = parsedJson(fetchPages(account));
 
-    EXPECT_EQ(before.find("data")->array()->size(), 4u);
+    EXPECT_EQ(before.at("data").size(), 4u);
     EXPECT_NE(before, after);
 }
 

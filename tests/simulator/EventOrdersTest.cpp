@@ -27,7 +27,7 @@ protected:
     std::string maintenanceStatus()
     {
         const auto reply = service_.answer(samples::request("/user/api/v1/maintenances"));
-        return *Json::parse(reply.body).find("data")->array()->front().find("status")->string();
+        return parsedJson(reply.body).at("data").at(0).at("status").get<std::string>();
     }
 
     Identity authority_ = makeAuthority("Test");
@@ -114,7 +114,7 @@ TEST_P(BadEventOrders, AreAnsweredWithWhatIsWrongAndChangeNothing)
     const auto reply = order(GetParam().method, GetParam().path, GetParam().body);
 
     EXPECT_EQ(reply.status, 400);
-    EXPECT_EQ(Json::parse(reply.body), Json::object({{"error", GetParam().error}}));
+    EXPECT_EQ(parsedJson(reply.body), Json::object({{"error", GetParam().error}}));
     service_.withAccount([](Account& account) {
         EXPECT_TRUE(account.incidents.empty());
         EXPECT_TRUE(account.maintenances.empty());

@@ -22,7 +22,7 @@ class Events : public testing::Test {
 protected:
     Events() { service_.setShape(ResultShape::bare); }
 
-    Json get(const std::string& target) { return Json::parse(service_.answer(request(target)).body); }
+    Json get(const std::string& target) { return parsedJson(service_.answer(request(target)).body); }
 
     fakes::ManualClock clock_;
     Service service_{samples::account(), clock_};
@@ -40,7 +40,7 @@ TEST_F(Events, ComeUnderDataToo)
 
     EXPECT_EQ(service_.answer(request(incidentsPath)).body, R"({"data":[]})");
     EXPECT_EQ(service_.answer(request(maintenancesPath)).body, R"({"data":[]})");
-    EXPECT_NE(get(statesPath).find("data")->find("incident_states"), nullptr);
+    EXPECT_TRUE(get(statesPath).at("data").contains("incident_states"));
 }
 
 TEST_F(Events, StatesAreNumberedStages)
@@ -81,9 +81,9 @@ TEST_F(Events, IncidentsOfOnePageAreAskedForByItsEncodedId)
     });
 
     const auto ofPage = get(std::string(incidentsPath) + "?x=1&status_page_id=a%20b");
-    EXPECT_EQ(ofPage.array()->size(), 1u);
-    EXPECT_EQ(*ofPage.array()->front().find("id"), Json("a b"));
-    EXPECT_EQ(get(std::string(incidentsPath) + "?status_page_id=d").array()->size(), 0u);
+    EXPECT_EQ(ofPage.size(), 1u);
+    EXPECT_EQ(ofPage.at(0).at("id"), Json("a b"));
+    EXPECT_EQ(get(std::string(incidentsPath) + "?status_page_id=d").size(), 0u);
 }
 
 TEST_F(Events, AMaintenancesIdOfDigitsTravelsAsANumberAndItsStatusFollowsTheClock)

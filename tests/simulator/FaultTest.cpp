@@ -5,6 +5,7 @@
 
 #include "Samples.h"
 #include "service/Service.h"
+#include "json/Json.h"
 
 namespace larkspan::simulator {
 namespace {
@@ -82,23 +83,22 @@ TEST_F(Faults, OfAWrongShapeTurnListsAndObjectsRound)
 {
     service_.setShape(ResultShape::bare);
 
-    const auto pages = Json::parse(answerWith(fault::WrongShape{}).body);
-    const auto overview = Json::parse(service_.answer(request(overviewPath)).body);
+    const auto pages = parsedJson(answerWith(fault::WrongShape{}).body);
+    const auto overview = parsedJson(service_.answer(request(overviewPath)).body);
 
-    EXPECT_NE(pages.object(), nullptr);
-    EXPECT_NE(overview.array(), nullptr);
+    EXPECT_TRUE(pages.is_object());
+    EXPECT_TRUE(overview.is_array());
 }
 
 TEST_F(Faults, OfOneBadElementSpoilTheMiddleOneOnly)
 {
-    const auto reply = Json::parse(answerWith(fault::BadElement{}).body);
-    const auto overviewReply = Json::parse(service_.answer(request(overviewPath)).body);
+    const auto reply = parsedJson(answerWith(fault::BadElement{}).body);
+    const auto overviewReply = parsedJson(service_.answer(request(overviewPath)).body);
 
-    const auto& pages = *reply.find("data")->array();
+    const auto& pages = reply.at("data");
     ASSERT_EQ(pages.size(), 5u);
-    for (std::size_t index = 0; index < pages.size(); ++index)
-        EXPECT_EQ(pages[index].find("id") == nullptr, index == 2);
-    EXPECT_EQ(overviewReply.find("data")->find("status_pages")->array()->at(2).find("id"), nullptr);
+    for (std::size_t index = 0; index < pages.size(); ++index) EXPECT_EQ(!pages[index].contains("id"), index == 2);
+    EXPECT_FALSE(overviewReply.at("data").at("status_pages").at(2).contains("id"));
 }
 
 TEST_F(Faults, OfOneBadElementLeaveAnEmptyListAlone)
@@ -115,7 +115,7 @@ TEST_F(Faults, OfTheBodyReplaceItUnderItsStatus)
     EXPECT_EQ(empty.body, "");
 
     const auto garbage = answerWith(fault::Garbage{});
-    EXPECT_THROW(Json::parse(garbage.body), Json::Malformed);
+    EXPECT_THROW(parsedJson(garbage.body), Json::exception);
 
     EXPECT_THAT(answerWith(fault::DeepNesting{3}).body, R"({"data":[[[]]]})");
 }

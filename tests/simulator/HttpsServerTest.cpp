@@ -38,7 +38,7 @@ TEST_F(Https, ServesTheAccountUnderACertificateOfItsAuthority)
     EXPECT_EQ(result.code, CURLE_OK);
     EXPECT_EQ(result.status, 200);
     EXPECT_THAT(result.head, testing::HasSubstr("Content-Type: application/json"));
-    EXPECT_EQ(Json::parse(result.body).find("data")->array()->size(), 3u);
+    EXPECT_EQ(parsedJson(result.body).at("data").size(), 3u);
 }
 
 TEST_F(Https, RecordsARequestAsTheClientSentIt)
@@ -214,10 +214,10 @@ TEST_F(Https, ObeysItsControlWithoutAKeyAndWithoutARecordOfIt)
     EXPECT_EQ(client_.order("POST", "/simulator/faults", R"({"fault":"status","code":503})").status, 204);
     EXPECT_EQ(fetchPages().status, 503);
 
-    const auto requests = Json::parse(client_.order("GET", "/simulator/requests").body);
-    ASSERT_EQ(requests.array()->size(), 1u);
-    EXPECT_EQ(*requests.array()->front().find("target"), Json(pagesPath));
-    EXPECT_EQ(*requests.array()->front().find("headers")->find("X-API-Key"), Json(samples::key));
+    const auto requests = parsedJson(client_.order("GET", "/simulator/requests").body);
+    ASSERT_EQ(requests.size(), 1u);
+    EXPECT_EQ(requests.at(0).at("target"), Json(pagesPath));
+    EXPECT_EQ(requests.at(0).at("headers").at("X-API-Key"), Json(samples::key));
 }
 
 TEST_F(Https, ShowsAnotherCertificateWhenItsControlSaysSo)

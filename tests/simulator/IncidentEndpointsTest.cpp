@@ -53,7 +53,7 @@ TEST_F(IncidentEndpoints, CreatePutsTheNewOneFirstAndDegradesItsPage)
     EXPECT_EQ(field(reply, "id"), "incident-2");
     EXPECT_EQ(field(reply, "created_at"), "2026-11-20T09:05:00Z");
     EXPECT_EQ(field(reply, "component_id"), "c");
-    EXPECT_EQ(Json::parse(send("GET", incidentsPath).body).array()->front(), Json::parse(reply.body));
+    EXPECT_EQ(parsedJson(send("GET", incidentsPath).body).at(0), parsedJson(reply.body));
     service_.withAccount([](Account& account) { EXPECT_EQ(account.findPage("page-2")->status, "degraded"); });
 }
 
@@ -154,10 +154,10 @@ TEST_F(IncidentEndpoints, AnAccountsOwnLastStateResolves)
 
 TEST_F(IncidentEndpoints, RecordsComeUnderDataToo)
 {
-    const auto bare = Json::parse(send("GET", path).body);
+    const auto bare = parsedJson(send("GET", path).body);
     service_.setShape(ResultShape::underData);
 
-    EXPECT_EQ(Json::parse(send("GET", path).body), Json::object({{"data", bare}}));
+    EXPECT_EQ(parsedJson(send("GET", path).body), Json::object({{"data", bare}}));
 }
 
 class RefusedOfIncidents : public IncidentEndpoints, public testing::WithParamInterface<RefusalRow> {};

@@ -76,7 +76,7 @@ TEST_F(MaintenanceEndpoints, CreatePutsTheNewOneFirst)
     EXPECT_EQ(field(reply, "status"), "in_progress");
     EXPECT_EQ(field(reply, "affected_components"), "a,b");
     EXPECT_EQ(field(reply, "affected_monitor_ids"), "1");
-    EXPECT_EQ(Json::parse(send("GET", maintenancesPath).body).array()->front(), Json::parse(reply.body));
+    EXPECT_EQ(parsedJson(send("GET", maintenancesPath).body).at(0), parsedJson(reply.body));
     service_.withAccount([](Account& account) { EXPECT_EQ(account.findPage("page-2")->status, "maintenance"); });
 }
 

@@ -39,9 +39,9 @@ protected:
 
     std::string keysOfMetrics(const std::string& query)
     {
-        const auto answer = Json::parse(send("GET", featurePath + "/metrics?" + query).body);
+        const auto answer = parsedJson(send("GET", featurePath + "/metrics?" + query).body);
         std::string keys;
-        for (const auto& [key, window] : *answer.find("metrics")->object()) keys += key + ' ';
+        for (const auto& [key, window] : answer.at("metrics").items()) keys += key + ' ';
         return keys;
     }
 };
@@ -95,10 +95,9 @@ TEST_F(MonitorEndpoints, UnderComponentsAreWrappedInNoShape)
 {
     service_.setShape(ResultShape::underData);
 
-    const auto answer = Json::parse(send("GET", featurePath + "?component_ids=1,2").body);
-    ASSERT_NE(answer.find("monitors"), nullptr);
-    ASSERT_EQ(answer.find("monitors")->array()->size(), 1u);
-    EXPECT_EQ(*answer.find("monitors")->array()->front().find("component_id"), Json("1"));
+    const auto answer = parsedJson(send("GET", featurePath + "?component_ids=1,2").body);
+    ASSERT_EQ(answer.at("monitors").size(), 1u);
+    EXPECT_EQ(answer.at("monitors").at(0).at("component_id"), Json("1"));
 }
 
 TEST_F(MonitorEndpoints, UnderNoComponentAreNone)

@@ -10,7 +10,6 @@
 #include "fakes/ManualClock.h"
 #include "model/json/JSONDecoder.h"
 #include "service/Service.h"
-#include "json/Json.h"
 
 namespace larkspan::simulator {
 

@@ -38,9 +38,8 @@ protected:
     /// A text of the record or refusal in the reply.
     static std::string field(const Reply& reply, const char* key)
     {
-        const auto json = Json::parse(reply.body);
-        const auto* value = json.find(key);
-        return value && value->string() ? *value->string() : "(none)";
+        const auto json = parsedJson(reply.body);
+        return json.contains(key) ? json.at(key).get<std::string>() : "(none)";
     }
 
     std::string pageStatus()

@@ -95,13 +95,12 @@ TEST(Service, SendsPagesUnderDataOrBare)
 {
     Service service(samples::account(2));
 
-    const auto wrapped = Json::parse(service.answer(request(pagesPath)).body);
+    const auto wrapped = parsedJson(service.answer(request(pagesPath)).body);
     service.setShape(ResultShape::bare);
-    const auto bare = Json::parse(service.answer(request(pagesPath)).body);
+    const auto bare = parsedJson(service.answer(request(pagesPath)).body);
 
-    ASSERT_NE(wrapped.find("data"), nullptr);
-    EXPECT_EQ(*wrapped.find("data"), bare);
-    EXPECT_EQ(bare.array()->size(), 2u);
+    EXPECT_EQ(wrapped, Json::object({{"data", bare}}));
+    EXPECT_EQ(bare.size(), 2u);
 }
 
 TEST(ResultShapes, HaveNames)
@@ -141,7 +140,7 @@ TEST(Service, WordsThePagesHealthInTheOverviewsOwnCodes)
     EXPECT_EQ(service.answer(request(overviewPath)).body,
         R"({"status_pages":[{"id":"page-1","name":"Northwind Payments API",)"
         R"("status":{"code":"major-outage","label":"Major Outage"}}]})");
-    EXPECT_EQ(*Json::parse(service.answer(request(pagesPath)).body).array()->front().find("status")->string(), "down");
+    EXPECT_EQ(parsedJson(service.answer(request(pagesPath)).body).at(0).at("status"), Json("down"));
 }
 
 TEST(Service, RecordsWhatItWasSentInOrder)

@@ -26,7 +26,7 @@ TEST_F(StatusPageEndpoints, AnUpdateLeavesWhatItDoesNotName)
     const auto described = send("PATCH", path, "{'description':''}");
     EXPECT_EQ(field(described, "name"), "New");
     EXPECT_EQ(field(described, "description"), "");
-    EXPECT_EQ(Json::parse(send("GET", samples::pagesPath).body).array()->front(), Json::parse(described.body));
+    EXPECT_EQ(parsedJson(send("GET", samples::pagesPath).body).at(0), parsedJson(described.body));
 }
 
 TEST_F(StatusPageEndpoints, TellHowOftenAPageIsLookedAtAndByHowMany)

@@ -22,9 +22,9 @@ TEST_F(TeamEndpoints, TellTeamsAndWhoIsInThem)
 {
     EXPECT_EQ(send("GET", "/user/api/v1/teams").body,
         R"([{"id":"team-1","name":"Platform"},{"id":"team-2","name":"Support"}])");
-    const auto memberships = Json::parse(send("GET", "/user/api/v1/teams/memberships").body);
-    EXPECT_EQ(memberships.array()->front().text(), R"({"team_id":"team-1","user_id":"user-1","role":"lead"})");
-    EXPECT_EQ((*memberships.array())[2].text(), R"({"team_id":"team-1","user_id":"user-3"})");
+    const auto memberships = parsedJson(send("GET", "/user/api/v1/teams/memberships").body);
+    EXPECT_EQ(textOf(memberships.at(0)), R"({"team_id":"team-1","user_id":"user-1","role":"lead"})");
+    EXPECT_EQ(textOf(memberships.at(2)), R"({"team_id":"team-1","user_id":"user-3"})");
 }
 
 TEST_F(TeamEndpoints, TellTheDutyOfTheKeysOwner)
