@@ -7,10 +7,12 @@
 #include <cstdio>
 #include <ctime>
 #include <stdexcept>
+#include <utility>
 #include <vector>
 
 #include "Arguments.h"
 #include "Client.h"
+#include "Median.h"
 #include "account/Seed.h"
 #include "fakes/ManualExecutor.h"
 
@@ -49,8 +51,7 @@ double medianOfCycles(std::size_t pages, std::size_t cycles)
         runMeasuredCycle(client.state(), executor);
         times.push_back(cpuMilliseconds() - before);
     }
-    std::ranges::nth_element(times, times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2));
-    return times[times.size() / 2];
+    return bench::median(std::move(times));
 }
 
 }  // namespace

@@ -4,22 +4,14 @@
 //
 // usage: larkspan-bench-largest     prints milliseconds
 
-#include <algorithm>
 #include <cstdio>
-#include <memory>
 #include <stdexcept>
 #include <string>
 
-#include "Client.h"
-#include "TimedExecutor.h"
+#include "Window.h"
 #include "adapters/http/TransportSettings.h"
 #include "adapters/tray/DBusMenuModel.h"
-#include "bridge/workspace/DashboardBridge.h"
-#include "fakes/FakeLinkOpener.h"
-#include "fakes/FakeLocaleText.h"
 #include "model/json/JSONValue.h"
-#include "support/ScreenUpdates.h"
-#include "workspace/DashboardView.h"
 
 namespace {
 
@@ -59,24 +51,16 @@ std::string overview(const std::string& code)
 
 double longestTurn()
 {
-    bench::TimedExecutor main;
-    bench::TimedExecutor worker;
-    bench::Client client({}, main, worker);
-    api::APIKeyStore keys(worker, client.store());
-    const fakes::FakeLocaleText locale;
-    fakes::FakeLinkOpener links;
-    auto dashboard = std::make_shared<workspace::DashboardView>(workspace::DashboardView::Ports{main, client.timers(),
-        client.clock(), client.store(), keys, client.sharedState(), locale, links, client.api()});
-    const support::ScreenUpdates updates(main);
-    const bridge::DashboardBridge window(dashboard, updates);
+    bench::Window window({});
+    auto& client = window.client();
+    auto& main = window.main();
     adapters::DBusMenuModel panel;
 
     main.restart();
     const auto refresh = [&](std::size_t step, const char* code) {
         client.prepare("v1/status-pages", pages(step));
         client.prepare("status-pages/status", overview(code));
-        client.state().refreshNow();
-        while (main.turn() | worker.turn()) {}
+        window.refresh();
         if (client.state().statusPages->size() != most) throw std::runtime_error("a cycle did not bring the pages");
         main.post([&] { panel.setRows(client.menu()); });
         main.turn();

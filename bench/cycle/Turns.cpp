@@ -7,26 +7,19 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "Arguments.h"
-#include "Client.h"
-#include "TimedExecutor.h"
+#include "Median.h"
+#include "Window.h"
 #include "account/Seed.h"
-#include "bridge/workspace/DashboardBridge.h"
-#include "fakes/FakeLinkOpener.h"
-#include "fakes/FakeLocaleText.h"
 #include "service/WallClock.h"
-#include "support/ScreenUpdates.h"
-#include "workspace/DashboardView.h"
 
 namespace {
 
 using namespace larkspan;
-using bench::TimedExecutor;
 
 simulator::Account accountWith(std::size_t incidents)
 {
@@ -42,40 +35,23 @@ simulator::Account accountWith(std::size_t incidents)
     return account;
 }
 
-double median(std::vector<double> values)
-{
-    std::ranges::nth_element(values, values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2));
-    return values[values.size() / 2];
-}
-
 void measure(std::size_t incidents, std::size_t cycles)
 {
-    TimedExecutor main;
-    TimedExecutor worker;
-    bench::Client client(accountWith(incidents), main, worker);
-    api::APIKeyStore keys(worker, client.store());
-    const fakes::FakeLocaleText locale;
-    fakes::FakeLinkOpener links;
-    auto dashboard = std::make_shared<workspace::DashboardView>(workspace::DashboardView::Ports{main, client.timers(),
-        client.clock(), client.store(), keys, client.sharedState(), locale, links, client.api()});
-    const support::ScreenUpdates updates(main);
-    const bridge::DashboardBridge window(dashboard, updates);
-
+    bench::Window window(accountWith(incidents));
     std::vector<double> turns;
     std::vector<double> work;
     for (std::size_t count = 0; count <= cycles; ++count) {
-        main.restart();
-        worker.restart();
-        client.state().refreshNow();
-        while (main.turn() | worker.turn()) {}
-        if (client.state().incidents->size() != incidents)
+        window.main().restart();
+        window.worker().restart();
+        window.refresh();
+        if (window.client().state().incidents->size() != incidents)
             throw std::runtime_error("a cycle did not bring the incidents");
         // The first one fetches the answers that the transport then remembers.
         if (count == 0) continue;
-        turns.push_back(main.longest());
-        work.push_back(worker.all());
+        turns.push_back(window.main().longest());
+        work.push_back(window.worker().all());
     }
-    std::printf("%.4f %.4f\n", median(turns), median(work));
+    std::printf("%.4f %.4f\n", bench::median(turns), bench::median(work));
 }
 
 }  // namespace

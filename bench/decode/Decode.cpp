@@ -13,9 +13,11 @@
 #include <functional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "Arguments.h"
+#include "Median.h"
 #include "account/Account.h"
 #include "fakes/ManualClock.h"
 #include "model/json/JSONDecoder.h"
@@ -50,7 +52,7 @@ std::string answerWith(std::size_t incidents)
     return reply.body;
 }
 
-double median(std::size_t rounds, const std::function<void()>& work)
+double medianOf(std::size_t rounds, const std::function<void()>& work)
 {
     std::vector<double> taken;
     for (std::size_t round = 0; round < rounds; ++round) {
@@ -58,8 +60,7 @@ double median(std::size_t rounds, const std::function<void()>& work)
         work();
         taken.push_back(std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin).count());
     }
-    std::ranges::sort(taken);
-    return taken[taken.size() / 2];
+    return bench::median(std::move(taken));
 }
 
 void measure(std::size_t incidents, std::size_t rounds)
@@ -71,13 +72,13 @@ void measure(std::size_t incidents, std::size_t rounds)
         if (read != incidents) throw std::runtime_error("not all incidents were read");
     };
     const double decoded
-        = median(rounds, [&] { expect(decoder.decodeResult<std::vector<model::Incident>>(body).size()); });
-    const double parsed = median(rounds, [&] {
+        = medianOf(rounds, [&] { expect(decoder.decodeResult<std::vector<model::Incident>>(body).size()); });
+    const double parsed = medianOf(rounds, [&] {
         simdjson::dom::parser parser;
         expect(parser.parse(body)["data"].get_array().size());
     });
     const auto bytes = QByteArray::fromStdString(body);
-    const double byQt = median(rounds, [&] {
+    const double byQt = medianOf(rounds, [&] {
         const auto document = QJsonDocument::fromJson(bytes);
         expect(static_cast<std::size_t>(document[QLatin1String("data")].toArray().size()));
     });

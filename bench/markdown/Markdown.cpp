@@ -14,6 +14,7 @@
 #include <md4c.h>
 
 #include "Arguments.h"
+#include "Median.h"
 #include "messages/markdown/InlineText.h"
 #include "messages/markdown/MarkdownBlock.h"
 #include "messages/markdown/StatusMarkdownContent.h"
@@ -62,9 +63,7 @@ double medianOf(std::size_t times, Work work)
         work();
         taken.push_back(cpuMicroseconds() - before);
     }
-    const auto middle = taken.begin() + static_cast<std::ptrdiff_t>(times / 2);
-    std::ranges::nth_element(taken, middle);
-    return *middle;
+    return bench::median(std::move(taken));
 }
 
 /// Reads blocks and inline markup as the rows do; the number of runs shows that all of it was read.
