@@ -76,6 +76,22 @@ def tab(pages, the_display):
 
 
 @pytest.fixture
+def incident(tab, the_display):
+    """The screen of the page's incident."""
+    screen = tab(2, ["Login errors"])
+    opening.first_event(screen, the_display, "Login errors")
+    return screen
+
+
+@pytest.fixture
+def maintenance(tab, the_display):
+    """The screen of the page's maintenance."""
+    screen = tab(5, ["Database upgrade"])
+    opening.first_event(screen, the_display, "Database upgrade")
+    return screen
+
+
+@pytest.fixture
 def component(tab, the_display):
     """The screen of the page's component."""
     screen = tab(4, ["REST API"])

@@ -30,25 +30,21 @@ def test_the_refresh_is_disabled_while_the_first_one_runs(start, stored_key, the
     screen.wait_for_disabled(["Refresh Now"])
 
 
-def test_the_actions_of_an_incident_are_disabled_while_one_runs(tab, the_service, the_display):
-    screen = tab(2, ["Login errors"])
-    opening.first_event(screen, the_display, "Login errors")
-    screen.wait_for_disabled([])
+def test_the_actions_of_an_incident_are_disabled_while_one_runs(incident, the_service):
+    incident.wait_for_disabled([])
     the_service.fail("hang", path=f"/user/api/incidents/{the_service.incident}/acknowledge")
-    screen.press("Acknowledge")
-    screen.wait_for("In progress")
-    wait_for_all_disabled(screen, ["Acknowledge", "Resolve", "Escalate", "Add Update", "Delete Incident", "Close"])
+    incident.press("Acknowledge")
+    incident.wait_for("In progress")
+    wait_for_all_disabled(incident, ["Acknowledge", "Resolve", "Escalate", "Add Update", "Delete Incident", "Close"])
 
 
-def test_an_update_is_sent_once(tab, the_service, the_display):
-    screen = tab(2, ["Login errors"])
-    opening.first_event(screen, the_display, "Login errors")
-    screen.press("Add Update")
-    screen.wait_for_focus("Update")
+def test_an_update_is_sent_once(incident, the_service, the_display):
+    incident.press("Add Update")
+    incident.wait_for_focus("Update")
     the_display.type_text("x")
     the_service.fail("hang", path=f"/user/api/v1/incidents/{the_service.incident}")
-    screen.press("Save Update")
-    wait_for_all_disabled(screen, ["Cancel", "Save Update", "Delete Incident"])
+    incident.press("Save Update")
+    wait_for_all_disabled(incident, ["Cancel", "Save Update", "Delete Incident"])
 
 
 @pytest.mark.parametrize("number, rows, kind, buttons", [
@@ -81,13 +77,11 @@ def test_a_component_is_out_of_reach_while_it_is_deleted(component, the_service)
     wait_for_all_disabled(component, ["Close", "Edit", "Delete Component"])
 
 
-def test_a_maintenance_is_out_of_reach_while_it_is_started(tab, the_service, the_display):
-    screen = tab(5, ["Database upgrade"])
-    opening.first_event(screen, the_display, "Database upgrade")
-    screen.wait_for_disabled([])
+def test_a_maintenance_is_out_of_reach_while_it_is_started(maintenance, the_service):
+    maintenance.wait_for_disabled([])
     the_service.fail("hang", path=f"/user/api/v1/maintenances/{the_service.maintenance}")
-    screen.press("Start Maintenance")
-    wait_for_all_disabled(screen, ["Close", "More Actions", "Start Maintenance", "Delete Maintenance"])
+    maintenance.press("Start Maintenance")
+    wait_for_all_disabled(maintenance, ["Close", "More Actions", "Start Maintenance", "Delete Maintenance"])
 
 
 def test_the_commands_of_a_monitor_are_disabled_while_one_runs(monitors, the_service):

@@ -75,13 +75,11 @@ def test_an_incident_without_a_title_and_an_update_without_a_word_cannot_be_save
     screen.wait_for_disabled([])
 
 
-def test_an_incident_is_acknowledged_and_resolved_once(tab, the_display):
-    screen = tab(2, ["Login errors"])
-    opening.first_event(screen, the_display, "Login errors")
-    screen.press("Acknowledge")
-    screen.wait_for_disabled(["Acknowledge"])
-    screen.press("Resolve")
-    screen.wait_for_disabled(["Acknowledge", "Resolve"])
+def test_an_incident_is_acknowledged_and_resolved_once(incident):
+    incident.press("Acknowledge")
+    incident.wait_for_disabled(["Acknowledge"])
+    incident.press("Resolve")
+    incident.wait_for_disabled(["Acknowledge", "Resolve"])
 
 
 def test_a_component_without_a_name_cannot_be_saved(component, the_display):
