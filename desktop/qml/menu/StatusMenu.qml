@@ -8,6 +8,8 @@ T.Popup {
     id: popup
     required property StatusMenuBridge menu
 
+    x: parent ? parent.width - width : 0
+    y: parent ? parent.height + Theme.halfUnit : 0
     width: T.Overlay.overlay ? Math.min(Theme.menuWidth * Theme.scale, T.Overlay.overlay.width - 2 * Theme.unit) : 0
     height: Math.min(list.contentHeight + 2 * padding, T.Overlay.overlay ? T.Overlay.overlay.height - Theme.headerHeight - 2 * Theme.unit : 0)
     margins: Theme.unit
@@ -60,7 +62,9 @@ T.Popup {
             event.accepted = true
         }
 
-        T.ScrollBar.vertical: SlimScrollBar {}
+        ScrollBarLoader {
+            flickable: list
+        }
     }
 
     background: Rectangle {

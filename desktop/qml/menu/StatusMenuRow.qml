@@ -86,8 +86,8 @@ Item {
     TapHandler {
         onTapped: delegate.triggered()
     }
-    KitToolTip {
+    ToolTipLoader {
         text: delegate.row.help
-        visible: pointer.hovered && delegate.row.help !== ""
+        isShown: pointer.hovered && delegate.row.help !== ""
     }
 }

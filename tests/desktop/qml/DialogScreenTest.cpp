@@ -158,7 +158,7 @@ protected:
                 ++texts;
                 EXPECT_EQ(item.property("textFormat").toInt(), Qt::PlainText);
             }
-            if (item.inherits("QQuickAbstractButton") || item.inherits("QQuickTextField")) {
+            if (item.activeFocusOnTab()) {
                 ++controls;
                 const auto* const interface = QAccessible::queryAccessibleInterface(&item);
                 EXPECT_FALSE(interface->text(QAccessible::Name).isEmpty()) << item.metaObject()->className();

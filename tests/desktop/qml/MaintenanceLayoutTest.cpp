@@ -96,7 +96,7 @@ TEST_F(MaintenanceLayout, OfADetailHasItsActionsInTheirColors)
     openFirst();
     const auto& start = item(Role::Button, QStringLiteral("Start Maintenance"));
     const auto& removal = item(Role::Button, QStringLiteral("Delete Maintenance"));
-    EXPECT_EQ(colorOf(*start.property("background").value<QQuickItem*>()), light::yellow);
+    EXPECT_EQ(colorOf(*partOf(start, "radius", 8.0)), light::yellow);
     EXPECT_EQ(colorOf(*partOf(removal, "name", QStringLiteral("trash"))), light::red);
     EXPECT_LT(frameOf(start).right(), frameOf(removal).left());
 }

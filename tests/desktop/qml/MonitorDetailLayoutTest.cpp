@@ -63,7 +63,7 @@ TEST_F(MonitorDetailLayout, HasTheTimeOfTheLastCheckBehindItsDate)
 TEST_F(MonitorDetailLayout, HasItsActionsInTheirColors)
 {
     const auto ground = [this](const char* button) {
-        return colorOf(*item(Role::Button, QString::fromUtf8(button)).property("background").value<QQuickItem*>());
+        return colorOf(*partOf(item(Role::Button, QString::fromUtf8(button)), "radius", 8.0));
     };
     EXPECT_EQ(ground("Pause Monitor"), light::orange);
     EXPECT_EQ(ground("Run Check"), light::blue);

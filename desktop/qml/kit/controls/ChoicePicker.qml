@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Larkspan
 import Larkspan.Bridge
 

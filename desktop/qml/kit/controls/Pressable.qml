@@ -1,31 +1,41 @@
 import QtQuick
 import Larkspan
 
-// A control that is pressed like a button, with any role for screen readers: the roles of Qt's own controls cannot be
-// changed in Qt 6.4.
+// A control that is pressed: a button, or whatever other role it has for screen readers. The roles of Qt's own controls
+// cannot be changed in Qt 6.4.
 Item {
     id: pressable
     property string text
     // The width that its text needs.
     property real wordWidth: 0
-    readonly property alias hovered: pointer.hovered
-    readonly property alias down: tap.pressed
+    // A part of a picker leaves the keyboard to the whole.
+    property bool takesFocus: true
+    property alias cursorShape: press.cursorShape
+    readonly property bool hovered: pointer.hovered && enabled
+    readonly property alias down: press.containsPress
     signal clicked
 
-    activeFocusOnTab: true
+    activeFocusOnTab: takesFocus
+    Accessible.role: Accessible.Button
     Accessible.name: text
-    Accessible.focusable: activeFocusOnTab
+    Accessible.focusable: takesFocus
     Accessible.onPressAction: clicked()
     Keys.onSpacePressed: clicked()
+    Keys.onSelectPressed: clicked()
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
 
     HoverHandler {
         id: pointer
-        cursorShape: Qt.PointingHandCursor
     }
-    TapHandler {
-        id: tap
-        onTapped: pressable.clicked()
+    // Not a tap, which a hand that rests too long on it would lose.
+    MouseArea {
+        id: press
+        anchors.fill: parent
+        cursorShape: Qt.PointingHandCursor
+        onClicked: {
+            if (pressable.takesFocus) pressable.forceActiveFocus(Qt.MouseFocusReason)
+            pressable.clicked()
+        }
     }
 }

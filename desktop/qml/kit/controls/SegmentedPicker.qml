@@ -54,7 +54,7 @@ Rectangle {
                 width: picker.room < picker.wordsWidth ? label.implicitWidth * picker.room / picker.wordsWidth
                     : label.implicitWidth + (picker.room - picker.wordsWidth) / picker.segments.length
                 height: picker.height - 2 * Theme.halfUnit
-                activeFocusOnTab: false
+                takesFocus: false
                 text: modelData
                 onClicked: picker.chosen(index)
                 Accessible.role: picker.choosesTab ? Accessible.PageTab : Accessible.RadioButton

@@ -2,13 +2,17 @@ import QtQuick
 import QtQuick.Templates as T
 import Larkspan
 
+// The scroll bar of what a `ScrollBarLoader` stands over.
 T.ScrollBar {
     id: bar
+    required property Flickable flickable
+
     implicitWidth: Theme.unit
     padding: 2
     visible: size < 1
     minimumSize: 0.05
     Accessible.ignored: true
+    Component.onCompleted: flickable.T.ScrollBar.vertical = bar
 
     contentItem: Rectangle {
         radius: width / 2

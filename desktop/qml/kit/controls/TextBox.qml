@@ -36,6 +36,7 @@ FocusScope {
         border.color: Theme.focus
     }
     Flickable {
+        id: view
         anchors.fill: parent
         anchors.margins: Theme.focusWidth
         boundsBehavior: Flickable.StopAtBounds
@@ -70,6 +71,8 @@ FocusScope {
             Accessible.name: box.name
             onTextChanged: if (activeFocus) box.edited(TypedText.of(textDocument))
         }
-        T.ScrollBar.vertical: SlimScrollBar {}
+        ScrollBarLoader {
+            flickable: view
+        }
     }
 }

@@ -1,10 +1,9 @@
 import QtQuick
-import QtQuick.Templates as T
 import Larkspan
 import Larkspan.Bridge
 
 // A button of the header bar: a symbol, with its help text as name and tool tip.
-T.Button {
+Pressable {
     id: button
     required property string symbol
     required property string help
@@ -17,32 +16,13 @@ T.Button {
 
     implicitWidth: Theme.controlHeight
     implicitHeight: Theme.controlHeight
-    hoverEnabled: true
     enabled: !isBusy
     opacity: enabled ? 1 : 0.4
+    cursorShape: Qt.ArrowCursor
     Accessible.name: help
-    // Qt 6.4 reports the action to assistive technologies, but does nothing when they invoke it.
-    Accessible.onPressAction: clicked()
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
 
-    contentItem: Item {
-        Symbol {
-            visible: !button.isBusy
-            anchors.centerIn: parent
-            width: button.iconSize
-            height: width
-            name: button.symbol
-            color: button.ink
-        }
-        BusyIndicator {
-            visible: button.isBusy
-            anchors.centerIn: parent
-            name: button.help
-        }
-    }
-
-    background: Rectangle {
+    Rectangle {
+        anchors.fill: parent
         radius: Theme.controlRadius
         color: button.down ? Theme.pressed : button.hovered ? Theme.hover : "transparent"
         Behavior on color {
@@ -50,9 +30,21 @@ T.Button {
         }
         FocusRing { holder: button }
     }
-
-    KitToolTip {
+    Symbol {
+        visible: !button.isBusy
+        anchors.centerIn: parent
+        width: button.iconSize
+        height: width
+        name: button.symbol
+        color: button.ink
+    }
+    BusyIndicator {
+        visible: button.isBusy
+        anchors.centerIn: parent
+        name: button.help
+    }
+    ToolTipLoader {
         text: button.help
-        visible: button.hovered && !button.down && !button.isMenuOpen
+        isShown: button.hovered && !button.down && !button.isMenuOpen
     }
 }

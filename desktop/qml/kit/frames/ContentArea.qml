@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Larkspan
 import Larkspan.Bridge
 
@@ -47,7 +46,9 @@ FocusScope {
         Scrolling {
             flickable: instead
         }
-        T.ScrollBar.vertical: SlimScrollBar {}
+        ScrollBarLoader {
+            flickable: instead
+        }
     }
 
     AlertLoader {

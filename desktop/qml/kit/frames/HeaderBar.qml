@@ -58,9 +58,9 @@ Rectangle {
         HoverHandler {
             id: pointer
         }
-        KitToolTip {
+        ToolTipLoader {
             text: bar.title
-            visible: pointer.hovered && (caption.truncated || caption.text !== bar.title)
+            isShown: pointer.hovered && (caption.truncated || caption.text !== bar.title)
         }
     }
 

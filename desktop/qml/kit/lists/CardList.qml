@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Larkspan
 import Larkspan.Bridge
 
@@ -105,11 +104,8 @@ ListView {
         border.color: Theme.line
     }
 
-    T.ScrollBar.vertical: SlimScrollBar {
-        parent: list.parent
-        anchors.right: list.right
-        anchors.top: list.top
-        anchors.bottom: list.bottom
+    ScrollBarLoader {
+        flickable: list
     }
 
     ReadingOrder {

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Larkspan
 import Larkspan.Bridge
 
@@ -47,5 +46,7 @@ Flickable {
         radius: 0
     }
 
-    T.ScrollBar.vertical: SlimScrollBar {}
+    ScrollBarLoader {
+        flickable: scroller
+    }
 }

@@ -9,7 +9,11 @@ PopupLoader {
 
     isShown: alert.text !== ""
     occasion: alert.number
-    sourceComponent: ErrorAlert {
-        text: loader.alert.text
+    source: Qt.resolvedUrl("ErrorAlert.qml")
+
+    Binding {
+        target: loader.item
+        property: "text"
+        value: loader.alert.text
     }
 }

@@ -70,7 +70,9 @@ T.Popup {
             return true
         }
 
-        T.ScrollBar.vertical: SlimScrollBar {}
+        ScrollBarLoader {
+            flickable: list
+        }
     }
 
     background: Rectangle {

@@ -4,6 +4,7 @@ import Larkspan
 
 T.Menu {
     id: menu
+    y: parent ? parent.height + Theme.halfUnit : 0
     implicitWidth: list.childrenRect.width + leftPadding + rightPadding
     implicitHeight: list.contentHeight + topPadding + bottomPadding
     margins: Theme.unit

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Larkspan
 
 // A short message with its buttons, over the dimmed window.

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Larkspan
 
 // Creates a sheet or a dialog when it is to be shown, and destroys it afterwards. The focus then returns to the item
@@ -9,18 +8,19 @@ Loader {
     required property bool isShown
     // Changes with each new reason to show it, which may come before the previous popup is destroyed.
     property int occasion: 0
+    // The popup, without its type, which would load Qt's controls before any of them is shown.
+    readonly property var popup: item
     // Emitted when it has closed in any way.
     signal dismissed
 
     // A popup needs a window, so it waits until the loader is in one.
-    active: isShown && T.Overlay.overlay !== null
+    active: isShown && Window.window !== null
     onLoaded: open()
-    onOccasionChanged: if (item && !(item as T.Popup).opened) open()
+    onOccasionChanged: if (popup && !popup.opened) open()
     onItemChanged: if (!item) focusBefore.giveBack()
 
     function open() {
         focusBefore.remember(Window.activeFocusItem)
-        const popup = item as T.Popup
         popup.open()
     }
 

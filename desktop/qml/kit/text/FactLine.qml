@@ -52,9 +52,9 @@ Item {
                 id: pointer
                 enabled: line.fact.explanation !== ""
             }
-            KitToolTip {
+            ToolTipLoader {
                 text: line.fact.explanation
-                visible: pointer.hovered
+                isShown: pointer.hovered
             }
         }
         Label {

@@ -1,0 +1,34 @@
+import QtQuick
+import Larkspan
+
+// A button of the header bar that opens a menu. The menu is made when it is first opened, and the keyboard comes back to
+// the button when it closes.
+ToolbarButton {
+    id: button
+    required property url file
+    // The properties that the menu begins with.
+    required property var given
+
+    onClicked: isMenuOpen = true
+
+    LateLoader {
+        id: loader
+        anchors.fill: parent
+        isWanted: button.isMenuOpen
+        file: button.file
+        given: button.given
+    }
+    Binding {
+        target: loader.item
+        property: "visible"
+        value: button.isMenuOpen
+    }
+    Connections {
+        target: loader.item
+        ignoreUnknownSignals: true
+        function onClosed() {
+            button.isMenuOpen = false
+            button.forceActiveFocus(Qt.PopupFocusReason)
+        }
+    }
+}
