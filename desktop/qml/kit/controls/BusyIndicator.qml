@@ -13,7 +13,7 @@ Item {
     Accessible.name: name
 
     Repeater {
-        model: 8
+        model: indicator.visible ? 8 : 0
         Rectangle {
             id: spoke
             required property int index

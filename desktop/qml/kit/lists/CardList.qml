@@ -22,6 +22,8 @@ ListView {
     property bool walksRows: true
     readonly property bool isStop: scrolling.isScrollable && !hasRowToMeet
     readonly property bool hasRowToMeet: walksRows && count > 0
+    // What stands above the rows is made when it is first seen.
+    property bool wasSeen: false
     property ListReader reader: null
     signal pulled
 
@@ -43,6 +45,8 @@ ListView {
     Accessible.role: Accessible.List
     Accessible.name: name
 
+    Component.onCompleted: if (visible) wasSeen = true
+    onVisibleChanged: if (visible) wasSeen = true
     onWalksRowsChanged: keepToStops()
     onCurrentItemChanged: keepToStops()
     onCountChanged: keepToStops()
@@ -75,6 +79,7 @@ ListView {
         Loader {
             id: above
             width: parent.width
+            active: list.wasSeen
             sourceComponent: list.above
         }
     }
