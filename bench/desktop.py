@@ -1,12 +1,13 @@
-"""usage: desktop.py first_frame|first_data|resident_after_cycle|scroll|opening|idle RESULT
+"""usage: desktop.py first_frame|first_data|others|resident_after_cycle|scroll|opening|idle RESULT
 
-Starts larkspan and the bare window alternately, in the same way and the same session, and writes the medians to
-RESULT as JSON. It runs in the environment of the end-to-end tests, with their stand-ins around the programs.
+Starts larkspan, the bare window and other programs alternately, in the same way and the same session, and writes the
+medians to RESULT as JSON. It runs in the environment of the end-to-end tests, with their stand-ins around the programs.
 """
 
 import json
 import os
 import re
+import shutil
 import statistics
 import subprocess
 import sys
@@ -28,6 +29,10 @@ from processes import running
 
 BINARIES = Path(os.environ["LARKSPAN_E2E_BINARIES"])
 PROGRAMS = {"larkspan": BINARIES / "larkspan", "bare": BINARIES / "larkspan-bench-bare"}
+# What users know, of the same kind: a window, a panel item and work in the background.
+OTHERS = ("keepassxc", "transmission-qt")
+# What they ask once, before they show themselves.
+ANSWERS = {"transmission/settings.json": '{"user-has-given-informed-consent": true}'}
 FRAME_ROUNDS = 9
 RESIDENT_ROUNDS = 3
 SETTLING_SECONDS = 2
@@ -46,6 +51,10 @@ def desktop(made_by=display.server):
           made_by() as screen, session.session(screen, Path(home)) as around, keyring.keyring(around) as keys):
         simulator.reset()
         keys.store(service.KEY.encode())
+        for file, answer in ANSWERS.items():
+            path = Path(home, ".config", file)
+            path.parent.mkdir(parents=True)
+            path.write_text(answer, encoding="utf-8")
         yield simulator, around.surroundings, screen
 
 
@@ -59,11 +68,28 @@ def first_data():
                   lambda name, simulator: await_cycle(simulator) if name == "larkspan" else None)
 
 
-def starts(watched, make_sure):
-    times = {name: [] for name in PROGRAMS}
+def others():
+    """Until each program's first window shows something, and what it holds once it is at rest."""
+    programs = PROGRAMS | {name: path for name in OTHERS if (path := shutil.which(name))}
+    for name in OTHERS:
+        if name not in programs:
+            print(f"bench: {name} is not installed, so nothing is measured beside it; ./dev setup others installs it")
+    times = starts({name: [] for name in programs}, lambda name, simulator: None, programs)
+    sizes = {name: [] for name in programs}
+    with desktop() as (simulator, surroundings, screen):
+        for _ in range(RESIDENT_ROUNDS):
+            for name, path in programs.items():
+                simulator.reset()
+                ready = (lambda _: await_cycle(simulator)) if name == "larkspan" else (lambda process: screen.window(process.pid))
+                sizes[name].append(size_of(name, surroundings, ready, path)["Pss"])
+    return {name: {"time": times[name], "size": statistics.median(sizes[name])} for name in programs}
+
+
+def starts(watched, make_sure, programs=PROGRAMS):
+    times = {name: [] for name in programs}
     with desktop() as (simulator, surroundings, _):
         for _ in range(FRAME_ROUNDS + 1):
-            for name, path in PROGRAMS.items():
+            for name, path in programs.items():
                 simulator.reset()
                 ended = output_of([BINARIES / "larkspan-bench-first-frame", *watched[name], path], env=surroundings)
                 times[name].append(float(ended.stdout))
@@ -77,8 +103,8 @@ def resident():
     with desktop() as (simulator, surroundings, _):
         for _ in range(RESIDENT_ROUNDS):
             simulator.reset()
-            sizes["larkspan"].append(size_of("larkspan", surroundings, lambda: await_cycle(simulator)))
-            sizes["bare"].append(size_of("bare", surroundings, lambda: None))
+            sizes["larkspan"].append(size_of("larkspan", surroundings, lambda _: await_cycle(simulator)))
+            sizes["bare"].append(size_of("bare", surroundings, lambda _: None))
     return {name: {kind: statistics.median(size[kind] for size in found) for kind in ("Rss", "Pss")}
             for name, found in sizes.items()}
 
@@ -88,10 +114,10 @@ def await_cycle(simulator):
     eventually(lambda: any(request["target"] == OVERVIEW_PATH for request in simulator.requests()), "no cycle came", 30)
 
 
-def size_of(name, surroundings, await_readiness):
+def size_of(name, surroundings, await_readiness, path=None):
     """The memory of the program, in MiB."""
-    with running(PROGRAMS[name], env=surroundings, stderr=subprocess.DEVNULL) as process:
-        await_readiness()
+    with running(path or PROGRAMS[name], env=surroundings, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL) as process:
+        await_readiness(process)
         time.sleep(SETTLING_SECONDS)
         if process.poll() is not None:
             raise Unable(f"{name} ended by itself.")
@@ -154,7 +180,7 @@ def cpu_clock(process_id):
     return (~process_id << 3) | time_on_a_processor
 
 
-MEASURES = {"first_frame": first_frames, "first_data": first_data, "resident_after_cycle": resident, "scroll": scrolled, "opening": opened, "idle": idle}
+MEASURES = {"first_frame": first_frames, "first_data": first_data, "others": others, "resident_after_cycle": resident, "scroll": scrolled, "opening": opened, "idle": idle}
 
 
 def main(what, result):

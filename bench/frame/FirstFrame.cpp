@@ -1,5 +1,6 @@
-// Starts a program and prints the milliseconds until its window is first on the screen or, with an area, until that
-// area has stopped changing. It reads the screen, so it needs no help of the program and treats all programs alike.
+// Starts any program and prints the milliseconds until one of its windows first shows something or, with an area, until
+// that area of the screen has stopped changing. It reads the screen, so it needs no help of the program and treats all
+// programs alike.
 //
 // usage: larkspan-bench-first-frame [--rest X Y WIDTH HEIGHT] PROGRAM [ARGUMENT]...
 
@@ -7,6 +8,8 @@
 #include <unistd.h>
 #include <xcb/xcb.h>
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <chrono>
 #include <csignal>
@@ -34,7 +37,7 @@ struct Area {
     std::uint16_t height;
 };
 
-/// The screen, painted in a colour that no window has in its centre.
+/// The screen, painted in a colour that fills no window.
 class Screen {
 public:
     using Picture = std::vector<std::uint8_t>;
@@ -45,14 +48,22 @@ public:
         if (xcb_connection_has_error(connection_.get())) throw std::runtime_error("there is no X display");
         screen_ = xcb_setup_roots_iterator(xcb_get_setup(connection_.get())).data;
         const std::uint32_t magenta = 0xFF00FF;
-        xcb_change_window_attributes(connection_.get(), screen_->root, XCB_CW_BACK_PIXEL, &magenta);
+        // Its windows are heard of as they come up.
+        const std::array values{magenta, static_cast<std::uint32_t>(XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY)};
+        xcb_change_window_attributes(
+            connection_.get(), screen_->root, XCB_CW_BACK_PIXEL | XCB_CW_EVENT_MASK, values.data());
         xcb_clear_area(connection_.get(), 0, screen_->root, 0, 0, 0, 0);
+        blank_ = picture({0, 0, screen_->width_in_pixels, 1});
     }
 
-    Area middle() const
+    /// Whether one of the windows that have come up since the screen was made is painted.
+    bool showsAWindow()
     {
-        return {static_cast<std::int16_t>(screen_->width_in_pixels / 2),
-            static_cast<std::int16_t>(screen_->height_in_pixels / 2), 1, 1};
+        while (const Event event{xcb_poll_for_event(connection_.get())}) {
+            if ((event->response_type & 0x7F) != XCB_MAP_NOTIFY) continue;
+            windows_.push_back(reinterpret_cast<const xcb_map_notify_event_t*>(event.get())->window);
+        }
+        return std::ranges::any_of(windows_, [this](xcb_window_t window) { return isPainted(window); });
     }
 
     Picture picture(Area area) const
@@ -73,9 +84,31 @@ private:
     struct Free {
         void operator()(void* memory) const { std::free(memory); }
     };
+    using Event = std::unique_ptr<xcb_generic_event_t, Free>;
+
+    /// Smaller ones are nothing that a person sees.
+    static constexpr int leastSize = 50;
+
+    /// A window stays as the screen beneath it until it is painted, so its middle line tells.
+    bool isPainted(xcb_window_t window) const
+    {
+        const auto asked = xcb_get_geometry(connection_.get(), window);
+        const std::unique_ptr<xcb_get_geometry_reply_t, Free> place(
+            xcb_get_geometry_reply(connection_.get(), asked, nullptr));
+        if (!place || place->width < leastSize || place->height < leastSize) return false;
+        const int left = std::max<int>(place->x, 0);
+        const int width = std::min<int>(place->x + place->width, screen_->width_in_pixels) - left;
+        const int middle = place->y + place->height / 2;
+        if (width <= 0 || middle < 0 || middle >= screen_->height_in_pixels) return false;
+        const auto line = picture(
+            {static_cast<std::int16_t>(left), static_cast<std::int16_t>(middle), static_cast<std::uint16_t>(width), 1});
+        return !std::equal(line.begin(), line.end(), blank_.begin());
+    }
 
     std::unique_ptr<xcb_connection_t, Disconnect> connection_;
     xcb_screen_t* screen_ = nullptr;
+    Picture blank_;
+    std::vector<xcb_window_t> windows_;
 };
 
 /// A program that runs until this object is destroyed.
@@ -128,11 +161,10 @@ void awaitNextLook(Program& program, Clock::time_point start)
 
 double millisecondsToFirstFrame(char** command)
 {
-    const Screen screen;
-    const auto blank = screen.picture(screen.middle());
+    Screen screen;
     const auto start = Clock::now();
     Program program(command);
-    while (screen.picture(screen.middle()) == blank) awaitNextLook(program, start);
+    while (!screen.showsAWindow()) awaitNextLook(program, start);
     return milliseconds(Clock::now() - start);
 }
 
