@@ -119,6 +119,8 @@ private:
         if (!item_.isEnabled()) isToldByQt_ = plain_.state().disabled;
         // An item that is being destroyed leaves its window first.
         if (isToldByQt_ || !item_.window()) return;
+        // An object of several QML files changes its class while it is created, and has an interface for each class.
+        if (QAccessible::queryAccessibleInterface(&item_) != this) return;
         QAccessible::State changed;
         changed.disabled = true;
         QAccessibleStateChangeEvent event(&item_, changed);

@@ -27,7 +27,7 @@ TEST_F(MenuTest, ArrivesRowForRow)
     EXPECT_EQ(propertiesAt(rows, 2), json(R"({"type": "separator"})"));
     EXPECT_EQ(propertiesAt(rows, 4), json(R"({"type": "separator"})"));
     EXPECT_EQ(propertiesAt(rows, 5), json(R"({"label": "Refresh", "shortcut": [["Control", "r"]]})"));
-    EXPECT_EQ(propertiesAt(rows, 6), json(R"({"label": "Open DashboardView", "shortcut": [["Control", "d"]]})"));
+    EXPECT_EQ(propertiesAt(rows, 6), json(R"({"label": "Open Dashboard", "shortcut": [["Control", "d"]]})"));
     EXPECT_EQ(propertiesAt(rows, 7), json(R"({"type": "separator"})"));
     EXPECT_EQ(propertiesAt(rows, 8), json(R"({"label": "Quit", "shortcut": [["Control", "q"]]})"));
 }
