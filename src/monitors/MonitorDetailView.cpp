@@ -50,9 +50,9 @@ std::vector<Fact> MonitorDetailView::details() const
 
 Fact MonitorDetailView::lastCheck() const
 {
-    if (!currentMonitor->lastCheckTime) return {};
-    return {.text = ports_.locale.dateOnly(*currentMonitor->lastCheckTime),
-        .caption = ports_.locale.timeOnly(*currentMonitor->lastCheckTime)};
+    const auto& checked = currentMonitor->lastCheckTime;
+    if (!checked) return {};
+    return {.text = ports_.locale.dateOnly(*checked), .caption = ports_.locale.timeOnly(*checked)};
 }
 
 std::vector<Command<MonitorDetailView>> MonitorDetailView::commands() const

@@ -65,7 +65,7 @@ private:
     {
         auto end = awaitEnd(state);
         co_await std::move(end);
-        co_return state->outcome->take();
+        co_return state->outcome.value().take();
     }
 
     StatePointer state_ = std::make_shared<State>();
