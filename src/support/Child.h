@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -65,7 +66,9 @@ private:
     {
         auto end = awaitEnd(state);
         co_await std::move(end);
-        co_return state->outcome.value().take();
+        auto& outcome = state->outcome;
+        if (!outcome) std::terminate();
+        co_return outcome->take();
     }
 
     StatePointer state_ = std::make_shared<State>();

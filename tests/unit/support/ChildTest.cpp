@@ -19,7 +19,7 @@ using Log = std::vector<std::string>;
 
 Task<std::string> work(Log* log, std::string name)
 {
-    log->push_back(name + " begins");
+    log->emplace_back(name + " begins");
     co_return name;
 }
 
@@ -33,11 +33,11 @@ Task<void> awaitBoth(platform::Executor& main, Log* log)
 {
     Child<std::string> first(main, work(log, "first"));
     Child<std::string> second(main, work(log, "second"));
-    log->push_back("both started");
+    log->emplace_back("both started");
     auto secondResult = second.result();
-    log->push_back(co_await std::move(secondResult) + " ended");
+    log->emplace_back(co_await std::move(secondResult) + " ended");
     auto firstResult = first.result();
-    log->push_back(co_await std::move(firstResult) + " ended");
+    log->emplace_back(co_await std::move(firstResult) + " ended");
 }
 
 TEST(Child, RunsBesideItsParentAndMayBeAwaitedInAnyOrder)
@@ -54,12 +54,12 @@ Task<void> awaitFailure(platform::Executor& main, Log* log)
     Child<std::string> child(main, failing("broken"));
     auto end = child.settled();
     co_await std::move(end);
-    log->push_back("settled");
+    log->emplace_back("settled");
     try {
         auto result = child.result();
         co_await std::move(result);
     } catch (const std::runtime_error& error) {
-        log->push_back(error.what());
+        log->emplace_back(error.what());
     }
 }
 
@@ -77,14 +77,14 @@ Task<void> awaitVoid(platform::Executor& main, platform::Executor& elsewhere, Lo
     struct Note {
         static Task<void> down(Log* into)
         {
-            into->push_back("elsewhere");
+            into->emplace_back("elsewhere");
             co_return;
         }
     };
     Child<void> child(main, on(elsewhere, Note::down(log)));
     auto result = child.result();
     co_await std::move(result);
-    log->push_back("home");
+    log->emplace_back("home");
 }
 
 TEST(Child, WithoutAResultCanBeAwaitedToo)
@@ -105,7 +105,7 @@ Task<void> dropAtOnce(platform::Executor& main, Log* log)
     {
         const Child<std::string> child(main, work(log, "child"));
     }
-    log->push_back("parent ended");
+    log->emplace_back("parent ended");
     co_return;
 }
 
