@@ -13,7 +13,7 @@
 
 namespace larkspan::monitors {
 
-/// What the user can have done to a monitor, from its row or from its own screen.
+/// The actions on a monitor, from its row or from its own screen.
 enum class MonitorAction { pauseResume, checkNow };
 
 /// The actions on the monitors of a page, and on which of them one runs. Main thread only; a running action outlives

@@ -109,7 +109,8 @@ bool StatusPageDetailView::asksBefore(const std::function<void()>& leave)
 
 void StatusPageDetailView::openPublicURL() const
 {
-    if (page->url && presentation::isWebAddress(page->url->text())) ports_.links.open(page->url->text());
+    const auto& url = page->url;
+    if (url && presentation::isWebAddress(url->text())) ports_.links.open(url->text());
 }
 
 std::string_view rawValue(StatusPageDetailView::Tab tab)

@@ -55,7 +55,7 @@ public:
     [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer);
 
     Tab selectedTab() const { return static_cast<Tab>(opened_->index()); }
-    /// Leaves the screen of the tab that was selected, and makes that of `tab` anew; the selected tab stays as it is.
+    /// Destroys the screen of the selected tab and creates that of `tab`; does nothing if `tab` is selected already.
     void select(Tab tab);
     /// Selects the next or the previous tab, wrapping around at the ends.
     void selectNext();

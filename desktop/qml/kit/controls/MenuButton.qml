@@ -1,12 +1,12 @@
 import QtQuick
 import Larkspan
 
-// A button of the header bar that opens a menu. The menu is made when it is first opened, and the keyboard comes back to
-// the button when it closes.
+// A button of the header bar that opens a menu. The menu is created when it is first opened, and the focus returns to the
+// button when it closes.
 ToolbarButton {
     id: button
     required property url file
-    // The properties that the menu begins with.
+    // The initial properties of the menu.
     required property var given
 
     onClicked: isMenuOpen = true

@@ -1,7 +1,7 @@
 import QtQuick
 import Larkspan
 
-// The scroll bar at the end of what scrolls, made when there is first more than is seen.
+// The scroll bar of a flickable, created when the content is first larger than the view.
 LateLoader {
     id: loader
     required property Flickable flickable

@@ -1,7 +1,7 @@
 import QtQuick
 import Larkspan
 
-// A tool tip of what it stands in, made when it is first to be seen.
+// The tool tip of its parent, created when it is first shown.
 LateLoader {
     id: loader
     required property string text
