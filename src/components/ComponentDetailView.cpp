@@ -84,14 +84,14 @@ void ComponentDetailView::fillEditor()
 {
     editedName = component->name;
     editedStatus = component->status;
-    editedDescription = description();
+    editedDescription = component->description.value_or("");
     editedGroupId = component->groupId;
 }
 
 bool ComponentDetailView::isEdited() const
 {
-    return *editedName != component->name || *editedStatus != component->status || *editedDescription != description()
-        || *editedGroupId != component->groupId;
+    return *editedName != component->name || *editedStatus != component->status
+        || *editedDescription != component->description.value_or("") || *editedGroupId != component->groupId;
 }
 
 std::optional<std::size_t> ComponentDetailView::selectedStatus() const

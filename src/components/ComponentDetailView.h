@@ -76,7 +76,7 @@ public:
     bool showsDetails() const;
     /// The rows of the group "Details", which is also shown without any.
     std::vector<presentation::Fact> details() const;
-    /// Empty for none.
+    /// The beginning of the description, to be shown; the editor has all of it. Empty for none.
     std::string description() const
     {
         return presentation::inPart(component->description.value_or(""), presentation::mostOfAText);

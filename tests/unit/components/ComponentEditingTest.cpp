@@ -123,6 +123,17 @@ TEST_F(DetailOfAComponent, SavesANameWithoutTheSpaceAroundIt)
     EXPECT_EQ(transport.requests.at(0).body, R"({"name":"A","status":"unknown"})");
 }
 
+TEST_F(DetailOfAComponent, KeepsADescriptionOfAnyLengthWholeWhenItsNameAloneIsChanged)
+{
+    const std::string text(30'000, 'd');
+    editing(R"(, "description": ")" + text + R"(")");
+    EXPECT_LT(view->description().size(), text.size()) << "the screen shows its beginning";
+    EXPECT_FALSE(view->hasUnsavedText());
+    view->editedName = "New";
+    save();
+    EXPECT_EQ(transport.requests.at(0).body, R"({"name":"New","description":")" + text + R"(","status":"unknown"})");
+}
+
 TEST_F(DetailOfAComponent, SendsAClearedDescriptionAsAbsentAndASingleSpaceAsItIs)
 {
     editing(whole);
