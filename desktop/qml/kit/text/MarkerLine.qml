@@ -12,8 +12,7 @@ Row {
     property bool hidesProgress: false
     readonly property bool showsProgress: marker.showsProgress && !hidesProgress
     // The width that shows the whole text.
-    readonly property alias textWidth: label.implicitWidth
-    readonly property real naturalWidth: Math.ceil(textWidth)
+    readonly property real naturalWidth: Math.ceil(label.implicitWidth)
         + (showsProgress || marker.symbol !== "" ? Theme.smallIconSize + spacing : 0)
 
     spacing: Theme.unit
@@ -34,6 +33,7 @@ Row {
         color: Theme.toneColor(line.marker.symbolTone)
     }
     Label {
+        id: label
         anchors.verticalCenter: parent.verticalCenter
         width: Math.min(implicitWidth, Math.max(0, line.maximumWidth - x))
         text: line.marker.text
