@@ -75,6 +75,11 @@ QtObject {
     readonly property int unit: 8
     readonly property int halfUnit: 4
     readonly property int margin: 20
+    readonly property int headerGap: 16
+    // The tabs: their distance from the header, their own padding, and that of the content from it.
+    readonly property int tabsMargin: 16
+    readonly property int tabsPadding: 12
+    readonly property int tabsGap: 8
     readonly property int cardRadius: 12
     readonly property int boxRadius: 10
     readonly property int controlRadius: 8
@@ -90,13 +95,19 @@ QtObject {
     readonly property int iconSize: Math.round(16 * scale)
     readonly property int smallIconSize: Math.round(13 * scale)
     readonly property int largeIconSize: Math.round(40 * scale)
-    readonly property int controlHeight: Math.round(32 * scale)
-    readonly property int smallControlHeight: Math.round(28 * scale)
-    readonly property int headerHeight: Math.round(48 * scale)
+    // A line of text, which grows, and the free space above and below it, which does not.
+    readonly property int controlHeight: Math.round(16 + 16 * scale)
+    readonly property int smallControlHeight: Math.round(12 + 16 * scale)
+    readonly property int headerHeight: Math.round(32 + 16 * scale)
     readonly property int rowHeight: Math.round(44 * scale)
     readonly property int placeholderWidth: 420
     readonly property int pickerWidth: 560
-    readonly property int columnWidth: 680
+    // The largest width of lists and details, and that of the texts in an overview.
+    readonly property int columnWidth: 880
+    readonly property int readingWidth: 680
+    // Less room for a row's words, or for the header's status, would not tell anything.
+    readonly property int wordsLeastWidth: Math.round(160 * scale)
+    readonly property int statusLeastWidth: Math.round(64 * scale)
     readonly property int columnSpacing: 18
     readonly property int statusIconSize: Math.round(30 * scale)
     readonly property int sheetWidth: 520
@@ -104,10 +115,10 @@ QtObject {
     readonly property int dialogWidth: 400
     readonly property int menuWidth: 320
     readonly property int menuRowHeight: Math.round(28 * scale)
-    readonly property int dotSize: 8
+    readonly property int dotSize: Math.round(8 * scale)
     readonly property int graphHeight: 72
     readonly property int curveWidth: 2
-    readonly property int recordDotSize: 10
+    readonly property int recordDotSize: Math.round(10 * scale)
     readonly property int quoteBarWidth: 3
     readonly property int quoteGap: 10
     readonly property int itemGap: 7
