@@ -101,6 +101,14 @@ std::optional<std::size_t> ComponentDetailView::selectedStatus() const
     return static_cast<std::size_t>(found - statusChoices.begin());
 }
 
+std::string ComponentDetailView::unlistedStatus() const
+{
+    if (selectedStatus()) return "";
+    if (editedStatus->empty()) return "There is no status yet.";
+    return "Now “" + presentation::inPart(*editedStatus, presentation::mostOfARowsText)
+        + "”, which stays until you choose another.";
+}
+
 void ComponentDetailView::chooseGroup(const std::string& id)
 {
     editedGroupId = unlessEmpty(id);

@@ -86,6 +86,8 @@ public:
 
     /// The index of the edited status in those that can be chosen; absent for any other status.
     std::optional<std::size_t> selectedStatus() const;
+    /// Names the edited status if it cannot be chosen; otherwise empty.
+    std::string unlistedStatus() const;
     void chooseStatus(std::size_t place) { editedStatus = std::string(statusChoices.at(place).value); }
     bool showsGroupPicker() const { return !groups->empty(); }
     std::vector<presentation::Choice> groupChoices() const { return presentation::choicesOf("None", *groups); }
