@@ -1,7 +1,5 @@
 #include <QCommandLineParser>
 #include <QDir>
-#include <QFont>
-#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QImage>
 #include <QProcess>
@@ -12,6 +10,7 @@
 #include <utility>
 
 #include "adapters/MainExecutor.h"
+#include "gallery/DesktopFonts.h"
 #include "gallery/Scene.h"
 #include "gallery/ShownScene.h"
 #include "qml/Renderer.h"
@@ -131,14 +130,16 @@ int main(int argc, char* argv[])
     // The pictures need no display, and are the same on every machine.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     larkspan::chooseRenderer();
+    larkspan::gallery::chooseDesktopFonts();
+    qputenv("LC_ALL", "C.UTF-8");
+    qputenv("TZ", "UTC");
     const bool isToChooseScale = !qEnvironmentVariableIsSet("QT_SCALE_FACTOR");
     const QGuiApplication qt(argc, argv);
     const auto arguments = QCoreApplication::arguments();
     auto order = larkspan::gallery::orderOf(arguments);
     if (isToChooseScale) return larkspan::gallery::renderAtEachScale(order.scales, arguments.mid(1));
 
-    if (QFontDatabase::families().contains(QStringLiteral("Inter")))
-        QGuiApplication::setFont(QFont(QStringLiteral("Inter")));
+    larkspan::gallery::useDesktopFonts();
     if (!larkspan::gallery::Photographer(std::move(order)).takeAll())
         larkspan::gallery::refuse(QStringLiteral("no scene has a name with that text"));
     return 0;
