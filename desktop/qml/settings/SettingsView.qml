@@ -100,6 +100,7 @@ Sheet {
             CommandButton {
                 visible: sheet.settings.showsField
                 enabled: sheet.settings.isSaveEnabled
+                isBusy: sheet.settings.marker.showsProgress
                 text: qsTr("Save & Verify")
                 isProminent: true
                 onClicked: sheet.settings.saveAndVerify()

@@ -9,6 +9,8 @@ Pressable {
     property bool isDestructive: false
     // For rows with several buttons each.
     property bool isSmall: false
+    // Whether what it has started still runs, which a moving mark in place of its symbol shows.
+    property bool isBusy: false
     property string symbol
     property int tone: Tone.Primary
     readonly property bool isTinted: tone !== Tone.Primary
@@ -19,7 +21,7 @@ Pressable {
     readonly property color edge: !enabled ? Theme.line : isTinted ? Theme.toneColor(tone)
         : isProminent ? Theme.accentLine : hovered || down ? Theme.controlLineHovered : Theme.controlLine
     readonly property real sidePadding: 2 * Theme.unit - Theme.halfUnit
-    readonly property real symbolWidth: symbol === "" ? 0 : Theme.smallIconSize + Theme.narrowGap
+    readonly property real symbolWidth: symbol === "" && !isBusy ? 0 : Theme.smallIconSize + Theme.narrowGap
 
     implicitWidth: Math.max(symbolWidth + caption.implicitWidth + 2 * sidePadding, Theme.controlHeight * 2)
     implicitHeight: Math.max(isSmall ? Theme.smallControlHeight : Theme.controlHeight, caption.implicitHeight + 2 * Theme.halfUnit)
@@ -46,8 +48,17 @@ Pressable {
         }
         FocusRing { holder: button }
     }
+    Loader {
+        active: button.isBusy
+        anchors.verticalCenter: parent.verticalCenter
+        x: button.sidePadding
+        sourceComponent: BusyIndicator {
+            width: Theme.smallIconSize
+            height: width
+        }
+    }
     Symbol {
-        visible: button.symbol !== ""
+        visible: button.symbol !== "" && !button.isBusy
         anchors.verticalCenter: parent.verticalCenter
         x: button.sidePadding
         width: Theme.smallIconSize

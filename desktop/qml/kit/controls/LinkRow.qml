@@ -19,7 +19,12 @@ Pressable {
         Behavior on color {
             ColorAnimation { duration: Theme.quick }
         }
-        FocusRing { holder: row }
+        // Rows stand close together and have no edge that a ring could be mistaken for.
+        FocusRing {
+            holder: row
+            anchors.margins: 0
+            radius: Theme.controlRadius
+        }
     }
     Symbol {
         id: mark
