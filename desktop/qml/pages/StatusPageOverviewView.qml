@@ -6,7 +6,6 @@ import Larkspan.Bridge
 CardList {
     id: overview
     required property StatusPageDetailBridge page
-    readonly property real textWidth: Theme.readingWidth * Theme.scale
 
     rows: page.activity
     name: qsTr("Current Activity")
@@ -24,7 +23,6 @@ CardList {
         GroupBox {
             visible: overview.page.information.length > 0
             width: parent.width
-            widest: overview.textWidth
             title: qsTr("Status Page")
 
             Repeater {
@@ -59,7 +57,7 @@ CardList {
         GroupBox {
             visible: overview.page.about !== ""
             width: parent.width
-            widest: overview.textWidth
+            widest: Theme.readingWidth * Theme.scale
             title: qsTr("About This Status Page")
 
             Label {
@@ -72,7 +70,6 @@ CardList {
         GroupBox {
             visible: overview.page.uptime.length > 0
             width: parent.width
-            widest: overview.textWidth
             title: qsTr("Uptime")
 
             Repeater {

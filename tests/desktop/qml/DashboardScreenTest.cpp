@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "ChosenSize.h"
 #include "Screen.h"
 #include "api/KeychainHelper.h"
 
@@ -315,15 +316,34 @@ TEST_F(DashboardOnScreen, TabGoesThroughTheBarAndBackToTheCurrentRow)
     EXPECT_EQ(order, (QStringList{"Settings", "Refresh Interval", "Refresh Now", "Menu", "page-0"}));
 }
 
+class DashboardInLargeLetters : public LargeLetters, public DashboardOnScreen {};
+
+TEST_F(DashboardInLargeLetters, HasItsStatusAtTheEndOfTheHeadingWhereTheHeaderHasNoRoomForIt)
+{
+    window().resize(480, 440);
+    showPages(3);
+    const auto texts = names(Role::StaticText);
+    ASSERT_EQ(texts.filter(QStringLiteral("Updated")).size(), 1);
+    const auto& status = item(Role::StaticText, texts.filter(QStringLiteral("Updated")).front());
+    const auto& heading = item(Role::Heading, QStringLiteral("Status Pages"));
+    const auto place = status.mapRectToScene({0, 0, status.width(), status.height()});
+    const auto title = heading.mapRectToScene({0, 0, heading.width(), heading.height()});
+    EXPECT_NEAR(place.right(), 460, 0.5);
+    EXPECT_NEAR(place.center().y(), title.center().y(), 1);
+    EXPECT_GE(place.left() - title.right(), 16);
+    EXPECT_FALSE(status.property("truncated").toBool());
+}
+
 struct Size {
     int width;
     int height;
     double points;
 };
 
-class DashboardAtSize : public DashboardOnScreen, public testing::WithParamInterface<Size> {
+class DashboardAtSize : public testing::WithParamInterface<Size>, public ChosenSize, public DashboardOnScreen {
 protected:
     DashboardAtSize()
+        : ChosenSize(GetParam().points)
     {
         window().resize(GetParam().width, GetParam().height);
         showPages(3);
@@ -361,7 +381,8 @@ TEST_P(DashboardAtSize, TheFailureNoticeStaysInTheWindow)
 }
 
 INSTANTIATE_TEST_SUITE_P(FromTheSmallestWindowUp, DashboardAtSize,
-    testing::Values(Size{480, 440, 10}, Size{760, 600, 10}, Size{1600, 900, 10}));
+    testing::Values(
+        Size{480, 440, 10}, Size{760, 600, 10}, Size{1600, 900, 10}, Size{480, 440, 20}, Size{760, 600, 20}));
 
 }  // namespace
 
