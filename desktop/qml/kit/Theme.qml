@@ -12,11 +12,20 @@ QtObject {
 
     readonly property color window: isDark ? "#1b1d21" : "#f4f5f7"
     readonly property color card: isDark ? "#25282d" : "#ffffff"
+    // What is shown over the window: menus, and in dark also sheets and dialogs, which in light are the window's quiet
+    // ground for their cards.
+    readonly property color raised: isDark ? "#2b2f35" : card
+    readonly property color sheet: isDark ? raised : window
     readonly property color line: hasHighContrast ? secondary : isDark ? "#34383f" : "#e3e6ea"
+    readonly property color raisedLine: hasHighContrast || !isDark ? line : "#454b54"
     readonly property color text: isDark ? "#eceef1" : "#1d2127"
     readonly property color secondary: hasHighContrast ? text : isDark ? "#b0b7c1" : "#5a6068"
     readonly property color accent: isDark ? "#2f6fd0" : "#1a5bbd"
     readonly property color accentText: "#ffffff"
+    // The full colour behind the words of what cannot be undone, and the accent's while it is pressed.
+    readonly property color danger: isDark ? "#cf3a33" : "#b32823"
+    readonly property color dangerText: "#ffffff"
+    readonly property color accentPressed: Qt.darker(accent, 1.25)
     readonly property color green: isDark ? "#5bd68f" : "#17703b"
     readonly property color orange: isDark ? "#f3ad5e" : "#964a00"
     readonly property color yellow: isDark ? "#e8ca5c" : "#705700"
@@ -30,6 +39,9 @@ QtObject {
     // The colour of text on the full colour of a tone.
     readonly property color toneText: isDark ? window : accentText
     readonly property color dimming: "#66000000"
+    // Of a dialog over a sheet, beneath which the window is dimmed already.
+    readonly property color secondDimming: "#26000000"
+    readonly property color shadow: isDark ? "#99000000" : "#330b1220"
     readonly property color veil: "#33000000"
     readonly property real pillOpacity: 0.15
     readonly property real badgeOpacity: 0.20
@@ -76,7 +88,10 @@ QtObject {
     readonly property int aboutWidth: 420
     readonly property int dialogWidth: 400
     readonly property int menuWidth: 320
-    readonly property int menuRowHeight: Math.round(28 * scale)
+    readonly property int menuRowHeight: Math.round(12 + 16 * scale)
+    // From the top of a button of the header to that of its menu, which is clear of the header's line.
+    readonly property int menuTop: Math.round((headerHeight + controlHeight) / 2) + halfUnit
+    readonly property int shadowReach: 20
     readonly property int dotSize: 8
     readonly property int graphHeight: 72
     readonly property int curveWidth: 2

@@ -11,8 +11,11 @@ Pressable {
     property bool isSmall: false
     property string symbol
     property int tone: Tone.Primary
+    property bool alwaysShowsFocus: false
     readonly property bool isTinted: tone !== Tone.Primary
-    readonly property color ink: isProminent ? isTinted ? Theme.toneText : Theme.accentText
+    readonly property color fill: !isProminent ? Theme.card : isDestructive ? Theme.danger
+        : isTinted ? Theme.toneColor(tone) : Theme.accent
+    readonly property color ink: isProminent ? isDestructive ? Theme.dangerText : isTinted ? Theme.toneText : Theme.accentText
         : isDestructive ? Theme.red : Theme.toneColor(tone)
     readonly property real sidePadding: 2 * Theme.unit - Theme.halfUnit
     readonly property real symbolWidth: symbol === "" ? 0 : Theme.smallIconSize + Theme.narrowGap
@@ -25,7 +28,7 @@ Pressable {
     Rectangle {
         anchors.fill: parent
         radius: Theme.controlRadius
-        color: !button.isProminent ? Theme.card : button.isTinted ? Theme.toneColor(button.tone) : Theme.accent
+        color: button.fill
         border.width: button.isProminent ? 0 : Theme.hairline
         border.color: button.isTinted ? button.ink : Theme.line
 
@@ -37,7 +40,10 @@ Pressable {
                 ColorAnimation { duration: Theme.quick }
             }
         }
-        FocusRing { holder: button }
+        FocusRing {
+            holder: button
+            isAlwaysShown: button.alwaysShowsFocus
+        }
     }
     Symbol {
         visible: button.symbol !== ""

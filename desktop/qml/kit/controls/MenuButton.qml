@@ -26,7 +26,8 @@ ToolbarButton {
     Connections {
         target: loader.item
         ignoreUnknownSignals: true
-        function onClosed() {
+        // Before it fades out, so that what it has opened finds the focus here, and keeps its own.
+        function onAboutToHide() {
             button.isMenuOpen = false
             button.forceActiveFocus(Qt.PopupFocusReason)
         }
