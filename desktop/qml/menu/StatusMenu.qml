@@ -44,9 +44,11 @@ T.Popup {
         popup.close()
     }
     function go(from: int, step: int) {
-        current = popup.menu.nextCommand(from, step)
-        if (popup.menu.nextCommand(current, -1) === current) pages.positionViewAtBeginning()
-        else if (current >= incidents.first) pages.positionViewAtEnd()
+        const next = popup.menu.nextCommand(from, step)
+        // What stands above the first command, and below the last page, is not reached in another way.
+        if (next === current && step < 0) pages.positionViewAtBeginning()
+        else if (next >= incidents.first) pages.positionViewAtEnd()
+        current = next
     }
 
     contentItem: Item {

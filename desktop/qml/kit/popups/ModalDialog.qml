@@ -39,7 +39,7 @@ T.Dialog {
     }
 
     Behavior on growingHeight {
-        enabled: dialog.isPlaced
+        enabled: dialog.isPlaced && !Theme.reducesMotion
         NumberAnimation { duration: Theme.calm; easing.type: Easing.OutCubic }
     }
 
