@@ -12,20 +12,11 @@ QtObject {
 
     readonly property color window: isDark ? "#1b1d21" : "#f4f5f7"
     readonly property color card: isDark ? "#25282d" : "#ffffff"
-    // What is shown over the window: menus, and in dark also sheets and dialogs, which in light are the window's quiet
-    // ground for their cards.
-    readonly property color raised: isDark ? "#2b2f35" : card
-    readonly property color sheet: isDark ? raised : window
     readonly property color line: hasHighContrast ? secondary : isDark ? "#34383f" : "#e3e6ea"
-    readonly property color raisedLine: hasHighContrast || !isDark ? line : "#454b54"
     readonly property color text: isDark ? "#eceef1" : "#1d2127"
     readonly property color secondary: hasHighContrast ? text : isDark ? "#b0b7c1" : "#5a6068"
     readonly property color accent: isDark ? "#2f6fd0" : "#1a5bbd"
     readonly property color accentText: "#ffffff"
-    // The full colour behind the words of what cannot be undone, and the accent's while it is pressed.
-    readonly property color danger: isDark ? "#cf3a33" : "#b32823"
-    readonly property color dangerText: "#ffffff"
-    readonly property color accentPressed: Qt.darker(accent, 1.25)
     readonly property color green: isDark ? "#5bd68f" : "#17703b"
     readonly property color orange: isDark ? "#f3ad5e" : "#964a00"
     readonly property color yellow: isDark ? "#e8ca5c" : "#705700"
@@ -43,6 +34,15 @@ QtObject {
     readonly property color secondDimming: "#26000000"
     readonly property color shadow: isDark ? "#99000000" : "#330b1220"
     readonly property color veil: "#33000000"
+    // What is shown over the window: menus, and in dark also sheets and dialogs, which in light are the window's quiet
+    // ground for their cards.
+    readonly property color raised: isDark ? "#2b2f35" : card
+    readonly property color sheet: isDark ? raised : window
+    readonly property color raisedLine: hasHighContrast || !isDark ? line : "#454b54"
+    // The full colour behind the words of what cannot be undone, and the accent's while it is pressed.
+    readonly property color danger: isDark ? "#cf3a33" : "#b32823"
+    readonly property color dangerText: "#ffffff"
+    readonly property color accentPressed: Qt.darker(accent, 1.25)
     readonly property real pillOpacity: 0.15
     readonly property real badgeOpacity: 0.20
     readonly property real graphOpacity: 0.06
@@ -89,9 +89,6 @@ QtObject {
     readonly property int dialogWidth: 400
     readonly property int menuWidth: 320
     readonly property int menuRowHeight: Math.round(12 + 16 * scale)
-    // From the top of a button of the header to that of its menu, which is clear of the header's line.
-    readonly property int menuTop: Math.round((headerHeight + controlHeight) / 2) + halfUnit
-    readonly property int shadowReach: 20
     readonly property int dotSize: 8
     readonly property int graphHeight: 72
     readonly property int curveWidth: 2
@@ -120,6 +117,9 @@ QtObject {
     readonly property int aboutIconSize: 88
     readonly property int headlineIconSize: Math.round(28 * scale)
     readonly property int pullDistance: 64
+    // From the top of a button of the header to that of its menu, which is clear of the header's line.
+    readonly property int menuTop: Math.round((headerHeight + controlHeight) / 2) + halfUnit
+    readonly property int shadowReach: 20
 
     readonly property int quick: reducesMotion ? 0 : 120
     readonly property int calm: reducesMotion ? 0 : 180

@@ -24,10 +24,7 @@ protected:
     }
 
     bool isOpen(const char* title) const { return names(Role::Dialog).contains(QString::fromUtf8(title)); }
-    static bool hasRing(QQuickItem& button)
-    {
-        return !partsOf(button, "isAlwaysShown", false).empty() || !partsOf(button, "isAlwaysShown", true).empty();
-    }
+    static bool hasRing(QQuickItem& button) { return !partsOf(button, "holder", QVariant::fromValue(&button)).empty(); }
     QString focused() const
     {
         const auto* interface = QAccessible::queryAccessibleInterface(mainWindow.window().activeFocusItem());

@@ -11,6 +11,7 @@ Pressable {
     property bool isSmall: false
     property string symbol
     property int tone: Tone.Primary
+    // Whether users of the pointer see the focus, too.
     property bool alwaysShowsFocus: false
     readonly property bool isTinted: tone !== Tone.Primary
     readonly property color fill: !isProminent ? Theme.card : isDestructive ? Theme.danger
@@ -42,7 +43,7 @@ Pressable {
         }
         FocusRing {
             holder: button
-            isAlwaysShown: button.alwaysShowsFocus
+            visible: button.activeFocus && (button.alwaysShowsFocus || InputHand.isKeyboard)
         }
     }
     Symbol {
