@@ -200,7 +200,7 @@ TEST_F(MenuOnScreen, OfAThousandPagesOnlyThePagesScrollWhileStateIncidentsAndCom
 {
     serveIncidents({incident("1", "Login errors")});
     open(1'000);
-    const QStringList others{"Degraded", "Active Incidents", "Login errors", "Refresh", "Quit"};
+    const QStringList others{"Down", "Active Incidents", "Login errors", "Refresh", "Quit"};
     std::map<QString, QRectF> before;
     for (const auto& title : others) before[title] = frameOf(titled(title));
     EXPECT_LE(before["Quit"].bottom(), window().height());
@@ -209,7 +209,7 @@ TEST_F(MenuOnScreen, OfAThousandPagesOnlyThePagesScrollWhileStateIncidentsAndCom
     for (int step = 0; step < 30; ++step) press(Qt::Key_Down);
     EXPECT_EQ(current(), QStringLiteral("page-29"));
     const auto page = frameOf(titled(QStringLiteral("page-29")));
-    EXPECT_GE(page.top(), before["Degraded"].bottom());
+    EXPECT_GE(page.top(), before["Down"].bottom());
     EXPECT_LE(page.bottom(), before["Active Incidents"].top());
     for (const auto& title : others) EXPECT_EQ(frameOf(titled(title)), before[title]) << title.toStdString();
 }
@@ -224,8 +224,8 @@ TEST_F(MenuOnScreen, InASmallWindowTheCommandsStayInViewAndEverythingAboveThemSc
     press(Qt::Key_Home);
     EXPECT_EQ(current(), QStringLiteral("page-0"));
     const auto commands = frameOf(titled(QStringLiteral("Refresh")));
-    EXPECT_LE(frameOf(titled(QStringLiteral("Degraded"))).bottom(), commands.top());
-    EXPECT_GE(frameOf(titled(QStringLiteral("Degraded"))).top(), 48);
+    EXPECT_LE(frameOf(titled(QStringLiteral("Down"))).bottom(), commands.top());
+    EXPECT_GE(frameOf(titled(QStringLiteral("Down"))).top(), 48);
     for (int step = 0; step < 40; ++step) press(Qt::Key_Down);
     EXPECT_EQ(current(), QStringLiteral("Refresh"));
     EXPECT_EQ(frameOf(titled(QStringLiteral("Refresh"))), commands);
@@ -247,10 +247,10 @@ TEST_F(MenuOnScreen, TheRowOfTheStateIsSemiboldWithItsSymbolAndTheHeadingOfIncid
     refresh();
     menu.setButton(statusItem.button);
     open(1);
-    const auto& status = *partOf(titled(QStringLiteral("Degraded")), "text", QStringLiteral("Degraded"));
+    const auto& status = *partOf(titled(QStringLiteral("Down")), "text", QStringLiteral("Down"));
     EXPECT_EQ(fontOf(status).weight(), QFont::DemiBold);
     EXPECT_EQ(colorOf(status), light::primary);
-    EXPECT_EQ(partsOf(titled(QStringLiteral("Degraded")), "name", "exclamationmark.triangle.fill").size(), 1);
+    EXPECT_EQ(partsOf(titled(QStringLiteral("Down")), "name", "xmark.circle.fill").size(), 1);
 
     EXPECT_EQ(names(Role::Heading).count(QStringLiteral("Active Incidents")), 1);
     const auto& incident = *partOf(titled(QStringLiteral("Login errors")), "text", QStringLiteral("Login errors"));
