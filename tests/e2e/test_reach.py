@@ -38,7 +38,7 @@ def test_words_in_the_menu_are_no_commands(pages):
     pages.press("Menu")
     eventually(pages.menu, "no menu came")
     rows = pages.menu()
-    assert pages.disabled("menu item") == [*rows[:2], "Active Incidents", "Login errors"]
+    assert pages.disabled("menu item") == [*rows[:2], "Login errors"]
 
 
 def test_a_sheet_covers_the_list_until_it_is_gone(pages, the_display):

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/StatusItem.h"
+#include "core/WindowMenu.h"
 
 namespace larkspan::bridge {
 
@@ -10,14 +10,15 @@ namespace larkspan::bridge {
 struct MenuEntry {
     std::string id{};
     std::string title{};
-    platform::MenuRow row{};
+    core::WindowMenu::Row shown{};
 
-    static MenuEntry of(const platform::MenuRow& row)
+    static MenuEntry of(const core::WindowMenu::Row& shown)
     {
+        const auto& row = shown.row;
         return {.id = std::to_string(static_cast<int>(row.kind)) + ' ' + std::to_string(static_cast<int>(row.action))
                 + ' ' + row.representedObject,
             .title = row.title,
-            .row = row};
+            .shown = shown};
     }
 
     bool operator==(const MenuEntry&) const = default;

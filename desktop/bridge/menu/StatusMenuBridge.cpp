@@ -6,14 +6,17 @@
 
 namespace larkspan::bridge {
 
+using core::WindowMenu;
 using platform::MenuRow;
 
 namespace {
 
-/// Not one of the panel's rows, so it has none of their actions.
-MenuRow aboutRow()
+std::vector<MenuEntry> entriesOf(const std::vector<WindowMenu::Row>& rows)
 {
-    return {.kind = MenuRow::Kind::command, .title = "About Kestrune"};
+    std::vector<MenuEntry> entries;
+    entries.reserve(rows.size());
+    std::ranges::transform(rows, std::back_inserter(entries), MenuEntry::of);
+    return entries;
 }
 
 }  // namespace
@@ -22,7 +25,7 @@ StatusMenuBridge::StatusMenuBridge(std::function<void()> showAbout, QObject* par
     : QObject(parent)
     , showAbout_(std::move(showAbout))
 {
-    StatusMenuBridge::setMenu({});
+    rebuild();
 }
 
 void StatusMenuBridge::show(std::function<void(const MenuRow& row)> perform)
@@ -30,13 +33,22 @@ void StatusMenuBridge::show(std::function<void(const MenuRow& row)> perform)
     perform_ = std::move(perform);
 }
 
+void StatusMenuBridge::setButton(const Button& button)
+{
+    statusSymbol_ = button.symbolName;
+    rebuild();
+}
+
 void StatusMenuBridge::setMenu(const std::vector<MenuRow>& rows)
 {
-    wanted_.clear();
-    wanted_.reserve(rows.size() + 2);
-    std::ranges::transform(rows, std::back_inserter(wanted_), MenuEntry::of);
-    wanted_.push_back(MenuEntry::of(MenuRow{}));
-    wanted_.push_back(MenuEntry::of(aboutRow()));
+    rows_ = rows;
+    rebuild();
+}
+
+void StatusMenuBridge::rebuild()
+{
+    const auto menu = WindowMenu::of(rows_, statusSymbol_);
+    wanted_ = {entriesOf(menu.summary), entriesOf(menu.pages), entriesOf(menu.incidents), entriesOf(menu.commands)};
     follow();
 }
 
@@ -48,26 +60,47 @@ void StatusMenuBridge::setOpen(bool isOpen)
 
 void StatusMenuBridge::follow()
 {
-    if (!isOpen_ || hasSameRows(wanted_)) rows_.update(wanted_);
+    if (isOpen_ && !hasWantedRows()) return;
+    for (std::size_t part = 0; part < parts_.size(); ++part) parts_[part].update(wanted_[part]);
 }
 
-bool StatusMenuBridge::hasSameRows(const std::vector<MenuEntry>& entries) const
+bool StatusMenuBridge::hasWantedRows() const
 {
-    return std::ranges::equal(rows_.rows(), entries, {}, &MenuEntry::id, &MenuEntry::id);
+    return std::ranges::equal(parts_, wanted_, [](const auto& part, const Entries& wanted) {
+        return std::ranges::equal(part.rows(), wanted, {}, &MenuEntry::id, &MenuEntry::id);
+    });
+}
+
+int StatusMenuBridge::rowCount() const
+{
+    int count = 0;
+    for (const auto& part : parts_) count += part.rowCount();
+    return count;
+}
+
+const MenuRow* StatusMenuBridge::rowAt(int place) const
+{
+    if (place < 0) return nullptr;
+    auto left = static_cast<std::size_t>(place);
+    for (const auto& part : parts_) {
+        if (left < part.rows().size()) return &part.rows()[left].shown.row;
+        left -= part.rows().size();
+    }
+    return nullptr;
 }
 
 bool StatusMenuBridge::isCommand(int place) const
 {
-    return place >= 0 && place < rows_.rowCount()
-        && rows_.rows()[static_cast<std::size_t>(place)].row.kind == MenuRow::Kind::command;
+    const auto* const row = rowAt(place);
+    return row && row->kind == MenuRow::Kind::command;
 }
 
 void StatusMenuBridge::choose(int place)
 {
     if (!isCommand(place)) return;
-    if (place == rows_.rowCount() - 1) return showAbout_();
     // A copy, since the action may rebuild the menu.
-    const auto row = rows_.rows()[static_cast<std::size_t>(place)].row;
+    const auto row = *rowAt(place);
+    if (row == core::aboutRow()) return showAbout_();
     if (perform_) perform_(row);
 }
 
@@ -75,15 +108,16 @@ int StatusMenuBridge::placeOfKey(const QString& key) const
 {
     const auto wanted = key.toLower().toStdString();
     if (wanted.empty()) return -1;
-    const auto& entries = rows_.rows();
-    const auto found = std::ranges::find(
-        entries, wanted, [](const MenuEntry& entry) -> const std::string& { return entry.row.keyEquivalent; });
-    return found == entries.end() ? -1 : static_cast<int>(found - entries.begin());
+    for (int place = 0; place < rowCount(); ++place) {
+        if (rowAt(place)->keyEquivalent == wanted) return place;
+    }
+    return -1;
 }
 
 int StatusMenuBridge::nextCommand(int place, int step) const
 {
-    for (int next = place + step; next >= 0 && next < rows_.rowCount(); next += step) {
+    const int count = rowCount();
+    for (int next = place + step; next >= 0 && next < count; next += step) {
         if (isCommand(next)) return next;
     }
     return place;

@@ -3,7 +3,9 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
+#include <array>
 #include <functional>
+#include <string>
 #include <vector>
 
 #include "bridge/lists/RowListModel.h"
@@ -13,12 +15,16 @@
 
 namespace larkspan::bridge {
 
-/// The rows of the panel's item for the window's menu button, with the entry for the about box below them.
+/// The rows of the panel's item for the window's menu button, in the parts of `core::WindowMenu`. A place counts the
+/// rows of all parts from the top.
 class StatusMenuBridge : public QObject, public platform::StatusItem {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
-    Q_PROPERTY(larkspan::bridge::ListModel* rows READ rows CONSTANT)
+    Q_PROPERTY(larkspan::bridge::ListModel* summary READ summary CONSTANT)
+    Q_PROPERTY(larkspan::bridge::ListModel* pages READ pages CONSTANT)
+    Q_PROPERTY(larkspan::bridge::ListModel* incidents READ incidents CONSTANT)
+    Q_PROPERTY(larkspan::bridge::ListModel* commands READ commands CONSTANT)
 
 public:
     explicit StatusMenuBridge(std::function<void()> showAbout, QObject* parent = nullptr);
@@ -27,10 +33,13 @@ public:
     bool isShown() const override { return false; }
     void followShown(std::function<void()>) override {}
     void show(std::function<void(const platform::MenuRow& row)> perform) override;
-    void setButton(const Button&) override {}
+    void setButton(const Button& button) override;
     void setMenu(const std::vector<platform::MenuRow>& rows) override;
 
-    ListModel* rows() { return &rows_; }
+    ListModel* summary() { return &parts_[0]; }
+    ListModel* pages() { return &parts_[1]; }
+    ListModel* incidents() { return &parts_[2]; }
+    ListModel* commands() { return &parts_[3]; }
 
     /// While the menu is open no row moves, so that a press hits the row that it was meant for: texts change in place,
     /// and other rows are shown only after it is closed.
@@ -45,14 +54,22 @@ public:
     Q_INVOKABLE int nextCommand(int place, int step) const;
 
 private:
+    using Entries = std::vector<MenuEntry>;
+
+    /// The row at `place`; null if there is none.
+    const platform::MenuRow* rowAt(int place) const;
     bool isCommand(int place) const;
-    bool hasSameRows(const std::vector<MenuEntry>& entries) const;
+    int rowCount() const;
+    void rebuild();
     void follow();
+    bool hasWantedRows() const;
 
     std::function<void()> showAbout_;
     std::function<void(const platform::MenuRow& row)> perform_;
-    std::vector<MenuEntry> wanted_;
-    RowListModel<MenuRowValue> rows_;
+    std::vector<platform::MenuRow> rows_;
+    std::string statusSymbol_;
+    std::array<Entries, 4> wanted_;
+    std::array<RowListModel<MenuRowValue>, 4> parts_;
     bool isOpen_ = false;
 };
 

@@ -21,18 +21,30 @@ Tone::Value toneOfDot(MenuRow::Dot dot)
     return Tone::Gray;
 }
 
-QString shortcutText(const std::string& key)
+QString endingText(const core::WindowMenu::Row& shown)
 {
-    return key.empty() ? QString() : QStringLiteral("Ctrl+") + words(key).toUpper();
+    const auto& key = shown.row.keyEquivalent;
+    return key.empty() ? words(shown.ending) : QStringLiteral("Ctrl+") + words(key).toUpper();
 }
 
 }  // namespace
 
 MenuRowValue MenuRowValue::of(const MenuEntry& entry)
 {
-    const auto& row = entry.row;
-    return {words(row.title), row.kind == MenuRow::Kind::separator, row.kind == MenuRow::Kind::command,
-        row.dot != MenuRow::Dot::none, toneOfDot(row.dot), words(row.toolTip), shortcutText(row.keyEquivalent)};
+    using Look = core::WindowMenu::Row::Look;
+    const auto& row = entry.shown.row;
+    const auto look = entry.shown.look;
+    return {.title = words(row.title),
+        .isSeparator = row.kind == MenuRow::Kind::separator,
+        .isCommand = row.kind == MenuRow::Kind::command,
+        .hasDot = row.dot != MenuRow::Dot::none,
+        .tone = toneOfDot(row.dot),
+        .help = words(row.toolTip),
+        .symbol = words(entry.shown.symbolName),
+        .isStatus = look == Look::status,
+        .isHeading = look == Look::heading,
+        .isText = look == Look::text,
+        .ending = endingText(entry.shown)};
 }
 
 }  // namespace larkspan::bridge

@@ -19,7 +19,11 @@ struct MenuRowValue {
     Q_PROPERTY(bool hasDot MEMBER hasDot)
     Q_PROPERTY(int tone MEMBER tone)
     Q_PROPERTY(QString help MEMBER help)
-    Q_PROPERTY(QString shortcut MEMBER shortcut)
+    Q_PROPERTY(QString symbol MEMBER symbol)
+    Q_PROPERTY(bool isStatus MEMBER isStatus)
+    Q_PROPERTY(bool isHeading MEMBER isHeading)
+    Q_PROPERTY(bool isText MEMBER isText)
+    Q_PROPERTY(QString ending MEMBER ending)
 
 public:
     using Row = MenuEntry;
@@ -30,7 +34,12 @@ public:
     bool hasDot = false;
     int tone = Tone::Gray;
     QString help{};
-    QString shortcut{};
+    QString symbol{};
+    bool isStatus = false;
+    bool isHeading = false;
+    bool isText = false;
+    /// The key that triggers the row, or the word of its status.
+    QString ending{};
 
     static MenuRowValue of(const MenuEntry& entry);
 

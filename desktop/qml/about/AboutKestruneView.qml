@@ -37,7 +37,9 @@ Sheet {
     }
     Label {
         width: parent.width
-        text: sheet.about.text
+        // No word stands alone on the last line.
+        text: sheet.about.text.replace(/ (\S+)$/, "\u00a0$1")
+        Accessible.name: sheet.about.text
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.Wrap
     }

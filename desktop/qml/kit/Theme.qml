@@ -50,7 +50,19 @@ QtObject {
     // The colour of text on the full colour of a tone.
     readonly property color toneText: isDark ? window : accentText
     readonly property color dimming: "#66000000"
+    // Of a dialog over a sheet, beneath which the window is dimmed already.
+    readonly property color secondDimming: "#26000000"
+    readonly property color shadow: isDark ? "#99000000" : "#330b1220"
     readonly property color veil: "#33000000"
+    // What is shown over the window: menus, and in dark also sheets and dialogs, which in light are the window's quiet
+    // ground for their cards.
+    readonly property color raised: isDark ? "#2b2f35" : card
+    readonly property color sheet: isDark ? raised : window
+    readonly property color raisedLine: hasHighContrast || !isDark ? line : "#454b54"
+    // The full colour behind the words of what cannot be undone, and the accent's while it is pressed.
+    readonly property color danger: isDark ? "#cf3a33" : "#b32823"
+    readonly property color dangerText: "#ffffff"
+    readonly property color accentPressed: Qt.darker(accent, 1.25)
     readonly property real pillOpacity: 0.15
     readonly property real badgeOpacity: 0.20
     readonly property real graphOpacity: 0.06
@@ -114,7 +126,7 @@ QtObject {
     readonly property int aboutWidth: 420
     readonly property int dialogWidth: 400
     readonly property int menuWidth: 320
-    readonly property int menuRowHeight: Math.round(28 * scale)
+    readonly property int menuRowHeight: Math.round(12 + 16 * scale)
     readonly property int dotSize: Math.round(8 * scale)
     readonly property int graphHeight: 72
     readonly property int curveWidth: 2
@@ -143,6 +155,9 @@ QtObject {
     readonly property int aboutIconSize: 88
     readonly property int headlineIconSize: Math.round(28 * scale)
     readonly property int pullDistance: 64
+    // From the top of a button of the header to that of its menu, which is clear of the header's line.
+    readonly property int menuTop: Math.round((headerHeight + controlHeight) / 2) + halfUnit
+    readonly property int shadowReach: 20
 
     readonly property int quick: reducesMotion ? 0 : 120
     readonly property int calm: reducesMotion ? 0 : 180

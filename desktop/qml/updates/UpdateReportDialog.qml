@@ -12,7 +12,8 @@ MessageDialog {
 
     CommandButton {
         text: dialog.updates.report.closeLabel
-        isProminent: true
+        // There is nothing to agree to before there is a finding.
+        isProminent: !dialog.updates.report.showsProgress
         focus: true
         onClicked: dialog.close()
     }

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "Measures.h"
 #include "Screen.h"
 
 namespace larkspan {
@@ -23,6 +24,7 @@ protected:
     }
 
     bool isOpen(const char* title) const { return names(Role::Dialog).contains(QString::fromUtf8(title)); }
+    static bool hasRing(QQuickItem& button) { return !partsOf(button, "holder", QVariant::fromValue(&button)).empty(); }
     QString focused() const
     {
         const auto* interface = QAccessible::queryAccessibleInterface(mainWindow.window().activeFocusItem());
@@ -97,6 +99,42 @@ TEST_F(AboutOnScreen, EscapeClosesAndGivesTheFocusBack)
     EXPECT_EQ(focused(), QStringLiteral("Menu"));
 }
 
+class AboutInASmallWindow : public DialogOnScreen {
+protected:
+    AboutInASmallWindow()
+    {
+        window().resize(480, 440);
+        settle();
+        aboutOwner.showingAbout = true;
+        settle();
+    }
+};
+
+TEST_F(AboutInASmallWindow, OpensAtItsTopThoughItsButtonBelowHasTheFocus)
+{
+    EXPECT_EQ(focused(), QStringLiteral("Done"));
+    EXPECT_GT(frameOf(item(Role::Button, QStringLiteral("Done"))).bottom(), 420);
+    EXPECT_LT(frameOf(item(Role::Heading, QStringLiteral("About Kestrune"))).bottom(),
+        frameOf(*partOf(*window().contentItem(), "name", QStringLiteral("application-icon"))).top());
+}
+
+TEST_F(AboutInASmallWindow, FollowsTheKeyboardFromThenOn)
+{
+    press(Qt::Key_Tab);
+    press(Qt::Key_Backtab);
+    EXPECT_EQ(focused(), QStringLiteral("Done"));
+    EXPECT_LE(frameOf(item(Role::Button, QStringLiteral("Done"))).bottom(), 420);
+}
+
+TEST_F(AboutOnScreen, NoWordOfItsSentenceStandsAloneOnTheLastLine)
+{
+    const auto sentence = QStringLiteral("A focused companion for monitoring your Kestrune status pages.");
+    const auto& text = item(Role::StaticText, sentence);
+    EXPECT_TRUE(text.property("text").toString().endsWith(QStringLiteral("status\u00a0pages.")))
+        << "no line ends between the last two";
+    EXPECT_EQ(text.property("text").toString().simplified(), sentence) << "and nothing else differs";
+}
+
 TEST_F(AboutOnScreen, CanBeOpenedAgain)
 {
     press(Qt::Key_Escape);
@@ -125,6 +163,52 @@ TEST_F(UpdatesOnScreen, ACheckShowsProgressAndItsFindingComesInTheSameDialog)
         QStringLiteral("There is no package service on this computer. Updates come with those of your distribution.")));
     EXPECT_FALSE(names(Role::ProgressBar).contains(QStringLiteral("Couldn\u2019t Check for Updates")));
     EXPECT_EQ(names(Role::Dialog).size(), 1);
+}
+
+TEST_F(UpdatesOnScreen, CloseIsPlainWhileTheCheckRunsAndOKOfTheFindingIsProminent)
+{
+    EXPECT_FALSE(item(Role::Button, QStringLiteral("Close")).property("isProminent").toBool());
+    updater.pending.at(0)(UpdateCheck{.finding = UpdateCheck::Finding::upToDate, .installedVersion = "1.2"});
+    settle();
+    EXPECT_TRUE(item(Role::Button, QStringLiteral("OK")).property("isProminent").toBool());
+}
+
+TEST_F(DialogOnScreen, OpenedByTheKeyboardShowsWhichButtonHasTheFocus)
+{
+    press(Qt::Key_F5);
+    updates->checkForUpdates();
+    settle();
+    EXPECT_TRUE(hasRing(item(Role::Button, QStringLiteral("Close"))));
+}
+
+class QuestionOnScreen : public DialogOnScreen {
+protected:
+    QuestionOnScreen()
+    {
+        dashboard->openSettings();
+        settle();
+        dashboard->settings()->confirmDelete();
+        settle();
+    }
+
+    QQuickItem& button(const char* name) const { return item(Role::Button, QString::fromUtf8(name)); }
+};
+
+TEST_F(QuestionOnScreen, WhatCannotBeUndoneIsFilledAndStandsApartFromCancel)
+{
+    EXPECT_GE(gapBeside(button("Cancel"), button("Delete")), 16);
+    const auto place = frameOf(button("Delete")).toRect();
+    EXPECT_EQ(window().grabWindow().pixelColor(place.left() + 6, place.center().y()), light::red);
+    EXPECT_EQ(colorOf(*partOf(button("Delete"), "text", QStringLiteral("Delete"))), QColor("#ffffff"));
+}
+
+TEST_F(QuestionOnScreen, TheFocusIsSeenOnCancelWhateverOpenedIt)
+{
+    QTest::mouseClick(&window(), Qt::LeftButton, {}, {5, 5});
+    settle();
+    EXPECT_EQ(focused(), QStringLiteral("Cancel"));
+    EXPECT_TRUE(hasRing(button("Cancel")));
+    EXPECT_FALSE(hasRing(button("Delete")));
 }
 
 TEST_F(UpdatesOnScreen, OKClosesIt)

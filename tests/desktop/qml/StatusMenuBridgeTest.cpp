@@ -35,9 +35,18 @@ MenuRow quit()
     return {.kind = MenuRow::Kind::command, .title = "Quit", .action = MenuRow::Action::quitApp, .keyEquivalent = "q"};
 }
 
-MenuRowValue rowAt(StatusMenuBridge& menu, int place)
+/// A menu with these pages: its places are 0 "Down", 1 a separator, 2 the first page.
+Rows menuOf(const Rows& pages, const std::string& status = "Down")
 {
-    return menu.rows()->data(menu.rows()->index(place), ListModel::RowRole).value<MenuRowValue>();
+    Rows rows{information(status), MenuRow{}};
+    rows.insert(rows.end(), pages.begin(), pages.end());
+    rows.insert(rows.end(), {MenuRow{}, quit()});
+    return rows;
+}
+
+MenuRowValue rowOf(ListModel& part, int row)
+{
+    return part.data(part.index(row), ListModel::RowRole).value<MenuRowValue>();
 }
 
 class WindowMenu : public testing::Test {
@@ -45,9 +54,11 @@ protected:
     static QStringList titles(StatusMenuBridge& menu)
     {
         QStringList found;
-        for (int place = 0; place < menu.rows()->rowCount(); ++place) {
-            const auto row = rowAt(menu, place);
-            found << (row.isSeparator ? QStringLiteral("-") : row.title);
+        for (auto* const part : {menu.summary(), menu.pages(), menu.incidents(), menu.commands()}) {
+            for (int row = 0; row < part->rowCount(); ++row) {
+                const auto value = rowOf(*part, row);
+                found << (value.isSeparator ? QStringLiteral("-") : value.title);
+            }
         }
         return found;
     }
@@ -57,67 +68,84 @@ protected:
     StatusMenuBridge menu{[this] { ++abouts; }};
 };
 
-TEST_F(WindowMenu, HasTheAboutBoxBelowThePanelsRowsAndFromTheStart)
+TEST_F(WindowMenu, HasTheAboutBoxBeforeQuitAndFromTheStart)
 {
-    EXPECT_EQ(titles(menu), (QStringList{"-", "About Kestrune"}));
-    menu.setMenu({information("Down"), page("a"), quit()});
-    EXPECT_EQ(titles(menu), (QStringList{"Down", "Page a", "Quit", "-", "About Kestrune"}));
-    menu.choose(4);
+    EXPECT_EQ(titles(menu), QStringList{"About Kestrune"});
+    menu.setMenu(menuOf({page("a")}));
+    EXPECT_EQ(titles(menu), (QStringList{"Down", "-", "Page a", "About Kestrune", "-", "Quit"}));
+    menu.choose(3);
     EXPECT_EQ(abouts, 1);
 }
 
 TEST_F(WindowMenu, TellsWhatARowIs)
 {
-    menu.setMenu({information("Down"), page("a"), quit()});
-    EXPECT_FALSE(rowAt(menu, 0).isCommand);
-    EXPECT_TRUE(rowAt(menu, 1).isCommand);
-    EXPECT_TRUE(rowAt(menu, 1).hasDot);
-    EXPECT_EQ(rowAt(menu, 1).help, QStringLiteral("Operational"));
-    EXPECT_EQ(rowAt(menu, 2).shortcut, QStringLiteral("Ctrl+Q"));
-    EXPECT_EQ(rowAt(menu, 0).shortcut, QString());
+    menu.setButton({.symbolName = "xmark.circle.fill"});
+    menu.setMenu(menuOf({page("a")}));
+    const auto state = rowOf(*menu.summary(), 0);
+    EXPECT_TRUE(state.isStatus);
+    EXPECT_FALSE(state.isCommand);
+    EXPECT_EQ(state.symbol, QStringLiteral("xmark.circle.fill"));
+    EXPECT_EQ(state.ending, QString());
+    const auto shown = rowOf(*menu.pages(), 0);
+    EXPECT_TRUE(shown.isCommand);
+    EXPECT_TRUE(shown.hasDot);
+    EXPECT_EQ(shown.help, QStringLiteral("Operational"));
+    EXPECT_EQ(shown.ending, QStringLiteral("Operational"));
+    EXPECT_EQ(rowOf(*menu.commands(), 2).ending, QStringLiteral("Ctrl+Q"));
+}
+
+TEST_F(WindowMenu, TellsTheHeadingOfTheIncidentsFromTheirTitles)
+{
+    auto rows = menuOf({page("a")});
+    rows.insert(rows.end() - 1, {information("Active Incidents"), information("Login errors"), MenuRow{}});
+    menu.setMenu(rows);
+    EXPECT_TRUE(rowOf(*menu.incidents(), 1).isHeading);
+    EXPECT_FALSE(rowOf(*menu.incidents(), 1).isText);
+    EXPECT_TRUE(rowOf(*menu.incidents(), 2).isText);
+    EXPECT_FALSE(rowOf(*menu.incidents(), 2).isHeading);
 }
 
 TEST_F(WindowMenu, PerformsCommandsAsLastGivenAndNothingElse)
 {
     menu.show([this](const MenuRow& row) { performed.push_back(row); });
-    menu.setMenu({information("Down"), page("a"), quit()});
-    for (const int place : {-1, 0, 1, 3, 99}) menu.choose(place);
+    menu.setMenu(menuOf({page("a")}));
+    for (const int place : {-1, 0, 1, 2, 4, 99}) menu.choose(place);
     EXPECT_EQ(performed, Rows{page("a")});
 }
 
 TEST_F(WindowMenu, WithNobodyToPerformHarmsNothing)
 {
-    menu.setMenu({quit()});
-    menu.choose(0);
+    menu.setMenu(menuOf({}));
+    menu.choose(4);
 }
 
 TEST_F(WindowMenu, SkipsWhatIsNoCommandInBothDirections)
 {
-    menu.setMenu({information("Down"), page("a"), MenuRow{}, quit()});
-    EXPECT_EQ(menu.nextCommand(-1, 1), 1);
-    EXPECT_EQ(menu.nextCommand(1, 1), 3);
-    EXPECT_EQ(menu.nextCommand(3, 1), 5) << "the about box";
+    menu.setMenu(menuOf({page("a")}));
+    EXPECT_EQ(menu.nextCommand(-1, 1), 2);
+    EXPECT_EQ(menu.nextCommand(2, 1), 3) << "the about box, in another part";
+    EXPECT_EQ(menu.nextCommand(3, 1), 5);
     EXPECT_EQ(menu.nextCommand(5, 1), 5) << "the last one";
-    EXPECT_EQ(menu.nextCommand(3, -1), 1);
-    EXPECT_EQ(menu.nextCommand(1, -1), 1) << "the first one";
+    EXPECT_EQ(menu.nextCommand(5, -1), 3);
+    EXPECT_EQ(menu.nextCommand(2, -1), 2) << "the first one";
 }
 
 TEST_F(WindowMenu, FindsARowByItsKeyWhateverTheCase)
 {
-    menu.setMenu({information("Down"), quit()});
-    EXPECT_EQ(menu.placeOfKey("Q"), 1);
-    EXPECT_EQ(menu.placeOfKey("q"), 1);
+    menu.setMenu(menuOf({page("a")}));
+    EXPECT_EQ(menu.placeOfKey("Q"), 5);
+    EXPECT_EQ(menu.placeOfKey("q"), 5);
     EXPECT_EQ(menu.placeOfKey("x"), -1);
     EXPECT_EQ(menu.placeOfKey(""), -1);
 }
 
 TEST_F(WindowMenu, AChangedTextIsPatchedInPlace)
 {
-    menu.setMenu({information("Updated 1s ago"), page("a"), quit()});
-    const QSignalSpy changed(menu.rows(), &QAbstractItemModel::dataChanged);
-    const QSignalSpy inserted(menu.rows(), &QAbstractItemModel::rowsInserted);
-    const QSignalSpy removed(menu.rows(), &QAbstractItemModel::rowsRemoved);
-    menu.setMenu({information("Updated 2s ago"), page("a"), quit()});
+    menu.setMenu(menuOf({page("a")}, "Degraded"));
+    const QSignalSpy changed(menu.summary(), &QAbstractItemModel::dataChanged);
+    const QSignalSpy inserted(menu.summary(), &QAbstractItemModel::rowsInserted);
+    const QSignalSpy removed(menu.summary(), &QAbstractItemModel::rowsRemoved);
+    menu.setMenu(menuOf({page("a")}, "Down"));
     ASSERT_EQ(changed.count(), 1);
     EXPECT_EQ(changed[0][0].toModelIndex().row(), 0);
     EXPECT_EQ(changed[0][1].toModelIndex().row(), 0);
@@ -127,66 +155,68 @@ TEST_F(WindowMenu, AChangedTextIsPatchedInPlace)
 TEST_F(WindowMenu, WhileItIsOpenItsTextsChangeInPlaceAndOtherRowsWaitUntilItIsClosed)
 {
     menu.show([this](const MenuRow& row) { performed.push_back(row); });
-    menu.setMenu({information("Operational"), page("a"), quit()});
+    menu.setMenu(menuOf({page("a")}, "Operational"));
     menu.setOpen(true);
-    menu.setMenu({information("Down"), page("a"), quit()});
-    const QStringList held{"Down", "Page a", "Quit", "-", "About Kestrune"};
+    menu.setMenu(menuOf({page("a")}));
+    const QStringList held{"Down", "-", "Page a", "About Kestrune", "-", "Quit"};
     EXPECT_EQ(titles(menu), held);
-    menu.setMenu({information("Down"), information("Network Offline"), page("b"), quit()});
+    auto offline = menuOf({page("b")});
+    offline.insert(offline.begin() + 1, information("Network Offline"));
+    menu.setMenu(offline);
     EXPECT_EQ(titles(menu), held);
-    menu.setMenu({information("Down"), page("b"), quit()});
+    menu.setMenu(menuOf({page("b")}));
     EXPECT_EQ(titles(menu), held) << "as many, but another page";
-    menu.choose(1);
+    menu.choose(2);
     EXPECT_EQ(performed, Rows{page("a")});
     menu.setOpen(false);
-    EXPECT_EQ(titles(menu), (QStringList{"Down", "Page b", "Quit", "-", "About Kestrune"}));
+    EXPECT_EQ(titles(menu), (QStringList{"Down", "-", "Page b", "About Kestrune", "-", "Quit"}));
 }
 
 TEST_F(WindowMenu, AnUnchangedMenuTellsNothing)
 {
-    menu.setMenu({information("Down"), quit()});
-    const QSignalSpy changed(menu.rows(), &QAbstractItemModel::dataChanged);
-    menu.setMenu({information("Down"), quit()});
-    EXPECT_EQ(changed.count(), 0);
+    menu.setMenu(menuOf({page("a")}));
+    const QSignalSpy summary(menu.summary(), &QAbstractItemModel::dataChanged);
+    const QSignalSpy pages(menu.pages(), &QAbstractItemModel::dataChanged);
+    menu.setMenu(menuOf({page("a")}));
+    EXPECT_EQ(summary.count() + pages.count(), 0);
 }
 
 TEST_F(WindowMenu, ARowThatComesLeavesTheOthersAlone)
 {
-    menu.setMenu({page("a"), page("c"), quit()});
-    const QPersistentModelIndex last = menu.rows()->index(2);
-    const QSignalSpy inserted(menu.rows(), &QAbstractItemModel::rowsInserted);
-    const QSignalSpy changed(menu.rows(), &QAbstractItemModel::dataChanged);
-    menu.setMenu({page("a"), page("b"), page("c"), quit()});
+    menu.setMenu(menuOf({page("a"), page("c")}));
+    const QPersistentModelIndex last = menu.pages()->index(1);
+    const QSignalSpy inserted(menu.pages(), &QAbstractItemModel::rowsInserted);
+    const QSignalSpy changed(menu.pages(), &QAbstractItemModel::dataChanged);
+    menu.setMenu(menuOf({page("a"), page("b"), page("c")}));
     ASSERT_EQ(inserted.count(), 1);
     EXPECT_EQ(inserted[0][1].toInt(), 1);
     EXPECT_EQ(changed.count(), 0);
-    EXPECT_EQ(last.row(), 3);
+    EXPECT_EQ(last.row(), 2);
 }
 
 TEST_F(WindowMenu, GetsFromAnyMenuToAnyOtherWithoutAReset)
 {
-    const QSignalSpy resets(menu.rows(), &QAbstractItemModel::modelReset);
+    const QSignalSpy resets(menu.pages(), &QAbstractItemModel::modelReset);
     std::mt19937 random(7);
     for (int round = 0; round < 500; ++round) {
         Rows rows;
         for (std::size_t count = random() % 8; count > 0; --count) rows.push_back(page(std::to_string(random() % 5)));
-        QStringList mirrored = titles(menu);
-        const auto insertion = QObject::connect(
-            menu.rows(), &QAbstractItemModel::rowsInserted, [&](const QModelIndex&, int first, int last) {
-                for (int at = first; at <= last; ++at) mirrored.insert(at, QString());
-            });
-        const auto removal = QObject::connect(menu.rows(), &QAbstractItemModel::rowsRemoved,
-            [&](const QModelIndex&, int first, int last) { mirrored.remove(first, last - first + 1); });
-        menu.setMenu(rows);
+        int mirrored = menu.pages()->rowCount();
+        const auto insertion = QObject::connect(menu.pages(), &QAbstractItemModel::rowsInserted,
+            [&](const QModelIndex&, int first, int last) { mirrored += last - first + 1; });
+        const auto removal = QObject::connect(menu.pages(), &QAbstractItemModel::rowsRemoved,
+            [&](const QModelIndex&, int first, int last) { mirrored -= last - first + 1; });
+        menu.setMenu(menuOf(rows));
         QObject::disconnect(insertion);
         QObject::disconnect(removal);
 
-        QStringList expected;
+        QStringList expected{"Down", "-"};
         for (const auto& row : rows) expected << QString::fromStdString(row.title);
-        expected << "-"
-                 << "About Kestrune";
+        expected << "About Kestrune"
+                 << "-"
+                 << "Quit";
         ASSERT_EQ(titles(menu), expected);
-        ASSERT_EQ(mirrored.size(), expected.size());
+        ASSERT_EQ(mirrored, rows.size());
     }
     EXPECT_EQ(resets.count(), 0);
 }

@@ -58,6 +58,23 @@ TEST_P(Theme, KeepsWordsLegibleOnAButtonOfAFullStatusColour)
     }
 }
 
+TEST_P(Theme, KeepsTheWordOfWhatCannotBeUndoneLegibleOnItsFullColour)
+{
+    EXPECT_GE(contrast(color("dangerText"), color("danger")), 4.5);
+    EXPECT_EQ(color("dangerText"), QColor("#ffffff"));
+    EXPECT_GT(color("danger").hslSaturationF(), 0.5);
+}
+
+TEST_P(Theme, KeepsTextLegibleOnRaisedSurfacesAndOnARowThatIsPressed)
+{
+    for (const char* ground : {"raised", "sheet"}) {
+        for (const char* token : {"text", "secondary", "green", "orange", "yellow", "red", "blue", "gray"}) {
+            EXPECT_GE(contrast(color(token), color(ground)), 4.5) << token << " on " << ground;
+        }
+    }
+    EXPECT_GE(contrast(color("accentText"), color("accentPressed")), contrast(color("accentText"), color("accent")));
+}
+
 TEST_P(Theme, KeepsTextLegible)
 {
     for (const char* ground : {"window", "card"}) {

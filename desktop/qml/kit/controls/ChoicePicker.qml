@@ -71,6 +71,6 @@ Pressable {
         choices: picker.choices
         selectedPlace: picker.selectedPlace
         onChosen: id => picker.chosen(id)
-        onClosed: picker.forceActiveFocus(Qt.PopupFocusReason)
+        onAboutToHide: picker.forceActiveFocus(Qt.PopupFocusReason)
     }
 }

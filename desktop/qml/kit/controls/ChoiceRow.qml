@@ -24,7 +24,7 @@ Item {
         anchors.fill: parent
         visible: delegate.isCurrent
         radius: Theme.pillRadius
-        color: Theme.accent
+        color: tap.pressed ? Theme.accentPressed : Theme.accent
     }
     Label {
         anchors.fill: parent
@@ -38,6 +38,7 @@ Item {
         onHoveredChanged: if (hovered) delegate.entered()
     }
     TapHandler {
+        id: tap
         onTapped: delegate.triggered()
     }
 }

@@ -13,13 +13,17 @@ Pressable {
     property bool isBusy: false
     property string symbol
     property int tone: Tone.Primary
+    // Whether users of the pointer see the focus, too.
+    property bool alwaysShowsFocus: false
     readonly property bool isTinted: tone !== Tone.Primary
-    readonly property color ink: !enabled ? Theme.disabledText : isProminent ? isTinted ? Theme.toneText : Theme.accentText
+    readonly property color ink: !enabled ? Theme.disabledText
+        : isProminent ? isDestructive ? Theme.dangerText : isTinted ? Theme.toneText : Theme.accentText
         : isDestructive ? Theme.red : Theme.toneColor(tone)
     readonly property color fill: !isProminent ? Theme.card : !enabled ? Theme.disabledFill
-        : isTinted ? Theme.toneColor(tone) : Theme.accent
+        : isDestructive ? Theme.danger : isTinted ? Theme.toneColor(tone) : Theme.accent
     readonly property color edge: !enabled ? Theme.line : isTinted ? Theme.toneColor(tone)
-        : isProminent ? Theme.accentLine : hovered || down ? Theme.controlLineHovered : Theme.controlLine
+        : isProminent ? isDestructive ? Theme.danger : Theme.accentLine
+        : hovered || down ? Theme.controlLineHovered : Theme.controlLine
     readonly property real sidePadding: 2 * Theme.unit - Theme.halfUnit
     readonly property real symbolWidth: symbol === "" && !isBusy ? 0 : Theme.smallIconSize + Theme.narrowGap
 
@@ -46,7 +50,10 @@ Pressable {
                 ColorAnimation { duration: Theme.quick }
             }
         }
-        FocusRing { holder: button }
+        FocusRing {
+            holder: button
+            visible: button.activeFocus && (button.alwaysShowsFocus || InputHand.isKeyboard)
+        }
     }
     Loader {
         active: button.isBusy

@@ -8,6 +8,7 @@ QtObject {
     required property Flickable flickable
     // Whether it scrolls to what the pointer presses; not where texts are selected with the pointer.
     property bool followsPointer: true
+    property bool followsFocus: true
     // The margin around what is made visible.
     property real margin: Theme.margin
     readonly property real begin: flickable.originY - flickable.topMargin
@@ -17,7 +18,7 @@ QtObject {
 
     onFocusedItemChanged: follow()
     function follow() {
-        if (followsPointer || InputHand.isKeyboard) reveal(focusedItem)
+        if (followsFocus && (followsPointer || InputHand.isKeyboard)) reveal(focusedItem)
     }
     function isWithin(item: Item, whole: Item): bool {
         let ancestor = item

@@ -14,6 +14,7 @@ Flickable {
     property alias spacing: column.spacing
     // Whether it can have the focus, because it has content to read and not only controls.
     property bool takesFocus: false
+    property alias followsFocus: scrolling.followsFocus
     readonly property bool isStop: takesFocus && scrolling.isScrollable
 
     activeFocusOnTab: isStop || activeFocus

@@ -75,10 +75,7 @@ T.Popup {
         }
     }
 
-    background: Rectangle {
-        radius: Theme.controlRadius
-        color: Theme.card
-        border.width: Theme.hairline
-        border.color: Theme.line
-    }
+    background: Surface {}
+    enter: Fade {}
+    exit: Fade { isOut: true }
 }

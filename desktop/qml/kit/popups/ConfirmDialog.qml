@@ -11,16 +11,19 @@ MessageDialog {
 
     title: confirmation.title
     text: confirmation.text
+    // A hand that misses what cannot be undone must not hit it.
+    actionSpacing: isDestructive ? 2 * Theme.unit : Theme.unit
 
     CommandButton {
         text: dialog.confirmation.cancel
         focus: true
+        alwaysShowsFocus: dialog.isDestructive
         onClicked: dialog.close()
     }
     CommandButton {
         text: dialog.confirmation.confirm
         isDestructive: dialog.isDestructive
-        isProminent: !dialog.isDestructive
+        isProminent: true
         onClicked: {
             dialog.confirmed()
             dialog.close()

@@ -3,7 +3,9 @@ import Larkspan
 
 // The dimmed layer between the window and a sheet.
 Rectangle {
-    color: Theme.dimming
+    property bool isSecond: false
+
+    color: isSecond ? Theme.secondDimming : Theme.dimming
     Behavior on opacity {
         NumberAnimation { duration: Theme.calm; easing.type: Easing.OutCubic }
     }

@@ -4,7 +4,7 @@ import Larkspan
 
 T.Menu {
     id: menu
-    y: parent ? parent.height + Theme.halfUnit : 0
+    y: Theme.menuTop
     implicitWidth: list.childrenRect.width + leftPadding + rightPadding
     implicitHeight: list.contentHeight + topPadding + bottomPadding
     margins: Theme.unit
@@ -21,14 +21,7 @@ T.Menu {
         model: menu.contentModel
     }
 
-    background: Rectangle {
-        radius: Theme.controlRadius
-        color: Theme.card
-        border.width: Theme.hairline
-        border.color: Theme.line
-    }
-
-    enter: Transition {
-        NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.quick; easing.type: Easing.OutCubic }
-    }
+    background: Surface {}
+    enter: Fade {}
+    exit: Fade { isOut: true }
 }

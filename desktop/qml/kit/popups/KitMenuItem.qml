@@ -7,7 +7,7 @@ T.MenuItem {
     id: item
     property string symbol
     property bool isDestructive: false
-    readonly property color ink: highlighted ? Theme.accentText : isDestructive ? Theme.red : Theme.text
+    readonly property color ink: highlighted || down ? Theme.accentText : isDestructive ? Theme.red : Theme.text
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Math.max(Theme.controlHeight, implicitContentHeight + 2 * Theme.halfUnit)
@@ -46,6 +46,6 @@ T.MenuItem {
     }
     background: Rectangle {
         radius: Theme.pillRadius
-        color: item.highlighted ? Theme.accent : "transparent"
+        color: item.down ? Theme.accentPressed : item.highlighted ? Theme.accent : "transparent"
     }
 }

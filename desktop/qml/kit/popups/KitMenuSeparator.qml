@@ -3,11 +3,11 @@ import QtQuick.Templates as T
 import Larkspan
 
 T.MenuSeparator {
-    implicitHeight: Theme.hairline + 2 * Theme.halfUnit
-    topPadding: Theme.halfUnit
-    bottomPadding: Theme.halfUnit
+    implicitHeight: Theme.hairline + 2 * Theme.unit
+    topPadding: Theme.unit
+    bottomPadding: Theme.unit
     contentItem: Rectangle {
         implicitHeight: Theme.hairline
-        color: Theme.line
+        color: Theme.raisedLine
     }
 }

@@ -28,4 +28,6 @@ T.ToolTip {
         radius: Theme.pillRadius
         color: Theme.text
     }
+    enter: Fade {}
+    exit: Fade { isOut: true }
 }

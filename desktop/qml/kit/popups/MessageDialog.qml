@@ -6,11 +6,12 @@ ModalDialog {
     id: dialog
     property string text
     property bool showsProgress: false
+    property alias actionSpacing: actionRow.spacing
     default property alias actions: actionRow.data
 
     width: parent ? Math.min(Theme.dialogWidth * Theme.scale, parent.width - 2 * Theme.margin) : 0
     padding: Theme.margin
-    implicitHeight: column.implicitHeight + topPadding + bottomPadding
+    wholeHeight: column.implicitHeight + topPadding + bottomPadding
 
     contentItem: FocusScope {
         focus: true

@@ -2,23 +2,54 @@ import QtQuick
 import QtQuick.Templates as T
 import Larkspan
 
-// A dialog in the middle of the dimmed window, which keeps the focus while it is open. Escape closes it.
+// A dialog in the middle of the dimmed window, which keeps the focus while it is open. Escape closes it. When its
+// content grows, its top edge stays where it is as long as there is room beneath.
 T.Dialog {
+    id: dialog
+    // The height that all of its content takes.
+    required property real wholeHeight
+    // Whether there is a dialog beneath it, which has dimmed the window already.
+    property bool isOverAnother: false
+
+    readonly property real room: parent ? parent.height : 0
+    readonly property real mostHeight: room - 2 * Theme.margin
+    // The height at which it stays once its content has stopped growing.
+    readonly property real lastHeight: Math.min(wholeHeight, mostHeight)
+    property real growingHeight: wholeHeight
+    property bool isPlaced: false
+    property real top: 0
 
     parent: T.Overlay.overlay
     x: parent ? Math.round((parent.width - width) / 2) : 0
-    y: parent ? Math.round((parent.height - height) / 2) : 0
+    y: isPlaced ? Math.max(Theme.margin, Math.min(top, room - Theme.margin - height)) : middle()
+    height: Math.min(growingHeight, mostHeight)
     modal: true
     focus: true
     closePolicy: T.Popup.CloseOnEscape
+    onAboutToShow: isPlaced = false
+    onOpened: place()
+    onRoomChanged: if (isPlaced) place()
 
-    T.Overlay.modal: Dimming {}
+    function middle(): real {
+        return Math.round((room - lastHeight) / 2)
+    }
+    function place() {
+        top = middle()
+        isPlaced = true
+    }
 
-    background: Rectangle {
+    Behavior on growingHeight {
+        enabled: dialog.isPlaced && !Theme.reducesMotion
+        NumberAnimation { duration: Theme.calm; easing.type: Easing.OutCubic }
+    }
+
+    T.Overlay.modal: Dimming {
+        isSecond: dialog.isOverAnother
+    }
+
+    background: Surface {
         radius: Theme.cardRadius
-        color: Theme.window
-        border.width: Theme.hairline
-        border.color: Theme.line
+        color: Theme.sheet
     }
 
     enter: Transition {

@@ -21,7 +21,13 @@ Loader {
 
     function open() {
         focusBefore.remember(Window.activeFocusItem)
+        popup.isOverAnother = isWithin(popup.parent)
         popup.open()
+    }
+    function isWithin(layer: Item): bool {
+        let ancestor = loader.parent
+        while (ancestor && ancestor !== layer) ancestor = ancestor.parent
+        return ancestor !== null
     }
 
     Connections {

@@ -22,10 +22,11 @@ ModalDialog {
     closePolicy: closesByItself ? T.Popup.CloseOnEscape : T.Popup.NoAutoClose
 
     width: parent ? Math.min(preferredWidth * Theme.scale, parent.width - 2 * Theme.margin) : 0
-    height: parent ? Math.min(Theme.headerHeight + scroller.contentHeight, parent.height - 2 * Theme.margin) : 0
+    wholeHeight: bar.height + scroller.contentHeight
 
     contentItem: FocusScope {
         focus: true
+        clip: true
         Keys.onPressed: event => {
             const leads = !sheet.closesByItself && event.key === Qt.Key_Escape
             event.accepted = leads || sheet.isBusy
@@ -44,8 +45,12 @@ ModalDialog {
 
         ScrollingColumn {
             id: scroller
-            anchors.fill: parent
-            anchors.topMargin: bar.height
+            anchors.top: bar.bottom
+            width: parent.width
+            // Laid out once, however long the sheet takes to get there.
+            height: sheet.lastHeight - bar.height
+            // A sheet opens at its top, wherever its focus is.
+            followsFocus: sheet.isPlaced
             enabled: !sheet.isBusy
         }
 

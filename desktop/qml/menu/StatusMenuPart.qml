@@ -1,0 +1,26 @@
+import QtQuick
+import Larkspan
+
+// Rows of the menu that stand together, and are so few that each has its item.
+Column {
+    id: part
+    property alias model: rows.model
+    readonly property alias count: rows.count
+    // The place of the first row in the whole menu.
+    property int first: 0
+    required property int current
+    signal entered(place: int)
+    signal triggered(place: int)
+
+    width: parent ? parent.width : 0
+
+    Repeater {
+        id: rows
+        StatusMenuRow {
+            width: part.width
+            isCurrent: part.first + index === part.current
+            onEntered: part.entered(part.first + index)
+            onTriggered: part.triggered(part.first + index)
+        }
+    }
+}
