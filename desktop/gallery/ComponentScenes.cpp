@@ -6,6 +6,8 @@
 #include <utility>
 #include <vector>
 
+#include "components/ComponentDetailView.h"
+#include "components/StatusPageComponentsView.h"
 #include "gallery/OpenedTab.h"
 #include "gallery/ScreenStates.h"
 

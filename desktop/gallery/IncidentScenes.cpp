@@ -9,6 +9,9 @@
 
 #include "gallery/OpenedTab.h"
 #include "gallery/ScreenStates.h"
+#include "incidents/CreateIncidentView.h"
+#include "incidents/IncidentDetailView.h"
+#include "incidents/StatusPageIncidentsView.h"
 
 namespace larkspan::gallery {
 

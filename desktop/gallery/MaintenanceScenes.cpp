@@ -8,6 +8,9 @@
 
 #include "gallery/OpenedTab.h"
 #include "gallery/ScreenStates.h"
+#include "maintenances/CreateMaintenanceView.h"
+#include "maintenances/MaintenanceDetailView.h"
+#include "maintenances/StatusPageMaintenancesView.h"
 
 namespace larkspan::gallery {
 

@@ -10,6 +10,9 @@
 
 #include "gallery/OpenedTab.h"
 #include "gallery/ScreenStates.h"
+#include "monitors/MonitorDetailView.h"
+#include "monitors/MonitorRowView.h"
+#include "monitors/StatusPageMonitorsView.h"
 
 namespace larkspan::gallery {
 

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "Screen.h"
+#include "workspace/SettingsView.h"
 
 namespace larkspan {
 
