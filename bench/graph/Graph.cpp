@@ -20,7 +20,7 @@
 #include "Arguments.h"
 #include "account/MonitorMetrics.h"
 #include "bridge/items/LatencyPlotItem.h"
-#include "bridge/values/SelectedLatencyValue.h"
+#include "bridge/monitors/SelectedLatencyValue.h"
 #include "fakes/FakeLocaleText.h"
 #include "qml/Renderer.h"
 #include "service/WallClock.h"

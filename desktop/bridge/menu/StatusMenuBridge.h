@@ -8,7 +8,7 @@
 
 #include "bridge/lists/RowListModel.h"
 #include "bridge/menu/MenuEntry.h"
-#include "bridge/values/MenuRowValue.h"
+#include "bridge/menu/MenuRowValue.h"
 #include "platform/StatusItem.h"
 
 namespace larkspan::bridge {

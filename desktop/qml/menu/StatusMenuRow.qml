@@ -1,6 +1,6 @@
 import QtQuick
 import Larkspan
-import Larkspan.Bridge
+import Larkspan.Bridge.Menu
 
 // A row of the menu: a text, a command, or a separator.
 Item {
