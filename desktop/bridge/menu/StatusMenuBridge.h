@@ -25,7 +25,7 @@ public:
 
     /// Not a panel: these rows are in the window, and are hidden with it.
     bool isShown() const override { return false; }
-    void followShown(std::function<void()>) override {}
+    void onShownChanged(std::function<void()>) override {}
     void show(std::function<void(const platform::MenuRow& row)> perform) override;
     void setButton(const Button&) override {}
     void setMenu(const std::vector<platform::MenuRow>& rows) override;
