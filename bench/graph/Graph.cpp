@@ -91,7 +91,7 @@ double selectingIn(QSizeF size, std::size_t times)
     QQmlEngine engine;
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     QQmlComponent component(&engine);
-    component.setData("import QtQuick\nimport Larkspan\nimport Larkspan.Bridge\n"
+    component.setData("import QtQuick\nimport Larkspan\nimport Larkspan.Bridge\nimport Larkspan.Bridge.Monitors\n"
                       "Window {\nid: window\nproperty latencyCurve curve\nproperty selectedLatency selection\n"
                       "LatencyGraph {\ny: 60; width: window.width; height: window.height - 60\n"
                       "curve: window.curve; selection: window.selection\n}\n}",
