@@ -20,7 +20,7 @@
 #include "Arguments.h"
 #include "account/MonitorMetrics.h"
 #include "bridge/items/LatencyPlotItem.h"
-#include "bridge/values/SelectedLatencyValue.h"
+#include "bridge/monitors/SelectedLatencyValue.h"
 #include "fakes/FakeLocaleText.h"
 #include "qml/Renderer.h"
 #include "service/WallClock.h"
@@ -91,7 +91,7 @@ double selectingIn(QSizeF size, std::size_t times)
     QQmlEngine engine;
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     QQmlComponent component(&engine);
-    component.setData("import QtQuick\nimport Larkspan\nimport Larkspan.Bridge\n"
+    component.setData("import QtQuick\nimport Larkspan\nimport Larkspan.Bridge\nimport Larkspan.Bridge.Monitors\n"
                       "Window {\nid: window\nproperty latencyCurve curve\nproperty selectedLatency selection\n"
                       "LatencyGraph {\ny: 60; width: window.width; height: window.height - 60\n"
                       "curve: window.curve; selection: window.selection\n}\n}",

@@ -25,11 +25,17 @@
 #include "Client.h"
 #include "account/Seed.h"
 #include "adapters/MainExecutor.h"
+#include "components/ComponentRow.h"
+#include "components/StatusPageComponentsView.h"
 #include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocaleText.h"
+#include "incidents/StatusPageIncidentsView.h"
+#include "monitors/MonitorRowView.h"
+#include "monitors/StatusPageMonitorsView.h"
 #include "qml/MainWindow.h"
 #include "qml/Renderer.h"
 #include "service/WallClock.h"
+#include "workspace/StatusPageDetailView.h"
 
 namespace {
 

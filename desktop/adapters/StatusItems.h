@@ -23,9 +23,9 @@ public:
         return std::ranges::any_of(items_, [](const auto& item) { return item.get().isShown(); });
     }
 
-    void followShown(std::function<void()> changed) override
+    void onShownChanged(std::function<void()> changed) override
     {
-        for (auto& item : items_) item.get().followShown(changed);
+        for (auto& item : items_) item.get().onShownChanged(changed);
     }
 
     void show(std::function<void(const platform::MenuRow& row)> perform) override

@@ -6,6 +6,8 @@
 #include <utility>
 #include <vector>
 
+#include "components/ComponentDetailView.h"
+#include "components/StatusPageComponentsView.h"
 #include "gallery/OpenedTab.h"
 #include "gallery/ScreenStates.h"
 
@@ -182,18 +184,18 @@ std::vector<Scene> componentScenes()
         {"components-list-narrow-large-font", tab(list), 480, 440, 20},
         {"components-list-without-groups", tab(withoutGroups)},
         {"components-five-thousand", tab(fiveThousand)},
-        {"components-loading", tab(asItComesUp)},
+        {"components-loading", tab(initialState)},
         {"components-empty", tab(empty)},
         {"components-failed", tab(unavailable)},
         {"components-failed-narrow-large-font", tab(unavailable), 480, 440, 20},
-        {"component-whole", detail(whole(), asItComesUp)},
-        {"component-whole-narrow", detail(whole(), asItComesUp), 480, 440},
-        {"component-whole-wide", detail(whole(), asItComesUp), 1600, 900},
-        {"component-whole-narrow-large-font", detail(whole(), asItComesUp), 480, 440, 20},
-        {"component-longest-narrow", detail(longest(), asItComesUp), 480, 440},
-        {"component-longest-narrow-large-font", detail(longest(), asItComesUp), 480, 440, 20},
-        {"component-little-known", detail(component("1", "Webhooks", "operational"), asItComesUp)},
-        {"component-broken-url", detail(withBrokenURL(), asItComesUp)},
+        {"component-whole", detail(whole(), initialState)},
+        {"component-whole-narrow", detail(whole(), initialState), 480, 440},
+        {"component-whole-wide", detail(whole(), initialState), 1600, 900},
+        {"component-whole-narrow-large-font", detail(whole(), initialState), 480, 440, 20},
+        {"component-longest-narrow", detail(longest(), initialState), 480, 440},
+        {"component-longest-narrow-large-font", detail(longest(), initialState), 480, 440, 20},
+        {"component-little-known", detail(component("1", "Webhooks", "operational"), initialState)},
+        {"component-broken-url", detail(withBrokenURL(), initialState)},
         {"component-editing", detail(whole(), editing)},
         {"component-editing-narrow", detail(whole(), editing), 480, 440},
         {"component-editing-narrow-large-font", detail(whole(), editing), 480, 440, 20},

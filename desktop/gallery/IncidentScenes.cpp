@@ -9,6 +9,9 @@
 
 #include "gallery/OpenedTab.h"
 #include "gallery/ScreenStates.h"
+#include "incidents/CreateIncidentView.h"
+#include "incidents/IncidentDetailView.h"
+#include "incidents/StatusPageIncidentsView.h"
 
 namespace larkspan::gallery {
 
@@ -156,21 +159,21 @@ std::vector<Scene> incidentScenes()
         {"incidents-list-narrow", tab(list), 480, 440},
         {"incidents-list-narrow-large-font", tab(list), 480, 440, 20},
         {"incidents-ten-thousand", tab(tenThousand)},
-        {"incidents-loading", tab(asItComesUp)},
+        {"incidents-loading", tab(initialState)},
         {"incidents-empty", tab(empty)},
         {"incidents-failed", tab(failed)},
-        {"incident-whole", detail(whole(), asItComesUp), 760, 900},
-        {"incident-whole-narrow", detail(whole(), asItComesUp), 480, 440},
-        {"incident-whole-narrow-large-font", detail(whole(), asItComesUp), 480, 900, 20},
-        {"incident-resolved", detail(resolved(), asItComesUp)},
+        {"incident-whole", detail(whole(), initialState), 760, 900},
+        {"incident-whole-narrow", detail(whole(), initialState), 480, 440},
+        {"incident-whole-narrow-large-font", detail(whole(), initialState), 480, 900, 20},
+        {"incident-resolved", detail(resolved(), initialState)},
         {"incident-editing", detail(whole(), editing)},
         {"incident-working", detail(resolved(), working)},
         {"incident-refused", detail(resolved(), refused)},
         {"incident-delete", detail(resolved(), aboutToDelete)},
         {"incident-discard", detail(whole(), aboutToDiscard)},
         {"incident-link", detail(whole(), aboutToFollow)},
-        {"incident-form", form(asItComesUp), 760, 760},
-        {"incident-form-narrow-large-font", form(asItComesUp), 480, 440, 20},
+        {"incident-form", form(initialState), 760, 760},
+        {"incident-form-narrow-large-font", form(initialState), 480, 440, 20},
         {"incident-form-loading-components", form(loadingComponents), 760, 760},
         {"incident-form-loading-monitors", form(wholeSelection), 760, 760},
         {"incident-form-creating", form(working)},

@@ -8,6 +8,9 @@
 
 #include "gallery/OpenedTab.h"
 #include "gallery/ScreenStates.h"
+#include "maintenances/CreateMaintenanceView.h"
+#include "maintenances/MaintenanceDetailView.h"
+#include "maintenances/StatusPageMaintenancesView.h"
 
 namespace larkspan::gallery {
 
@@ -134,16 +137,16 @@ std::vector<Scene> maintenanceScenes()
         {"maintenances-list", tab(list)},
         {"maintenances-list-narrow", tab(list), 480, 440},
         {"maintenances-list-narrow-large-font", tab(list), 480, 440, 20},
-        {"maintenances-loading", tab(asItComesUp)},
+        {"maintenances-loading", tab(initialState)},
         {"maintenances-empty", tab(empty)},
         {"maintenances-failed", tab(failed)},
-        {"maintenance-scheduled", detail(planned(), asItComesUp)},
-        {"maintenance-in-progress", detail(whole("in_progress"), asItComesUp), 760, 700},
-        {"maintenance-completed", detail(whole("completed"), asItComesUp), 760, 700},
-        {"maintenance-cancelled", detail(maintenance("1", "Called off", "cancelled"), asItComesUp)},
-        {"maintenance-narrow", detail(whole("in_progress"), asItComesUp), 480, 700},
-        {"maintenance-narrow-large-font", detail(whole("scheduled"), asItComesUp), 480, 900, 20},
-        {"maintenance-menu", detail(planned(), asItComesUp), 760, 600, 10, "More Actions"},
+        {"maintenance-scheduled", detail(planned(), initialState)},
+        {"maintenance-in-progress", detail(whole("in_progress"), initialState), 760, 700},
+        {"maintenance-completed", detail(whole("completed"), initialState), 760, 700},
+        {"maintenance-cancelled", detail(maintenance("1", "Called off", "cancelled"), initialState)},
+        {"maintenance-narrow", detail(whole("in_progress"), initialState), 480, 700},
+        {"maintenance-narrow-large-font", detail(whole("scheduled"), initialState), 480, 900, 20},
+        {"maintenance-menu", detail(planned(), initialState), 760, 600, 10, "More Actions"},
         {"maintenance-editing", detail(whole("scheduled"), editing), 760, 1000},
         {"maintenance-editing-narrow", detail(whole("scheduled"), editing), 480, 1400},
         {"maintenance-editing-narrow-large-font", detail(whole("scheduled"), editing), 480, 1400, 20},
@@ -152,10 +155,10 @@ std::vector<Scene> maintenanceScenes()
         {"maintenance-refused", detail(planned(), refused)},
         {"maintenance-delete", detail(planned(), aboutToDelete)},
         {"maintenance-discard", detail(planned(), aboutToDiscard)},
-        {"maintenance-form", form(asItComesUp), 760, 1250},
-        {"maintenance-form-small-window", form(asItComesUp)},
-        {"maintenance-form-narrow", form(asItComesUp), 480, 1250},
-        {"maintenance-form-narrow-large-font", form(asItComesUp), 480, 1400, 20},
+        {"maintenance-form", form(initialState), 760, 1250},
+        {"maintenance-form-small-window", form(initialState)},
+        {"maintenance-form-narrow", form(initialState), 480, 1250},
+        {"maintenance-form-narrow-large-font", form(initialState), 480, 1400, 20},
         {"maintenance-form-loading-monitors", form(loadingMonitors), 760, 1250},
         {"maintenance-form-other-month", form(otherMonth), 760, 1250},
         {"maintenance-form-creating", form(working)},

@@ -10,6 +10,9 @@
 
 #include "gallery/OpenedTab.h"
 #include "gallery/ScreenStates.h"
+#include "monitors/MonitorDetailView.h"
+#include "monitors/MonitorRowView.h"
+#include "monitors/StatusPageMonitorsView.h"
 
 namespace larkspan::gallery {
 
@@ -221,13 +224,13 @@ std::vector<Scene> monitorScenes()
         {"monitors-busy", tab(busy)},
         {"monitors-refused", tab(refusedInTheList)},
         {"monitors-two-thousand", tab(twoThousand)},
-        {"monitors-loading", tab(asItComesUp)},
+        {"monitors-loading", tab(initialState)},
         {"monitors-empty", tab(empty)},
         {"monitors-failed", tab(failed)},
-        {"monitor-whole", detail(whole(), asItComesUp)},
-        {"monitor-whole-narrow", detail(whole(), asItComesUp), 480, 440},
-        {"monitor-whole-narrow-large-font", detail(whole(), asItComesUp), 480, 440, 20},
-        {"monitor-paused", detail(paused(), asItComesUp)},
+        {"monitor-whole", detail(whole(), initialState)},
+        {"monitor-whole-narrow", detail(whole(), initialState), 480, 440},
+        {"monitor-whole-narrow-large-font", detail(whole(), initialState), 480, 440, 20},
+        {"monitor-paused", detail(paused(), initialState)},
         {"monitor-working", detail(whole(), working)},
         {"monitor-refused", detail(whole(), refused)},
     };

@@ -4,6 +4,9 @@
 #include <string>
 #include <utility>
 
+#include "workspace/SettingsView.h"
+#include "workspace/StatusPageDetailView.h"
+
 namespace larkspan::gallery {
 
 using namespace std::chrono_literals;

@@ -8,7 +8,7 @@ namespace larkspan::gallery {
 
 // The states that several screens have. Here a list has started its first load, which does not end by itself.
 
-inline constexpr auto asItComesUp = [](auto&) {};
+inline constexpr auto initialState = [](auto&) {};
 
 /// The list's load has returned no record.
 inline constexpr auto empty = [](auto& list) { list.viewModel->isLoading = false; };

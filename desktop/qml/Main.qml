@@ -1,6 +1,8 @@
 import QtQuick
 import Larkspan
 import Larkspan.Bridge
+import Larkspan.Bridge.Menu
+import Larkspan.Bridge.Workspace
 
 Window {
     id: window

@@ -10,6 +10,13 @@
 
 Q_IMPORT_QML_PLUGIN(LarkspanPlugin)
 Q_IMPORT_QML_PLUGIN(Larkspan_BridgePlugin)
+Q_IMPORT_QML_PLUGIN(Larkspan_Bridge_ComponentsPlugin)
+Q_IMPORT_QML_PLUGIN(Larkspan_Bridge_IncidentsPlugin)
+Q_IMPORT_QML_PLUGIN(Larkspan_Bridge_MaintenancesPlugin)
+Q_IMPORT_QML_PLUGIN(Larkspan_Bridge_MenuPlugin)
+Q_IMPORT_QML_PLUGIN(Larkspan_Bridge_MessagesPlugin)
+Q_IMPORT_QML_PLUGIN(Larkspan_Bridge_MonitorsPlugin)
+Q_IMPORT_QML_PLUGIN(Larkspan_Bridge_WorkspacePlugin)
 
 // Not in a header of Qt; the documentation of QKeySequence says to declare it.
 QT_BEGIN_NAMESPACE

@@ -1,6 +1,6 @@
 import QtQuick
 import Larkspan
-import Larkspan.Bridge
+import Larkspan.Bridge.Workspace
 
 // The sheets and dialogs over the whole window.
 Item {

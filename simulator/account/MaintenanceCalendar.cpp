@@ -38,7 +38,7 @@ void removeMaintenance(Account& account, const Maintenance& maintenance, support
     if (wasUnderWay) account.followEvents(page, now);
 }
 
-void letMaintenancesPass(Account& account, support::Time now)
+void updateMaintenancePhases(Account& account, support::Time now)
 {
     for (auto& maintenance : account.maintenances) {
         if (maintenance.phaseAt(now) != maintenance.lastPhase) enterPhase(account, maintenance, now);

@@ -15,6 +15,6 @@ void amended(Account& account, Maintenance& maintenance, support::Time now);
 void removeMaintenance(Account& account, const Maintenance& maintenance, support::Time now);
 
 /// Starts and ends the maintenances whose time has come since the last call.
-void letMaintenancesPass(Account& account, support::Time now);
+void updateMaintenancePhases(Account& account, support::Time now);
 
 }  // namespace larkspan::simulator

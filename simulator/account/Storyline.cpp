@@ -13,7 +13,7 @@ using namespace std::chrono_literals;
 namespace {
 
 /// Applies one turn of the story to a page.
-struct Teller {
+struct StoryTurnApplier {
     Account& account;
     const std::string& pageId;
     support::Time when;
@@ -93,16 +93,16 @@ Storyline Storyline::ordinaryDay()
         10min);
 }
 
-void Storyline::tellUpTo(std::chrono::milliseconds elapsed, support::Time now, Account& account)
+void Storyline::applyEventsUpTo(std::chrono::milliseconds elapsed, support::Time now, Account& account)
 {
     while (!events_.empty() && nextAt() <= elapsed) {
         const auto& event = events_[next_];
         const auto when = now - (elapsed - nextAt());
-        letMaintenancesPass(account, when);
+        updateMaintenancePhases(account, when);
         if (account.findPage(event.pageId)) {
-            std::visit(Teller{account, event.pageId, when, told_}, event.turn);
+            std::visit(StoryTurnApplier{account, event.pageId, when, appliedCount_}, event.turn);
         }
-        ++told_;
+        ++appliedCount_;
         if (++next_ == events_.size()) {
             next_ = 0;
             roundStart_ += period_;

@@ -56,7 +56,7 @@ public:
     static Storyline ordinaryDay();
 
     /// Applies, in order, everything that is due `elapsed` after the start and has not been applied yet.
-    void tellUpTo(std::chrono::milliseconds elapsed, support::Time now, Account& account);
+    void applyEventsUpTo(std::chrono::milliseconds elapsed, support::Time now, Account& account);
 
 private:
     std::chrono::milliseconds nextAt() const;
@@ -65,7 +65,7 @@ private:
     std::chrono::milliseconds period_;
     std::size_t next_ = 0;
     std::chrono::milliseconds roundStart_{0};
-    std::size_t told_ = 0;
+    std::size_t appliedCount_ = 0;
 };
 
 }  // namespace larkspan::simulator

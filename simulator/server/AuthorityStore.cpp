@@ -40,7 +40,7 @@ std::string keyText(const Identity& identity)
 }
 
 /// Writes a temporary file, so that nobody ever reads half of a file.
-fs::path writeBeside(const fs::path& file, const std::string& text, mode_t mode)
+fs::path writeTemporaryFile(const fs::path& file, const std::string& text, mode_t mode)
 {
     auto name = file.string() + ".XXXXXX";
     const int descriptor = ::mkstemp(name.data());
@@ -72,7 +72,7 @@ Identity readOrMake(const fs::path& file)
 {
     if (!fs::exists(file)) {
         const auto made = makeAuthority("Larkspan simulator authority");
-        const auto written = writeBeside(file, keyText(made) + certificateText(made), S_IRUSR | S_IWUSR);
+        const auto written = writeTemporaryFile(file, keyText(made) + certificateText(made), S_IRUSR | S_IWUSR);
         std::error_code somebodyWasFaster;
         fs::create_hard_link(written, file, somebodyWasFaster);
         fs::remove(written);
@@ -89,7 +89,7 @@ AuthorityStore::AuthorityStore(fs::path directory)
     fs::create_directories(directory, error);
     if (error) throw std::runtime_error("Cannot make the directory " + directory.string() + ".");
     authority_ = readOrMake(directory / "authority-with-key.pem");
-    fs::rename(writeBeside(certificateFile_, certificateText(authority_), S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH),
+    fs::rename(writeTemporaryFile(certificateFile_, certificateText(authority_), S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH),
         certificateFile_);
 }
 

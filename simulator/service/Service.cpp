@@ -78,8 +78,8 @@ Reply Service::answer(const Request& request)
     const std::scoped_lock lock(state_->mutex);
     state_->record(request);
     const auto now = state_->clock.now();
-    if (auto& life = state_->life) life->story.tellUpTo(now - life->start, now, state_->account);
-    letMaintenancesPass(state_->account, now);
+    if (auto& life = state_->life) life->story.applyEventsUpTo(now - life->start, now, state_->account);
+    updateMaintenancePhases(state_->account, now);
     const auto faults = state_->faults.take(request);
     auto reply = state_->replyTo(request, faults, now);
     for (const auto& fault : faults) spoil(fault, reply);

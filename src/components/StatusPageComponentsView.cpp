@@ -1,5 +1,9 @@
 #include "components/StatusPageComponentsView.h"
 
+#include <utility>
+
+#include "components/ComponentDetailView.h"
+#include "components/ComponentRow.h"
 #include "support/WhileAlive.h"
 
 namespace larkspan::components {
@@ -28,21 +32,26 @@ void StatusPageComponentsView::openComponent(const std::string& id)
 {
     const auto* const opened = viewModel->components.find(id);
     if (!opened) return;
-    const ComponentDetailView::Ports ports{ports_.main, ports_.api, ports_.links};
-    presentedComponent.open(
-        std::make_shared<ComponentDetailView>(ports, viewModel->pageId, *opened, ownerOf(opened->id)));
+    presentedComponent.open(detailOf(*opened));
 }
 
-ComponentDetailView::Owner StatusPageComponentsView::ownerOf(const std::string& opened)
+std::vector<std::shared_ptr<presentation::GuardedScreen>> StatusPageComponentsView::inFront() const
 {
+    return {detail()};
+}
+
+std::shared_ptr<ComponentDetailView> StatusPageComponentsView::detailOf(const Component& opened)
+{
+    const ComponentDetailView::Ports ports{ports_.main, ports_.api, ports_.links};
     const auto view = weak_from_this();
-    return {.onUpdate = whileAlive(view,
-                [](StatusPageComponentsView& self, const Component& changed) {
-                    self.viewModel->components.replace(changed);
-                }),
+    ComponentDetailView::Owner owner{.onUpdate = whileAlive(view,
+                                         [](StatusPageComponentsView& self, const Component& changed) {
+                                             self.viewModel->components.replace(changed);
+                                         }),
         .onDelete = whileAlive(view, &StatusPageComponentsView::onDelete),
-        .dismiss = whileAlive(view, [opened](StatusPageComponentsView& self) { self.dismiss(opened); }),
+        .dismiss = whileAlive(view, [id = opened.id](StatusPageComponentsView& self) { self.dismiss(id); }),
         .reloadList = whileAlive(view, [](StatusPageComponentsView& self) { self.viewModel->load(); })};
+    return std::make_shared<ComponentDetailView>(ports, viewModel->pageId, opened, std::move(owner));
 }
 
 void StatusPageComponentsView::onDelete(const Component& deleted)

@@ -5,8 +5,6 @@
 #include <vector>
 
 #include "api/ComponentEndpoints.h"
-#include "components/ComponentDetailView.h"
-#include "components/ComponentRow.h"
 #include "components/StatusPageComponentsViewModel.h"
 #include "platform/CredentialStore.h"
 #include "platform/Executor.h"
@@ -15,6 +13,9 @@
 #include "presentation/screens/Opened.h"
 
 namespace larkspan::components {
+
+class ComponentDetailView;
+struct ComponentRow;
 
 /// The components of one page: their list by group, and the opened component. Main thread only.
 class StatusPageComponentsView final : public presentation::ListScreen,
@@ -47,9 +48,9 @@ public:
 
 private:
     presentation::FetchedRecords& fetched() const override { return *viewModel; }
-    std::vector<std::shared_ptr<presentation::GuardedScreen>> inFront() const override { return {detail()}; }
+    std::vector<std::shared_ptr<presentation::GuardedScreen>> inFront() const override;
 
-    ComponentDetailView::Owner ownerOf(const std::string& opened);
+    std::shared_ptr<ComponentDetailView> detailOf(const model::Component& opened);
     void onDelete(const model::Component& deleted);
     void dismiss(const std::string& id);
 

@@ -27,7 +27,8 @@ MainWindowLifecycleDelegate::MainWindowLifecycleDelegate(
 void MainWindowLifecycleDelegate::applicationDidFinishLaunching()
 {
     main_.post(support::whileAlive(weak_from_this(), &MainWindowLifecycleDelegate::adoptDashboardWindow));
-    statusItem_.followShown(support::whileAlive(weak_from_this(), &MainWindowLifecycleDelegate::bringBackIfStranded));
+    statusItem_.onShownChanged(
+        support::whileAlive(weak_from_this(), &MainWindowLifecycleDelegate::bringBackIfStranded));
 }
 
 void MainWindowLifecycleDelegate::applicationDidBecomeActive()

@@ -2,6 +2,9 @@
 
 #include <utility>
 
+#include "incidents/CreateIncidentView.h"
+#include "incidents/IncidentDetailView.h"
+#include "incidents/IncidentRow.h"
 #include "presentation/screens/RowsOf.h"
 #include "support/WhileAlive.h"
 
@@ -34,18 +37,24 @@ void StatusPageIncidentsView::openIncident(const std::string& id)
 {
     const auto* const opened = viewModel->incidents.find(id);
     if (!opened) return;
-    const IncidentDetailView::Ports ports{ports_.main, ports_.api, ports_.clock, ports_.locale, ports_.links};
-    presentedIncident.open(std::make_shared<IncidentDetailView>(ports, *opened, ownerOf(opened->id)));
+    presentedIncident.open(detailOf(*opened));
 }
 
-IncidentDetailView::Owner StatusPageIncidentsView::ownerOf(const std::string& opened)
+std::vector<std::shared_ptr<presentation::GuardedScreen>> StatusPageIncidentsView::inFront() const
 {
+    return {detail(), form()};
+}
+
+std::shared_ptr<IncidentDetailView> StatusPageIncidentsView::detailOf(const Incident& opened)
+{
+    const IncidentDetailView::Ports ports{ports_.main, ports_.api, ports_.clock, ports_.locale, ports_.links};
     const auto view = weak_from_this();
-    return {.onUpdate = whileAlive(view, &StatusPageIncidentsView::updateDetail),
-        .dismiss = whileAlive(view, [opened](StatusPageIncidentsView& self) { self.dismiss(opened); }),
-        .reloadList = whileAlive(view, [opened](StatusPageIncidentsView& self) {
-            support::start(self.ports_.main, reloadList(self.shared_from_this(), opened));
+    IncidentDetailView::Owner owner{.onUpdate = whileAlive(view, &StatusPageIncidentsView::updateDetail),
+        .dismiss = whileAlive(view, [id = opened.id](StatusPageIncidentsView& self) { self.dismiss(id); }),
+        .reloadList = whileAlive(view, [id = opened.id](StatusPageIncidentsView& self) {
+            support::start(self.ports_.main, reloadList(self.shared_from_this(), id));
         })};
+    return std::make_shared<IncidentDetailView>(ports, opened, std::move(owner));
 }
 
 void StatusPageIncidentsView::updateDetail(const Incident& changed)
@@ -84,19 +93,20 @@ void StatusPageIncidentsView::closeIncident()
 void StatusPageIncidentsView::openCreateIncident()
 {
     if (showCreateIncident.isOpen()) return;
-    const CreateIncidentView::Ports ports{ports_.api, ports_.selection()};
-    showCreateIncident.open(std::make_shared<CreateIncidentView>(ports, viewModel->pageId, ownerOfForm()));
+    showCreateIncident.open(newForm());
 }
 
-CreateIncidentView::Owner StatusPageIncidentsView::ownerOfForm()
+std::shared_ptr<CreateIncidentView> StatusPageIncidentsView::newForm()
 {
+    const CreateIncidentView::Ports ports{ports_.api, ports_.selection()};
     const auto view = weak_from_this();
-    return {.onCreated = whileAlive(view,
-                [](StatusPageIncidentsView& self, const Incident& created) {
-                    self.viewModel->incidents.insertFirst(created);
-                }),
+    CreateIncidentView::Owner owner{.onCreated = whileAlive(view,
+                                        [](StatusPageIncidentsView& self, const Incident& created) {
+                                            self.viewModel->incidents.insertFirst(created);
+                                        }),
         .dismiss = whileAlive(view, [](StatusPageIncidentsView& self) { self.showCreateIncident.close(); }),
         .reloadList = whileAlive(view, [](StatusPageIncidentsView& self) { self.viewModel->load(); })};
+    return std::make_shared<CreateIncidentView>(ports, viewModel->pageId, std::move(owner));
 }
 
 }  // namespace larkspan::incidents

@@ -5,9 +5,6 @@
 #include <vector>
 
 #include "api/IncidentEndpoints.h"
-#include "incidents/CreateIncidentView.h"
-#include "incidents/IncidentDetailView.h"
-#include "incidents/IncidentRow.h"
 #include "incidents/StatusPageIncidentsViewModel.h"
 #include "presentation/forms/EventListPorts.h"
 #include "presentation/screens/ListScreen.h"
@@ -15,6 +12,10 @@
 #include "support/Task.h"
 
 namespace larkspan::incidents {
+
+class CreateIncidentView;
+class IncidentDetailView;
+struct IncidentRow;
 
 /// The incidents of one page: their list, the opened incident and the form of a new one. Main thread only.
 class StatusPageIncidentsView final : public presentation::ListScreen,
@@ -48,10 +49,10 @@ public:
 
 private:
     presentation::FetchedRecords& fetched() const override { return *viewModel; }
-    std::vector<std::shared_ptr<presentation::GuardedScreen>> inFront() const override { return {detail(), form()}; }
+    std::vector<std::shared_ptr<presentation::GuardedScreen>> inFront() const override;
 
-    IncidentDetailView::Owner ownerOf(const std::string& opened);
-    CreateIncidentView::Owner ownerOfForm();
+    std::shared_ptr<IncidentDetailView> detailOf(const model::Incident& opened);
+    std::shared_ptr<CreateIncidentView> newForm();
     static support::Task<void> reloadList(std::shared_ptr<StatusPageIncidentsView> self, std::string id);
     void updateDetail(const model::Incident& changed);
     void dismiss(const std::string& id);

@@ -1,5 +1,10 @@
 #include "maintenances/StatusPageMaintenancesView.h"
 
+#include <utility>
+
+#include "maintenances/CreateMaintenanceView.h"
+#include "maintenances/MaintenanceDetailView.h"
+#include "maintenances/MaintenanceRow.h"
 #include "presentation/screens/RowsOf.h"
 #include "support/WhileAlive.h"
 
@@ -29,20 +34,26 @@ void StatusPageMaintenancesView::openMaintenance(const std::string& id)
 {
     const auto* const opened = viewModel->maintenances.find(id);
     if (!opened) return;
-    const MaintenanceDetailView::Ports ports{ports_.main, ports_.api, ports_.clock, ports_.locale, ports_.links};
-    presentedMaintenance.open(std::make_shared<MaintenanceDetailView>(ports, *opened, ownerOf(opened->id)));
+    presentedMaintenance.open(detailOf(*opened));
 }
 
-MaintenanceDetailView::Owner StatusPageMaintenancesView::ownerOf(const std::string& opened)
+std::vector<std::shared_ptr<presentation::GuardedScreen>> StatusPageMaintenancesView::inFront() const
 {
+    return {detail(), form()};
+}
+
+std::shared_ptr<MaintenanceDetailView> StatusPageMaintenancesView::detailOf(const Maintenance& opened)
+{
+    const MaintenanceDetailView::Ports ports{ports_.main, ports_.api, ports_.clock, ports_.locale, ports_.links};
     const auto view = weak_from_this();
-    return {.onUpdate = whileAlive(view,
-                [](StatusPageMaintenancesView& self, const Maintenance& updated) {
-                    self.viewModel->maintenances.replace(updated);
-                }),
+    MaintenanceDetailView::Owner owner{.onUpdate = whileAlive(view,
+                                           [](StatusPageMaintenancesView& self, const Maintenance& updated) {
+                                               self.viewModel->maintenances.replace(updated);
+                                           }),
         .onDelete = whileAlive(view, &StatusPageMaintenancesView::onDelete),
-        .dismiss = whileAlive(view, [opened](StatusPageMaintenancesView& self) { self.dismiss(opened); }),
+        .dismiss = whileAlive(view, [id = opened.id](StatusPageMaintenancesView& self) { self.dismiss(id); }),
         .reloadList = whileAlive(view, [](StatusPageMaintenancesView& self) { self.viewModel->load(); })};
+    return std::make_shared<MaintenanceDetailView>(ports, opened, std::move(owner));
 }
 
 void StatusPageMaintenancesView::onDelete(const Maintenance& deleted)
@@ -64,19 +75,20 @@ void StatusPageMaintenancesView::closeMaintenance()
 void StatusPageMaintenancesView::openCreateMaintenance()
 {
     if (showCreateSheet.isOpen()) return;
-    const CreateMaintenanceView::Ports ports{ports_.api, ports_.clock, ports_.selection()};
-    showCreateSheet.open(std::make_shared<CreateMaintenanceView>(ports, viewModel->pageId, ownerOfForm()));
+    showCreateSheet.open(newForm());
 }
 
-CreateMaintenanceView::Owner StatusPageMaintenancesView::ownerOfForm()
+std::shared_ptr<CreateMaintenanceView> StatusPageMaintenancesView::newForm()
 {
+    const CreateMaintenanceView::Ports ports{ports_.api, ports_.clock, ports_.selection()};
     const auto view = weak_from_this();
-    return {.onCreated = whileAlive(view,
-                [](StatusPageMaintenancesView& self, const Maintenance& created) {
-                    self.viewModel->maintenances.insertFirst(created);
-                }),
+    CreateMaintenanceView::Owner owner{.onCreated = whileAlive(view,
+                                           [](StatusPageMaintenancesView& self, const Maintenance& created) {
+                                               self.viewModel->maintenances.insertFirst(created);
+                                           }),
         .dismiss = whileAlive(view, [](StatusPageMaintenancesView& self) { self.showCreateSheet.close(); }),
         .reloadList = whileAlive(view, [](StatusPageMaintenancesView& self) { self.viewModel->load(); })};
+    return std::make_shared<CreateMaintenanceView>(ports, viewModel->pageId, std::move(owner));
 }
 
 }  // namespace larkspan::maintenances

@@ -5,15 +5,16 @@
 #include <vector>
 
 #include "api/MaintenanceEndpoints.h"
-#include "maintenances/CreateMaintenanceView.h"
-#include "maintenances/MaintenanceDetailView.h"
-#include "maintenances/MaintenanceRow.h"
 #include "maintenances/StatusPageMaintenancesViewModel.h"
 #include "presentation/forms/EventListPorts.h"
 #include "presentation/screens/ListScreen.h"
 #include "presentation/screens/Opened.h"
 
 namespace larkspan::maintenances {
+
+class CreateMaintenanceView;
+class MaintenanceDetailView;
+struct MaintenanceRow;
 
 /// The maintenances of one page: their list, the opened maintenance and the form of a new one. Unlike that of
 /// incidents, the list applies changes and deletions in front of it at once. Main thread only.
@@ -48,10 +49,10 @@ public:
 
 private:
     presentation::FetchedRecords& fetched() const override { return *viewModel; }
-    std::vector<std::shared_ptr<presentation::GuardedScreen>> inFront() const override { return {detail(), form()}; }
+    std::vector<std::shared_ptr<presentation::GuardedScreen>> inFront() const override;
 
-    MaintenanceDetailView::Owner ownerOf(const std::string& opened);
-    CreateMaintenanceView::Owner ownerOfForm();
+    std::shared_ptr<MaintenanceDetailView> detailOf(const model::Maintenance& opened);
+    std::shared_ptr<CreateMaintenanceView> newForm();
     void onDelete(const model::Maintenance& deleted);
     void dismiss(const std::string& id);
 

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "monitors/MonitorDetailView.h"
+#include "monitors/MonitorRow.h"
+#include "monitors/MonitorRowView.h"
 #include "presentation/screens/RowsOf.h"
 #include "support/WhileAlive.h"
 

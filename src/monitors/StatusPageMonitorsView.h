@@ -9,9 +9,6 @@
 
 #include "api/MonitorEndpoints.h"
 #include "model/records/StatusPage.h"
-#include "monitors/MonitorDetailView.h"
-#include "monitors/MonitorRow.h"
-#include "monitors/MonitorRowView.h"
 #include "monitors/StatusPageMonitorsViewModel.h"
 #include "platform/CredentialStore.h"
 #include "platform/Executor.h"
@@ -24,6 +21,10 @@
 #include "support/Task.h"
 
 namespace larkspan::monitors {
+
+class MonitorDetailView;
+class MonitorRowView;
+struct MonitorRow;
 
 /// The monitors of one page: their list, the opened parts of its rows, and the opened monitor. Main thread only.
 class StatusPageMonitorsView final : public presentation::ListScreen,

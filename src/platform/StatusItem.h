@@ -43,7 +43,7 @@ public:
     /// Whether a panel shows the item now, so that the user can open its menu.
     virtual bool isShown() const = 0;
     /// Calls `changed` after each later change of `isShown`; replaces the previous callback.
-    virtual void followShown(std::function<void()> changed) = 0;
+    virtual void onShownChanged(std::function<void()> changed) = 0;
 
     /// Puts the item into the panel. `perform` is called with each command row that the user chooses.
     virtual void show(std::function<void(const MenuRow& row)> perform) = 0;

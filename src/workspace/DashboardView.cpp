@@ -6,6 +6,9 @@
 #include "presentation/screens/RowsOf.h"
 #include "presentation/time/CompactRelativeTimeFormatter.h"
 #include "support/WhileAlive.h"
+#include "workspace/SettingsView.h"
+#include "workspace/StatusPageDetailView.h"
+#include "workspace/StatusPageRow.h"
 
 namespace larkspan::workspace {
 
@@ -120,14 +123,16 @@ void DashboardView::showPage(const std::string& id)
     selectedPageId = id;
     const auto* const page = selectedPage();
     if (page)
-        openedPage.open(std::make_shared<StatusPageDetailView>(portsOfPage(), *page));
+        openedPage.open(screenOf(*page));
     else
         openedPage.close();
 }
 
-StatusPageDetailView::Ports DashboardView::portsOfPage() const
+std::shared_ptr<StatusPageDetailView> DashboardView::screenOf(const model::StatusPage& page) const
 {
-    return {ports_.main, ports_.clock, ports_.locale, ports_.links, ports_.credentials, ports_.api, ports_.appState};
+    StatusPageDetailView::Ports ports{
+        ports_.main, ports_.clock, ports_.locale, ports_.links, ports_.credentials, ports_.api, ports_.appState};
+    return std::make_shared<StatusPageDetailView>(std::move(ports), page);
 }
 
 void DashboardView::closePage()

@@ -29,11 +29,12 @@
 #include "support/Observable.h"
 #include "support/Time.h"
 #include "workspace/DashboardOperationalSummary.h"
-#include "workspace/SettingsView.h"
-#include "workspace/StatusPageDetailView.h"
-#include "workspace/StatusPageRow.h"
 
 namespace larkspan::workspace {
+
+class SettingsView;
+class StatusPageDetailView;
+struct StatusPageRow;
 
 /// The dashboard: its state and its texts. It owns no data; everything comes from the account's state. Main thread
 /// only.
@@ -107,7 +108,7 @@ public:
 private:
     const core::AppStateManager& state() const { return *ports_.appState; }
     const model::StatusPage* selectedPage() const;
-    StatusPageDetailView::Ports portsOfPage() const;
+    std::shared_ptr<StatusPageDetailView> screenOf(const model::StatusPage& page) const;
     bool asksBefore(const std::function<void()>& leave);
     void showPage(const std::string& id);
     /// Updates the time, for texts that show a distance from now.

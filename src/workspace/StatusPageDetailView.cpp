@@ -2,6 +2,11 @@
 
 #include <utility>
 
+#include "components/StatusPageComponentsView.h"
+#include "incidents/StatusPageIncidentsView.h"
+#include "maintenances/StatusPageMaintenancesView.h"
+#include "monitors/StatusPageMonitorsView.h"
+#include "presentation/forms/EventListPorts.h"
 #include "presentation/text/WebAddress.h"
 
 namespace larkspan::workspace {

@@ -7,21 +7,33 @@
 #include <variant>
 
 #include "api/KestruneAPI.h"
-#include "components/StatusPageComponentsView.h"
 #include "core/AppStateManager.h"
-#include "incidents/StatusPageIncidentsView.h"
-#include "maintenances/StatusPageMaintenancesView.h"
 #include "model/records/StatusPage.h"
-#include "monitors/StatusPageMonitorsView.h"
 #include "platform/Clock.h"
 #include "platform/CredentialStore.h"
 #include "platform/Executor.h"
 #include "platform/LinkOpener.h"
 #include "platform/LocaleText.h"
-#include "presentation/forms/EventListPorts.h"
 #include "support/Observable.h"
 #include "support/Time.h"
 #include "workspace/StatusPageOverviewView.h"
+
+namespace larkspan::components {
+class StatusPageComponentsView;
+}
+namespace larkspan::incidents {
+class StatusPageIncidentsView;
+}
+namespace larkspan::maintenances {
+class StatusPageMaintenancesView;
+}
+namespace larkspan::monitors {
+class StatusPageMonitorsView;
+}
+namespace larkspan::presentation {
+struct EventListPorts;
+class ListScreen;
+}  // namespace larkspan::presentation
 
 namespace larkspan::workspace {
 

@@ -16,7 +16,10 @@ using namespace std::chrono_literals;
 
 class Story : public testing::Test {
 protected:
-    void tellUpTo(std::chrono::milliseconds elapsed) { story_.tellUpTo(elapsed, start_ + elapsed, account_); }
+    void applyEventsUpTo(std::chrono::milliseconds elapsed)
+    {
+        story_.applyEventsUpTo(elapsed, start_ + elapsed, account_);
+    }
 
     std::string statusOf(std::string_view id) { return *account_.findPage(id)->status; }
 
@@ -30,7 +33,7 @@ protected:
 
 TEST_F(Story, TellsNothingBeforeItsTime)
 {
-    tellUpTo(9'999ms);
+    applyEventsUpTo(9'999ms);
 
     EXPECT_TRUE(account_.incidents.empty());
     EXPECT_EQ(statusOf("page-2"), "operational");
@@ -38,7 +41,7 @@ TEST_F(Story, TellsNothingBeforeItsTime)
 
 TEST_F(Story, OpensAnIncidentAtItsTimeEvenIfNobodyLooksThen)
 {
-    tellUpTo(14s);
+    applyEventsUpTo(14s);
 
     ASSERT_EQ(account_.incidents.size(), 1u);
     EXPECT_EQ(account_.incidents[0].createdAt, start_ + 10s);
@@ -48,7 +51,7 @@ TEST_F(Story, OpensAnIncidentAtItsTimeEvenIfNobodyLooksThen)
 
 TEST_F(Story, TellsAllThatIsDueInOrder)
 {
-    tellUpTo(21s);
+    applyEventsUpTo(21s);
 
     ASSERT_EQ(account_.incidents.size(), 1u);
     EXPECT_EQ(account_.incidents[0].acknowledgedAt, start_ + 15s);
@@ -58,34 +61,34 @@ TEST_F(Story, TellsAllThatIsDueInOrder)
 
 TEST_F(Story, PlansAMaintenanceThatTheClockStartsAndEnds)
 {
-    tellUpTo(25s);
+    applyEventsUpTo(25s);
     ASSERT_EQ(account_.maintenances.size(), 1u);
     EXPECT_EQ(account_.maintenances[0].startAt, start_ + 26s);
     EXPECT_EQ(account_.maintenances[0].endAt, start_ + 32s);
 
-    letMaintenancesPass(account_, start_ + 26s);
+    updateMaintenancePhases(account_, start_ + 26s);
     EXPECT_EQ(statusOf("page-3"), "maintenance");
 
-    letMaintenancesPass(account_, start_ + 32s);
+    updateMaintenancePhases(account_, start_ + 32s);
     EXPECT_EQ(statusOf("page-3"), "operational");
 }
 
 TEST_F(Story, StartsAgainWithOtherWordsWhenItsPeriodIsOver)
 {
-    tellUpTo(39s);
+    applyEventsUpTo(39s);
     EXPECT_EQ(account_.incidents.size(), 1u);
 
-    tellUpTo(40s);
+    applyEventsUpTo(40s);
     ASSERT_EQ(account_.incidents.size(), 2u);
     EXPECT_NE(account_.incidents[0].title, account_.incidents[1].title);
 }
 
 TEST_F(Story, LeavesAloneWhatSomebodyElseHasResolved)
 {
-    tellUpTo(10s);
+    applyEventsUpTo(10s);
     account_.incidents[0].endedAt = start_ + 12s;
 
-    tellUpTo(20s);
+    applyEventsUpTo(20s);
 
     EXPECT_FALSE(account_.incidents[0].acknowledgedAt);
     EXPECT_EQ(account_.incidents[0].endedAt, start_ + 12s);
@@ -95,7 +98,7 @@ TEST_F(Story, OfAPageThatIsGoneChangesNothing)
 {
     account_.statusPages.erase(account_.statusPages.begin() + 1);
 
-    tellUpTo(21s);
+    applyEventsUpTo(21s);
 
     EXPECT_TRUE(account_.incidents.empty());
 }
@@ -106,8 +109,8 @@ protected:
     std::string seenAt(std::chrono::milliseconds elapsed)
     {
         const auto now = start_ + elapsed;
-        story_.tellUpTo(elapsed, now, account_);
-        letMaintenancesPass(account_, now);
+        story_.applyEventsUpTo(elapsed, now, account_);
+        updateMaintenancePhases(account_, now);
         std::string seen;
         for (const auto& page : account_.statusPages) seen += (seen.empty() ? "" : ", ") + *page.status;
         return seen;

@@ -91,7 +91,7 @@ void SecretServiceSession::open()
     if (isCurrent()) return;
     service_.reset();
     if (!bus_.connect()) return;
-    news_.emplace(bus_.connection());
+    changes_.emplace(bus_.connection());
     const auto result
         = bus_.loop().await(bus_.deadline(), [](GCancellable* cancellable, GAsyncReadyCallback ready, gpointer data) {
               secret_service_open(SECRET_TYPE_SERVICE, nullptr, SECRET_SERVICE_OPEN_SESSION, cancellable, ready, data);

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "adapters/secrets/SecretServiceBus.h"
-#include "adapters/secrets/SecretServiceNews.h"
+#include "adapters/secrets/SecretServiceChanges.h"
 #include "platform/CredentialStore.h"
 
 namespace larkspan::adapters {
@@ -43,10 +43,10 @@ public:
     /// Whether a service answers; required by the other calls.
     bool isOpen() const { return service_ != nullptr; }
 
-    /// Whether anything may have changed since the last call of `forgetNews`. Changes that an answer reflects are known
-    /// when the answer arrives.
-    bool hasNews() const { return news_->haveCome(); }
-    void forgetNews() { news_->forget(); }
+    /// Whether anything may have changed since the last call of `forgetChanges`. Changes that an answer reflects are
+    /// known when the answer arrives.
+    bool hasChanges() const { return changes_->haveHappened(); }
+    void forgetChanges() { changes_->forget(); }
 
     /// The items with these attributes. Shows no prompt.
     Found search(const platform::CredentialItem& item);
@@ -76,7 +76,7 @@ private:
     ObjectPointer<SecretService> service_;
     /// The unique bus name of the process at the other end of the session.
     std::string owner_;
-    std::optional<SecretServiceNews> news_;
+    std::optional<SecretServiceChanges> changes_;
 };
 
 }  // namespace larkspan::adapters

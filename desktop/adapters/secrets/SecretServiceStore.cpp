@@ -45,7 +45,7 @@ std::optional<std::string> SecretServiceStore::find(const platform::CredentialIt
     if (!session_->isOpen()) return std::nullopt;
     if (auto secret = findWhereItWas(item)) return secret;
 
-    session_->forgetNews();
+    session_->forgetChanges();
     auto found = session_->search(item);
     if (found.unlocked.empty()) {
         if (found.locked.empty() || !mayPrompt_) return std::nullopt;
@@ -62,10 +62,10 @@ std::optional<std::string> SecretServiceStore::find(const platform::CredentialIt
 std::optional<std::string> SecretServiceStore::findWhereItWas(const platform::CredentialItem& item)
 {
     if (!lastPlace_ || lastPlace_->service != item.service || lastPlace_->account != item.account) return std::nullopt;
-    if (session_->hasNews()) return std::nullopt;
+    if (session_->hasChanges()) return std::nullopt;
     auto secret = session_->secret(lastPlace_->path);
     // The keyring may have changed during the call, so that another item counts now.
-    if (!secret || session_->hasNews()) return std::nullopt;
+    if (!secret || session_->hasChanges()) return std::nullopt;
     mayPrompt_ = true;
     return secret;
 }

@@ -27,7 +27,7 @@ public:
     bool hasHost() const { return watcher_.hasHost(); }
 
     bool isShown() const override { return hasHost(); }
-    void followShown(std::function<void()> changed) override { shownChanged_ = std::move(changed); }
+    void onShownChanged(std::function<void()> changed) override { shownChanged_ = std::move(changed); }
     void show(std::function<void(const platform::MenuRow& row)> perform) override;
     void setButton(const Button& button) override;
     void setMenu(const std::vector<platform::MenuRow>& rows) override;

@@ -4,15 +4,15 @@
 
 #include <memory>
 
-#include "bridge/incidents/CreateIncidentBridge.h"
-#include "bridge/incidents/IncidentDetailBridge.h"
-#include "bridge/lists/RowListModel.h"
 #include "bridge/screens/ChildScreen.h"
 #include "bridge/screens/ListBridge.h"
-#include "bridge/values/IncidentRowValue.h"
 #include "incidents/StatusPageIncidentsView.h"
 
 namespace larkspan::bridge {
+
+class CreateIncidentBridge;
+class IncidentDetailBridge;
+struct IncidentRowValue;
 
 /// A page's incidents for QML; texts and decisions are those of `incidents::StatusPageIncidentsView`. The base is named
 /// in full, since QML's tools look for the name as it is written here.
@@ -20,6 +20,8 @@ class StatusPageIncidentsBridge : public larkspan::bridge::ListBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
+    Q_MOC_INCLUDE("bridge/incidents/CreateIncidentBridge.h")
+    Q_MOC_INCLUDE("bridge/incidents/IncidentDetailBridge.h")
     /// The opened incident, and the form of a new one; each is null if there is none.
     Q_PROPERTY(larkspan::bridge::IncidentDetailBridge* detail READ detail NOTIFY changed)
     Q_PROPERTY(larkspan::bridge::CreateIncidentBridge* form READ form NOTIFY changed)
@@ -28,7 +30,7 @@ public:
     StatusPageIncidentsBridge(std::shared_ptr<incidents::StatusPageIncidentsView> view, const ScreenUpdates& updates,
         QObject* parent = nullptr);
 
-    ListModel* rows() override { return &rows_; }
+    ListModel* rows() override;
     IncidentDetailBridge* detail() const { return detail_.get(); }
     CreateIncidentBridge* form() const { return form_.get(); }
 
@@ -39,7 +41,7 @@ private:
     void readState() override;
 
     std::shared_ptr<incidents::StatusPageIncidentsView> view_;
-    RowListModel<IncidentRowValue> rows_;
+    RowListModel<IncidentRowValue>* const rows_;
     ChildScreen<IncidentDetailBridge, incidents::IncidentDetailView> detail_;
     ChildScreen<CreateIncidentBridge, incidents::CreateIncidentView> form_;
 };

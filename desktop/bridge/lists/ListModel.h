@@ -5,6 +5,9 @@
 
 namespace larkspan::bridge {
 
+template <typename Value>
+class RowListModel;
+
 /// The rows of a list for QML: one role, `row`, which is a row as a value of its own type.
 class ListModel : public QAbstractListModel {
     Q_OBJECT

@@ -4,15 +4,15 @@
 
 #include <memory>
 
-#include "bridge/lists/RowListModel.h"
-#include "bridge/maintenances/CreateMaintenanceBridge.h"
-#include "bridge/maintenances/MaintenanceDetailBridge.h"
 #include "bridge/screens/ChildScreen.h"
 #include "bridge/screens/ListBridge.h"
-#include "bridge/values/MaintenanceRowValue.h"
 #include "maintenances/StatusPageMaintenancesView.h"
 
 namespace larkspan::bridge {
+
+class CreateMaintenanceBridge;
+class MaintenanceDetailBridge;
+struct MaintenanceRowValue;
 
 /// A page's maintenances for QML; texts and decisions are those of `maintenances::StatusPageMaintenancesView`. The base
 /// is named in full, since QML's tools look for the name as it is written here.
@@ -20,6 +20,8 @@ class StatusPageMaintenancesBridge : public larkspan::bridge::ListBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
+    Q_MOC_INCLUDE("bridge/maintenances/CreateMaintenanceBridge.h")
+    Q_MOC_INCLUDE("bridge/maintenances/MaintenanceDetailBridge.h")
     /// The opened maintenance, and the form of a new one; each is null if there is none.
     Q_PROPERTY(larkspan::bridge::MaintenanceDetailBridge* detail READ detail NOTIFY changed)
     Q_PROPERTY(larkspan::bridge::CreateMaintenanceBridge* form READ form NOTIFY changed)
@@ -28,7 +30,7 @@ public:
     StatusPageMaintenancesBridge(std::shared_ptr<maintenances::StatusPageMaintenancesView> view,
         const ScreenUpdates& updates, QObject* parent = nullptr);
 
-    ListModel* rows() override { return &rows_; }
+    ListModel* rows() override;
     MaintenanceDetailBridge* detail() const { return detail_.get(); }
     CreateMaintenanceBridge* form() const { return form_.get(); }
 
@@ -39,7 +41,7 @@ private:
     void readState() override;
 
     std::shared_ptr<maintenances::StatusPageMaintenancesView> view_;
-    RowListModel<MaintenanceRowValue> rows_;
+    RowListModel<MaintenanceRowValue>* const rows_;
     ChildScreen<MaintenanceDetailBridge, maintenances::MaintenanceDetailView> detail_;
     ChildScreen<CreateMaintenanceBridge, maintenances::CreateMaintenanceView> form_;
 };

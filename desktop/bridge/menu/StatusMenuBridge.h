@@ -10,7 +10,7 @@
 
 #include "bridge/lists/RowListModel.h"
 #include "bridge/menu/MenuEntry.h"
-#include "bridge/values/MenuRowValue.h"
+#include "bridge/menu/MenuRowValue.h"
 #include "platform/StatusItem.h"
 
 namespace larkspan::bridge {
@@ -31,7 +31,7 @@ public:
 
     /// Not a panel: these rows are in the window, and are hidden with it.
     bool isShown() const override { return false; }
-    void followShown(std::function<void()>) override {}
+    void onShownChanged(std::function<void()>) override {}
     void show(std::function<void(const platform::MenuRow& row)> perform) override;
     void setButton(const Button& button) override;
     void setMenu(const std::vector<platform::MenuRow>& rows) override;

@@ -10,9 +10,9 @@
 
 #include "bridge/items/MeasuredColumns.h"
 #include "bridge/lists/RowListModel.h"
+#include "bridge/messages/MarkdownRowValue.h"
 #include "bridge/screens/ScreenBridge.h"
 #include "bridge/values/ConfirmationValue.h"
-#include "bridge/values/MarkdownRowValue.h"
 #include "messages/MessageView.h"
 
 namespace larkspan::bridge {

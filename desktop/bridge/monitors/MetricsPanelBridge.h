@@ -6,11 +6,11 @@
 
 #include <memory>
 
+#include "bridge/monitors/MetricRowValue.h"
+#include "bridge/monitors/RegionRowValue.h"
+#include "bridge/monitors/SelectedLatencyValue.h"
 #include "bridge/screens/ScreenBridge.h"
 #include "bridge/values/LatencyCurveValue.h"
-#include "bridge/values/MetricRowValue.h"
-#include "bridge/values/RegionRowValue.h"
-#include "bridge/values/SelectedLatencyValue.h"
 #include "bridge/values/Words.h"
 #include "monitors/MetricsPanel.h"
 

@@ -5,14 +5,25 @@
 #include <algorithm>
 #include <utility>
 
+#include "bridge/lists/RowListModel.h"
+#include "bridge/monitors/MonitorDetailBridge.h"
+#include "bridge/monitors/MonitorRowBridge.h"
+#include "bridge/monitors/MonitorRowValue.h"
+
 namespace larkspan::bridge {
 
 StatusPageMonitorsBridge::StatusPageMonitorsBridge(
     std::shared_ptr<monitors::StatusPageMonitorsView> view, const ScreenUpdates& updates, QObject* parent)
     : ListBridge(view, updates, parent)
     , view_(std::move(view))
+    , rows_(new RowListModel<MonitorRowValue>(this))
 {
     StatusPageMonitorsBridge::readState();
+}
+
+ListModel* StatusPageMonitorsBridge::rows()
+{
+    return rows_;
 }
 
 void StatusPageMonitorsBridge::press(const QString& id, const QString& button)
@@ -31,7 +42,7 @@ void StatusPageMonitorsBridge::readState()
     ListBridge::readState();
     closeRowsThatLeft();
     followOpenedRows();
-    rows_.update(view_->rows());
+    rows_->update(view_->rows());
     detail_.follow(view_->detail(), updates());
 }
 
@@ -39,10 +50,10 @@ void StatusPageMonitorsBridge::closeRowsThatLeft()
 {
     const auto hasLeft
         = [this](const monitors::MonitorRow& row) { return row.isOpen && !view_->rowViews().contains(row.id); };
-    if (std::ranges::none_of(rows_.rows(), hasLeft)) return;
-    auto rows = rows_.rows();
+    if (std::ranges::none_of(rows_->rows(), hasLeft)) return;
+    auto rows = rows_->rows();
     for (auto& row : rows) row.isOpen = row.isOpen && !hasLeft(row);
-    rows_.update(std::move(rows));
+    rows_->update(std::move(rows));
 }
 
 void StatusPageMonitorsBridge::followOpenedRows()

@@ -7,15 +7,15 @@
 #include <memory>
 #include <string>
 
-#include "bridge/lists/RowListModel.h"
-#include "bridge/monitors/MonitorDetailBridge.h"
-#include "bridge/monitors/MonitorRowBridge.h"
 #include "bridge/screens/ChildScreen.h"
 #include "bridge/screens/ListBridge.h"
-#include "bridge/values/MonitorRowValue.h"
 #include "monitors/StatusPageMonitorsView.h"
 
 namespace larkspan::bridge {
+
+class MonitorDetailBridge;
+class MonitorRowBridge;
+struct MonitorRowValue;
 
 /// A page's monitors for QML; texts and decisions are those of `monitors::StatusPageMonitorsView`. The base is named in
 /// full, since QML's tools look for the name as it is written here.
@@ -23,6 +23,8 @@ class StatusPageMonitorsBridge : public larkspan::bridge::ListBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
+    Q_MOC_INCLUDE("bridge/monitors/MonitorDetailBridge.h")
+    Q_MOC_INCLUDE("bridge/monitors/MonitorRowBridge.h")
     /// The monitor that is open; null while there is none.
     Q_PROPERTY(larkspan::bridge::MonitorDetailBridge* detail READ detail NOTIFY changed)
 
@@ -30,7 +32,7 @@ public:
     StatusPageMonitorsBridge(std::shared_ptr<monitors::StatusPageMonitorsView> view, const ScreenUpdates& updates,
         QObject* parent = nullptr);
 
-    ListModel* rows() override { return &rows_; }
+    ListModel* rows() override;
     MonitorDetailBridge* detail() const { return detail_.get(); }
 
     Q_INVOKABLE void toggleMetrics(const QString& id) { view_->toggleMetrics(id.toStdString()); }
@@ -54,7 +56,7 @@ private:
 
     std::shared_ptr<monitors::StatusPageMonitorsView> view_;
     std::map<std::string, OpenedRow> openedRows_;
-    RowListModel<MonitorRowValue> rows_;
+    RowListModel<MonitorRowValue>* const rows_;
     ChildScreen<MonitorDetailBridge, monitors::MonitorDetailView> detail_;
 };
 

@@ -19,16 +19,19 @@ public:
         if (shown_ == shown) return false;
         shown_ = shown;
         // A screen that closes still reads its bridge.
-        if (bridge_) bridge_.release()->deleteLater();
-        if (shown_) bridge_ = std::make_unique<Bridge>(shown_, updates);
+        if (owned_) owned_.release()->deleteLater();
+        bridge_ = shown_ ? new Bridge(shown_, updates) : nullptr;
+        owned_.reset(bridge_);
         return true;
     }
 
-    Bridge* get() const { return bridge_.get(); }
+    Bridge* get() const { return bridge_; }
 
 private:
     std::shared_ptr<Shown> shown_;
-    std::unique_ptr<Bridge> bridge_;
+    Bridge* bridge_ = nullptr;
+    /// The bridge as what it is to Qt: whoever destroys this object need not know the bridge's class.
+    std::unique_ptr<QObject> owned_;
 };
 
 }  // namespace larkspan::bridge

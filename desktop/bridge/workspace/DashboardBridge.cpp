@@ -2,6 +2,11 @@
 
 #include <utility>
 
+#include "bridge/lists/RowListModel.h"
+#include "bridge/workspace/SettingsBridge.h"
+#include "bridge/workspace/StatusPageDetailBridge.h"
+#include "bridge/workspace/StatusPageRowValue.h"
+
 namespace larkspan::bridge {
 
 DashboardBridge::DashboardBridge(
@@ -9,9 +14,15 @@ DashboardBridge::DashboardBridge(
     : ScreenBridge(updates, parent)
     , dashboard_(std::move(dashboard))
     , updates_(updates)
+    , rows_(new RowListModel<StatusPageRowValue>(this))
 {
     followChangesOf(*dashboard_);
     DashboardBridge::readState();
+}
+
+ListModel* DashboardBridge::rows()
+{
+    return rows_;
 }
 
 void DashboardBridge::readState()
@@ -19,7 +30,7 @@ void DashboardBridge::readState()
     placeholder_ = PlaceholderValue::of(dashboard_->placeholder());
     headline_ = HeadlineValue::of(dashboard_->headline());
     status_ = MarkerValue::of(dashboard_->status());
-    rows_.update(dashboard_->rows());
+    rows_->update(dashboard_->rows());
     settings_.follow(dashboard_->settings(), updates_);
     openedPage_.follow(*dashboard_->openedPage, updates_);
 }

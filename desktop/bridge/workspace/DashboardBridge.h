@@ -6,24 +6,27 @@
 
 #include <memory>
 
-#include "bridge/lists/RowListModel.h"
+#include "bridge/lists/ListModel.h"
 #include "bridge/screens/ChildScreen.h"
 #include "bridge/screens/ScreenBridge.h"
 #include "bridge/values/HeadlineValue.h"
 #include "bridge/values/MarkerValue.h"
 #include "bridge/values/PlaceholderValue.h"
-#include "bridge/values/StatusPageRowValue.h"
-#include "bridge/workspace/SettingsBridge.h"
-#include "bridge/workspace/StatusPageDetailBridge.h"
 #include "workspace/DashboardView.h"
 
 namespace larkspan::bridge {
+
+class SettingsBridge;
+class StatusPageDetailBridge;
+struct StatusPageRowValue;
 
 /// The dashboard's state for QML; texts and decisions are those of `workspace::DashboardView`.
 class DashboardBridge : public ScreenBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
+    Q_MOC_INCLUDE("bridge/workspace/SettingsBridge.h")
+    Q_MOC_INCLUDE("bridge/workspace/StatusPageDetailBridge.h")
     Q_PROPERTY(QString windowTitle READ windowTitle CONSTANT)
     Q_PROPERTY(bool showsList READ showsList NOTIFY changed)
     Q_PROPERTY(larkspan::bridge::PlaceholderValue placeholder MEMBER placeholder_ NOTIFY changed)
@@ -50,7 +53,7 @@ public:
     bool showsList() const { return dashboard_->content() == presentation::Content::records; }
     const MarkerValue& status() const { return status_; }
     QString listHeading() const { return words(workspace::DashboardView::listHeading); }
-    ListModel* rows() { return &rows_; }
+    ListModel* rows();
     int selectedRow() const;
     bool showsRefreshFailure() const { return dashboard_->showsRefreshFailure(); }
     QString refreshFailedText() const { return words(workspace::DashboardView::refreshFailedText); }
@@ -74,7 +77,7 @@ private:
     PlaceholderValue placeholder_;
     HeadlineValue headline_;
     MarkerValue status_;
-    RowListModel<StatusPageRowValue> rows_;
+    RowListModel<StatusPageRowValue>* const rows_;
     ChildScreen<SettingsBridge, workspace::SettingsView> settings_;
     ChildScreen<StatusPageDetailBridge, workspace::StatusPageDetailView> openedPage_;
 };

@@ -2,7 +2,13 @@
 
 #include <utility>
 
+#include "bridge/components/StatusPageComponentsBridge.h"
+#include "bridge/incidents/StatusPageIncidentsBridge.h"
+#include "bridge/lists/RowListModel.h"
 #include "bridge/lists/ValueList.h"
+#include "bridge/maintenances/StatusPageMaintenancesBridge.h"
+#include "bridge/monitors/StatusPageMonitorsBridge.h"
+#include "bridge/workspace/ActivityRowValue.h"
 
 namespace larkspan::bridge {
 
@@ -13,9 +19,15 @@ StatusPageDetailBridge::StatusPageDetailBridge(
     : ScreenBridge(updates, parent)
     , view_(std::move(view))
     , updates_(updates)
+    , activity_(new RowListModel<ActivityRowValue>(this))
 {
     followChangesOf(*view_);
     StatusPageDetailBridge::readState();
+}
+
+ListModel* StatusPageDetailBridge::activity()
+{
+    return activity_;
 }
 
 QList<QString> StatusPageDetailBridge::tabs() const
@@ -35,7 +47,7 @@ void StatusPageDetailBridge::readState()
     auto overview = view_->overview();
     status_ = HeadlineValue::of(overview.status);
     information_ = valuesOf<FactValue>(overview.information);
-    activity_.update(std::move(overview.activity));
+    activity_->update(std::move(overview.activity));
     quiet_ = MarkerValue::of(overview.quiet);
     about_ = words(overview.about);
     uptime_ = valuesOf<FactValue>(overview.uptime);

@@ -6,14 +6,9 @@
 
 #include <memory>
 
-#include "bridge/components/StatusPageComponentsBridge.h"
-#include "bridge/incidents/StatusPageIncidentsBridge.h"
-#include "bridge/lists/RowListModel.h"
-#include "bridge/maintenances/StatusPageMaintenancesBridge.h"
-#include "bridge/monitors/StatusPageMonitorsBridge.h"
+#include "bridge/lists/ListModel.h"
 #include "bridge/screens/ChildScreen.h"
 #include "bridge/screens/ScreenBridge.h"
-#include "bridge/values/ActivityRowValue.h"
 #include "bridge/values/FactValue.h"
 #include "bridge/values/HeadlineValue.h"
 #include "bridge/values/MarkerValue.h"
@@ -21,12 +16,22 @@
 
 namespace larkspan::bridge {
 
+class StatusPageComponentsBridge;
+class StatusPageIncidentsBridge;
+class StatusPageMaintenancesBridge;
+class StatusPageMonitorsBridge;
+struct ActivityRowValue;
+
 /// An opened page for QML: its tabs and its overview; texts and decisions are those of
 /// `workspace::StatusPageDetailView`.
 class StatusPageDetailBridge : public ScreenBridge {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
+    Q_MOC_INCLUDE("bridge/components/StatusPageComponentsBridge.h")
+    Q_MOC_INCLUDE("bridge/incidents/StatusPageIncidentsBridge.h")
+    Q_MOC_INCLUDE("bridge/maintenances/StatusPageMaintenancesBridge.h")
+    Q_MOC_INCLUDE("bridge/monitors/StatusPageMonitorsBridge.h")
     Q_PROPERTY(QString title READ title NOTIFY changed)
     Q_PROPERTY(QString pickerLabel READ pickerLabel CONSTANT)
     Q_PROPERTY(QList<QString> tabs READ tabs CONSTANT)
@@ -57,7 +62,7 @@ public:
     QList<QString> tabs() const;
     int selectedTab() const { return static_cast<int>(view_->selectedTab()); }
     bool isOverview() const { return view_->selectedTab() == workspace::StatusPageDetailView::Tab::overview; }
-    ListModel* activity() { return &activity_; }
+    ListModel* activity();
     StatusPageIncidentsBridge* incidents() const { return incidents_.get(); }
     StatusPageMonitorsBridge* monitors() const { return monitors_.get(); }
     StatusPageComponentsBridge* components() const { return components_.get(); }
@@ -76,7 +81,7 @@ private:
     const ScreenUpdates& updates_;
     HeadlineValue status_;
     QList<FactValue> information_;
-    RowListModel<ActivityRowValue> activity_;
+    RowListModel<ActivityRowValue>* const activity_;
     MarkerValue quiet_;
     QString about_;
     QList<FactValue> uptime_;

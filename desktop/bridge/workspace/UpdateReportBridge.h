@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "bridge/screens/ScreenBridge.h"
-#include "bridge/values/UpdateReportValue.h"
+#include "bridge/workspace/UpdateReportValue.h"
 #include "core/UpdaterController.h"
 
 namespace larkspan::bridge {

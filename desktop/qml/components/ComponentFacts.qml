@@ -1,6 +1,7 @@
 import QtQuick
 import Larkspan
 import Larkspan.Bridge
+import Larkspan.Bridge.Components
 
 // The status and the facts of a component.
 Column {

@@ -1,6 +1,6 @@
 import QtQuick
 import Larkspan
-import Larkspan.Bridge
+import Larkspan.Bridge.Workspace
 
 // How often the account is looked at.
 WordMenu {

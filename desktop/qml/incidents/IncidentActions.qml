@@ -1,6 +1,7 @@
 import QtQuick
 import Larkspan
 import Larkspan.Bridge
+import Larkspan.Bridge.Incidents
 
 // The actions of an incident: in one row if there is room, else one below the other, with the first two side by side.
 // In the editor, the button that sends the text.

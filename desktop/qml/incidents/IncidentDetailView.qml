@@ -1,6 +1,6 @@
 import QtQuick
 import Larkspan
-import Larkspan.Bridge
+import Larkspan.Bridge.Incidents
 
 // One incident and its actions. Its message may be long, so it is the list, and the rest is above and below it.
 EditableDetailFrame {

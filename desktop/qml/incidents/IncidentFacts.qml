@@ -1,6 +1,6 @@
 import QtQuick
 import Larkspan
-import Larkspan.Bridge
+import Larkspan.Bridge.Incidents
 
 // The part above an incident's message: its status, and the times of its states.
 Column {

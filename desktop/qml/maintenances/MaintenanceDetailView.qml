@@ -1,6 +1,6 @@
 import QtQuick
 import Larkspan
-import Larkspan.Bridge
+import Larkspan.Bridge.Maintenances
 
 // One maintenance and its actions; in its place, while it is edited, the editor. Its message may be long, so it is the
 // list, and the rest is above and below it.

@@ -1,6 +1,7 @@
 import QtQuick
 import Larkspan
 import Larkspan.Bridge
+import Larkspan.Bridge.Maintenances
 
 // The part above a maintenance's message: its status, and the times of its states.
 Column {

@@ -1,6 +1,6 @@
 import QtQuick
 import Larkspan
-import Larkspan.Bridge
+import Larkspan.Bridge.Maintenances
 
 // What else can be done to a maintenance.
 KitMenu {

@@ -1,6 +1,6 @@
 import QtQuick
 import Larkspan
-import Larkspan.Bridge
+import Larkspan.Bridge.Maintenances
 
 // The menu of a maintenance's other actions.
 MenuButton {

@@ -1,6 +1,6 @@
 import QtQuick
 import Larkspan
-import Larkspan.Bridge
+import Larkspan.Bridge.Messages
 
 // A message of an event, row by row, with the screen's other content above and below it.
 CardList {

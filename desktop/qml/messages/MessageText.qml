@@ -1,6 +1,7 @@
 import QtQuick
 import Larkspan
 import Larkspan.Bridge
+import Larkspan.Bridge.Messages
 
 // Styled text that can be selected. The markup is written by the program, with all text of the service escaped, and
 // refers to nothing that would be fetched.

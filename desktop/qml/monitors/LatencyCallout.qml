@@ -1,6 +1,6 @@
 import QtQuick
 import Larkspan
-import Larkspan.Bridge
+import Larkspan.Bridge.Monitors
 
 // The callout of the selected sample of a latency graph.
 Rectangle {

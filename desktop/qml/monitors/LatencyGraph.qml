@@ -1,6 +1,7 @@
 import QtQuick
 import Larkspan
 import Larkspan.Bridge
+import Larkspan.Bridge.Monitors
 
 // A day of latency. A press, a drag or the keyboard selects a sample, which a callout describes; the callout floats
 // over the content above the graph.

@@ -1,6 +1,6 @@
 import QtQuick
 import Larkspan
-import Larkspan.Bridge
+import Larkspan.Bridge.Monitors
 
 // A figure of the panel: its label at the left, its value at the right.
 Item {

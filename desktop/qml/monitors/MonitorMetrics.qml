@@ -1,6 +1,6 @@
 import QtQuick
 import Larkspan
-import Larkspan.Bridge
+import Larkspan.Bridge.Monitors
 
 // The opened part of a monitor's row: its metrics, or what is shown in their place.
 Column {

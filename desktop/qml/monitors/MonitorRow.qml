@@ -1,6 +1,7 @@
 import QtQuick
 import Larkspan
 import Larkspan.Bridge
+import Larkspan.Bridge.Monitors
 
 // One monitor in the list, with its opened part. Return opens the monitor's screen; the controls in the current row are
 // reached with Tab.

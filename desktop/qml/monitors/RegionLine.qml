@@ -1,6 +1,6 @@
 import QtQuick
 import Larkspan
-import Larkspan.Bridge
+import Larkspan.Bridge.Monitors
 
 // A monitor's state as seen from one region.
 Item {

@@ -1,6 +1,11 @@
 import QtQuick
 import Larkspan
 import Larkspan.Bridge
+import Larkspan.Bridge.Components
+import Larkspan.Bridge.Incidents
+import Larkspan.Bridge.Maintenances
+import Larkspan.Bridge.Monitors
+import Larkspan.Bridge.Workspace
 
 // A status page over the dashboard, and over it the record that is opened in one of its tabs.
 FocusScope {

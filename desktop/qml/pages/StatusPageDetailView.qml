@@ -1,6 +1,7 @@
 import QtQuick
 import Larkspan
 import Larkspan.Bridge
+import Larkspan.Bridge.Workspace
 
 // One status page: its tabs, and the screen of the selected one.
 ScreenFrame {

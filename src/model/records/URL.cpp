@@ -52,7 +52,7 @@ bool isMadeOf(std::string_view part, std::string_view allowed)
 }
 
 /// Cuts `rest` at the first `delimiter` and returns what follows it, if there is one.
-std::optional<std::string_view> cutBehind(std::string_view& rest, char delimiter)
+std::optional<std::string_view> cutAfter(std::string_view& rest, char delimiter)
 {
     const auto at = rest.find(delimiter);
     if (at == std::string_view::npos) return std::nullopt;
@@ -83,13 +83,13 @@ bool isPort(std::string_view text)
 std::optional<std::string_view> hostOf(std::string_view authority)
 {
     auto host = authority;
-    if (const auto behindUser = cutBehind(host, '@')) {
+    if (const auto behindUser = cutAfter(host, '@')) {
         if (!isMadeOf(host, ":")) return std::nullopt;
         host = *behindUser;
     }
     if (host.starts_with('[')) {
         host.remove_prefix(1);
-        auto behind = cutBehind(host, ']');
+        auto behind = cutAfter(host, ']');
         if (!behind || host.empty()) return std::nullopt;
         if (!std::all_of(host.begin(), host.end(), [](char c) { return isHexDigit(c) || isOneOf(":.", c); }))
             return std::nullopt;
@@ -97,7 +97,7 @@ std::optional<std::string_view> hostOf(std::string_view authority)
         if (!behind->starts_with(':') || !isPort(behind->substr(1))) return std::nullopt;
         return host;
     }
-    if (const auto port = cutBehind(host, ':'); port && !isPort(*port)) return std::nullopt;
+    if (const auto port = cutAfter(host, ':'); port && !isPort(*port)) return std::nullopt;
     if (!isMadeOf(host, "")) return std::nullopt;
     return host;
 }
@@ -116,12 +116,12 @@ std::optional<URL> URL::parse(std::string_view text)
     if (text.empty() || !support::isValidUtf8(text)) return std::nullopt;
 
     auto rest = text;
-    if (const auto fragment = cutBehind(rest, '#'); fragment && !isMadeOf(*fragment, ":@/?")) return std::nullopt;
-    if (const auto query = cutBehind(rest, '?'); query && !isMadeOf(*query, ":@/?")) return std::nullopt;
+    if (const auto fragment = cutAfter(rest, '#'); fragment && !isMadeOf(*fragment, ":@/?")) return std::nullopt;
+    if (const auto query = cutAfter(rest, '?'); query && !isMadeOf(*query, ":@/?")) return std::nullopt;
 
     // A colon in the first segment always ends a scheme, so a relative reference cannot have one there.
     auto firstSegment = rest.substr(0, rest.find('/'));
-    if (cutBehind(firstSegment, ':')) {
+    if (cutAfter(firstSegment, ':')) {
         if (!isScheme(firstSegment)) return std::nullopt;
         rest.remove_prefix(firstSegment.size() + 1);
     }

@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "MaintenancesOnScreen.h"
+#include "maintenances/CreateMaintenanceView.h"
+#include "maintenances/StatusPageMaintenancesView.h"
+#include "workspace/StatusPageDetailView.h"
 
 namespace larkspan {
 

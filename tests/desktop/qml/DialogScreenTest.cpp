@@ -6,6 +6,7 @@
 
 #include "Measures.h"
 #include "Screen.h"
+#include "workspace/SettingsView.h"
 
 namespace larkspan {
 

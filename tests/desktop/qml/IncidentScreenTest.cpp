@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "IncidentsOnScreen.h"
+#include "incidents/IncidentDetailView.h"
+#include "incidents/StatusPageIncidentsView.h"
+#include "workspace/StatusPageDetailView.h"
 
 namespace larkspan {
 

@@ -2,6 +2,8 @@
 
 #include "Measures.h"
 #include "MonitorsOnScreen.h"
+#include "monitors/StatusPageMonitorsView.h"
+#include "workspace/StatusPageDetailView.h"
 
 namespace larkspan {
 

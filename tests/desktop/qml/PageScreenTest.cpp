@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "Screen.h"
+#include "workspace/StatusPageDetailView.h"
 
 namespace larkspan {
 

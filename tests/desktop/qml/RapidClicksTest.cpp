@@ -5,6 +5,7 @@
 
 #include "Screen.h"
 #include "api/KeychainHelper.h"
+#include "workspace/SettingsView.h"
 
 namespace larkspan {
 

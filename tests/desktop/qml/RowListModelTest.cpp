@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "ProcessorTime.h"
-#include "bridge/values/StatusPageRowValue.h"
+#include "bridge/workspace/StatusPageRowValue.h"
 
 namespace larkspan::bridge {
 

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "bridge/lists/RowListModel.h"
-#include "bridge/values/StatusPageRowValue.h"
+#include "bridge/workspace/StatusPageRowValue.h"
 
 namespace larkspan::bridge {
 

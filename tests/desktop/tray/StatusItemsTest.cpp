@@ -9,7 +9,7 @@ using platform::MenuRow;
 
 struct Place : platform::StatusItem {
     bool isShown() const override { return hasPanel; }
-    void followShown(std::function<void()> given) override { changed = std::move(given); }
+    void onShownChanged(std::function<void()> given) override { changed = std::move(given); }
     void show(std::function<void(const MenuRow& row)> given) override { perform = std::move(given); }
     void setButton(const Button& given) override { button = given; }
     void setMenu(const std::vector<MenuRow>& given) override { rows = given; }
@@ -37,7 +37,7 @@ TEST(StatusItems, TellWhenAnyOfThePlacesComesOrGoes)
     Place window;
     StatusItems items({panel, window});
     int changes = 0;
-    items.followShown([&changes] { ++changes; });
+    items.onShownChanged([&changes] { ++changes; });
     panel.changed();
     window.changed();
     EXPECT_EQ(changes, 2);

@@ -45,7 +45,7 @@ TEST_F(WatcherTest, APanelThatReturnsSeesTheItemAgain)
     ASSERT_TRUE(turnUntil([&] { return item.hasHost(); }));
 
     int changes = 0;
-    item.followShown([&] { ++changes; });
+    item.onShownChanged([&] { ++changes; });
     host.reset();
     EXPECT_TRUE(turnUntil([&] { return !item.hasHost(); }));
     EXPECT_EQ(changes, 1);

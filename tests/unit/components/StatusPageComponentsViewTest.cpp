@@ -5,6 +5,8 @@
 #include <memory>
 #include <string>
 
+#include "components/ComponentDetailView.h"
+#include "components/ComponentRow.h"
 #include "components/ComponentsOfAPage.h"
 
 namespace larkspan::components {

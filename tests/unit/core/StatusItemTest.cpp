@@ -61,7 +61,7 @@ TEST_F(StatusItemOfTheAccount, SetUpShowsAFirstMenuAtOnce)
 class ItemWithoutAButton final : public platform::StatusItem {
 public:
     bool isShown() const override { return false; }
-    void followShown(std::function<void()>) override {}
+    void onShownChanged(std::function<void()>) override {}
     void show(std::function<void(const MenuRow&)>) override {}
     void setButton(const Button&) override {}
     void setMenu(const std::vector<MenuRow>& newRows) override { rows = newRows; }

@@ -13,7 +13,7 @@ namespace larkspan::fakes {
 class FakeStatusItem final : public platform::StatusItem {
 public:
     bool isShown() const override { return hasPanel; }
-    void followShown(std::function<void()> changed) override { shownChanged = std::move(changed); }
+    void onShownChanged(std::function<void()> changed) override { shownChanged = std::move(changed); }
     void show(std::function<void(const platform::MenuRow& row)> perform) override { choose = std::move(perform); }
     void setButton(const Button& newButton) override { button = newButton; }
     void setMenu(const std::vector<platform::MenuRow>& newRows) override

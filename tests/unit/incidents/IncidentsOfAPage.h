@@ -4,6 +4,9 @@
 #include <string>
 
 #include "fakes/ListOfAPage.h"
+#include "incidents/CreateIncidentView.h"
+#include "incidents/IncidentDetailView.h"
+#include "incidents/IncidentRow.h"
 #include "incidents/StatusPageIncidentsView.h"
 
 namespace larkspan::incidents {

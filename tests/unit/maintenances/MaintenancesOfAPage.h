@@ -4,6 +4,9 @@
 #include <string>
 
 #include "fakes/ListOfAPage.h"
+#include "maintenances/CreateMaintenanceView.h"
+#include "maintenances/MaintenanceDetailView.h"
+#include "maintenances/MaintenanceRow.h"
 #include "maintenances/StatusPageMaintenancesView.h"
 
 namespace larkspan::maintenances {

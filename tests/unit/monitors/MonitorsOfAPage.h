@@ -4,6 +4,9 @@
 #include <string>
 
 #include "fakes/ListOfAPage.h"
+#include "monitors/MonitorDetailView.h"
+#include "monitors/MonitorRow.h"
+#include "monitors/MonitorRowView.h"
 #include "monitors/StatusPageMonitorsView.h"
 
 namespace larkspan::monitors {

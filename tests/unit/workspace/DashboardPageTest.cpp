@@ -3,6 +3,13 @@
 #include <string>
 
 #include "PageOfTheDashboard.h"
+#include "components/ComponentDetailView.h"
+#include "components/StatusPageComponentsView.h"
+#include "incidents/IncidentDetailView.h"
+#include "monitors/MonitorDetailView.h"
+#include "monitors/MonitorRow.h"
+#include "monitors/StatusPageMonitorsView.h"
+#include "workspace/StatusPageRow.h"
 
 namespace larkspan::workspace {
 

@@ -9,6 +9,9 @@
 #include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocaleText.h"
 #include "fakes/PolledAccount.h"
+#include "workspace/SettingsView.h"
+#include "workspace/StatusPageDetailView.h"
+#include "workspace/StatusPageRow.h"
 
 namespace larkspan::workspace {
 

@@ -9,7 +9,10 @@
 #include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocaleText.h"
 #include "fakes/PolledAccount.h"
+#include "incidents/CreateIncidentView.h"
+#include "incidents/StatusPageIncidentsView.h"
 #include "workspace/DashboardView.h"
+#include "workspace/StatusPageDetailView.h"
 
 namespace larkspan::workspace {
 

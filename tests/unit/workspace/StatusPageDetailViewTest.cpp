@@ -6,9 +6,13 @@
 #include <string>
 #include <vector>
 
+#include "components/StatusPageComponentsView.h"
 #include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocaleText.h"
 #include "fakes/PolledAccount.h"
+#include "incidents/StatusPageIncidentsView.h"
+#include "maintenances/StatusPageMaintenancesView.h"
+#include "monitors/StatusPageMonitorsView.h"
 
 namespace larkspan::workspace {
 

@@ -1,4 +1,4 @@
-#include "bridge/values/MarkdownRowValue.h"
+#include "bridge/messages/MarkdownRowValue.h"
 
 #include "bridge/lists/ValueList.h"
 #include "bridge/values/Words.h"

@@ -5,8 +5,8 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
+#include "bridge/messages/MarkdownTextValue.h"
 #include "bridge/messages/MessageEntry.h"
-#include "bridge/values/MarkdownTextValue.h"
 
 namespace larkspan::bridge {
 

@@ -1,4 +1,4 @@
-#include "bridge/values/MenuRowValue.h"
+#include "bridge/menu/MenuRowValue.h"
 
 #include "bridge/values/Words.h"
 

@@ -6,20 +6,20 @@ namespace larkspan::adapters {
 
 /// Notices the signals of the Secret Service that an item or a keyring was added, changed or removed. Constructed
 /// inside an entry of the loop that receives them; reports a change at first, since earlier signals were missed.
-class SecretServiceNews {
+class SecretServiceChanges {
 public:
-    explicit SecretServiceNews(GDBusConnection* connection);
-    ~SecretServiceNews();
-    SecretServiceNews(const SecretServiceNews&) = delete;
-    SecretServiceNews& operator=(const SecretServiceNews&) = delete;
+    explicit SecretServiceChanges(GDBusConnection* connection);
+    ~SecretServiceChanges();
+    SecretServiceChanges(const SecretServiceChanges&) = delete;
+    SecretServiceChanges& operator=(const SecretServiceChanges&) = delete;
 
-    bool haveCome() const { return haveCome_; }
-    void forget() { haveCome_ = false; }
+    bool haveHappened() const { return haveHappened_; }
+    void forget() { haveHappened_ = false; }
 
 private:
     ObjectPointer<GDBusConnection> connection_;
     guint subscription_;
-    bool haveCome_ = true;
+    bool haveHappened_ = true;
 };
 
 }  // namespace larkspan::adapters

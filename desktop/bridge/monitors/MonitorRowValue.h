@@ -6,8 +6,8 @@
 #include <QtQml/qqmlregistration.h>
 
 #include "bridge/lists/ValueList.h"
+#include "bridge/monitors/MetricBadgeValue.h"
 #include "bridge/values/ActionButtonValue.h"
-#include "bridge/values/MetricBadgeValue.h"
 #include "bridge/values/PillValue.h"
 #include "bridge/values/ToneNames.h"
 #include "bridge/values/Words.h"

@@ -1,21 +1,21 @@
-#include "adapters/secrets/SecretServiceNews.h"
+#include "adapters/secrets/SecretServiceChanges.h"
 
 #include "adapters/secrets/SecretServiceBus.h"
 
 namespace larkspan::adapters {
 
-SecretServiceNews::SecretServiceNews(GDBusConnection* connection)
+SecretServiceChanges::SecretServiceChanges(GDBusConnection* connection)
     : connection_(G_DBUS_CONNECTION(g_object_ref(connection)))
     , subscription_(g_dbus_connection_signal_subscribe(
           connection, SecretServiceBus::serviceName, nullptr, nullptr, nullptr, nullptr, G_DBUS_SIGNAL_FLAGS_NONE,
-          [](GDBusConnection*, const char*, const char*, const char*, const char*, GVariant*, gpointer haveCome) {
-              *static_cast<bool*>(haveCome) = true;
+          [](GDBusConnection*, const char*, const char*, const char*, const char*, GVariant*, gpointer haveHappened) {
+              *static_cast<bool*>(haveHappened) = true;
           },
-          &haveCome_, nullptr))
+          &haveHappened_, nullptr))
 {
 }
 
-SecretServiceNews::~SecretServiceNews()
+SecretServiceChanges::~SecretServiceChanges()
 {
     g_dbus_connection_signal_unsubscribe(connection_.get(), subscription_);
 }
