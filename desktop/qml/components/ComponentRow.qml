@@ -42,7 +42,7 @@ CardRow {
         Label {
             id: heading
             visible: delegate.row.isHeading
-            x: Theme.halfUnit - delegate.leftPadding
+            x: -delegate.leftPadding
             width: parent.width - 2 * x
             text: delegate.row.isHeading ? delegate.row.title : ""
             font.pointSize: Theme.subheadline

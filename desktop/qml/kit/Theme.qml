@@ -77,10 +77,10 @@ QtObject {
     readonly property int dialogWidth: 400
     readonly property int menuWidth: 320
     readonly property int menuRowHeight: Math.round(28 * scale)
-    readonly property int dotSize: 8
+    readonly property int dotSize: Math.round(8 * scale)
     readonly property int graphHeight: 72
     readonly property int curveWidth: 2
-    readonly property int recordDotSize: 10
+    readonly property int recordDotSize: Math.round(10 * scale)
     readonly property int quoteBarWidth: 3
     readonly property int quoteGap: 10
     readonly property int itemGap: 7

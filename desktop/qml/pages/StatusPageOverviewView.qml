@@ -66,25 +66,11 @@ CardList {
                 wrapMode: Text.Wrap
             }
         }
-        GroupBox {
+        UptimeGroup {
             visible: overview.page.uptime.length > 0
             width: parent.width
-            title: qsTr("Uptime")
-
-            Repeater {
-                model: overview.page.uptime
-                FactLine {
-                    required property fact modelData
-                    width: parent.width
-                    fact: modelData
-                }
-            }
-            Label {
-                visible: text !== ""
-                width: parent.width
-                text: overview.page.moreUptime
-                color: Theme.secondary
-            }
+            lines: overview.page.uptime
+            more: overview.page.moreUptime
         }
     }
 }

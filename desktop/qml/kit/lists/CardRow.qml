@@ -19,7 +19,7 @@ Item {
     required property Item contentItem
     property real topPadding: Theme.unit
     property real bottomPadding: topPadding
-    property real leftPadding: 2 * Theme.unit - Theme.halfUnit
+    property real leftPadding: 2 * Theme.unit
     property real rightPadding: leftPadding
     readonly property real implicitContentHeight: contentItem.implicitHeight
     // The distance of the ring from the row's edge.

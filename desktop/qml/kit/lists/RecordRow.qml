@@ -12,13 +12,14 @@ CardRow {
     contentItem: Item {
         implicitHeight: words.implicitHeight
 
-        Rectangle {
+        StatusDot {
             id: dot
             anchors.verticalCenter: parent.verticalCenter
             width: Theme.recordDotSize
-            height: width
-            radius: width / 2
-            color: Theme.toneColor(delegate.tone)
+            tone: delegate.tone
+            word: delegate.description
+            // The row itself says it.
+            Accessible.ignored: true
         }
         Column {
             id: words

@@ -1,13 +1,16 @@
 import QtQuick
 import Larkspan
 
-// The bullet or the number before an item of a list. All digits have the same width, so that the items are aligned: in
-// many fonts "1" is narrower than the others, and Qt 6.4 cannot ask a font for its tabular digits.
+// A short text with figures, or the number before an item of a list. All digits have the same width, so that numbers
+// one below the other are aligned: in many fonts "1" is narrower than the others, and Qt 6.4 cannot ask a font for its
+// tabular digits.
 Row {
-    id: mark
+    id: figure
     required property string text
     required property real digitWidth
-    // An invisible mark still takes its space.
+    property color color: Theme.text
+    property font font
+    // An invisible text still takes its space.
     property bool isSeen: true
 
     opacity: isSeen ? 1 : 0
@@ -16,14 +19,15 @@ Row {
     Accessible.name: text
 
     Repeater {
-        model: mark.text.length
+        model: figure.text.match(/[0-9]|[^0-9]+/g) ?? []
 
         Label {
-            required property int index
+            required property string modelData
 
-            width: text >= "0" && text <= "9" ? mark.digitWidth : implicitWidth
-            text: mark.text.charAt(index)
-            color: Theme.secondary
+            width: modelData >= "0" && modelData <= "9" ? figure.digitWidth : implicitWidth
+            text: modelData
+            font: figure.font
+            color: figure.color
             horizontalAlignment: Text.AlignHCenter
             Accessible.ignored: true
         }

@@ -1,0 +1,47 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// A page's uptime by period; the percentages stand in one column, aligned at their points.
+GroupBox {
+    id: group
+    required property list<fact> lines
+    required property string more
+    readonly property real captionWidth: widest(line => line.ownCaptionWidth)
+    readonly property bool isStacked: widest(line => line.ownWidth) > width - 4 * Theme.unit - captionWidth
+
+    title: qsTr("Uptime")
+
+    function widest(widthOf: var): real {
+        let most = 0
+        for (let at = 0; at < repeater.count; ++at) {
+            const line = repeater.itemAt(at) as UptimeLine
+            if (line) most = Math.max(most, widthOf(line))
+        }
+        return most
+    }
+
+    DigitMetrics {
+        id: metrics
+        font.pointSize: Theme.body
+        font.weight: Font.Medium
+    }
+    Repeater {
+        id: repeater
+        model: group.lines
+        UptimeLine {
+            required property fact modelData
+            width: parent.width
+            fact: modelData
+            digitWidth: metrics.digitWidth
+            captionWidth: group.captionWidth
+            isStacked: group.isStacked
+        }
+    }
+    Label {
+        visible: text !== ""
+        width: parent.width
+        text: group.more
+        color: Theme.secondary
+    }
+}
