@@ -18,6 +18,7 @@ struct Scene {
     double fontPointSize = 10;
     /// The help of the toolbar's button that is pressed before the picture is taken; empty for none.
     std::string pressed = {};
+    bool hasHighContrast = false;
 };
 
 inline void PrintTo(const Scene& scene, std::ostream* out)

@@ -46,6 +46,7 @@ ShownScene::ShownScene(const Scene& scene, const Look& look, adapters::MainExecu
     , mainWindow_(stage_.content(), main)
 {
     mainWindow_.appearance().setProperty("isDark", look.isDark);
+    mainWindow_.appearance().setProperty("hasHighContrast", look.hasHighContrast);
     mainWindow_.appearance().setProperty("reducesMotion", true);
     scene.arrange(stage_);
     window().resize(look.size);

@@ -17,9 +17,13 @@ public:
         bool isDark = false;
         QSize size{};
         double fontPointSize = 10;
+        bool hasHighContrast = false;
 
         /// The scene's own look, in light colours.
-        static Look of(const Scene& scene) { return {false, {scene.width, scene.height}, scene.fontPointSize}; }
+        static Look of(const Scene& scene)
+        {
+            return {false, {scene.width, scene.height}, scene.fontPointSize, scene.hasHighContrast};
+        }
     };
 
     ShownScene(const Scene& scene, const Look& look, adapters::MainExecutor& main);

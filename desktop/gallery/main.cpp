@@ -1,15 +1,16 @@
+#include <QCommandLineParser>
 #include <QDir>
-#include <QFont>
-#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QImage>
 #include <QProcess>
 #include <QQuickWindow>
 
 #include <cstdio>
+#include <cstdlib>
 #include <utility>
 
 #include "adapters/MainExecutor.h"
+#include "gallery/DesktopFonts.h"
 #include "gallery/Scene.h"
 #include "gallery/ShownScene.h"
 #include "qml/Renderer.h"
@@ -18,31 +19,107 @@ namespace larkspan::gallery {
 
 namespace {
 
+/// What is rendered, as the command line says; without options, every scene in its own size, light and dark, at each
+/// scale.
+struct Order {
+    QString folder{};
+    QString names{};
+    QStringList looks{};
+    QStringList scales{};
+    QSize size{};
+    double fontPointSize = 0;
+};
+
+[[noreturn]] void refuse(const QString& sentence)
+{
+    std::fprintf(stderr, "larkspan-gallery: %s\n", qPrintable(sentence));
+    std::exit(2);
+}
+
+const QStringList everyLook{QStringLiteral("light"), QStringLiteral("dark"), QStringLiteral("contrast")};
+
+QSize sizeOf(const QString& text)
+{
+    const auto sides = text.split(u'x');
+    const QSize size(sides.value(0).toInt(), sides.value(1).toInt());
+    if (sides.size() != 2 || size.isEmpty()) refuse(text + QStringLiteral(" is no size such as 760x600"));
+    return size;
+}
+
+Order orderOf(const QStringList& arguments)
+{
+    QCommandLineOption scenes(
+        QStringLiteral("scenes"), QStringLiteral("only scenes whose names contain TEXT"), QStringLiteral("TEXT"));
+    QCommandLineOption look(
+        QStringLiteral("look"), QStringLiteral("light, dark or contrast; may be repeated"), QStringLiteral("LOOK"));
+    look.setDefaultValues({everyLook.at(0), everyLook.at(1)});
+    QCommandLineOption scale(
+        QStringLiteral("scale"), QStringLiteral("pixels to a point; may be repeated"), QStringLiteral("N"));
+    scale.setDefaultValues({QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")});
+    QCommandLineOption size(QStringLiteral("size"), QStringLiteral("the window's size instead of the scene's"),
+        QStringLiteral("WIDTHxHEIGHT"));
+    QCommandLineOption font(
+        QStringLiteral("font"), QStringLiteral("the font's size instead of the scene's"), QStringLiteral("POINTS"));
+    QCommandLineParser parser;
+    parser.addOptions({scenes, look, scale, size, font});
+    if (!parser.parse(arguments)) refuse(parser.errorText());
+    if (parser.positionalArguments().size() != 1) refuse(QStringLiteral("name one folder\n") + parser.helpText());
+    for (const auto& named : parser.values(look)) {
+        if (!everyLook.contains(named)) refuse(named + QStringLiteral(" is no look"));
+    }
+    return {parser.positionalArguments().constFirst(), parser.value(scenes), parser.values(look), parser.values(scale),
+        parser.isSet(size) ? sizeOf(parser.value(size)) : QSize(), parser.value(font).toDouble()};
+}
+
 class Photographer {
 public:
-    explicit Photographer(QString folder)
-        : folder_(std::move(folder))
+    explicit Photographer(Order order)
+        : order_(std::move(order))
     {
-        QDir().mkpath(folder_);
+        QDir().mkpath(order_.folder);
     }
 
-    void take(const Scene& scene, bool isDark)
+    /// Whether a scene was rendered.
+    bool takeAll()
     {
-        auto look = ShownScene::Look::of(scene);
-        look.isDark = isDark;
-        const ShownScene shown(scene, look, main_);
-        const auto scale = qGuiApp->devicePixelRatio();
-        const auto name = QStringLiteral("%1/%2-%3@%4x.png")
-                              .arg(folder_, QString::fromStdString(scene.name),
-                                  isDark ? QStringLiteral("dark") : QStringLiteral("light"))
-                              .arg(scale);
-        if (!shown.window().grabWindow().save(name)) qFatal("cannot write %s", qPrintable(name));
+        bool tookOne = false;
+        for (const auto& scene : scenes()) {
+            if (!QString::fromStdString(scene.name).contains(order_.names)) continue;
+            for (const auto& look : order_.looks) take(scene, look);
+            tookOne = true;
+        }
+        return tookOne;
     }
 
 private:
-    QString folder_;
+    void take(const Scene& scene, const QString& name)
+    {
+        auto look = ShownScene::Look::of(scene);
+        look.isDark = name == QStringLiteral("dark");
+        look.hasHighContrast = look.hasHighContrast || name == QStringLiteral("contrast");
+        if (order_.size.isValid()) look.size = order_.size;
+        if (order_.fontPointSize > 0) look.fontPointSize = order_.fontPointSize;
+        const ShownScene shown(scene, look, main_);
+        const auto file = QStringLiteral("%1/%2-%3@%4x.png")
+                              .arg(order_.folder, QString::fromStdString(scene.name), name)
+                              .arg(qGuiApp->devicePixelRatio());
+        if (!shown.window().grabWindow().save(file)) qFatal("cannot write %s", qPrintable(file));
+    }
+
+    Order order_;
     adapters::MainExecutor main_;
 };
+
+/// A process has only one scale, so each scale has a process of its own.
+int renderAtEachScale(const QStringList& scales, const QStringList& arguments)
+{
+    for (const auto& scale : scales) {
+        qputenv("QT_SCALE_FACTOR", scale.toLatin1());
+        const int code = QProcess::execute(QCoreApplication::applicationFilePath(), arguments);
+        if (code != 0) return code;
+    }
+    return 0;
+}
 
 }  // namespace
 
@@ -50,31 +127,20 @@ private:
 
 int main(int argc, char* argv[])
 {
-    // A process has only one scale, so the second scale needs a second process.
-    if (!qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) {
-        for (const char* scale : {"1", "2", "3"}) {
-            qputenv("QT_SCALE_FACTOR", scale);
-            const int code = QProcess::execute(QString::fromLocal8Bit(argv[0]), QStringList(argv + 1, argv + argc));
-            if (code != 0) return code;
-        }
-        return 0;
-    }
-
     // The pictures need no display, and are the same on every machine.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     larkspan::chooseRenderer();
+    larkspan::gallery::chooseDesktopFonts();
+    qputenv("LC_ALL", "C.UTF-8");
+    qputenv("TZ", "UTC");
+    const bool isToChooseScale = !qEnvironmentVariableIsSet("QT_SCALE_FACTOR");
     const QGuiApplication qt(argc, argv);
     const auto arguments = QCoreApplication::arguments();
-    if (arguments.size() != 2) {
-        std::fputs("usage: larkspan-gallery FOLDER\n", stderr);
-        return 2;
-    }
-    if (QFontDatabase::families().contains(QStringLiteral("Inter")))
-        QGuiApplication::setFont(QFont(QStringLiteral("Inter")));
+    auto order = larkspan::gallery::orderOf(arguments);
+    if (isToChooseScale) return larkspan::gallery::renderAtEachScale(order.scales, arguments.mid(1));
 
-    larkspan::gallery::Photographer photographer(arguments.at(1));
-    for (const auto& scene : larkspan::gallery::scenes()) {
-        for (const bool isDark : {false, true}) photographer.take(scene, isDark);
-    }
+    larkspan::gallery::useDesktopFonts();
+    if (!larkspan::gallery::Photographer(std::move(order)).takeAll())
+        larkspan::gallery::refuse(QStringLiteral("no scene has a name with that text"));
     return 0;
 }

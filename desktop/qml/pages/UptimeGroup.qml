@@ -7,18 +7,18 @@ GroupBox {
     id: group
     required property list<fact> lines
     required property string more
-    readonly property real captionWidth: widest(line => line.ownCaptionWidth)
-    readonly property bool isStacked: widest(line => line.ownWidth) > width - 4 * Theme.unit - captionWidth
+    readonly property real captionWidth: most(line => line.ownCaptionWidth)
+    readonly property bool isStacked: most(line => line.ownWidth) > Math.min(width - 4 * Theme.unit, widest) - captionWidth
 
     title: qsTr("Uptime")
 
-    function widest(widthOf: var): real {
-        let most = 0
+    function most(widthOf: var): real {
+        let found = 0
         for (let at = 0; at < repeater.count; ++at) {
             const line = repeater.itemAt(at) as UptimeLine
-            if (line) most = Math.max(most, widthOf(line))
+            if (line) found = Math.max(found, widthOf(line))
         }
-        return most
+        return found
     }
 
     DigitMetrics {

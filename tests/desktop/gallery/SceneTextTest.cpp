@@ -34,6 +34,7 @@ Findings findingsIn(const QQuickWindow& window)
     if (texts.empty()) findings.emplace_back("there is no text");
     for (auto one = texts.begin(); one != texts.end(); ++one) {
         if (!one->cut.isEmpty()) findings.push_back(words(*one) + " is cut " + one->cut.toStdString());
+        if (one->hasBox) findings.push_back(words(*one) + " has a character without a glyph");
         for (auto other = std::next(one); other != texts.end(); ++other) {
             if (overlap(*one, *other)) findings.push_back(words(*one) + " lies on " + words(*other));
         }

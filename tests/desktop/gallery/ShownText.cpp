@@ -1,7 +1,10 @@
 #include "ShownText.h"
 
+#include <QFont>
+#include <QGlyphRun>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QTextLayout>
 
 #include <algorithm>
 
@@ -57,6 +60,17 @@ bool isTransparent(const QQuickItem& item)
     return false;
 }
 
+/// A character without a glyph is drawn as glyph 0, a box.
+bool hasBox(QString text, const QFont& font)
+{
+    text.replace(u'\n', QChar::LineSeparator);
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    while (layout.createLine().isValid()) {}
+    layout.endLayout();
+    return std::ranges::any_of(layout.glyphRuns(), [](const QGlyphRun& run) { return run.glyphIndexes().contains(0); });
+}
+
 class Walk {
 public:
     explicit Walk(const QQuickWindow& window)
@@ -79,6 +93,7 @@ private:
     {
         ShownText text;
         text.text = item.property("text").toString();
+        text.hasBox = hasBox(text.text, item.property("font").value<QFont>());
         text.layer = window_.contentItem();
         text.painted = item.mapRectToScene(paintedIn(item));
         text.seen = text.painted;

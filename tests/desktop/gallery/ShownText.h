@@ -18,6 +18,8 @@ struct ShownText {
     QRectF seen{};
     /// A description of the part that no scrolling makes visible; empty if there is none.
     QString cut{};
+    /// Whether a box stands in place of one of its characters, since no font has it.
+    bool hasBox = false;
     /// Whether it is the text of a field, which may continue beyond the field's frame.
     bool scrollsItself = false;
     /// The item in which it floats over others by design, if any.

@@ -54,7 +54,10 @@ Item {
         anchors.topMargin: card.ringTop
         anchors.bottomMargin: card.ringBottom
         radius: Theme.controlRadius
-        color: tap.pressed ? Theme.pressed : pointer.hovered ? Theme.hover : "transparent"
+        color: tap.pressed ? Theme.pressed : pointer.hovered ? Theme.hover : Theme.rest
+        Behavior on color {
+            ColorAnimation { duration: Theme.quick }
+        }
         border.width: InputHand.isKeyboard && card.activeFocus ? Theme.focusWidth : 0
         border.color: Theme.focus
     }
