@@ -27,10 +27,15 @@ CardList {
         id: bodyMetrics
         font.pointSize: Theme.body
     }
-    // Later, when the new heights are known.
-    onKeepsEndChanged: Qt.callLater(list.showEnd)
-    onContentHeightChanged: if (keepsEnd) Qt.callLater(list.showEnd)
-    onHeightChanged: if (keepsEnd) Qt.callLater(list.showEnd)
+    onKeepsEndChanged: later.restart()
+    onContentHeightChanged: if (keepsEnd) later.restart()
+    onHeightChanged: if (keepsEnd) later.restart()
+    // When the new heights are known.
+    Timer {
+        id: later
+        interval: 0
+        onTriggered: list.showEnd()
+    }
     function showEnd() {
         const begin = originY - topMargin
         contentY = keepsEnd ? Math.max(begin, originY + contentHeight + bottomMargin - height) : begin
