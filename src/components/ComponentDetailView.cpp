@@ -6,6 +6,7 @@
 #include "api/OrderOutcome.h"
 #include "model/records/URL.h"
 #include "presentation/forms/ComponentGroupsOrNone.h"
+#include "presentation/text/NameText.h"
 #include "presentation/text/WebAddress.h"
 #include "support/Trimming.h"
 #include "support/UnlessEmpty.h"
@@ -64,7 +65,12 @@ bool ComponentDetailView::showsDetails() const
 std::vector<Fact> ComponentDetailView::details() const
 {
     std::vector<Fact> facts;
-    if (const auto* known = group()) facts.push_back({.label = "Group", .text = known->name, .symbol = "folder"});
+    if (const auto* known = group()) {
+        facts.push_back({.label = "Group",
+            .text = presentation::nameText(known->name),
+            .tone = presentation::Tone::primary,
+            .symbol = "folder"});
+    }
     if (component->url && model::URL::parse(*component->url)) {
         facts.push_back({.label = "URL",
             .text = *component->url,

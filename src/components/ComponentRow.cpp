@@ -7,6 +7,7 @@
 #include "components/ComponentStatus.h"
 #include "presentation/shapes/RowId.h"
 #include "presentation/text/InPart.h"
+#include "presentation/text/NameText.h"
 
 namespace larkspan::components {
 
@@ -61,7 +62,7 @@ private:
 ComponentRow ComponentRow::of(const Component& component)
 {
     return {.id = component.id,
-        .title = component.name,
+        .title = presentation::nameText(component.name),
         .symbol = std::string(componentStatusIcon(component.status)),
         .tone = componentStatusColor(component.status),
         .description = presentation::inPart(component.description.value_or(""), presentation::mostOfARowsText),
@@ -90,7 +91,7 @@ std::vector<ComponentRow> componentRows(
     Sections sections(components.size() + groups.size() + 2);
     for (const auto& group : groups) {
         // Each id has one section: if the service repeats a group, its components are still shown once.
-        sections.add("group:" + group.id, group.name, std::exchange(grouped[group.id], {}));
+        sections.add("group:" + group.id, presentation::nameText(group.name), std::exchange(grouped[group.id], {}));
     }
     sections.addUnlessEmpty("ungrouped", "Ungrouped", ungrouped);
     sections.addUnlessEmpty("other", "Other Components", others);

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <utility>
 
+#include "presentation/text/NameText.h"
 #include "presentation/time/CompactRelativeTimeFormatter.h"
 
 namespace larkspan::core {
@@ -46,7 +47,7 @@ MenuRow::Dot statusDotColor(StatusPageStatus status)
 MenuRow pageRow(const StatusPage& page)
 {
     return {.kind = MenuRow::Kind::command,
-        .title = page.name,
+        .title = presentation::nameText(page.name),
         .action = MenuRow::Action::openStatusPage,
         .representedObject = page.id,
         .dot = statusDotColor(page.status),
@@ -84,7 +85,7 @@ void addActiveIncidents(std::vector<MenuRow>& rows, const std::vector<Incident>&
         if (!isActive(incident)) continue;
         if (count == 0) rows.push_back(information("Active Incidents"));
         if (++count > shownIncidents) break;
-        rows.push_back(information(incident.title));
+        rows.push_back(information(presentation::nameText(incident.title)));
     }
     if (count > 0) rows.emplace_back();
 }

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "api/OrderOutcome.h"
+#include "presentation/text/NameText.h"
 #include "support/Trimming.h"
 
 namespace larkspan::incidents {
@@ -37,6 +38,12 @@ IncidentDetailView::IncidentDetailView(Ports ports, Incident shown, Owner owner)
 {
 }
 
+std::string IncidentDetailView::assignedTo() const
+{
+    const auto& person = incident->assignedTo;
+    return person && !person->empty() ? presentation::nameText(*person) : "";
+}
+
 std::vector<Command<IncidentDetailView>> IncidentDetailView::commands() const
 {
     if (*isEditing) return {};
@@ -61,6 +68,7 @@ std::vector<Command<IncidentDetailView>> IncidentDetailView::commands() const
              .label = "Add Update",
              .symbol = "plus.bubble",
              .isProminent = true,
+             .isApart = true,
              .isEnabled = isIdle()},
             [](auto& view) { view.beginEditing(); }},
     };

@@ -61,7 +61,7 @@ public:
     std::vector<presentation::TimelineRow> timeline() const { return incidentTimeline(*incident, ports_.locale); }
     std::string duration() const { return incidentDuration(*incident, ports_.clock.now()); }
     /// The assigned person; empty for nobody.
-    std::string assignedTo() const { return incident->assignedTo.value_or(""); }
+    std::string assignedTo() const;
     /// The message in markdown.
     std::string description() const { return incident->message.value_or(""); }
     bool showsDescription() const { return !*isEditing && !description().empty(); }

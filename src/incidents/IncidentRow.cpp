@@ -2,13 +2,14 @@
 
 #include "incidents/IncidentColors.h"
 #include "incidents/IncidentPills.h"
+#include "presentation/text/NameText.h"
 
 namespace larkspan::incidents {
 
 IncidentRow IncidentRow::of(const model::Incident& incident, const platform::LocaleText& locale)
 {
     return {.id = incident.id,
-        .title = incident.title,
+        .title = presentation::nameText(incident.title),
         .tone = incidentStatusColor(incident.status),
         .severity = severityPill(incident),
         .date = locale.dateOnly(incident.createdAt),

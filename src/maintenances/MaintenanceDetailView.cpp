@@ -89,9 +89,13 @@ std::vector<Command<MaintenanceDetailView>> MaintenanceDetailView::commands() co
                              .isEnabled = isIdle()},
             [](auto& view) { view.completeMaintenance(); }});
     }
-    shown.push_back(
-        {{.id = "delete", .label = "Delete Maintenance", .symbol = "trash", .tone = Tone::red, .isEnabled = isIdle()},
-            [](auto& view) { view.confirmDelete(); }});
+    shown.push_back({{.id = "delete",
+                         .label = "Delete Maintenance",
+                         .symbol = "trash",
+                         .tone = Tone::red,
+                         .isApart = true,
+                         .isEnabled = isIdle()},
+        [](auto& view) { view.confirmDelete(); }});
     return shown;
 }
 

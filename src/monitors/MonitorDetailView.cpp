@@ -41,10 +41,13 @@ std::vector<Fact> MonitorDetailView::details() const
             .hasSmallLabel = true});
     }
     if (monitor.intervalSeconds) {
-        facts.push_back({.label = "Interval", .text = std::to_string(*monitor.intervalSeconds) + "s"});
+        facts.push_back(
+            {.label = "Interval", .text = std::to_string(*monitor.intervalSeconds) + "s", .tone = Tone::primary});
     }
     if (monitor.configUpdatedAt) {
-        facts.push_back({.label = "Config Updated", .text = ports_.locale.dateOnly(*monitor.configUpdatedAt)});
+        facts.push_back({.label = "Config Updated",
+            .text = ports_.locale.dateOnly(*monitor.configUpdatedAt),
+            .tone = Tone::primary});
     }
     return facts;
 }

@@ -2,6 +2,7 @@
 
 #include "monitors/MonitorColors.h"
 #include "monitors/MonitorPills.h"
+#include "presentation/text/NameText.h"
 
 namespace larkspan::monitors {
 
@@ -28,7 +29,7 @@ MonitorRow MonitorRow::of(const Monitor& monitor, const MonitorRowView* view, bo
 {
     const bool isOpen = view && *view->showingMetrics;
     MonitorRow row{.id = monitor.id,
-        .title = monitor.name,
+        .title = presentation::nameText(monitor.name),
         .statusIcon = std::string(monitorStatusIcon(monitor.status)),
         .status = statusWord(monitor),
         .tone = monitorStatusColor(monitor.status),

@@ -4,7 +4,9 @@
 
 #include "monitors/MonitorColors.h"
 #include "presentation/text/InPart.h"
+#include "presentation/text/NameText.h"
 #include "presentation/text/NumberText.h"
+#include "support/Capitalized.h"
 
 namespace larkspan::monitors {
 
@@ -13,9 +15,10 @@ std::vector<RegionRow> regionRows(const model::MonitorMetricsWindow& metrics)
     std::vector<RegionRow> rows;
     if (!metrics.regionStates) return rows;
     for (const auto& region : std::views::take(*metrics.regionStates, presentation::mostLines)) {
-        rows.push_back({.name = region.regionName.value_or(region.regionId),
+        rows.push_back({.name = presentation::nameText(region.regionName.value_or(region.regionId)),
             .average = presentation::fixedText(region.avgMs, 0) + "ms",
-            .tone = regionStatusColor(region.status)});
+            .tone = regionStatusColor(region.status),
+            .state = region.status.empty() ? "Unknown" : support::capitalized(region.status)});
     }
     return rows;
 }

@@ -15,6 +15,8 @@ struct RegionRow {
     std::string average{};
     /// The colour of the dot.
     presentation::Tone tone = presentation::Tone::gray;
+    /// What the dot means, in a word.
+    std::string state{};
 
     bool operator==(const RegionRow&) const = default;
 };

@@ -1,5 +1,7 @@
 #include "workspace/ActivityRow.h"
 
+#include "presentation/text/NameText.h"
+
 namespace larkspan::workspace {
 
 using presentation::Tone;
@@ -10,7 +12,7 @@ ActivityRow ActivityRow::of(const model::Incident& incident)
     return {.id = "incident-" + incident.id,
         .symbol = isUpdate ? "eye.fill" : "exclamationmark.triangle.fill",
         .tone = isUpdate ? Tone::orange : Tone::red,
-        .title = incident.title,
+        .title = presentation::nameText(incident.title),
         .caption = isUpdate ? "Incident Update" : "Active Incident"};
 }
 
@@ -19,7 +21,7 @@ ActivityRow ActivityRow::of(const model::Maintenance& maintenance)
     return {.id = "maintenance-" + maintenance.id,
         .symbol = "wrench.and.screwdriver.fill",
         .tone = Tone::blue,
-        .title = maintenance.title,
+        .title = presentation::nameText(maintenance.title),
         .caption = "Maintenance in Progress"};
 }
 

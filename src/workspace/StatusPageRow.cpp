@@ -1,5 +1,6 @@
 #include "workspace/StatusPageRow.h"
 
+#include "presentation/text/NameText.h"
 #include "presentation/text/StatusPagePresentation.h"
 
 namespace larkspan::workspace {
@@ -8,7 +9,7 @@ StatusPageRow StatusPageRow::of(const model::StatusPage& page)
 {
     const auto shown = presentation::StatusPagePresentation::of(page.status);
     return {.id = page.id,
-        .title = page.name,
+        .title = presentation::nameText(page.name),
         .symbol = std::string(shown.symbol),
         .tone = shown.tone,
         .status = {.text = std::string(shown.label), .tone = shown.tone}};

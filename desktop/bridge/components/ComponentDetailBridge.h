@@ -42,7 +42,7 @@ public:
         std::shared_ptr<components::ComponentDetailView> view, const ScreenUpdates& updates, QObject* parent = nullptr);
 
     QString title() const { return words(components::ComponentDetailView::title); }
-    QString name() const { return words(view_->component->name); }
+    QString name() const { return nameWords(view_->component->name); }
     PillValue status() const { return PillValue::of(view_->status()); }
     bool showsDetails() const { return view_->showsDetails(); }
     QString description() const { return words(view_->description()); }

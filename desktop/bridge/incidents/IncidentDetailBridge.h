@@ -34,8 +34,8 @@ public:
     IncidentDetailBridge(
         std::shared_ptr<incidents::IncidentDetailView> view, const ScreenUpdates& updates, QObject* parent = nullptr);
 
-    QString title() const { return words(view_->title()); }
-    QString incidentTitle() const { return words(view_->incident->title); }
+    QString title() const { return nameWords(view_->title()); }
+    QString incidentTitle() const { return nameWords(view_->incident->title); }
     QString duration() const { return words(view_->duration()); }
     QString assignedTo() const { return words(view_->assignedTo()); }
     bool showsDescription() const { return view_->showsDescription(); }

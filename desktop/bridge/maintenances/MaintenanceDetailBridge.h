@@ -39,8 +39,8 @@ public:
     MaintenanceDetailBridge(std::shared_ptr<maintenances::MaintenanceDetailView> view, const ScreenUpdates& updates,
         QObject* parent = nullptr);
 
-    QString title() const { return words(view_->title()); }
-    QString maintenanceTitle() const { return words(view_->currentMaintenance->title); }
+    QString title() const { return nameWords(view_->title()); }
+    QString maintenanceTitle() const { return nameWords(view_->currentMaintenance->title); }
     bool showsDescription() const { return view_->showsDescription(); }
     MessageBridge* message() { return &message_; }
     QString editedTitle() const { return wholeText(*view_->editedTitle); }

@@ -36,7 +36,7 @@ public:
         std::shared_ptr<monitors::MonitorDetailView> view, const ScreenUpdates& updates, QObject* parent = nullptr);
 
     QString title() const { return words(monitors::MonitorDetailView::title); }
-    QString name() const { return words(view_->currentMonitor->name); }
+    QString name() const { return nameWords(view_->currentMonitor->name); }
     bool isBusy() const { return view_->isBusy(); }
     AlertValue alert() const { return AlertValue::of(view_->action->alert); }
 

@@ -20,6 +20,7 @@ struct ActionButtonValue {
     Q_PROPERTY(int tone MEMBER tone)
     Q_PROPERTY(bool isProminent MEMBER isProminent)
     Q_PROPERTY(bool isPaired MEMBER isPaired)
+    Q_PROPERTY(bool isApart MEMBER isApart)
     Q_PROPERTY(bool isEnabled MEMBER isEnabled)
 
 public:
@@ -29,12 +30,13 @@ public:
     int tone = Tone::Primary;
     bool isProminent = false;
     bool isPaired = false;
+    bool isApart = false;
     bool isEnabled = false;
 
     static ActionButtonValue of(const presentation::ActionButton& button)
     {
         return {wholeText(button.id), words(button.label), words(button.symbol), toneOf(button.tone),
-            button.isProminent, button.isPaired, button.isEnabled};
+            button.isProminent, button.isPaired, button.isApart, button.isEnabled};
     }
 
     bool operator==(const ActionButtonValue&) const = default;

@@ -1,6 +1,7 @@
 #include "bridge/values/Words.h"
 
 #include "presentation/text/InPart.h"
+#include "presentation/text/NameText.h"
 
 namespace larkspan::bridge {
 
@@ -8,6 +9,11 @@ QString words(std::string_view text)
 {
     constexpr auto most = presentation::mostOfAText;
     return text.size() <= most ? wholeText(text) : wholeText(presentation::inPart(text, most));
+}
+
+QString nameWords(std::string_view name)
+{
+    return wholeText(presentation::nameText(name));
 }
 
 QString wholeText(std::string_view text)

@@ -57,7 +57,7 @@ public:
     StatusPageDetailBridge(
         std::shared_ptr<workspace::StatusPageDetailView> view, const ScreenUpdates& updates, QObject* parent = nullptr);
 
-    QString title() const { return words(view_->page->name); }
+    QString title() const { return nameWords(view_->page->name); }
     QString pickerLabel() const { return words(workspace::StatusPageDetailView::pickerLabel); }
     QList<QString> tabs() const;
     int selectedTab() const { return static_cast<int>(view_->selectedTab()); }

@@ -10,29 +10,10 @@ Column {
 
     spacing: Theme.margin
 
-    Item {
+    ComponentHeader {
         width: parent.width
-        implicitHeight: Math.max(name.implicitHeight, status.y + status.height)
-
-        Label {
-            id: name
-            anchors.left: parent.left
-            anchors.right: status.left
-            anchors.rightMargin: 2 * Theme.unit
-            text: facts.detail.name
-            font.pointSize: Theme.title
-            font.weight: Font.DemiBold
-            wrapMode: Text.Wrap
-            Accessible.role: Accessible.Heading
-        }
-        Pill {
-            id: status
-            anchors.right: parent.right
-            anchors.baseline: name.baseline
-            width: Math.min(implicitWidth, parent.width * 0.4)
-            pill: facts.detail.status
-            pointSize: Theme.subheadline
-        }
+        name: facts.detail.name
+        status: facts.detail.status
     }
     GroupBox {
         visible: facts.detail.showsDetails

@@ -18,13 +18,32 @@ EditableDetailFrame {
         onClicked: view.incident.confirmDelete()
     }
 
-    MessageList {
+    ActionDock {
+        id: dock
         anchors.fill: parent
-        message: view.incident.message
-        above: IncidentFacts {
-            incident: view.incident
+        scroller: list
+        card: actions
+        widest: list.widest
+
+        MessageList {
+            id: list
+            message: view.incident.message
+            keepsEnd: view.incident.isEditing
+            above: IncidentFacts {
+                incident: view.incident
+                visibleHeight: list.height
+            }
+            below: ActionDockEnd {
+                owner: dock
+                onReached: list.showFocusAtEnd()
+                sourceComponent: IncidentActions {
+                    incident: view.incident
+                    showsFirst: false
+                }
+            }
         }
-        below: IncidentActions {
+        IncidentActions {
+            id: actions
             incident: view.incident
         }
     }

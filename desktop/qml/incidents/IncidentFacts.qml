@@ -6,6 +6,8 @@ import Larkspan.Bridge.Incidents
 Column {
     id: facts
     required property IncidentDetailBridge incident
+    // The height of the part of the screen that shows it.
+    required property real visibleHeight
 
     spacing: Theme.margin
     bottomPadding: Theme.unit
@@ -34,6 +36,7 @@ Column {
             width: parent.width
             text: facts.incident.assignedTo
             wrapMode: Text.Wrap
+            horizontalAlignment: Text.AlignLeft
         }
     }
     GroupBox {
@@ -48,6 +51,8 @@ Column {
             active: facts.incident.isEditing
             sourceComponent: TextBox {
                 name: qsTr("Update")
+                // A long text scrolls before the box is taller than what can be seen of it.
+                height: Math.max(Theme.textBoxHeight, Math.min(implicitHeight, facts.visibleHeight - 2 * Theme.margin - 2 * Theme.unit))
                 Component.onCompleted: {
                     show(facts.incident.editMessage)
                     forceActiveFocus(Qt.OtherFocusReason)

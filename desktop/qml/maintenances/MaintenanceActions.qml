@@ -2,27 +2,10 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge.Maintenances
 
-Column {
+ActionCard {
     id: actions
     required property MaintenanceDetailBridge maintenance
 
-    topPadding: Theme.margin
-
-    GroupBox {
-        width: parent.width
-
-        Flow {
-            width: parent.width
-            spacing: Theme.unit
-
-            Repeater {
-                model: actions.maintenance.buttons.length
-                ActionCommand {
-                    required property int index
-                    button: actions.maintenance.buttons[index]
-                    onClicked: actions.maintenance.press(button.id)
-                }
-            }
-        }
-    }
+    buttons: maintenance.buttons
+    onPressed: button => maintenance.press(button)
 }

@@ -25,15 +25,31 @@ EditableDetailFrame {
         }
     ]
 
-    MessageList {
-        id: list
+    ActionDock {
+        id: dock
         anchors.fill: parent
         visible: !view.maintenance.isEditing
-        message: view.maintenance.message
-        above: MaintenanceFacts {
-            maintenance: view.maintenance
+        scroller: list
+        card: actions
+        widest: list.widest
+
+        MessageList {
+            id: list
+            message: view.maintenance.message
+            above: MaintenanceFacts {
+                maintenance: view.maintenance
+            }
+            below: ActionDockEnd {
+                owner: dock
+                onReached: list.showFocusAtEnd()
+                sourceComponent: MaintenanceActions {
+                    maintenance: view.maintenance
+                    showsFirst: false
+                }
+            }
         }
-        below: MaintenanceActions {
+        MaintenanceActions {
+            id: actions
             maintenance: view.maintenance
         }
     }

@@ -6,29 +6,47 @@ import Larkspan.Bridge.Messages
 CardList {
     id: list
     required property MessageBridge message
-
-    readonly property real digitWidth: {
-        let widest = 0
-        for (const digit of "0123456789") widest = Math.max(widest, bodyMetrics.advanceWidth(digit))
-        return widest
-    }
+    // Whether it is scrolled to its end whenever it grows.
+    property bool keepsEnd: false
 
     name: qsTr("Description")
     rows: message.rows
     walksRows: message.takesKeys
+    // With a buffer, rows are made later, and Qt complains if the message goes meanwhile.
+    cacheBuffer: 0
     widest: Theme.columnWidth * Theme.scale
     delegate: MessageRow {
         offsets: tableOffsets
         columnWidths: row.isTable ? list.message.columnWidths(
             index, headerMetrics.font, cellMetrics.font, Theme.columnMostWidth * Theme.scale) : []
-        digitWidth: list.digitWidth
+        digitWidth: bodyMetrics.digitWidth
         onFollowed: (cell, href) => list.message.follow(index, cell, href)
     }
 
-    FontMetrics {
+    DigitMetrics {
         id: bodyMetrics
         font.pointSize: Theme.body
     }
+    onKeepsEndChanged: later.restart()
+    onContentHeightChanged: if (keepsEnd) later.restart()
+    onHeightChanged: if (keepsEnd) later.restart()
+    // When the new heights are known.
+    Timer {
+        id: later
+        interval: 0
+        onTriggered: list.showEnd()
+    }
+    function showEnd() {
+        const begin = originY - topMargin
+        contentY = keepsEnd ? Math.max(begin, originY + contentHeight + bottomMargin - height) : begin
+    }
+
+    // Above the end there may be rows whose heights are only estimated until they are made.
+    function showFocusAtEnd() {
+        positionViewAtEnd()
+        follow()
+    }
+
     FontMetrics {
         id: headerMetrics
         font.pointSize: Theme.caption

@@ -44,12 +44,14 @@ CardRow {
             height: parent.height
             color: Theme.secondary
         }
-        ItemMark {
+        FigureText {
             id: mark
             visible: delegate.row.isItem
             isSeen: !delegate.row.continuesPrevious
             text: delegate.row.label
             digitWidth: delegate.digitWidth
+            color: Theme.secondary
+            font.pointSize: Theme.body
         }
         MessageText {
             id: text

@@ -18,67 +18,72 @@ ScreenFrame {
         onClicked: view.wentBack()
     }
 
-    ScrollingColumn {
+    ActionDock {
+        id: dock
         anchors.fill: parent
-        widest: Theme.columnWidth * Theme.scale
-        spacing: Theme.margin
-        name: view.title
-        focus: true
-        takesFocus: true
+        scroller: column
+        card: actions
+        widest: column.widest
 
-        RecordHeader {
-            width: parent.width
-            spacing: Theme.unit
-            title: view.monitor.name
-            titleHeight: Theme.smallDetailTitleHeight
-            pills: view.monitor.pills
-        }
-        GroupBox {
-            width: parent.width
-            title: qsTr("Details")
-            symbol: "info.circle"
-            hasCard: view.monitor.details.length > 0
+        ScrollingColumn {
+            id: column
+            widest: Theme.columnWidth * Theme.scale
+            spacing: Theme.margin
+            name: view.title
+            focus: true
+            takesFocus: true
 
-            Repeater {
-                model: view.monitor.details
-                FactLine {
-                    required property fact modelData
+            RecordHeader {
+                width: parent.width
+                title: view.monitor.name
+                titleHeight: Theme.smallDetailTitleHeight
+                pills: view.monitor.pills
+            }
+            GroupBox {
+                width: parent.width
+                title: qsTr("Details")
+                symbol: "info.circle"
+                hasCard: view.monitor.details.length > 0
+
+                Repeater {
+                    model: view.monitor.details
+                    FactLine {
+                        required property fact modelData
+                        width: parent.width
+                        fact: modelData
+                        onFollowed: view.monitor.openURL()
+                    }
+                }
+            }
+            GroupBox {
+                visible: view.monitor.lastCheck.text !== ""
+                width: parent.width
+                title: qsTr("Last Check")
+                symbol: "clock"
+
+                Flow {
                     width: parent.width
-                    fact: modelData
-                    onFollowed: view.monitor.openURL()
+                    spacing: Theme.unit
+
+                    Label {
+                        text: view.monitor.lastCheck.text
+                    }
+                    Label {
+                        text: view.monitor.lastCheck.caption
+                        color: Theme.secondary
+                    }
                 }
+            }
+            MonitorDetailActions {
+                visible: dock.isDivided
+                width: parent.width
+                monitor: view.monitor
+                showsFirst: false
             }
         }
-        GroupBox {
-            visible: view.monitor.lastCheck.text !== ""
-            width: parent.width
-            title: qsTr("Last Check")
-            symbol: "clock"
-
-            Row {
-                spacing: Theme.unit
-
-                Label {
-                    text: view.monitor.lastCheck.text
-                }
-                Label {
-                    text: view.monitor.lastCheck.caption
-                    color: Theme.secondary
-                }
-            }
-        }
-        Flow {
-            width: parent.width
-            spacing: Theme.unit
-
-            Repeater {
-                model: view.monitor.buttons.length
-                ActionCommand {
-                    required property int index
-                    button: view.monitor.buttons[index]
-                    onClicked: view.monitor.press(button.id)
-                }
-            }
+        MonitorDetailActions {
+            id: actions
+            monitor: view.monitor
         }
     }
 }

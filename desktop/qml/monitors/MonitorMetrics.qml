@@ -29,6 +29,8 @@ Column {
         pointSize: Theme.caption
     }
     CommandButton {
+        // Below the sentence, where that begins.
+        x: Theme.iconSize + Theme.unit
         visible: expanded.metrics.offersRetry
         activeFocusOnTab: expanded.isCurrent || activeFocus
         isSmall: true

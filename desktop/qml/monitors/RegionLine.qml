@@ -3,36 +3,26 @@ import Larkspan
 import Larkspan.Bridge.Monitors
 
 // A monitor's state as seen from one region.
-Item {
+PairedLine {
     id: line
     required property regionRow row
 
-    implicitHeight: name.implicitHeight
-
-    Rectangle {
-        id: dot
-        anchors.verticalCenter: parent.verticalCenter
-        width: Theme.dotSize
-        height: width
-        radius: width / 2
-        color: Theme.toneColor(line.row.tone)
-    }
-    Label {
-        id: name
-        anchors.left: dot.right
-        anchors.leftMargin: Theme.unit
-        anchors.right: average.left
-        anchors.rightMargin: Theme.unit
+    indent: dot.width + Theme.unit
+    label: Label {
         text: line.row.name
         font.pointSize: Theme.caption
         maximumLineCount: 1
     }
-    Label {
-        id: average
-        anchors.right: parent.right
-        width: Math.min(implicitWidth, line.width / 2)
+    value: Label {
         text: line.row.average
         font.pointSize: Theme.caption
         color: Theme.secondary
+    }
+
+    StatusDot {
+        id: dot
+        y: Math.round(line.middle - height / 2)
+        tone: line.row.tone
+        word: line.row.state
     }
 }

@@ -68,25 +68,12 @@ CardList {
                 wrapMode: Text.Wrap
             }
         }
-        GroupBox {
+        UptimeGroup {
             visible: overview.page.uptime.length > 0
             width: parent.width
-            title: qsTr("Uptime")
-
-            Repeater {
-                model: overview.page.uptime
-                FactLine {
-                    required property fact modelData
-                    width: parent.width
-                    fact: modelData
-                }
-            }
-            Label {
-                visible: text !== ""
-                width: parent.width
-                text: overview.page.moreUptime
-                color: Theme.secondary
-            }
+            widest: overview.textWidth
+            lines: overview.page.uptime
+            more: overview.page.moreUptime
         }
     }
 }

@@ -16,6 +16,8 @@ struct ActionButton {
     bool isProminent = false;
     /// Whether it is placed beside the other paired button where buttons stand one below the other.
     bool isPaired = false;
+    /// Whether it is placed at the other end of a row, away from the others.
+    bool isApart = false;
     bool isEnabled = true;
 
     bool operator==(const ActionButton&) const = default;

@@ -141,6 +141,13 @@ TEST_F(MonitorsOnScreen, ARowThatOpensIsHighlightedInItsWholeHeightAtOnce)
     EXPECT_EQ(highlight->height(), current->height());
 }
 
+TEST_F(MonitorsOnScreen, TheDotOfARegionSaysItsStateInAWord)
+{
+    transport.script(metricsURL, 200, day);
+    choose("Show latency graph");
+    EXPECT_TRUE(names(Role::Graphic).contains(QStringLiteral("Up")));
+}
+
 TEST_F(MonitorsOnScreen, OfTwentyThousandRegionsThePanelShowsTheFirstAndSaysHowManyMoreThereAre)
 {
     std::string regions;

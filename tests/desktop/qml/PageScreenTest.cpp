@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "Measures.h"
 #include "Screen.h"
 #include "workspace/StatusPageDetailView.h"
 
@@ -57,6 +58,20 @@ TEST_F(PageOnScreen, ShowsEveryBlockOfItsOverviewInItsExactWords)
     }
     EXPECT_EQ(names(Role::Link), QStringList{"status.acme.example"});
     EXPECT_EQ(selectedTab(), QStringLiteral("Overview"));
+}
+
+TEST_F(PageOnScreen, ItsPercentagesOfUptimeStandInOneColumn)
+{
+    transport.script(pagesURL, 200, R"([{"id": "a", "name": "Acme Cloud", "metrics": [
+        {"period": "24h", "uptime": 99.11, "incidents": 1}, {"period": "7d", "uptime": 98.88, "incidents": 1234},
+        {"period": "30d", "uptime": 100}]}])");
+    refresh();
+    settle();
+    const auto frame = [this](const char* text) { return frameOf(item(Role::StaticText, QString::fromUtf8(text))); };
+    EXPECT_EQ(frame("99.11%").right(), frame("98.88%").right());
+    EXPECT_EQ(frame("99.11%").width(), frame("98.88%").width());
+    EXPECT_EQ(frame("100.00%").right(), frame("98.88%").right());
+    EXPECT_EQ(frame("1 incident").left(), frame("1234 incidents").left());
 }
 
 TEST_F(PageOnScreen, ItsLastUpdateIsADistanceThatGoesOnAndIsToldInFull)

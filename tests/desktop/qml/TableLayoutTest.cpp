@@ -162,7 +162,8 @@ protected:
     double roomBelow(const char* message, const char* last)
     {
         open(message);
-        const auto room = frameOf(*partOf(rows(), "isCompact", false)).top() - frameOf(words(last)).bottom();
+        const auto room = frameOf(*partOf(*mainWindow.window().contentItem(), "isCompact", false)).top()
+            - frameOf(words(last)).bottom();
         press(Qt::Key_Escape);
         return room;
     }

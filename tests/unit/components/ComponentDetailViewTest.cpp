@@ -25,7 +25,7 @@ TEST_F(DetailOfAComponent, ShowsItsNameItsStatusItsDetailsAndItsDescription)
     EXPECT_EQ(view->status(), (Pill{"Operational", Tone::green}));
     EXPECT_TRUE(view->showsDetails());
     EXPECT_EQ(view->details(),
-        (Facts{{.label = "Group", .text = "Group b", .symbol = "folder"},
+        (Facts{{.label = "Group", .text = "Group b", .tone = Tone::primary, .symbol = "folder"},
             {.label = "URL",
                 .text = "https://status.example/parts/7",
                 .destination = "https://status.example/parts/7"}}));
@@ -55,7 +55,8 @@ TEST_F(DetailOfAComponent, WithAURLThatDoesNotParseHasDetailsWithNoRowsUnlessIts
     EXPECT_TRUE(view->showsDetails());
     EXPECT_EQ(view->details(), Facts{});
     opened(withURL("not a url") + inGroup("a"));
-    EXPECT_EQ(view->details(), (Facts{{.label = "Group", .text = "Group a", .symbol = "folder"}}));
+    EXPECT_EQ(
+        view->details(), (Facts{{.label = "Group", .text = "Group a", .tone = Tone::primary, .symbol = "folder"}}));
 }
 
 TEST_F(DetailOfAComponent, HasItsGroupOnceTheGroupsHaveCome)

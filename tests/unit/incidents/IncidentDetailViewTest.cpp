@@ -74,7 +74,11 @@ TEST_F(DetailOfAnIncident, HasItsButtonsInOneRow)
         (std::vector<ActionButton>{{.id = "acknowledge", .label = "Acknowledge", .symbol = "eye", .isPaired = true},
             {.id = "resolve", .label = "Resolve", .symbol = "checkmark.seal", .tone = Tone::green, .isPaired = true},
             {.id = "escalate", .label = "Escalate", .symbol = "arrow.up.doc"},
-            {.id = "addUpdate", .label = "Add Update", .symbol = "plus.bubble", .isProminent = true}}));
+            {.id = "addUpdate",
+                .label = "Add Update",
+                .symbol = "plus.bubble",
+                .isProminent = true,
+                .isApart = true}}));
 }
 
 struct EnabledRow {

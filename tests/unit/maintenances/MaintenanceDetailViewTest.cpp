@@ -87,7 +87,8 @@ TEST_F(DetailOfAMaintenance, ShowsAMessageThatIsNotEmptyButNotWhileEditing)
     EXPECT_TRUE(view->showsDescription());
 }
 
-const ActionButton deletion{.id = "delete", .label = "Delete Maintenance", .symbol = "trash", .tone = Tone::red};
+const ActionButton deletion{
+    .id = "delete", .label = "Delete Maintenance", .symbol = "trash", .tone = Tone::red, .isApart = true};
 
 TEST_F(DetailOfAMaintenance, OfAScheduledOneOffersToStartIt)
 {

@@ -66,7 +66,8 @@ TEST_F(DetailOfAMonitor, ShowsWhatTheRecordSays)
                                .text = "https://api.acme.example/health?deep=1",
                                .destination = "https://api.acme.example/health?deep=1",
                                .hasSmallLabel = true},
-            {.label = "Interval", .text = "60s"}, {.label = "Config Updated", .text = "2026-11-20"}}));
+            {.label = "Interval", .text = "60s", .tone = Tone::primary},
+            {.label = "Config Updated", .text = "2026-11-20", .tone = Tone::primary}}));
     EXPECT_EQ(view->pills(),
         (std::vector<Pill>{{"Operational", Tone::green, "checkmark.circle.fill"}, {"TCP", Tone::secondary}}));
 }
@@ -92,7 +93,8 @@ TEST_F(DetailOfAMonitor, AnIntervalOf300StaysInSecondsWithNoConversionToMinutes)
 {
     auto monitor = gateway();
     monitor.intervalSeconds = 300;
-    EXPECT_EQ(opened(monitor)->details(), (std::vector<Fact>{{.label = "Interval", .text = "300s"}}));
+    EXPECT_EQ(
+        opened(monitor)->details(), (std::vector<Fact>{{.label = "Interval", .text = "300s", .tone = Tone::primary}}));
 }
 
 TEST_F(DetailOfAMonitor, AURLThatDoesNotParseLeavesTheRowOut)

@@ -91,7 +91,7 @@ TEST_F(RowOfAMonitor, ShowsThePanelOnceItsMetricsAreThere)
     EXPECT_FALSE(shown().isLoading);
     EXPECT_EQ(row->instead(), Marker{});
     EXPECT_EQ(row->panel()->figures, (std::vector<MetricRow>{{"Avg Response", "312 ms", Tone::orange}}));
-    EXPECT_EQ(row->panel()->regions, (std::vector<RegionRow>{{"eu", "4ms", Tone::green}}));
+    EXPECT_EQ(row->panel()->regions, (std::vector<RegionRow>{{"eu", "4ms", Tone::green, "Up"}}));
     EXPECT_TRUE(shown().badges.empty());
 }
 

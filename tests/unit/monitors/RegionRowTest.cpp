@@ -17,13 +17,20 @@ TEST(RegionRows, StandInTheOrderOfTheWindow)
         {.regionId = "eu", .regionName = "Frankfurt", .status = "up", .avgMs = 42.4},
         {.regionId = "ap", .regionName = "Tokyo", .status = "degraded", .avgMs = 0}};
     EXPECT_EQ(regionRows({.regionStates = states}),
-        (Rows{{"Virginia", "1000ms", Tone::red}, {"Frankfurt", "42ms", Tone::green}, {"Tokyo", "0ms", Tone::orange}}));
+        (Rows{{"Virginia", "1000ms", Tone::red, "Down"}, {"Frankfurt", "42ms", Tone::green, "Up"},
+            {"Tokyo", "0ms", Tone::orange, "Degraded"}}));
 }
 
 TEST(RegionRows, ARegionWithoutANameShowsItsId)
 {
     const std::vector<RegionState> states{{.regionId = "eu-central-1", .status = "odd", .avgMs = 1}};
-    EXPECT_EQ(regionRows({.regionStates = states}), (Rows{{"eu-central-1", "1ms", Tone::gray}}));
+    EXPECT_EQ(regionRows({.regionStates = states}), (Rows{{"eu-central-1", "1ms", Tone::gray, "Odd"}}));
+}
+
+TEST(RegionRows, ARegionWithoutAStateIsUnknown)
+{
+    const std::vector<RegionState> states{{.regionId = "eu", .avgMs = 1}};
+    EXPECT_EQ(regionRows({.regionStates = states}), (Rows{{"eu", "1ms", Tone::gray, "Unknown"}}));
 }
 
 TEST(RegionRows, AreNoneWhereTheWindowHasNone)

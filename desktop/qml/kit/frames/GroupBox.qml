@@ -19,7 +19,6 @@ Column {
 
     Row {
         visible: group.title !== ""
-        x: Theme.halfUnit
         spacing: Theme.unit
 
         Symbol {

@@ -10,15 +10,24 @@ Column {
     property int titleHeight: Theme.detailTitleHeight
     property real pointSize: Theme.title
 
-    spacing: Theme.halfUnit
+    spacing: Theme.unit
 
     MarqueeText {
+        id: words
         width: parent.width
         layoutHeight: header.titleHeight
         text: header.title
         font.pointSize: header.pointSize
         font.weight: Font.Bold
         Accessible.role: Accessible.Heading
+
+        HoverHandler {
+            id: pointer
+        }
+        ToolTipLoader {
+            text: header.title
+            isShown: pointer.hovered && words.truncated
+        }
     }
     Flow {
         width: parent.width

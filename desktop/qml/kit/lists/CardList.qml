@@ -124,6 +124,10 @@ ListView {
         margin: Theme.unit
         followsPointer: false
     }
+    // Makes the item with the focus visible.
+    function follow() {
+        scrolling.follow()
+    }
     // Returns whether there was an item to pass the focus to.
     function handOn(): bool {
         const next = hasRowToMeet ? currentItem : isStop ? reader : null

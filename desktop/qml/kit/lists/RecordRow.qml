@@ -13,11 +13,12 @@ CardRow {
         id: content
         wordsSpacing: Theme.halfUnit / 2
         wordsWidth: title.implicitWidth
-        mark: Rectangle {
+        mark: StatusDot {
             width: Theme.recordDotSize
-            height: width
-            radius: width / 2
-            color: Theme.toneColor(delegate.tone)
+            tone: delegate.tone
+            word: delegate.description
+            // The row itself says it.
+            Accessible.ignored: true
         }
 
         MarqueeText {

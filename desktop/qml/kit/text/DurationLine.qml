@@ -3,29 +3,26 @@ import Larkspan
 import Larkspan.Bridge
 
 // The duration of a record.
-Item {
+PairedLine {
     id: line
     required property string duration
 
-    implicitHeight: label.implicitHeight
-
-    Symbol {
-        anchors.verticalCenter: parent.verticalCenter
-        width: Theme.smallIconSize
-        height: width
-        name: "timer"
-        color: Theme.secondary
-    }
-    Label {
-        id: label
-        x: Theme.iconSize + Theme.unit
+    indent: Theme.iconSize + Theme.unit
+    label: Label {
         text: qsTr("Duration")
         font.pointSize: Theme.subheadline
         color: Theme.secondary
     }
-    Label {
-        anchors.right: parent.right
+    value: Label {
         text: line.duration
         font.pointSize: Theme.subheadline
+    }
+
+    Symbol {
+        y: Math.round(line.middle - height / 2)
+        width: Theme.smallIconSize
+        height: width
+        name: "timer"
+        color: Theme.secondary
     }
 }

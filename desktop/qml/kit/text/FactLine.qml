@@ -2,50 +2,41 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A labelled value in one line, with an optional symbol before it; a link opens an address outside the program.
-Item {
+// A labelled value with an optional symbol before it; a link opens an address outside the program.
+PairedLine {
     id: line
     required property fact fact
     // Whether the label is aligned with those that have a symbol.
     property bool isIndented: fact.symbol !== ""
     signal followed
 
-    implicitHeight: Math.max(label.implicitHeight, value.implicitHeight)
-
-    Symbol {
-        anchors.verticalCenter: parent.verticalCenter
-        visible: line.fact.symbol !== ""
-        width: Theme.smallIconSize
-        height: width
-        name: line.fact.symbol
-        color: Theme.secondary
-    }
-    Label {
-        id: label
-        x: line.isIndented ? Theme.iconSize + Theme.unit : 0
-        width: Math.min(implicitWidth, line.width / 2 - Theme.unit - x)
-        height: parent.height
+    indent: isIndented ? Theme.iconSize + Theme.unit : 0
+    label: Label {
         text: line.fact.label
         font.pointSize: line.fact.hasSmallLabel ? Theme.caption : Theme.body
         color: Theme.secondary
+        wrapMode: line.isStacked ? Text.Wrap : Text.NoWrap
     }
-    Row {
-        id: value
-        anchors.right: parent.right
-        spacing: Theme.unit
+    value: Item {
+        implicitWidth: line.fact.isLink ? link.implicitWidth : words.implicitWidth
+        implicitHeight: line.fact.isLink ? link.implicitHeight : words.implicitHeight
 
         LinkLabel {
+            id: link
             visible: line.fact.isLink
-            width: Math.min(implicitWidth, line.width - label.x - label.width - 2 * Theme.unit)
+            width: parent.width
             text: line.fact.text
+            wraps: line.isStacked
             onClicked: line.followed()
         }
         Label {
+            id: words
             visible: !line.fact.isLink
-            width: Math.min(implicitWidth, line.width - label.x - label.width - caption.width - 3 * Theme.unit)
+            width: parent.width
             text: line.fact.text
-            font.weight: line.fact.tone === Tone.Secondary ? Font.Normal : Font.Medium
+            font.weight: Font.Medium
             color: Theme.toneColor(line.fact.tone)
+            wrapMode: line.isStacked ? Text.Wrap : Text.NoWrap
             Accessible.description: line.fact.explanation
 
             HoverHandler {
@@ -57,13 +48,14 @@ Item {
                 isShown: pointer.hovered
             }
         }
-        Label {
-            id: caption
-            visible: text !== ""
-            height: parent.height
-            text: line.fact.caption
-            font.pointSize: Theme.caption
-            color: Theme.secondary
-        }
+    }
+
+    Symbol {
+        y: Math.round(line.middle - height / 2)
+        visible: line.fact.symbol !== ""
+        width: Theme.smallIconSize
+        height: width
+        name: line.fact.symbol
+        color: Theme.secondary
     }
 }

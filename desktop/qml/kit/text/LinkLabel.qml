@@ -5,6 +5,9 @@ import Larkspan.Bridge
 // A text that opens an address outside the program.
 Pressable {
     id: link
+    // Whether a long text wraps; if not, it is cut at its end.
+    property bool wraps: false
+
     implicitWidth: label.implicitWidth
     implicitHeight: label.implicitHeight
     Accessible.role: Accessible.Link
@@ -14,6 +17,7 @@ Pressable {
         anchors.fill: parent
         text: link.text
         color: Theme.accentOnCard
+        wrapMode: link.wraps ? Text.Wrap : Text.NoWrap
         font.underline: link.hovered || link.activeFocus && InputHand.isKeyboard
         Accessible.ignored: true
     }

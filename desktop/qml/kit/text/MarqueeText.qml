@@ -1,13 +1,12 @@
 import QtQuick
 import Larkspan
 
-// A name or a title in one line of a fixed height, cut at its end; it does not move. It is aligned to the left for any
-// script, since a mark may precede it. A screen reader reads it in full.
+// A name or a title in one line of a fixed height, cut at its end; it does not move. A
+// screen reader reads it in full.
 Label {
     required property int layoutHeight
 
     height: Math.round(layoutHeight * Theme.scale)
     maximumLineCount: 1
     wrapMode: Text.NoWrap
-    horizontalAlignment: Text.AlignLeft
 }

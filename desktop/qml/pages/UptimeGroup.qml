@@ -1,0 +1,47 @@
+import QtQuick
+import Larkspan
+import Larkspan.Bridge
+
+// A page's uptime by period; the percentages stand in one column, aligned at their points.
+GroupBox {
+    id: group
+    required property list<fact> lines
+    required property string more
+    readonly property real captionWidth: most(line => line.ownCaptionWidth)
+    readonly property bool isStacked: most(line => line.ownWidth) > Math.min(width - 4 * Theme.unit, widest) - captionWidth
+
+    title: qsTr("Uptime")
+
+    function most(widthOf: var): real {
+        let found = 0
+        for (let at = 0; at < repeater.count; ++at) {
+            const line = repeater.itemAt(at) as UptimeLine
+            if (line) found = Math.max(found, widthOf(line))
+        }
+        return found
+    }
+
+    DigitMetrics {
+        id: metrics
+        font.pointSize: Theme.body
+        font.weight: Font.Medium
+    }
+    Repeater {
+        id: repeater
+        model: group.lines
+        UptimeLine {
+            required property fact modelData
+            width: parent.width
+            fact: modelData
+            digitWidth: metrics.digitWidth
+            captionWidth: group.captionWidth
+            isStacked: group.isStacked
+        }
+    }
+    Label {
+        visible: text !== ""
+        width: parent.width
+        text: group.more
+        color: Theme.secondary
+    }
+}
