@@ -40,26 +40,12 @@ ScrollingColumn {
             onEdited: text => editor.maintenance.editMessage(text)
         }
     }
-    GroupBox {
+    ScheduledTimes {
         width: parent.width
-        title: qsTr("Scheduled Start")
-        symbol: "calendar.badge.clock"
-
-        DateTimePicker {
-            width: parent.width
-            name: qsTr("Start")
-            picker: editor.maintenance.editedScheduledFor
-        }
-    }
-    GroupBox {
-        width: parent.width
-        title: qsTr("Scheduled End")
-        symbol: "calendar.badge.minus"
-
-        DateTimePicker {
-            width: parent.width
-            name: qsTr("End")
-            picker: editor.maintenance.editedScheduledUntil
-        }
+        start: editor.maintenance.editedScheduledFor
+        startSymbol: "calendar.badge.clock"
+        end: editor.maintenance.editedScheduledUntil
+        endSymbol: "calendar.badge.minus"
+        length: editor.maintenance.editedLength
     }
 }
