@@ -36,6 +36,8 @@ ScrollingColumn {
         TextBox {
             id: box
             width: parent.width
+            // The whole box and its title stay visible together in a small window.
+            height: Math.min(implicitHeight, Math.max(Theme.textBoxHeight * Theme.scale, editor.height * 0.7))
             name: qsTr("Message")
             onEdited: text => editor.maintenance.editMessage(text)
         }
