@@ -119,6 +119,12 @@ void loadingMonitors(Form& view)
     view.selection->isLoadingMonitors = true;
 }
 
+void wrongEnd(Form& view)
+{
+    view.title = "Upgrade";
+    view.scheduledUntil->moveDays(-1);
+}
+
 void otherMonth(Form& view)
 {
     view.scheduledFor->browseMonths(1);
@@ -147,20 +153,25 @@ std::vector<Scene> maintenanceScenes()
         {"maintenance-narrow", detail(whole("in_progress"), initialState), 480, 700},
         {"maintenance-narrow-large-font", detail(whole("scheduled"), initialState), 480, 900, 20},
         {"maintenance-menu", detail(planned(), initialState), 760, 600, 10, "More Actions"},
-        {"maintenance-editing", detail(whole("scheduled"), editing), 760, 1000},
+        {"maintenance-editing", detail(whole("scheduled"), editing)},
+        {"maintenance-editing-wide", detail(whole("scheduled"), editing), 1600, 900},
+        {"maintenance-editing-beside-each-other", detail(whole("scheduled"), editing), 640, 600},
         {"maintenance-editing-narrow", detail(whole("scheduled"), editing), 480, 1400},
         {"maintenance-editing-narrow-large-font", detail(whole("scheduled"), editing), 480, 1400, 20},
-        {"maintenance-end-before-start", detail(whole("scheduled"), endBeforeStart), 760, 1000},
+        {"maintenance-end-before-start", detail(whole("scheduled"), endBeforeStart)},
         {"maintenance-working", detail(planned(), working)},
         {"maintenance-refused", detail(planned(), refused)},
         {"maintenance-delete", detail(planned(), aboutToDelete)},
         {"maintenance-discard", detail(planned(), aboutToDiscard)},
-        {"maintenance-form", form(initialState), 760, 1250},
+        {"maintenance-form", form(initialState), 760, 760},
+        {"maintenance-form-wide", form(initialState), 1600, 900},
+        {"maintenance-form-beside-each-other", form(initialState), 640, 760},
+        {"maintenance-form-end-before-start", form(wrongEnd), 760, 760},
         {"maintenance-form-small-window", form(initialState)},
         {"maintenance-form-narrow", form(initialState), 480, 1250},
         {"maintenance-form-narrow-large-font", form(initialState), 480, 1400, 20},
-        {"maintenance-form-loading-monitors", form(loadingMonitors), 760, 1250},
-        {"maintenance-form-other-month", form(otherMonth), 760, 1250},
+        {"maintenance-form-loading-monitors", form(loadingMonitors), 760, 760},
+        {"maintenance-form-other-month", form(otherMonth), 760, 760},
         {"maintenance-form-creating", form(working)},
         {"maintenance-form-without-components", form(withoutComponents)},
     };

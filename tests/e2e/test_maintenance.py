@@ -98,8 +98,8 @@ def test_an_edit_is_typed_sent_and_seen_in_the_row(opened, the_service, the_disp
 
 def test_an_end_before_the_start_is_for_the_service_to_refuse(opened, the_service, the_display):
     open_editor(opened, the_display)
-    # Title, message, the start's two buttons, days, hour and minute, then the end's two buttons.
-    for _ in range(9):
+    # Title, message, the start's hour, minute, two buttons and days, then the end's hour, minute and two buttons.
+    for _ in range(11):
         the_display.press_key("Tab")
     the_display.press_key("Page_Up")
     opened.press("Save")
@@ -127,21 +127,23 @@ def test_a_new_one_is_scheduled_with_the_keyboard_and_stands_first(page, the_ser
     the_display.type_text("Certificates")
     the_display.press_key("Tab")
     the_display.type_text("at night")
-    # The group, the start's two buttons, and its days.
-    for _ in range(4):
+    # The group, and the start's hour.
+    for _ in range(2):
+        the_display.press_key("Tab")
+    page.wait_for_focus("Start hour")
+    the_display.type_text("2330")
+    # The start's two buttons, and its days.
+    for _ in range(3):
         the_display.press_key("Tab")
     the_display.press_key("Down")
     the_display.press_key("Tab")
-    page.wait_for_focus("Start hour")
-    the_display.type_text("2330")
-    # The end's two buttons, its days and its hour.
+    page.wait_for_focus("End hour")
+    the_display.type_text("0115")
+    # The end's two buttons, and its days.
     for _ in range(3):
         the_display.press_key("Tab")
     the_display.press_key("Down")
     the_display.press_key("Right")
-    the_display.press_key("Tab")
-    page.wait_for_focus("End hour")
-    the_display.type_text("0115")
     page.press("Save")
     page.wait_for_rows(["Certificates", "Database upgrade"])
     method, target, body = the_write(the_service)

@@ -21,7 +21,6 @@ class DateTimePickerBridge : public ScreenBridge {
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
     Q_PROPERTY(QString date READ date NOTIFY changed)
-    Q_PROPERTY(QString time READ time NOTIFY changed)
     Q_PROPERTY(QString zone READ zone NOTIFY changed)
     Q_PROPERTY(QString month READ month NOTIFY changed)
     Q_PROPERTY(QList<QString> weekdays READ weekdays CONSTANT)
@@ -37,7 +36,6 @@ public:
         std::shared_ptr<presentation::DateTimePicker> picker, const ScreenUpdates& updates, QObject* parent = nullptr);
 
     QString date() const { return words(picker_->date()); }
-    QString time() const { return words(picker_->time()); }
     QString zone() const { return words(picker_->zone()); }
     QString month() const { return words(picker_->month()); }
     QList<QString> weekdays() const;

@@ -7,17 +7,12 @@ Column {
     id: editor
     required property ComponentDetailBridge detail
 
-    spacing: Theme.margin
+    spacing: 2 * Theme.unit
 
-    Column {
+    TitledField {
         width: parent.width
-        spacing: Theme.unit
+        title: qsTr("Name")
 
-        GroupBox {
-            width: parent.width
-            title: qsTr("Name")
-            hasCard: false
-        }
         TextEntry {
             width: parent.width
             name: qsTr("Name")
@@ -29,15 +24,11 @@ Column {
             onTextEdited: editor.detail.editName(text)
         }
     }
-    Column {
+    TitledField {
         width: parent.width
-        spacing: Theme.unit
+        title: qsTr("Status")
+        contentSpacing: Theme.unit
 
-        GroupBox {
-            width: parent.width
-            title: qsTr("Status")
-            hasCard: false
-        }
         SegmentedPicker {
             width: parent.width
             name: qsTr("Status")
@@ -46,16 +37,20 @@ Column {
             selected: editor.detail.selectedStatus
             onChosen: segment => editor.detail.chooseStatus(segment)
         }
-    }
-    Column {
-        width: parent.width
-        spacing: Theme.unit
-
-        GroupBox {
-            width: parent.width
-            title: qsTr("Description")
-            hasCard: false
+        Label {
+            x: Theme.halfUnit
+            width: parent.width - 2 * x
+            visible: text !== ""
+            text: editor.detail.unlistedStatus
+            font.pointSize: Theme.caption
+            color: Theme.secondary
+            wrapMode: Text.Wrap
         }
+    }
+    TitledField {
+        width: parent.width
+        title: qsTr("Description")
+
         TextBox {
             width: parent.width
             name: qsTr("Description")

@@ -2,8 +2,8 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// The form of a new event: its title, its message and what it affects; below that, the fields of one kind of event
-// only.
+// The form of a new event: its title, its message and, beside them in a wide sheet, what it affects; below that, the
+// fields of one kind of event only.
 Sheet {
     id: sheet
     required property EventFormBridge form
@@ -29,31 +29,45 @@ Sheet {
         onClicked: sheet.form.save()
     }
 
-    TitledField {
-        width: parent.width
-        title: qsTr("Title")
+    Grid {
+        id: common
+        readonly property real columnWidth: columns === 1 ? width : (width - spacing) / 2
 
-        TextEntry {
-            width: parent.width
-            focus: true
-            name: qsTr("Title")
-            placeholderText: sheet.titlePlaceholder
-            onTextEdited: sheet.form.editTitle(text)
-        }
-    }
-    TitledField {
         width: parent.width
-        title: qsTr("Message (Optional)")
+        columns: width < Theme.twoColumnsWidth ? 1 : 2
+        spacing: 2 * Theme.unit
 
-        TextBox {
-            width: parent.width
-            name: qsTr("Message (Optional)")
-            onEdited: text => sheet.form.editMessage(text)
+        Column {
+            width: common.columnWidth
+            spacing: 2 * Theme.unit
+
+            TitledField {
+                width: parent.width
+                title: qsTr("Title")
+
+                TextEntry {
+                    width: parent.width
+                    focus: true
+                    name: qsTr("Title")
+                    placeholderText: sheet.titlePlaceholder
+                    onTextEdited: sheet.form.editTitle(text)
+                }
+            }
+            TitledField {
+                width: parent.width
+                title: qsTr("Message (Optional)")
+
+                TextBox {
+                    width: parent.width
+                    name: qsTr("Message (Optional)")
+                    onEdited: text => sheet.form.editMessage(text)
+                }
+            }
         }
-    }
-    ComponentSelection {
-        width: parent.width
-        selection: sheet.form.selection
+        ComponentSelection {
+            width: common.columnWidth
+            selection: sheet.form.selection
+        }
     }
     Column {
         id: rest

@@ -123,6 +123,7 @@ QtObject {
     readonly property int columnSpacing: 18
     readonly property int statusIconSize: Math.round(30 * scale)
     readonly property int sheetWidth: 520
+    readonly property int wideSheetWidth: 720
     readonly property int aboutWidth: 420
     readonly property int dialogWidth: 400
     readonly property int menuWidth: 320
@@ -144,7 +145,12 @@ QtObject {
     readonly property int detailTitleHeight: 38
     readonly property int smallDetailTitleHeight: 34
     readonly property int calendarCellWidth: Math.round(34 * scale)
-    readonly property int calendarCellHeight: Math.round(30 * scale)
+    readonly property int calendarWidth: 7 * calendarCellWidth
+    readonly property int calendarMostWidth: 10 * calendarCellWidth
+    readonly property int calendarCellHeight: Math.max(24, Math.round(18 * scale))
+    readonly property int calendarBarHeight: Math.round(24 * scale)
+    // From this width on there is room for two calendars side by side, each on its card.
+    readonly property int twoColumnsWidth: 2 * (calendarWidth + 4 * unit) + 2 * unit
     readonly property int timeFieldWidth: Math.round(44 * scale)
     readonly property int toggleWidth: Math.round(36 * scale)
     readonly property int toggleHeight: Math.round(20 * scale)

@@ -6,28 +6,15 @@ EventFormSheet {
     id: sheet
     required property CreateMaintenanceBridge maintenance
 
+    preferredWidth: Theme.wideSheetWidth
     form: maintenance
     title: qsTr("New Maintenance")
     titlePlaceholder: qsTr("Maintenance Title")
 
-    GroupBox {
+    ScheduledTimes {
         width: parent.width
-        title: qsTr("Scheduled Start")
-
-        DateTimePicker {
-            width: parent.width
-            name: qsTr("Start")
-            picker: sheet.maintenance.scheduledFor
-        }
-    }
-    GroupBox {
-        width: parent.width
-        title: qsTr("Scheduled End")
-
-        DateTimePicker {
-            width: parent.width
-            name: qsTr("End")
-            picker: sheet.maintenance.scheduledUntil
-        }
+        start: sheet.maintenance.scheduledFor
+        end: sheet.maintenance.scheduledUntil
+        length: sheet.maintenance.length
     }
 }

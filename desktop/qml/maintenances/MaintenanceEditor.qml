@@ -36,30 +36,18 @@ ScrollingColumn {
         TextBox {
             id: box
             width: parent.width
+            // The whole box and its title stay visible together in a small window.
+            height: Math.min(implicitHeight, Math.max(Theme.textBoxHeight * Theme.scale, editor.height * 0.7))
             name: qsTr("Message")
             onEdited: text => editor.maintenance.editMessage(text)
         }
     }
-    GroupBox {
+    ScheduledTimes {
         width: parent.width
-        title: qsTr("Scheduled Start")
-        symbol: "calendar.badge.clock"
-
-        DateTimePicker {
-            width: parent.width
-            name: qsTr("Start")
-            picker: editor.maintenance.editedScheduledFor
-        }
-    }
-    GroupBox {
-        width: parent.width
-        title: qsTr("Scheduled End")
-        symbol: "calendar.badge.minus"
-
-        DateTimePicker {
-            width: parent.width
-            name: qsTr("End")
-            picker: editor.maintenance.editedScheduledUntil
-        }
+        start: editor.maintenance.editedScheduledFor
+        startSymbol: "calendar.badge.clock"
+        end: editor.maintenance.editedScheduledUntil
+        endSymbol: "calendar.badge.minus"
+        length: editor.maintenance.editedLength
     }
 }

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "ComponentsOnScreen.h"
+#include "Measures.h"
 
 namespace larkspan {
 
@@ -45,6 +46,20 @@ TEST_F(ComponentsOnScreen, OneIsEditedMovedToAnotherGroupAndChangesSectionAtOnce
     EXPECT_FALSE(shows(QStringLiteral("Save")));
     press(Qt::Key_Escape);
     EXPECT_EQ(names(Role::ListItem), (QStringList{"Worker", "API", "Site", "Old"}));
+}
+
+TEST_F(ComponentsOnScreen, ItsStatusThatNoSegmentHasIsNamedUnderThemUntilOneIsChosen)
+{
+    edit();
+    const auto words = QStringLiteral("Now “degradedperformance”, which stays until you choose another.");
+    EXPECT_TRUE(shows(words));
+    const auto& line = item(Role::StaticText, words);
+    EXPECT_GE(gapBelow(item(Role::Grouping, QStringLiteral("Status")), line), 0);
+    EXPECT_LE(frameOf(line).bottom(), frameOf(item(Role::Heading, QStringLiteral("Description"))).top());
+    item(Role::Grouping, QStringLiteral("Status")).forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Right);
+    EXPECT_EQ(litSegment(), QStringLiteral("Up"));
+    EXPECT_FALSE(shows(words));
 }
 
 TEST_F(ComponentsOnScreen, ItsNameOfSpacesDisablesSave)

@@ -5,21 +5,25 @@ import Larkspan.Bridge
 // The days of a month. The arrow keys choose the neighbouring day, Home and End the ends of the week, the page keys the
 // same day of the neighbouring month, with Shift of the neighbouring year; the wheel over the month shows other months
 // while the calendar has the focus, and otherwise scrolls the surrounding content.
-Column {
+RevealedColumn {
     id: calendar
     required property string name
     required property DateTimePickerBridge picker
     readonly property real cellWidth: width / 7
     readonly property bool hasKeyboard: days.activeFocus || previous.activeFocus || next.activeFocus
 
-    spacing: Theme.halfUnit
+    spacing: Theme.tablePadding
 
     Item {
         width: parent.width
-        height: Theme.controlHeight
+        height: Theme.calendarBarHeight
 
         ToolbarButton {
             id: previous
+            // In the middle of the first column.
+            x: Math.round((calendar.cellWidth - width) / 2)
+            width: height
+            height: parent.height
             symbol: "chevron.left"
             help: qsTr("Previous Month")
             Accessible.description: calendar.name
@@ -27,8 +31,8 @@ Column {
         }
         Label {
             anchors.fill: parent
-            anchors.leftMargin: Theme.controlHeight
-            anchors.rightMargin: Theme.controlHeight
+            anchors.leftMargin: calendar.cellWidth
+            anchors.rightMargin: calendar.cellWidth
             text: calendar.picker.month
             font.weight: Font.DemiBold
             fontSizeMode: Text.HorizontalFit
@@ -37,7 +41,9 @@ Column {
         }
         ToolbarButton {
             id: next
-            anchors.right: parent.right
+            x: parent.width - previous.x - width
+            width: height
+            height: parent.height
             symbol: "chevron.right"
             help: qsTr("Next Month")
             Accessible.description: calendar.name

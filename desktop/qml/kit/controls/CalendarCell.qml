@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A day of a calendar. The day from which the keys move has the calendar's focus.
+// A day of a calendar: today in a ring, the chosen one filled, those of the neighbouring months smaller. The day from which the keys move has the calendar's focus.
 Item {
     id: cell
     required property calendarDay day
@@ -20,13 +20,22 @@ Item {
 
     Rectangle {
         anchors.centerIn: parent
-        width: Math.min(parent.width, parent.height * 1.25) - Theme.halfUnit
-        height: parent.height - Theme.halfUnit
-        radius: Theme.controlRadius
+        width: Math.min(parent.width, parent.height * 1.5) - 2 * Theme.hairline
+        height: parent.height - 2 * Theme.hairline
+        radius: Theme.pillRadius
         color: cell.day.isChosen ? Theme.accent : tap.pressed ? Theme.pressed : pointer.hovered ? Theme.hover : "transparent"
         border.width: cell.day.isToday && !cell.day.isChosen ? Theme.hairline : 0
         border.color: Theme.accentOnCard
 
+        Rectangle {
+            anchors.fill: parent
+            anchors.margins: 2 * Theme.hairline
+            visible: cell.day.isToday && cell.day.isChosen
+            radius: Theme.pillRadius - anchors.margins
+            color: "transparent"
+            border.width: Theme.hairline
+            border.color: Theme.accentText
+        }
         FocusRing {
             holder: cell
         }
@@ -35,6 +44,7 @@ Item {
         anchors.fill: parent
         text: cell.day.number
         horizontalAlignment: Text.AlignHCenter
+        font.pointSize: cell.day.isInMonth ? Theme.body : Theme.caption
         font.weight: cell.day.isToday ? Font.DemiBold : Font.Normal
         color: cell.day.isChosen ? Theme.accentText : cell.day.isToday ? Theme.accentOnCard
             : cell.day.isInMonth ? Theme.text : Theme.secondary

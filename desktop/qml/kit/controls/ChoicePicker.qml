@@ -2,8 +2,8 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A choice of one among many: a line with the chosen name, which opens a list of all names over it. Arrows, Home, End
-// and letters move in the list, Return chooses.
+// A choice of one among many: a line with the chosen name, which opens a list of all names over it. If there is no room
+// beside the caption, the name is below it. Arrows, Home, End and letters move in the list, Return chooses.
 Pressable {
     id: picker
     required property list<choice> choices
@@ -16,10 +16,11 @@ Pressable {
     }
     readonly property string selectedName: selectedPlace < 0 ? "" : choices[selectedPlace].name
 
-    implicitHeight: Theme.controlHeight
+    readonly property bool isStacked: caption.implicitWidth + 2 * Theme.unit + chosenName.implicitWidth + Theme.halfUnit > arrow.x
     readonly property color ink: enabled ? Theme.text : Theme.disabledText
     readonly property color quietInk: enabled ? Theme.secondary : Theme.disabledText
 
+    implicitHeight: isStacked ? caption.height + chosenName.height + Theme.unit : Theme.controlHeight
     Accessible.role: Accessible.ComboBox
     Accessible.description: selectedName
     onClicked: popup.open()
@@ -39,21 +40,20 @@ Pressable {
     }
     Label {
         id: caption
-        anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(implicitWidth, parent.width / 2)
+        y: picker.isStacked ? Theme.halfUnit : Math.round((parent.height - height) / 2)
+        width: Math.min(implicitWidth, arrow.x - Theme.halfUnit)
         text: picker.text
         color: picker.ink
         Accessible.ignored: true
     }
     Label {
-        anchors.left: caption.right
-        anchors.leftMargin: 2 * Theme.unit
-        anchors.right: arrow.left
-        anchors.rightMargin: Theme.halfUnit
-        anchors.verticalCenter: parent.verticalCenter
+        id: chosenName
+        x: picker.isStacked ? 0 : caption.width + 2 * Theme.unit
+        y: picker.isStacked ? caption.y + caption.height : caption.y
+        width: arrow.x - Theme.halfUnit - x
         text: picker.selectedName
         color: picker.quietInk
-        horizontalAlignment: Text.AlignRight
+        horizontalAlignment: picker.isStacked ? Text.AlignLeft : Text.AlignRight
     }
     Symbol {
         id: arrow

@@ -32,6 +32,7 @@ Row {
     }
     CommandButton {
         visible: text !== ""
+        isSmall: true
         text: clock.picker.dayHalf
         Accessible.description: qsTr("%1 half of the day").arg(clock.name)
         onClicked: clock.picker.switchDayHalf()

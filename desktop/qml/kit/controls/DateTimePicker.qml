@@ -2,66 +2,75 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// The choice of a moment: the chosen one, and below it a calendar with a clock beside it, or under it if there is no
-// room.
+// The choice of a moment: its date, its time beside the time's label, or below that if there is no room, and a calendar.
 Column {
     id: box
     required property string name
     required property DateTimePickerBridge picker
 
-    spacing: Theme.unit + Theme.halfUnit
+    spacing: Theme.halfUnit
 
-    Item {
-        readonly property real momentWidth: date.implicitWidth + Theme.unit + time.implicitWidth
-        readonly property bool isNarrow: caption.implicitWidth + 2 * Theme.unit + momentWidth > width
-
+    RevealedColumn {
         width: parent.width
-        height: moment.y + moment.height
+        spacing: Theme.halfUnit
 
-        Label {
-            id: caption
-            text: box.name
-        }
-        Flow {
-            id: moment
-            width: Math.min(parent.width, Math.ceil(parent.momentWidth))
-            x: parent.isNarrow ? 0 : parent.width - width
-            y: parent.isNarrow ? caption.height : 0
-            spacing: Theme.unit
+        Item {
+            width: parent.width
+            height: date.height
 
+            Label {
+                id: caption
+                text: box.name
+            }
             Label {
                 id: date
+                anchors.right: parent.right
+                width: parent.width - caption.width - Theme.unit
                 text: box.picker.date
-            }
-            Label {
-                id: time
-                text: box.picker.time
                 color: Theme.secondary
+                horizontalAlignment: Text.AlignRight
+                wrapMode: Text.Wrap
             }
         }
-    }
-    Flow {
-        width: parent.width
-        spacing: 2 * Theme.unit
+        Item {
+            id: line
+            readonly property real roomBesideClock: width - clock.width - Theme.unit
+            readonly property bool isNarrow: Math.max(time.implicitWidth, zone.implicitWidth) > roomBesideClock
 
-        Calendar {
-            width: Math.min(parent.width, 7 * Theme.calendarCellWidth)
-            name: box.name
-            picker: box.picker
-        }
-        Column {
-            topPadding: Theme.unit
-            spacing: Theme.unit
+            width: parent.width
+            height: isNarrow ? words.height + Theme.halfUnit + clock.height : Math.max(words.height, clock.height)
 
+            Grid {
+                id: words
+                y: line.isNarrow ? 0 : Math.round((parent.height - height) / 2)
+                columns: time.implicitWidth + columnSpacing + zone.implicitWidth > (line.isNarrow ? line.width : line.roomBesideClock) ? 1 : 2
+                columnSpacing: Theme.narrowGap
+                verticalItemAlignment: Grid.AlignVCenter
+
+                Label {
+                    id: time
+                    text: qsTr("Time")
+                }
+                Label {
+                    id: zone
+                    text: box.picker.zone
+                    font.pointSize: Theme.caption
+                    color: Theme.secondary
+                }
+            }
             ClockEntry {
+                id: clock
+                x: line.isNarrow ? 0 : parent.width - width
+                y: line.isNarrow ? words.height + Theme.halfUnit : Math.round((parent.height - height) / 2)
                 name: box.name
                 picker: box.picker
             }
-            Label {
-                text: box.picker.zone
-                font.pointSize: Theme.caption
-                color: Theme.secondary
-            }
         }
+    }
+    Calendar {
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: Math.min(parent.width, Theme.calendarMostWidth)
+        name: box.name
+        picker: box.picker
     }
 }

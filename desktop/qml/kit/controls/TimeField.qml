@@ -27,7 +27,7 @@ T.TextField {
     }
 
     implicitWidth: Theme.timeFieldWidth
-    implicitHeight: Theme.controlHeight
+    implicitHeight: Theme.smallControlHeight
     horizontalAlignment: TextInput.AlignHCenter
     verticalAlignment: TextInput.AlignVCenter
     maximumLength: 2

@@ -2,10 +2,11 @@ import QtQuick
 import Larkspan
 
 // A field under its small title.
-Column {
+RevealedColumn {
     id: field
     required property string title
     property string symbol
+    property alias contentSpacing: column.spacing
     default property alias content: column.data
 
     spacing: Theme.unit

@@ -3,7 +3,7 @@ import Larkspan
 import Larkspan.Bridge
 
 // A card under a small title, with an optional symbol before it.
-Column {
+RevealedColumn {
     id: group
     // No title if empty.
     property string title

@@ -25,11 +25,22 @@ QtObject {
         while (ancestor && ancestor !== whole) ancestor = ancestor.parent
         return ancestor !== null
     }
+    // The largest of the groups around the item that fits; the item itself if there is none.
+    function groupOf(item: Item): Item {
+        let whole = item
+        for (let group = item.parent; group && group !== flickable.contentItem; group = group.parent) {
+            if (group instanceof RevealedColumn && group.height <= flickable.height) whole = group
+        }
+        return whole
+    }
     function reveal(item: Item) {
         if (flickable.height <= 0 || item instanceof ListReader || !isWithin(item, flickable.contentItem)) return
-        const free = item instanceof CardRow ? 0 : margin
-        const top = item.mapToItem(flickable.contentItem, 0, 0).y - free
-        const bottom = top + item.height + 2 * free
+        // A press must not move what is pressed further than needed.
+        const whole = InputHand.isKeyboard ? groupOf(item) : item
+        const free = item instanceof CardRow ? 0
+            : whole === item ? margin : Math.min(margin, (flickable.height - whole.height) / 2)
+        const top = whole.mapToItem(flickable.contentItem, 0, 0).y - free
+        const bottom = top + whole.height + 2 * free
         if (top < flickable.contentY) move(top)
         else if (bottom > flickable.contentY + flickable.height) move(Math.min(top, bottom - flickable.height))
     }
