@@ -2,6 +2,8 @@
 
 #include <QTimer>
 
+#include <algorithm>
+#include <array>
 #include <chrono>
 #include <exception>
 #include <iterator>
@@ -304,6 +306,23 @@ std::vector<Scene> otherScenes()
     };
 }
 
+/// The scenes of each kind that are also shown in high contrast.
+constexpr std::array inHighContrast{"about", "component-editing", "components-list", "dashboard-error-transport",
+    "dashboard-list", "dashboard-list-stale", "incident-delete", "incident-form", "incident-refused", "incident-whole",
+    "maintenance-editing", "maintenance-scheduled", "maintenances-list", "menu", "monitor-whole", "monitors-list",
+    "page-overview-busy", "settings-refused", "updates-checking"};
+
+std::vector<Scene> withHighContrast(std::vector<Scene> scenes)
+{
+    for (const auto* const name : inHighContrast) {
+        auto scene = *std::ranges::find(scenes, name, &Scene::name);
+        scene.name += "-contrast";
+        scene.hasHighContrast = true;
+        scenes.push_back(std::move(scene));
+    }
+    return scenes;
+}
+
 }  // namespace
 
 std::vector<Scene> scenes()
@@ -317,7 +336,7 @@ std::vector<Scene> scenes()
     std::ranges::move(menuScenes(), std::back_inserter(scenes));
     std::ranges::move(settingsScenes(), std::back_inserter(scenes));
     std::ranges::move(otherScenes(), std::back_inserter(scenes));
-    return scenes;
+    return withHighContrast(std::move(scenes));
 }
 
 }  // namespace larkspan::gallery

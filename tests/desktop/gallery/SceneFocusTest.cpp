@@ -115,7 +115,7 @@ TEST_P(FocusInAScene, HasOneRingInSightAroundWhatTabReachesInTheOrderOfReading)
 
 TEST_P(FocusInAScene, HasOneRingInSightInTheSmallestWindow)
 {
-    look({.size = {480, 440}, .fontPointSize = 10});
+    look({.size = {480, 440}, .fontPointSize = 10, .hasHighContrast = GetParam().hasHighContrast});
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -7,6 +7,7 @@
 #include <QTextLayout>
 
 #include <algorithm>
+#include <iterator>
 
 namespace larkspan::gallery {
 
@@ -140,11 +141,39 @@ private:
     const QQuickWindow& window_;
 };
 
+/// Whether two texts overlap; lines that touch do not.
+bool overlap(const ShownText& one, const ShownText& other)
+{
+    if (one.layer != other.layer || one.floating != other.floating) return false;
+    const auto both = one.seen & other.seen;
+    return both.width() > 2 && both.height() > 2;
+}
+
+std::string words(const ShownText& text)
+{
+    return "\"" + text.text.left(60).toStdString() + "\"";
+}
+
 }  // namespace
 
 std::vector<ShownText> textsOf(const QQuickWindow& window)
 {
     return Walk(window).texts;
+}
+
+TextFindings findingsIn(const QQuickWindow& window)
+{
+    TextFindings findings;
+    const auto texts = textsOf(window);
+    if (texts.empty()) findings.emplace_back("there is no text");
+    for (auto one = texts.begin(); one != texts.end(); ++one) {
+        if (!one->cut.isEmpty()) findings.push_back(words(*one) + " is cut " + one->cut.toStdString());
+        if (one->hasBox) findings.push_back(words(*one) + " has a character without a glyph");
+        for (auto other = std::next(one); other != texts.end(); ++other) {
+            if (overlap(*one, *other)) findings.push_back(words(*one) + " lies on " + words(*other));
+        }
+    }
+    return findings;
 }
 
 }  // namespace larkspan::gallery

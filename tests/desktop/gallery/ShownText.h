@@ -3,6 +3,7 @@
 #include <QRectF>
 #include <QString>
 
+#include <string>
 #include <vector>
 
 class QQuickItem;
@@ -30,5 +31,10 @@ struct ShownText {
 
 /// All texts that are visible in a window.
 std::vector<ShownText> textsOf(const QQuickWindow& window);
+
+using TextFindings = std::vector<std::string>;
+
+/// What is wrong with the texts of a window: overlapping, cut, or with a character that no font has.
+TextFindings findingsIn(const QQuickWindow& window);
 
 }  // namespace larkspan::gallery
