@@ -11,7 +11,6 @@ CardRow {
     description: row.caption
     isPressable: false
     isStop: false
-    rightPadding: Math.max(leftPadding, width - leftPadding - Theme.readingWidth * Theme.scale)
 
     contentItem: Item {
         implicitHeight: words.implicitHeight

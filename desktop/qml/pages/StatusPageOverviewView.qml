@@ -11,6 +11,8 @@ CardList {
     rows: page.activity
     name: qsTr("Current Activity")
     walksRows: false
+    // A text of one or two lines reads worse the longer its lines are.
+    rightMargin: Math.max(leftMargin, width - leftMargin - Theme.readingWidth * Theme.scale)
     topMargin: Theme.tabsGap
 
     above: Column {
@@ -58,7 +60,6 @@ CardList {
         GroupBox {
             visible: overview.page.about !== ""
             width: parent.width
-            widest: Theme.readingWidth * Theme.scale
             title: qsTr("About This Status Page")
 
             Label {
@@ -71,7 +72,6 @@ CardList {
         UptimeGroup {
             visible: overview.page.uptime.length > 0
             width: parent.width
-            widest: overview.textWidth
             lines: overview.page.uptime
             more: overview.page.moreUptime
         }
