@@ -19,6 +19,7 @@
 #include "gallery/PageScenes.h"
 #include "model/json/DecodingError.h"
 #include "platform/URLError.h"
+#include "workspace/SettingsView.h"
 
 namespace larkspan::gallery {
 
