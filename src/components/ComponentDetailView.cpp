@@ -84,14 +84,14 @@ void ComponentDetailView::fillEditor()
 {
     editedName = component->name;
     editedStatus = component->status;
-    editedDescription = description();
+    editedDescription = component->description.value_or("");
     editedGroupId = component->groupId;
 }
 
 bool ComponentDetailView::isEdited() const
 {
-    return *editedName != component->name || *editedStatus != component->status || *editedDescription != description()
-        || *editedGroupId != component->groupId;
+    return *editedName != component->name || *editedStatus != component->status
+        || *editedDescription != component->description.value_or("") || *editedGroupId != component->groupId;
 }
 
 std::optional<std::size_t> ComponentDetailView::selectedStatus() const
@@ -99,6 +99,14 @@ std::optional<std::size_t> ComponentDetailView::selectedStatus() const
     const auto found = std::ranges::find(statusChoices, *editedStatus, &StatusChoice::value);
     if (found == statusChoices.end()) return std::nullopt;
     return static_cast<std::size_t>(found - statusChoices.begin());
+}
+
+std::string ComponentDetailView::unlistedStatus() const
+{
+    if (selectedStatus()) return "";
+    if (editedStatus->empty()) return "There is no status yet.";
+    return "Now “" + presentation::inPart(*editedStatus, presentation::mostOfARowsText)
+        + "”, which stays until you choose another.";
 }
 
 void ComponentDetailView::chooseGroup(const std::string& id)

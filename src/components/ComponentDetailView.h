@@ -76,7 +76,7 @@ public:
     bool showsDetails() const;
     /// The rows of the group "Details", which is also shown without any.
     std::vector<presentation::Fact> details() const;
-    /// Empty for none.
+    /// The beginning of the description, to be shown; the editor has all of it. Empty for none.
     std::string description() const
     {
         return presentation::inPart(component->description.value_or(""), presentation::mostOfAText);
@@ -86,6 +86,8 @@ public:
 
     /// The index of the edited status in those that can be chosen; absent for any other status.
     std::optional<std::size_t> selectedStatus() const;
+    /// Names the edited status if it cannot be chosen; otherwise empty.
+    std::string unlistedStatus() const;
     void chooseStatus(std::size_t place) { editedStatus = std::string(statusChoices.at(place).value); }
     bool showsGroupPicker() const { return !groups->empty(); }
     std::vector<presentation::Choice> groupChoices() const { return presentation::choicesOf("None", *groups); }

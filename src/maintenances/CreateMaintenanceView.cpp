@@ -3,6 +3,7 @@
 #include <chrono>
 #include <utility>
 
+#include "presentation/time/LengthText.h"
 #include "support/UnlessEmpty.h"
 
 namespace larkspan::maintenances {
@@ -10,6 +11,10 @@ namespace larkspan::maintenances {
 using api::NewMaintenance;
 using presentation::ComponentSelection;
 using presentation::DateTimePicker;
+using presentation::lengthBetween;
+using presentation::lengthText;
+using presentation::Marker;
+using presentation::Tone;
 using support::Task;
 
 namespace {
@@ -54,10 +59,22 @@ bool CreateMaintenanceView::isSelectionComplete() const
 
 bool CreateMaintenanceView::canBeSent() const
 {
-    // In minutes, as the pickers show them: an unchanged picker still has its seconds.
-    using std::chrono::minutes;
-    const auto start = std::chrono::floor<minutes>(*scheduledFor->moment);
-    return EventForm::canBeSent() && std::chrono::floor<minutes>(*scheduledUntil->moment) > start;
+    return EventForm::canBeSent() && hasLength();
+}
+
+bool CreateMaintenanceView::hasLength() const
+{
+    return lengthBetween(*scheduledFor->moment, *scheduledUntil->moment) > std::chrono::minutes(0);
+}
+
+Marker CreateMaintenanceView::length() const
+{
+    auto text = lengthText(lengthBetween(*scheduledFor->moment, *scheduledUntil->moment));
+    if (hasLength()) return {.text = std::move(text)};
+    return {.symbol = "exclamationmark.triangle.fill",
+        .symbolTone = Tone::orange,
+        .text = std::move(text),
+        .tone = Tone::orange};
 }
 
 bool CreateMaintenanceView::hasUnsavedText() const

@@ -9,6 +9,7 @@
 #include "model/records/Maintenance.h"
 #include "platform/Clock.h"
 #include "presentation/forms/EventForm.h"
+#include "presentation/shapes/Marker.h"
 #include "presentation/time/DateTimePicker.h"
 #include "support/Observable.h"
 #include "support/Task.h"
@@ -38,6 +39,9 @@ public:
     const std::shared_ptr<presentation::DateTimePicker> scheduledFor;
     const std::shared_ptr<presentation::DateTimePicker> scheduledUntil;
 
+    /// How long the maintenance is; a warning if it cannot be saved for that.
+    presentation::Marker length() const;
+
     [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer) override;
 
     /// A component is sufficient, even without a monitor.
@@ -49,6 +53,7 @@ protected:
 
 private:
     support::Task<void> create() override;
+    bool hasLength() const;
     api::NewMaintenance arguments() const;
 
     api::MaintenanceEndpoints& api_;

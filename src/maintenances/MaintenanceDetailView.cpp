@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "api/OrderOutcome.h"
+#include "presentation/time/LengthText.h"
 #include "support/Trimming.h"
 
 namespace larkspan::maintenances {
@@ -49,6 +50,20 @@ std::vector<TimelineRow> MaintenanceDetailView::timeline() const
 std::vector<TimelineRow> MaintenanceDetailView::recordRows() const
 {
     return recordTimeline(*currentMaintenance, ports_.locale);
+}
+
+presentation::Marker MaintenanceDetailView::editedLength() const
+{
+    const auto length = presentation::lengthBetween(*editedScheduledFor->moment, *editedScheduledUntil->moment);
+    return {.text = presentation::lengthText(length)};
+}
+
+support::Subscriptions MaintenanceDetailView::observe(const std::function<void()>& observer)
+{
+    auto subscriptions = EditableDetail::observe(observer);
+    subscriptions.push_back(editedScheduledFor->objectWillChange(observer));
+    subscriptions.push_back(editedScheduledUntil->objectWillChange(observer));
+    return subscriptions;
 }
 
 std::vector<Command<MaintenanceDetailView>> MaintenanceDetailView::commands() const

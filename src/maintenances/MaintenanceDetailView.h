@@ -18,6 +18,7 @@
 #include "presentation/screens/EditableDetail.h"
 #include "presentation/shapes/ActionButton.h"
 #include "presentation/shapes/Command.h"
+#include "presentation/shapes/Marker.h"
 #include "presentation/time/DateTimePicker.h"
 #include "support/Observable.h"
 #include "support/Task.h"
@@ -70,6 +71,11 @@ public:
     std::vector<presentation::ActionButton> buttons() const;
     /// Performs the action of the button with this id; does nothing if there is none or it is disabled.
     void press(std::string_view id);
+
+    /// How long the edited maintenance is. An end before the start is no warning, as the service decides about it.
+    presentation::Marker editedLength() const;
+
+    [[nodiscard]] support::Subscriptions observe(const std::function<void()>& observer) override;
 
     void startMaintenance();
     void completeMaintenance();

@@ -6,6 +6,7 @@
 #include "model/records/URL.h"
 #include "monitors/MonitorRow.h"
 #include "presentation/text/WebAddress.h"
+#include "support/LocalizedError.h"
 
 namespace larkspan::monitors {
 
@@ -97,7 +98,11 @@ Task<void> MonitorDetailView::carryOut(
 {
     auto performing = MonitorActions::perform(self->ports_.actions, wanted, *self->currentMonitor);
     const auto refetched = co_await std::move(performing);
-    if (refetched.failure) std::rethrow_exception(refetched.failure);
+    if (refetched.failure) {
+        // What the order did is known, so the list keeps its record instead of being fetched again.
+        self->action->alert.raise(support::localizedDescription(refetched.failure));
+        co_return;
+    }
     const auto refreshed = std::ranges::find(refetched.monitors, self->id(), &Monitor::id);
     if (refreshed == refetched.monitors.end()) co_return;
     self->show(*refreshed);

@@ -36,7 +36,8 @@ MonitorRow MonitorRow::of(const Monitor& monitor, const MonitorRowView* view, bo
         .isOpen = isOpen,
         .isLoading = view && *view->isLoadingMetrics,
         .disclosure = isOpen ? "Hide latency graph" : "Show latency graph",
-        .buttons = buttonsOf(monitor, !isPerformingAction)};
+        .buttons = buttonsOf(monitor, !isPerformingAction),
+        .isBusy = isPerformingAction};
     if (view && view->panel() && !isOpen) row.badges = metricBadges(view->panel()->metrics);
     return row;
 }

@@ -34,6 +34,8 @@ struct MonitorRow {
     /// Only while metrics are loaded and closed.
     std::vector<MetricBadge> badges{};
     std::vector<presentation::ActionButton> buttons{};
+    /// Whether an action on the monitor runs, which a moving mark beside the buttons shows.
+    bool isBusy = false;
 
     /// `view` is null for a row that was never opened.
     static MonitorRow of(const model::Monitor& monitor, const MonitorRowView* view, bool isPerformingAction);

@@ -30,6 +30,7 @@ class ComponentDetailBridge : public larkspan::bridge::EditableDetailBridge {
     Q_PROPERTY(QList<QString> statuses READ statuses CONSTANT)
     /// The index of the edited status in `statuses`; -1 if it is not one of them.
     Q_PROPERTY(int selectedStatus READ selectedStatus NOTIFY changed)
+    Q_PROPERTY(QString unlistedStatus READ unlistedStatus NOTIFY changed)
     Q_PROPERTY(QString editedDescription READ editedDescription NOTIFY changed)
     Q_PROPERTY(bool showsGroupPicker READ showsGroupPicker NOTIFY changed)
     Q_PROPERTY(QList<larkspan::bridge::ChoiceValue> groups MEMBER groups_ NOTIFY changed)
@@ -48,6 +49,7 @@ public:
     QString editedName() const { return wholeText(*view_->editedName); }
     QList<QString> statuses() const;
     int selectedStatus() const;
+    QString unlistedStatus() const { return words(view_->unlistedStatus()); }
     QString editedDescription() const { return wholeText(*view_->editedDescription); }
     bool showsGroupPicker() const { return view_->showsGroupPicker(); }
     QString selectedGroup() const { return wholeText(view_->selectedGroup()); }

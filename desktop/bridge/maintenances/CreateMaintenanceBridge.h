@@ -6,6 +6,7 @@
 
 #include "bridge/screens/DateTimePickerBridge.h"
 #include "bridge/screens/EventFormBridge.h"
+#include "bridge/values/MarkerValue.h"
 #include "maintenances/CreateMaintenanceView.h"
 
 namespace larkspan::bridge {
@@ -17,6 +18,7 @@ class CreateMaintenanceBridge : public larkspan::bridge::EventFormBridge {
     QML_UNCREATABLE("made by the application")
     Q_PROPERTY(larkspan::bridge::DateTimePickerBridge* scheduledFor READ scheduledFor CONSTANT)
     Q_PROPERTY(larkspan::bridge::DateTimePickerBridge* scheduledUntil READ scheduledUntil CONSTANT)
+    Q_PROPERTY(larkspan::bridge::MarkerValue length READ length NOTIFY changed)
 
 public:
     CreateMaintenanceBridge(const std::shared_ptr<maintenances::CreateMaintenanceView>& view,
@@ -24,8 +26,10 @@ public:
 
     DateTimePickerBridge* scheduledFor() { return &scheduledFor_; }
     DateTimePickerBridge* scheduledUntil() { return &scheduledUntil_; }
+    MarkerValue length() const { return MarkerValue::of(view_->length()); }
 
 private:
+    std::shared_ptr<maintenances::CreateMaintenanceView> view_;
     DateTimePickerBridge scheduledFor_;
     DateTimePickerBridge scheduledUntil_;
 };

@@ -9,6 +9,7 @@
 #include "bridge/screens/DateTimePickerBridge.h"
 #include "bridge/screens/EditableDetailBridge.h"
 #include "bridge/values/ActionButtonValue.h"
+#include "bridge/values/MarkerValue.h"
 #include "bridge/values/PillValue.h"
 #include "bridge/values/TimelineRowValue.h"
 #include "maintenances/MaintenanceDetailView.h"
@@ -32,6 +33,7 @@ class MaintenanceDetailBridge : public larkspan::bridge::EditableDetailBridge {
     Q_PROPERTY(QString editedMessage READ editedMessage NOTIFY changed)
     Q_PROPERTY(larkspan::bridge::DateTimePickerBridge* editedScheduledFor READ editedScheduledFor CONSTANT)
     Q_PROPERTY(larkspan::bridge::DateTimePickerBridge* editedScheduledUntil READ editedScheduledUntil CONSTANT)
+    Q_PROPERTY(larkspan::bridge::MarkerValue editedLength READ editedLength NOTIFY changed)
 
 public:
     MaintenanceDetailBridge(std::shared_ptr<maintenances::MaintenanceDetailView> view, const ScreenUpdates& updates,
@@ -45,6 +47,7 @@ public:
     QString editedMessage() const { return wholeText(*view_->editedMessage); }
     DateTimePickerBridge* editedScheduledFor() { return &editedScheduledFor_; }
     DateTimePickerBridge* editedScheduledUntil() { return &editedScheduledUntil_; }
+    MarkerValue editedLength() const { return MarkerValue::of(view_->editedLength()); }
 
     Q_INVOKABLE void press(const QString& button) { view_->press(button.toStdString()); }
     Q_INVOKABLE void editTitle(const QString& text) { view_->editedTitle = text.toStdString(); }

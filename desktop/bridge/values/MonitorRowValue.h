@@ -30,6 +30,7 @@ struct MonitorRowValue {
     Q_PROPERTY(QString disclosure MEMBER disclosure)
     Q_PROPERTY(QList<larkspan::bridge::MetricBadgeValue> badges MEMBER badges)
     Q_PROPERTY(QList<larkspan::bridge::ActionButtonValue> buttons MEMBER buttons)
+    Q_PROPERTY(bool isBusy MEMBER isBusy)
 
 public:
     using Row = monitors::MonitorRow;
@@ -45,12 +46,13 @@ public:
     QString disclosure{};
     QList<MetricBadgeValue> badges{};
     QList<ActionButtonValue> buttons{};
+    bool isBusy = false;
 
     static MonitorRowValue of(const Row& row)
     {
         return {wholeText(row.id), words(row.title), words(row.statusIcon), words(row.status), toneOf(row.tone),
             PillValue::of(row.type), row.isOpen, row.isLoading, words(row.disclosure),
-            valuesOf<MetricBadgeValue>(row.badges), valuesOf<ActionButtonValue>(row.buttons)};
+            valuesOf<MetricBadgeValue>(row.badges), valuesOf<ActionButtonValue>(row.buttons), row.isBusy};
     }
 
     bool operator==(const MonitorRowValue&) const = default;

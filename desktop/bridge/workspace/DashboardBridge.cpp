@@ -30,9 +30,9 @@ int DashboardBridge::selectedRow() const
     return row ? static_cast<int>(*row) : -1;
 }
 
-QStringList DashboardBridge::refreshIntervalLabels() const
+QList<QString> DashboardBridge::refreshIntervalLabels() const
 {
-    QStringList labels;
+    QList<QString> labels;
     for (const auto interval : workspace::DashboardView::refreshIntervals) {
         labels << QString::fromStdString(workspace::refreshIntervalLabel(interval));
     }

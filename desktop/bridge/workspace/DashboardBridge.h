@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QStringList>
+#include <QList>
+#include <QString>
 #include <QtQml/qqmlregistration.h>
 
 #include <memory>
@@ -35,7 +36,7 @@ class DashboardBridge : public ScreenBridge {
     Q_PROPERTY(bool showsRefreshFailure READ showsRefreshFailure NOTIFY changed)
     Q_PROPERTY(QString refreshFailedText READ refreshFailedText CONSTANT)
     Q_PROPERTY(bool isRefreshEnabled READ isRefreshEnabled NOTIFY changed)
-    Q_PROPERTY(QStringList refreshIntervalLabels READ refreshIntervalLabels CONSTANT)
+    Q_PROPERTY(QList<QString> refreshIntervalLabels READ refreshIntervalLabels CONSTANT)
     /// The settings sheet; null while it is closed.
     Q_PROPERTY(larkspan::bridge::SettingsBridge* settings READ settings NOTIFY changed)
     /// The opened page; null if there is none.
@@ -54,7 +55,7 @@ public:
     bool showsRefreshFailure() const { return dashboard_->showsRefreshFailure(); }
     QString refreshFailedText() const { return words(workspace::DashboardView::refreshFailedText); }
     bool isRefreshEnabled() const { return dashboard_->isRefreshEnabled(); }
-    QStringList refreshIntervalLabels() const;
+    QList<QString> refreshIntervalLabels() const;
     SettingsBridge* settings() const { return settings_.get(); }
     StatusPageDetailBridge* openedPage() const { return openedPage_.get(); }
 

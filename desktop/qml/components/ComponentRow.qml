@@ -15,7 +15,7 @@ CardRow {
     hasDivider: row.followsComponent && !row.isHeading
     topPadding: row.isHeading ? gap : 0
     implicitHeight: row.isHeading ? heading.implicitHeight + gap + Theme.unit
-        : Math.max(Theme.rowHeight, words.implicitHeight + 2 * Theme.unit)
+        : Math.max(Theme.rowHeight, line.implicitHeight + 2 * Theme.unit)
     Accessible.role: row.isHeading ? Accessible.Heading : Accessible.ListItem
 
     Rectangle {
@@ -42,7 +42,7 @@ CardRow {
         Label {
             id: heading
             visible: delegate.row.isHeading
-            x: Theme.halfUnit - delegate.leftPadding
+            x: -delegate.leftPadding
             width: parent.width - 2 * x
             text: delegate.row.isHeading ? delegate.row.title : ""
             font.pointSize: Theme.subheadline
@@ -51,25 +51,27 @@ CardRow {
             maximumLineCount: 1
             Accessible.ignored: true
         }
-        Symbol {
-            id: mark
-            anchors.verticalCenter: parent.verticalCenter
+        RowContent {
+            id: line
+            anchors.fill: parent
             visible: !delegate.row.isHeading
-            width: Theme.iconSize
-            height: Theme.iconSize
-            name: delegate.row.symbol
-            color: Theme.toneColor(delegate.row.tone)
-        }
-        Column {
-            id: words
-            anchors.left: mark.right
-            anchors.leftMargin: Theme.unit + Theme.halfUnit
-            anchors.right: pill.left
-            anchors.rightMargin: Theme.unit + Theme.halfUnit
-            anchors.verticalCenter: parent.verticalCenter
-            visible: !delegate.row.isHeading
+            wordsWidth: delegate.row.description === "" ? title.implicitWidth : Infinity
+            endWidth: pill.implicitWidth
+            mark: Symbol {
+                width: Theme.iconSize
+                height: Theme.iconSize
+                name: delegate.row.symbol
+                color: Theme.toneColor(delegate.row.tone)
+            }
+            end: Pill {
+                id: pill
+                width: Math.min(implicitWidth, line.mostWidth)
+                pill: delegate.row.status
+                weight: Font.Medium
+            }
 
             MarqueeText {
+                id: title
                 width: parent.width
                 layoutHeight: Theme.titleHeight
                 text: delegate.row.isHeading ? "" : delegate.row.title
@@ -83,15 +85,6 @@ CardRow {
                 color: Theme.secondary
                 wrapMode: Text.Wrap
             }
-        }
-        Pill {
-            id: pill
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
-            visible: !delegate.row.isHeading
-            width: Math.min(implicitWidth, parent.width / 2)
-            pill: delegate.row.status
-            weight: Font.Medium
         }
     }
 }

@@ -10,6 +10,7 @@ ListArea {
 
     CardList {
         anchors.fill: parent
+        topMargin: Theme.tabsGap
         name: qsTr("Components")
         rows: view.components.rows
         onPulled: view.components.refresh()

@@ -10,6 +10,9 @@ ScreenFrame {
     title: dashboard.windowTitle
     isTitleDispensable: true
     status: dashboard.status
+    // While there is no list, the content shows the progress.
+    hidesStatusProgress: !dashboard.showsList
+    isStatusMovable: dashboard.showsList
     showsContent: dashboard.showsList
     placeholder: dashboard.placeholder
     onRetried: dashboard.refresh()
@@ -53,13 +56,27 @@ ScreenFrame {
                 width: parent.width
                 headline: view.dashboard.headline
             }
-            Label {
-                leftPadding: Theme.halfUnit
-                text: view.dashboard.listHeading
-                font.pointSize: Theme.subheadline
-                font.weight: Font.DemiBold
-                color: Theme.secondary
-                Accessible.role: Accessible.Heading
+            Item {
+                width: parent.width
+                implicitHeight: Math.max(heading.implicitHeight, status.implicitHeight)
+
+                Label {
+                    id: heading
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: view.dashboard.listHeading
+                    font.pointSize: Theme.subheadline
+                    font.weight: Font.DemiBold
+                    color: Theme.secondary
+                    Accessible.role: Accessible.Heading
+                }
+                MarkerLine {
+                    id: status
+                    anchors.right: parent.right
+                    anchors.verticalCenter: parent.verticalCenter
+                    visible: !view.hasRoomForStatus
+                    marker: view.status
+                    maximumWidth: parent.width - heading.implicitWidth - Theme.headerGap
+                }
             }
         }
         delegate: StatusPageRow {

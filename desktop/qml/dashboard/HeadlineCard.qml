@@ -15,7 +15,7 @@ Rectangle {
 
     Symbol {
         id: mark
-        x: 2 * Theme.unit + Theme.halfUnit
+        x: 2 * Theme.unit
         anchors.verticalCenter: parent.verticalCenter
         width: Theme.headlineIconSize
         height: Theme.headlineIconSize

@@ -3,17 +3,10 @@ import Larkspan
 import Larkspan.Bridge
 
 // How often the account is looked at.
-KitMenu {
+WordMenu {
     id: intervals
     required property DashboardBridge dashboard
 
-    Repeater {
-        model: intervals.dashboard.refreshIntervalLabels
-        KitMenuItem {
-            required property int index
-            required property string modelData
-            text: modelData
-            onTriggered: intervals.dashboard.chooseRefreshInterval(index)
-        }
-    }
+    words: dashboard.refreshIntervalLabels
+    onChosen: place => intervals.dashboard.chooseRefreshInterval(place)
 }

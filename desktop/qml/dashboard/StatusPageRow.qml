@@ -9,31 +9,24 @@ CardRow {
     name: row.title
     description: row.status.text
 
-    contentItem: Item {
-        implicitHeight: pill.implicitHeight
-
-        Symbol {
-            id: mark
-            anchors.verticalCenter: parent.verticalCenter
+    contentItem: RowContent {
+        wordsWidth: title.implicitWidth
+        gap: 2 * Theme.unit
+        mark: Symbol {
             width: Theme.iconSize
             height: Theme.iconSize
             name: delegate.row.symbol
             color: Theme.toneColor(delegate.row.tone)
         }
+        end: Pill {
+            pill: delegate.row.status
+        }
+
         Label {
-            anchors.left: mark.right
-            anchors.leftMargin: Theme.unit + Theme.halfUnit
-            anchors.right: pill.left
-            anchors.rightMargin: 2 * Theme.unit
-            anchors.verticalCenter: parent.verticalCenter
+            id: title
+            width: parent.width
             text: delegate.row.title
             maximumLineCount: 1
-        }
-        Pill {
-            id: pill
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
-            pill: delegate.row.status
         }
     }
 }

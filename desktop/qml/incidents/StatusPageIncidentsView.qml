@@ -10,6 +10,7 @@ ListArea {
 
     CardList {
         anchors.fill: parent
+        topMargin: Theme.tabsGap
         name: qsTr("Incidents")
         rows: view.incidents.rows
         onPulled: view.incidents.refresh()

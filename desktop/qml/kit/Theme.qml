@@ -13,10 +13,24 @@ QtObject {
     readonly property color window: isDark ? "#1b1d21" : "#f4f5f7"
     readonly property color card: isDark ? "#25282d" : "#ffffff"
     readonly property color line: hasHighContrast ? secondary : isDark ? "#34383f" : "#e3e6ea"
+    // The edge of what can be pressed or filled in, which `line` is too faint for.
+    readonly property color controlLine: hasHighContrast ? text : isDark ? "#737b87" : "#868d97"
+    readonly property color controlLineHovered: secondary
+    readonly property color field: card
     readonly property color text: isDark ? "#eceef1" : "#1d2127"
     readonly property color secondary: hasHighContrast ? text : isDark ? "#b0b7c1" : "#5a6068"
     readonly property color accent: isDark ? "#2f6fd0" : "#1a5bbd"
     readonly property color accentText: "#ffffff"
+    readonly property color accentLine: hasHighContrast ? text : isDark ? "#4f86db" : accent
+    readonly property color disabledText: hasHighContrast ? gray : isDark ? "#868d97" : "#7b828d"
+    readonly property color disabledFill: Qt.tint(card, hover)
+    readonly property color segment: isDark ? "#4a515b" : card
+    readonly property color segmentLine: hasHighContrast ? text : isDark ? "#828994" : "#737b87"
+    readonly property color switchOff: isDark ? "#737b87" : "#868d97"
+    readonly property color knob: accentText
+    readonly property color scrollHandle: controlLine
+    readonly property color scrollHandleHovered: secondary
+    readonly property color scrollHandlePressed: text
     readonly property color green: isDark ? "#5bd68f" : "#17703b"
     readonly property color orange: isDark ? "#f3ad5e" : "#964a00"
     readonly property color yellow: isDark ? "#e8ca5c" : "#705700"
@@ -24,8 +38,14 @@ QtObject {
     readonly property color blue: isDark ? "#8dbbfa" : "#1a5bbd"
     readonly property color gray: isDark ? "#b0b7c1" : "#5a6068"
     readonly property color focus: isDark ? blue : accent
+    // The same colour in each state, so that nothing else is seen while one fades into another.
+    readonly property color rest: Qt.alpha(text, 0)
     readonly property color hover: Qt.alpha(text, 0.06)
     readonly property color pressed: Qt.alpha(text, 0.12)
+    // On the full colour of the accent or of a tone, whose words would be less legible on a lighter one.
+    readonly property color restOnFill: Qt.alpha("black", 0)
+    readonly property color hoverOnFill: Qt.alpha("black", 0.08)
+    readonly property color pressedOnFill: Qt.alpha("black", 0.16)
     readonly property color accentOnCard: isDark ? blue : accent
     // The colour of text on the full colour of a tone.
     readonly property color toneText: isDark ? window : accentText
@@ -38,7 +58,8 @@ QtObject {
     readonly property real ruleOpacity: 0.55
     readonly property real metricOpacity: 0.12
     readonly property real outlineOpacity: hasHighContrast ? 1 : 0.3
-    readonly property color track: Qt.alpha(text, 0.25)
+    // Beneath the segments of a picker.
+    readonly property color track: hover
 
     readonly property real base: Application.font.pointSize > 0 ? Application.font.pointSize : 10
     readonly property real title: base * 1.8
@@ -54,22 +75,39 @@ QtObject {
     readonly property int unit: 8
     readonly property int halfUnit: 4
     readonly property int margin: 20
+    readonly property int headerGap: 16
+    // The tabs: their distance from the header, their own padding, and that of the content from it.
+    readonly property int tabsMargin: 16
+    readonly property int tabsPadding: 12
+    readonly property int tabsGap: 8
     readonly property int cardRadius: 12
     readonly property int boxRadius: 10
     readonly property int controlRadius: 8
     readonly property int pillRadius: 6
     readonly property int hairline: 1
     readonly property int focusWidth: 2
+    readonly property int focusGap: 2
+    // The least width and height of what can be hit.
+    readonly property int leastTarget: 24
+    readonly property int scrollBarWidth: 12
+    readonly property int scrollHandleWidth: 4
+    readonly property int scrollHandleWidthHovered: 8
     readonly property int iconSize: Math.round(16 * scale)
     readonly property int smallIconSize: Math.round(13 * scale)
     readonly property int largeIconSize: Math.round(40 * scale)
-    readonly property int controlHeight: Math.round(32 * scale)
-    readonly property int smallControlHeight: Math.round(28 * scale)
-    readonly property int headerHeight: Math.round(48 * scale)
+    // A line of text, which grows, and the free space above and below it, which does not.
+    readonly property int controlHeight: Math.round(16 + 16 * scale)
+    readonly property int smallControlHeight: Math.round(12 + 16 * scale)
+    readonly property int headerHeight: Math.round(32 + 16 * scale)
     readonly property int rowHeight: Math.round(44 * scale)
     readonly property int placeholderWidth: 420
     readonly property int pickerWidth: 560
-    readonly property int columnWidth: 680
+    // The largest width of lists and details, and that of the texts in an overview.
+    readonly property int columnWidth: 880
+    readonly property int readingWidth: 680
+    // Less room for a row's words, or for the header's status, would not tell anything.
+    readonly property int wordsLeastWidth: Math.round(160 * scale)
+    readonly property int statusLeastWidth: Math.round(64 * scale)
     readonly property int columnSpacing: 18
     readonly property int statusIconSize: Math.round(30 * scale)
     readonly property int sheetWidth: 520
@@ -77,10 +115,10 @@ QtObject {
     readonly property int dialogWidth: 400
     readonly property int menuWidth: 320
     readonly property int menuRowHeight: Math.round(28 * scale)
-    readonly property int dotSize: 8
+    readonly property int dotSize: Math.round(8 * scale)
     readonly property int graphHeight: 72
     readonly property int curveWidth: 2
-    readonly property int recordDotSize: 10
+    readonly property int recordDotSize: Math.round(10 * scale)
     readonly property int quoteBarWidth: 3
     readonly property int quoteGap: 10
     readonly property int itemGap: 7
@@ -123,5 +161,13 @@ QtObject {
         case Tone.Gray: return theme.gray
         }
         return theme.secondary
+    }
+    // Opaque, so that the words on it are as legible on a row under the pointer as on the card.
+    function tinted(tone: int, share: real): color {
+        return Qt.tint(theme.card, Qt.alpha(theme.toneColor(tone), share))
+    }
+    // Yellow, which is dark in light mode, is told from orange by an outline.
+    function toneOutline(tone: int): int {
+        return tone === Tone.Yellow ? theme.hairline : 0
     }
 }

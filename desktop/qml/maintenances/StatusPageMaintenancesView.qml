@@ -11,6 +11,7 @@ ListArea {
 
     CardList {
         anchors.fill: parent
+        topMargin: Theme.tabsGap
         name: qsTr("Maintenances")
         rows: view.maintenances.rows
         onPulled: view.maintenances.refresh()

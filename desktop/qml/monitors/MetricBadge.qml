@@ -14,7 +14,7 @@ Rectangle {
     implicitWidth: frameWidth + Math.max(value.implicitWidth + besideValue, label.implicitWidth)
     implicitHeight: content.implicitHeight + 2 * Theme.narrowGap
     radius: Theme.controlRadius
-    color: Qt.alpha(Theme.toneColor(badge.tone), Theme.metricOpacity)
+    color: Theme.tinted(badge.tone, Theme.metricOpacity)
 
     Row {
         id: content

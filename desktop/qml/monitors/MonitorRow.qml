@@ -128,6 +128,12 @@ CardRow {
                     onClicked: delegate.commanded(button.id)
                 }
             }
+            Loader {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: active
+                active: delegate.row.isBusy
+                sourceComponent: BusyIndicator {}
+            }
         }
     }
 }

@@ -10,6 +10,7 @@ ListArea {
 
     CardList {
         anchors.fill: parent
+        topMargin: Theme.tabsGap
         name: qsTr("Monitors")
         rows: view.monitors.rows
         onPulled: view.monitors.refresh()

@@ -10,6 +10,7 @@ CardRow {
     description: row.caption
     isPressable: false
     isStop: false
+    rightPadding: Math.max(leftPadding, width - leftPadding - Theme.readingWidth * Theme.scale)
 
     contentItem: Item {
         implicitHeight: words.implicitHeight

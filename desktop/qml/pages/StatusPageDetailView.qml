@@ -34,9 +34,9 @@ ScreenFrame {
         }
     ]
 
-    SegmentedPicker {
+    TabPicker {
         id: picker
-        y: Theme.unit + Theme.halfUnit
+        y: Theme.tabsMargin
         anchors.horizontalCenter: parent.horizontalCenter
         width: Math.min(Theme.pickerWidth * Theme.scale, parent.width - 2 * Theme.margin)
         name: view.page.pickerLabel
@@ -49,7 +49,7 @@ ScreenFrame {
     Loader {
         id: screen
         anchors.fill: parent
-        anchors.topMargin: picker.height + 2 * picker.y
+        anchors.topMargin: picker.y + picker.height + Theme.tabsPadding
         sourceComponent: view.page.incidents ? incidents
             : view.page.monitors ? monitors
             : view.page.components ? components

@@ -6,11 +6,12 @@ import Larkspan.Bridge
 CardList {
     id: overview
     required property StatusPageDetailBridge page
+    readonly property real textWidth: Theme.readingWidth * Theme.scale
 
     rows: page.activity
     name: qsTr("Current Activity")
     walksRows: false
-    widest: Theme.columnWidth * Theme.scale
+    topMargin: Theme.tabsGap
 
     above: Column {
         spacing: Theme.columnSpacing
@@ -23,6 +24,7 @@ CardList {
         GroupBox {
             visible: overview.page.information.length > 0
             width: parent.width
+            widest: overview.textWidth
             title: qsTr("Status Page")
 
             Repeater {
@@ -57,6 +59,7 @@ CardList {
         GroupBox {
             visible: overview.page.about !== ""
             width: parent.width
+            widest: overview.textWidth
             title: qsTr("About This Status Page")
 
             Label {
@@ -69,6 +72,7 @@ CardList {
         GroupBox {
             visible: overview.page.uptime.length > 0
             width: parent.width
+            widest: overview.textWidth
             title: qsTr("Uptime")
 
             Repeater {

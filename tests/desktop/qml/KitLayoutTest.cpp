@@ -1,3 +1,5 @@
+#include <QTest>
+
 #include <gtest/gtest.h>
 
 #include "KitWindow.h"
@@ -61,6 +63,18 @@ TEST_F(BoxLayout, HasAThinRoundedOutlineInSecondaryAtThreeTenths)
     EXPECT_EQ(all[0].color.rgb(), light::secondary.rgb());
     EXPECT_NEAR(all[0].color.alphaF(), 0.3, 0.001);
     EXPECT_EQ(all[0].place, QRectF(0, 0, 300, box().height()));
+}
+
+TEST_F(BoxLayout, HasItsOutlineInFullUnderThePointer)
+{
+    QTest::mouseMove(&window(), frameOf(box()).center().toPoint());
+    settle();
+    EXPECT_EQ(lines()[0].color, light::secondary);
+}
+
+TEST_F(BoxLayout, IsFilledAsACard)
+{
+    EXPECT_EQ(window().grabWindow().pixelColor(frameOf(box()).center().toPoint()), light::card);
 }
 
 TEST_F(BoxLayout, HasItsRingOverTheOutlineWhileItHasTheFocus)

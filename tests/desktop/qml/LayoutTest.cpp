@@ -83,11 +83,11 @@ TEST_F(Layout, OfATimelineHasRowsEightPointsApartAndGroupsTwenty)
     EXPECT_EQ(gapBelow(shapeAround(label("Critical")), group), 20);
 }
 
-TEST_F(Layout, OfAPageIsAPickerTwelvePointsFromTheHeaderAndItsContentTwelveBelow)
+TEST_F(Layout, OfAPageIsAPickerWithTwelvePointsOfItsOwnAroundItSixteenPointsFromTheHeader)
 {
     const auto& picker = item(Role::PageTabList, QStringLiteral("View"));
     const auto& screen = item(Role::List, QStringLiteral("Incidents"));
-    EXPECT_EQ(picker.mapToItem(picker.parentItem(), {0, 0}).y(), 12);
+    EXPECT_EQ(frameOf(picker).top(), frameOf(item(Role::Button, QStringLiteral("Back"))).bottom() + 8 + 16);
     EXPECT_EQ(gapBelow(picker, screen), 12);
     EXPECT_EQ(picker.width(), 560);
     window().resize(480, 440);

@@ -37,7 +37,7 @@ TEST_F(MaintenanceLayout, OfARowIsADotTheTitleOverBadgeAndDateAndAChevron)
     const auto& chevron = *partOf(row, "name", QStringLiteral("chevron.right"));
     EXPECT_EQ(chevron.width(), 13);
     EXPECT_EQ(colorOf(chevron), light::secondary);
-    EXPECT_EQ(frameOf(row).right() - frameOf(chevron).right(), 12);
+    EXPECT_EQ(frameOf(row).right() - frameOf(chevron).right(), 16);
 }
 
 TEST_F(MaintenanceLayout, OfARowHasItsBadgeTwoPointsBelowTheTitle)

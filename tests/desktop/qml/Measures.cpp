@@ -97,6 +97,14 @@ const QQuickItem& shapeAround(const QQuickItem& word)
     return *shape;
 }
 
+double tintOf(const QQuickItem& word)
+{
+    const auto ground = colorOf(shapeAround(word));
+    if (ground.alpha() != 255) throw std::runtime_error("the row shines through a pill");
+    const auto share = [](float seen, float ink, float card) { return (card - seen) / (card - ink); };
+    return rounded(share(ground.greenF(), colorOf(word).greenF(), light::card.greenF()));
+}
+
 PillMeasures PillMeasures::of(const QQuickItem& word)
 {
     const auto shape = frameOf(shapeAround(word));
@@ -105,7 +113,7 @@ PillMeasures PillMeasures::of(const QQuickItem& word)
         .aboveAndBelow = text.top() - shape.top(),
         .size = sizeOf(word),
         .weight = fontOf(word).weight(),
-        .tint = rounded(colorOf(shapeAround(word)).alphaF())};
+        .tint = tintOf(word)};
 }
 
 std::ostream& operator<<(std::ostream& out, const PillMeasures& pill)

@@ -34,6 +34,9 @@ QQuickItem* partOf(const QQuickItem& root, const char* property, const QVariant&
 /// The tinted shape around the word of a pill or a badge.
 const QQuickItem& shapeAround(const QQuickItem& word);
 
+/// The share of the word's colour in the ground of its pill, which is a card's for the rest.
+double tintOf(const QQuickItem& word);
+
 /// The size of a pill beyond that of its word, and the strength of its tint.
 struct PillMeasures {
     double beside;
@@ -64,6 +67,7 @@ inline constexpr double caption2 = 0.79;
 /// The colours of the light theme.
 namespace light {
 
+inline const QColor card{"#ffffff"};
 inline const QColor primary{"#1d2127"};
 inline const QColor secondary{"#5a6068"};
 inline const QColor green{"#17703b"};

@@ -108,7 +108,7 @@ TEST_F(MonitorLayout, OfATrendsBadgeIsIconWordAndNameSideBySide)
     const auto content = frameOf(icon) | frameOf(word) | frameOf(name);
     EXPECT_EQ(frameOf(shapeAround(word)), content.adjusted(-8, -6, 8, 6));
     EXPECT_EQ(shapeAround(word).property("radius").toInt(), 8);
-    EXPECT_NEAR(colorOf(shapeAround(word)).alphaF(), 0.12, 0.001);
+    EXPECT_EQ(tintOf(word), 0.12);
     EXPECT_EQ(sizeOf(word), type::caption);
     EXPECT_EQ(fontOf(word).weight(), QFont::Bold);
     EXPECT_EQ(sizeOf(name), type::caption2);

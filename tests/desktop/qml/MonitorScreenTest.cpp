@@ -88,6 +88,20 @@ TEST_F(MonitorsOnScreen, WhileOneIsCheckedItsButtonsCannotBePressedAndThoseOfOth
     EXPECT_EQ(focused(), QStringLiteral("Check Now"));
 }
 
+TEST_F(MonitorsOnScreen, OneWithARunningActionHasAMovingMarkBesideItsButtons)
+{
+    EXPECT_EQ(names(Role::ProgressBar), QStringList());
+    choose("Check Now");
+    ASSERT_EQ(names(Role::ProgressBar), QStringList(QStringLiteral("In progress")));
+    const auto& mark = item(Role::ProgressBar, QStringLiteral("In progress"));
+    const auto& button = item(Role::Button, QStringLiteral("Check Now"));
+    EXPECT_GE(mark.mapToScene({0, 0}).x(), button.mapToScene({button.width(), 0}).x());
+    EXPECT_NEAR(mark.mapToScene({0, mark.height() / 2}).y(), button.mapToScene({0, button.height() / 2}).y(), 1);
+    transport.answer(HttpResponse{.status = 200, .body = ""});
+    settle();
+    EXPECT_EQ(names(Role::ProgressBar), QStringList());
+}
+
 TEST_F(MonitorsOnScreen, ARefusedActionIsAnAlertAndGivesTheKeyboardBack)
 {
     transport.script(runURL, 409, "");

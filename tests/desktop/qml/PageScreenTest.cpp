@@ -126,6 +126,8 @@ TEST_F(PageOnScreen, TheArrowsOfThePickerAndAClickChooseATab)
 
 TEST_F(PageOnScreen, OpensWithTheKeyboardOnThePickerAndTabGoesDownFromThere)
 {
+    window().resize(760, 520);
+    settle();
     QStringList order{focused()};
     for (int step = 0; step < 3; ++step) {
         press(Qt::Key_Tab);

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "ChosenSize.h"
 #include "Measures.h"
 #include "MessageOnScreen.h"
 
@@ -68,24 +69,13 @@ TEST_F(TableLayout, HasSixteenPointsBetweenColumnsAsWideAsTheirWidestText)
     EXPECT_EQ(frameOf(words("Region")).left(), frameOf(lineOf(words("Region"))).left());
 }
 
-/// The program with another font size, which the desktop sets before the program starts.
-class ChosenSize : public testing::WithParamInterface<double> {
+class SizeOfLetters : public testing::WithParamInterface<double>, public ChosenSize, public TableLayout {
 protected:
-    ChosenSize()
+    SizeOfLetters()
+        : ChosenSize(GetParam())
     {
-        QFont font = before_;
-        font.setPointSizeF(GetParam());
-        QGuiApplication::setFont(font);
+        window().resize(1'800, 1'200);
     }
-    ~ChosenSize() override { QGuiApplication::setFont(before_); }
-
-private:
-    QFont before_ = QGuiApplication::font();
-};
-
-class SizeOfLetters : public ChosenSize, public TableLayout {
-protected:
-    SizeOfLetters() { window().resize(1'800, 1'200); }
 };
 
 TEST_P(SizeOfLetters, WrapsNoTextThatIsTheWidestOfItsColumn)

@@ -4,37 +4,20 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <memory>
 #include <string>
 
+#include "Contrast.h"
 #include "Screen.h"
 
 namespace larkspan {
 
 namespace {
 
-double channel(double value)
+QColor tinted(const QColor& ground, QColor tint, float share)
 {
-    return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-}
-
-double luminance(const QColor& color)
-{
-    return 0.2126 * channel(color.redF()) + 0.7152 * channel(color.greenF()) + 0.0722 * channel(color.blueF());
-}
-
-double contrast(const QColor& one, const QColor& other)
-{
-    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
-QColor tinted(const QColor& ground, const QColor& tint, float share)
-{
-    const auto mixed = [share](float below, float above) { return below * (1 - share) + above * share; };
-    return QColor::fromRgbF(
-        mixed(ground.redF(), tint.redF()), mixed(ground.greenF(), tint.greenF()), mixed(ground.blueF(), tint.blueF()));
+    tint.setAlphaF(share);
+    return over(ground, tint);
 }
 
 class Theme : public testing::TestWithParam<bool> {

@@ -54,6 +54,20 @@ TEST_F(DetailOfAComponent, LightsTheSegmentOfItsStatusAndNoneForAnyOtherWord)
     EXPECT_EQ(*view->editedStatus, "down");
 }
 
+TEST_F(DetailOfAComponent, NamesAStatusThatCannotBeChosenUntilAnotherIsChosen)
+{
+    editing(R"(, "monitor_state": "PartialOutage")");
+    EXPECT_EQ(view->unlistedStatus(), "Now “PartialOutage”, which stays until you choose another.");
+    view->editedStatus = "";
+    EXPECT_EQ(view->unlistedStatus(), "There is no status yet.");
+    view->editedStatus = std::string(3'000, 'w');
+    EXPECT_LT(view->unlistedStatus().size(), 2'200u) << "only the beginning of an extremely long word";
+    for (std::size_t place = 0; place < ComponentDetailView::statusChoices.size(); ++place) {
+        view->chooseStatus(place);
+        EXPECT_EQ(view->unlistedStatus(), "") << place;
+    }
+}
+
 TEST_F(DetailOfAComponent, WithAStatusThatCannotBeChosenSendsItUnchanged)
 {
     editing(R"(, "monitor_state": "PartialOutage")");
@@ -121,6 +135,17 @@ TEST_F(DetailOfAComponent, SavesANameWithoutTheSpaceAroundIt)
     view->editedName = "  A  ";
     save();
     EXPECT_EQ(transport.requests.at(0).body, R"({"name":"A","status":"unknown"})");
+}
+
+TEST_F(DetailOfAComponent, KeepsADescriptionOfAnyLengthWholeWhenItsNameAloneIsChanged)
+{
+    const std::string text(30'000, 'd');
+    editing(R"(, "description": ")" + text + R"(")");
+    EXPECT_LT(view->description().size(), text.size()) << "the screen shows its beginning";
+    EXPECT_FALSE(view->hasUnsavedText());
+    view->editedName = "New";
+    save();
+    EXPECT_EQ(transport.requests.at(0).body, R"({"name":"New","description":")" + text + R"(","status":"unknown"})");
 }
 
 TEST_F(DetailOfAComponent, SendsAClearedDescriptionAsAbsentAndASingleSpaceAsItIs)

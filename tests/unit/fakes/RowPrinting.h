@@ -22,7 +22,7 @@ constexpr bool hasFields(std::index_sequence<Index...>)
     return requires { T{(static_cast<void>(Index), AnyField{})...}; };
 }
 
-template <typename T, std::size_t most = 12>
+template <typename T, std::size_t most = 13>
 constexpr std::size_t fieldCount()
 {
     if constexpr (most == 0 || hasFields<T>(std::make_index_sequence<most>{}))
@@ -65,6 +65,9 @@ auto fieldsOf(const T& row)
     } else if constexpr (count == 10) {
         const auto& [a, b, c, d, e, f, g, h, i, j] = row;
         return std::tie(a, b, c, d, e, f, g, h, i, j);
+    } else if constexpr (count == 12) {
+        const auto& [a, b, c, d, e, f, g, h, i, j, k, l] = row;
+        return std::tie(a, b, c, d, e, f, g, h, i, j, k, l);
     } else {
         static_assert(count == 11, "give rows of more fields their case here");
         const auto& [a, b, c, d, e, f, g, h, i, j, k] = row;

@@ -79,6 +79,30 @@ TEST_F(FormOfAMaintenance, WithAStartMovedBehindItsEndCannotBeSaved)
     EXPECT_TRUE(form->isSaveEnabled());
 }
 
+TEST_F(FormOfAMaintenance, SaysHowLongItIsAndWarnsIfItCannotBeSavedForThat)
+{
+    clock.time += 37s;
+    titled();
+    EXPECT_EQ(form->length(), presentation::Marker{.text = "1 hour"});
+    form->scheduledUntil->typeMinute("30");
+    EXPECT_EQ(form->length(), presentation::Marker{.text = "1 hour 30 minutes"}) << "whatever the seconds of the start";
+    const auto warning = [](const char* text) {
+        return presentation::Marker{.symbol = "exclamationmark.triangle.fill",
+            .symbolTone = presentation::Tone::orange,
+            .text = text,
+            .tone = presentation::Tone::orange};
+    };
+    form->scheduledUntil->moveDays(-1);
+    EXPECT_EQ(form->length(), warning("The end is before the start."));
+    EXPECT_FALSE(form->isSaveEnabled());
+    form->scheduledFor->typeHour("9");
+    form->scheduledUntil->moveDays(1);
+    form->scheduledUntil->typeHour("9");
+    form->scheduledUntil->typeMinute("0");
+    EXPECT_EQ(form->length(), warning("The end is at the start."));
+    EXPECT_FALSE(form->isSaveEnabled());
+}
+
 TEST_F(FormOfAMaintenance, WithAGroupButNoComponentCannotBeSaved)
 {
     titled()->selection->chooseGroup("back");

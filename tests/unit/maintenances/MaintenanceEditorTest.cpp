@@ -92,6 +92,28 @@ TEST_F(EditorOfAMaintenance, SendsAnEndBeforeOrAtTheStartAsItStands)
             patch + R"({"title":"Upgrade","start_at":"2026-11-20T10:00:00Z","end_at":"2026-11-20T10:00:00Z"})"}));
 }
 
+TEST_F(EditorOfAMaintenance, SaysHowLongItIsAndOnlyRemarksAnEndBeforeTheStart)
+{
+    editing();
+    EXPECT_EQ(view->editedLength(), presentation::Marker{.text = "2 hours"});
+    view->editedScheduledUntil->typeHour("8");
+    EXPECT_EQ(view->editedLength(), presentation::Marker{.text = "The end is before the start."});
+    view->editedScheduledUntil->typeHour("10");
+    EXPECT_EQ(view->editedLength(), presentation::Marker{.text = "The end is at the start."});
+    EXPECT_TRUE(view->isSaveEnabled());
+}
+
+TEST_F(EditorOfAMaintenance, TellsItsObserversOfItsDatesToo)
+{
+    editing();
+    int changes = 0;
+    const auto subscriptions = view->observe([&changes] { ++changes; });
+    view->editedScheduledFor->browseMonths(1);
+    EXPECT_EQ(changes, 1);
+    view->editedScheduledUntil->browseMonths(1);
+    EXPECT_EQ(changes, 2);
+}
+
 TEST_F(EditorOfAMaintenance, WithATitleOfBlanksCannotBeSaved)
 {
     editing()->editedTitle = " \t";

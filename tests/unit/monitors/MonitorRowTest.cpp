@@ -56,6 +56,12 @@ TEST(MonitorRow, HasNoButtonEnabledWhileAnActionOnItRuns)
     for (const auto& button : MonitorRow::of(gateway(), nullptr, true).buttons) EXPECT_FALSE(button.isEnabled);
 }
 
+TEST(MonitorRow, ShowsThatItIsBusyWhileAnActionOnItRuns)
+{
+    EXPECT_TRUE(MonitorRow::of(gateway(), nullptr, true).isBusy);
+    EXPECT_FALSE(MonitorRow::of(gateway(), nullptr, false).isBusy);
+}
+
 struct StatusWord {
     MonitorStatus status;
     std::string word;

@@ -161,6 +161,23 @@ TEST_F(MonitorsOfAPage, PatchTheRowOfTheMonitorThatItsDetailRefreshed)
     EXPECT_EQ(view->rows().back().status, "Paused");
 }
 
+TEST_F(MonitorsOfAPage, KeepTheOldRecordIfItsDetailPausesItAndTheRefetchFails)
+{
+    serve({record("1")});
+    transport.script(actionURL("1", "pause"), 200, "");
+    appear();
+    view->openMonitor("1");
+    transport.script(std::string(listURL), 500, "");
+    view->detail()->press("pauseResume");
+    run();
+    EXPECT_EQ(
+        sent(), (Words{"GET /user/api/v1/monitors", "POST /user/api/monitors/1/pause", "GET /user/api/v1/monitors"}))
+        << "the list is not fetched again";
+    EXPECT_EQ(view->detail()->buttons().front().label, "Pause Monitor");
+    EXPECT_NE(view->rows().front().status, "Paused");
+    EXPECT_EQ(view->detail()->action->alert.words(), "Server returned HTTP status code 500.");
+}
+
 TEST_F(MonitorsOfAPage, ARowIsBusyAlsoWhileItsMonitorIsPausedFromItsOwnScreen)
 {
     serve({record("1"), record("2")});

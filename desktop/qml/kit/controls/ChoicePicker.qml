@@ -17,17 +17,32 @@ Pressable {
     readonly property string selectedName: selectedPlace < 0 ? "" : choices[selectedPlace].name
 
     implicitHeight: Theme.controlHeight
-    opacity: enabled ? 1 : 0.5
+    readonly property color ink: enabled ? Theme.text : Theme.disabledText
+    readonly property color quietInk: enabled ? Theme.secondary : Theme.disabledText
+
     Accessible.role: Accessible.ComboBox
     Accessible.description: selectedName
     onClicked: popup.open()
     Keys.onDownPressed: popup.open()
 
+    Rectangle {
+        anchors.fill: parent
+        anchors.leftMargin: -Theme.unit
+        anchors.rightMargin: -Theme.unit
+        radius: Theme.controlRadius
+        color: picker.down ? Theme.pressed : picker.hovered ? Theme.hover : Theme.rest
+        Behavior on color {
+            ColorAnimation { duration: Theme.quick }
+        }
+
+        FocusRing { holder: picker }
+    }
     Label {
         id: caption
         anchors.verticalCenter: parent.verticalCenter
         width: Math.min(implicitWidth, parent.width / 2)
         text: picker.text
+        color: picker.ink
         Accessible.ignored: true
     }
     Label {
@@ -37,7 +52,7 @@ Pressable {
         anchors.rightMargin: Theme.halfUnit
         anchors.verticalCenter: parent.verticalCenter
         text: picker.selectedName
-        color: Theme.secondary
+        color: picker.quietInk
         horizontalAlignment: Text.AlignRight
     }
     Symbol {
@@ -47,12 +62,7 @@ Pressable {
         width: Theme.smallIconSize
         height: width
         name: "chevron.down"
-        color: Theme.secondary
-    }
-    FocusRing {
-        holder: picker
-        anchors.leftMargin: -Theme.unit
-        anchors.rightMargin: -Theme.unit
+        color: picker.quietInk
     }
 
     ChoicePopup {

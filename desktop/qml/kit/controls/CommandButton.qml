@@ -12,27 +12,34 @@ Pressable {
     property string symbol
     property int tone: Tone.Primary
     readonly property bool isTinted: tone !== Tone.Primary
-    readonly property color ink: isProminent ? isTinted ? Theme.toneText : Theme.accentText
+    readonly property color ink: !enabled ? Theme.disabledText : isProminent ? isTinted ? Theme.toneText : Theme.accentText
         : isDestructive ? Theme.red : Theme.toneColor(tone)
+    readonly property color fill: !isProminent ? Theme.card : !enabled ? Theme.disabledFill
+        : isTinted ? Theme.toneColor(tone) : Theme.accent
+    readonly property color edge: !enabled ? Theme.line : isTinted ? Theme.toneColor(tone)
+        : isProminent ? Theme.accentLine : hovered || down ? Theme.controlLineHovered : Theme.controlLine
     readonly property real sidePadding: 2 * Theme.unit - Theme.halfUnit
     readonly property real symbolWidth: symbol === "" ? 0 : Theme.smallIconSize + Theme.narrowGap
 
     implicitWidth: Math.max(symbolWidth + caption.implicitWidth + 2 * sidePadding, Theme.controlHeight * 2)
     implicitHeight: Math.max(isSmall ? Theme.smallControlHeight : Theme.controlHeight, caption.implicitHeight + 2 * Theme.halfUnit)
-    opacity: enabled ? 1 : 0.5
     cursorShape: Qt.ArrowCursor
 
     Rectangle {
         anchors.fill: parent
         radius: Theme.controlRadius
-        color: !button.isProminent ? Theme.card : button.isTinted ? Theme.toneColor(button.tone) : Theme.accent
-        border.width: button.isProminent ? 0 : Theme.hairline
-        border.color: button.isTinted ? button.ink : Theme.line
+        color: button.fill
+        border.width: Theme.hairline
+        border.color: button.edge
 
+        // Within the edge, which keeps its contrast.
         Rectangle {
             anchors.fill: parent
-            radius: parent.radius
-            color: button.down ? Theme.pressed : button.hovered ? Theme.hover : "transparent"
+            anchors.margins: Theme.hairline
+            radius: parent.radius - Theme.hairline
+            color: button.isProminent
+                ? button.down ? Theme.pressedOnFill : button.hovered ? Theme.hoverOnFill : Theme.restOnFill
+                : button.down ? Theme.pressed : button.hovered ? Theme.hover : Theme.rest
             Behavior on color {
                 ColorAnimation { duration: Theme.quick }
             }

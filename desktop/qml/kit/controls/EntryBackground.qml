@@ -5,12 +5,13 @@ import Larkspan
 Rectangle {
     id: frame
     required property bool isFocused
+    property bool isHovered: false
     property string placeholder
 
     radius: Theme.controlRadius
-    color: Theme.window
+    color: Theme.field
     border.width: isFocused ? Theme.focusWidth : Theme.hairline
-    border.color: isFocused ? Theme.focus : Theme.line
+    border.color: isFocused ? Theme.focus : isHovered ? Theme.controlLineHovered : Theme.controlLine
 
     Label {
         anchors.fill: parent

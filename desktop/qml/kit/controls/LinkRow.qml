@@ -15,7 +15,7 @@ Pressable {
     Rectangle {
         anchors.fill: parent
         radius: Theme.controlRadius
-        color: row.down ? Theme.pressed : row.hovered ? Theme.hover : "transparent"
+        color: row.down ? Theme.pressed : row.hovered ? Theme.hover : Theme.rest
         Behavior on color {
             ColorAnimation { duration: Theme.quick }
         }

@@ -1,34 +1,20 @@
 import QtQuick
 import Larkspan
 
-// A button of the header bar that opens a menu. The menu is created when it is first opened, and the focus returns to the
-// button when it closes.
+// A button of the header bar that opens a menu.
 ToolbarButton {
     id: button
     required property url file
     // The initial properties of the menu.
     required property var given
 
-    onClicked: isMenuOpen = true
+    isMenuOpen: menu.isOpen
+    onClicked: menu.isOpen = true
 
-    LateLoader {
-        id: loader
-        anchors.fill: parent
-        isWanted: button.isMenuOpen
+    MenuLoader {
+        id: menu
+        holder: button
         file: button.file
         given: button.given
-    }
-    Binding {
-        target: loader.item
-        property: "visible"
-        value: button.isMenuOpen
-    }
-    Connections {
-        target: loader.item
-        ignoreUnknownSignals: true
-        function onClosed() {
-            button.isMenuOpen = false
-            button.forceActiveFocus(Qt.PopupFocusReason)
-        }
     }
 }

@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan
 
 // A control that is pressed: a button, or whatever other role it has for screen readers. The roles of Qt's own controls
-// cannot be changed in Qt 6.4.
+// cannot be changed in Qt 6.4. A small one is also hit beside it.
 Item {
     id: pressable
     property string text
@@ -32,6 +32,10 @@ Item {
     MouseArea {
         id: press
         anchors.fill: parent
+        anchors.topMargin: Math.min(0, (pressable.height - Theme.leastTarget) / 2)
+        anchors.bottomMargin: anchors.topMargin
+        anchors.leftMargin: Math.min(0, (pressable.width - Theme.leastTarget) / 2)
+        anchors.rightMargin: anchors.leftMargin
         cursorShape: Qt.PointingHandCursor
         onClicked: {
             if (pressable.takesFocus) pressable.forceActiveFocus(Qt.MouseFocusReason)

@@ -15,6 +15,7 @@ T.TextField {
     echoMode: TextInput.Password
     passwordMaskDelay: 0
     inputMethodHints: Qt.ImhSensitiveData | Qt.ImhHiddenText | Qt.ImhNoAutoUppercase | Qt.ImhNoPredictiveText
+    hoverEnabled: true
     selectByMouse: true
     clip: true
     color: Theme.text
@@ -26,19 +27,9 @@ T.TextField {
     Accessible.role: Accessible.EditableText
     Accessible.name: name
 
-    background: Rectangle {
-        radius: Theme.controlRadius
-        color: Theme.window
-        border.width: field.activeFocus ? Theme.focusWidth : Theme.hairline
-        border.color: field.activeFocus ? Theme.focus : Theme.line
-
-        Label {
-            anchors.fill: parent
-            anchors.leftMargin: field.leftPadding
-            anchors.rightMargin: field.rightPadding
-            visible: field.length === 0 && field.preeditText === ""
-            text: field.placeholderText
-            color: Theme.secondary
-        }
+    background: EntryBackground {
+        isFocused: field.activeFocus
+        isHovered: field.hovered
+        placeholder: field.length === 0 && field.preeditText === "" ? field.placeholderText : ""
     }
 }

@@ -21,7 +21,7 @@ Rectangle {
 
     implicitHeight: Theme.controlHeight + Theme.unit
     radius: Theme.controlRadius + Theme.halfUnit
-    color: Theme.hover
+    color: Theme.track
     activeFocusOnTab: true
     Accessible.role: choosesTab ? Accessible.PageTabList : Accessible.Grouping
     Accessible.name: name
@@ -66,9 +66,9 @@ Rectangle {
                 Rectangle {
                     anchors.fill: parent
                     radius: Theme.controlRadius
-                    color: segment.isSelected ? Theme.card : segment.down ? Theme.pressed : segment.hovered ? Theme.hover : "transparent"
+                    color: segment.isSelected ? Theme.segment : segment.down ? Theme.pressed : segment.hovered ? Theme.hover : Theme.rest
                     border.width: segment.isSelected ? Theme.hairline : 0
-                    border.color: Theme.line
+                    border.color: Theme.segmentLine
                 }
                 Label {
                     id: label

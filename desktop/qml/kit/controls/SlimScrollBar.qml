@@ -2,13 +2,21 @@ import QtQuick
 import QtQuick.Templates as T
 import Larkspan
 
-// The scroll bar of what a `ScrollBarLoader` stands over.
+// The scroll bar of what a `ScrollBarLoader` stands over. Its handle is thin until the pointer comes near.
 T.ScrollBar {
     id: bar
     required property Flickable flickable
 
-    implicitWidth: Theme.unit
+    readonly property bool isWide: hovered || pressed
+    property real handleWidth: isWide ? Theme.scrollHandleWidthHovered : Theme.scrollHandleWidth
+    Behavior on handleWidth {
+        NumberAnimation { duration: Theme.quick; easing.type: Easing.OutCubic }
+    }
+
+    implicitWidth: Theme.scrollBarWidth
     padding: 2
+    leftPadding: width - padding - handleWidth
+    hoverEnabled: true
     visible: size < 1
     minimumSize: 0.05
     Accessible.ignored: true
@@ -16,7 +24,7 @@ T.ScrollBar {
 
     contentItem: Rectangle {
         radius: width / 2
-        color: Qt.alpha(Theme.text, bar.pressed ? 0.5 : bar.hovered || bar.active ? 0.35 : 0.18)
+        color: bar.pressed ? Theme.scrollHandlePressed : bar.hovered ? Theme.scrollHandleHovered : Theme.scrollHandle
         Behavior on color {
             ColorAnimation { duration: Theme.quick }
         }

@@ -23,9 +23,12 @@ FocusScope {
     Rectangle {
         anchors.fill: parent
         radius: Theme.boxRadius
-        color: Theme.window
+        color: Theme.field
         border.width: Theme.hairline
-        border.color: Qt.alpha(Theme.secondary, Theme.outlineOpacity)
+        border.color: Qt.alpha(Theme.secondary, pointer.hovered ? 1 : Theme.outlineOpacity)
+    }
+    HoverHandler {
+        id: pointer
     }
     Rectangle {
         anchors.fill: parent

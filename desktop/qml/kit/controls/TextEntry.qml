@@ -10,6 +10,7 @@ T.TextField {
     implicitHeight: Theme.controlHeight
     leftPadding: Theme.unit + Theme.halfUnit
     rightPadding: leftPadding
+    hoverEnabled: true
     selectByMouse: true
     clip: true
     color: Theme.text
@@ -23,6 +24,7 @@ T.TextField {
 
     background: EntryBackground {
         isFocused: field.activeFocus
+        isHovered: field.hovered
         placeholder: field.length === 0 && field.preeditText === "" ? field.placeholderText : ""
     }
 }

@@ -33,6 +33,7 @@ T.TextField {
     maximumLength: 2
     validator: RegularExpressionValidator { regularExpression: new RegExp(field.pattern) }
     inputMethodHints: Qt.ImhDigitsOnly
+    hoverEnabled: true
     selectByMouse: true
     color: Theme.text
     selectionColor: Theme.accent
@@ -79,5 +80,6 @@ T.TextField {
 
     background: EntryBackground {
         isFocused: field.activeFocus
+        isHovered: field.hovered
     }
 }

@@ -17,6 +17,7 @@ Pressable {
         anchors.rightMargin: Theme.unit
         anchors.verticalCenter: parent.verticalCenter
         text: toggle.text
+        color: toggle.enabled ? Theme.text : Theme.disabledText
         Accessible.ignored: true
     }
     Rectangle {
@@ -26,7 +27,10 @@ Pressable {
         width: Theme.toggleWidth
         height: Theme.toggleHeight
         radius: height / 2
-        color: toggle.isOn ? Theme.accent : Theme.track
+        color: !toggle.enabled ? Theme.line : toggle.isOn ? Theme.accent : Theme.switchOff
+        border.width: Theme.hairline
+        border.color: !toggle.enabled ? Theme.line : toggle.hovered || toggle.down ? Theme.controlLineHovered
+            : toggle.isOn ? Theme.accentLine : Theme.controlLine
         Behavior on color {
             ColorAnimation { duration: Theme.quick }
         }
@@ -37,7 +41,7 @@ Pressable {
             width: track.height - 4
             height: width
             radius: width / 2
-            color: Theme.accentText
+            color: Theme.knob
             Behavior on x {
                 NumberAnimation { duration: Theme.quick; easing.type: Easing.OutCubic }
             }

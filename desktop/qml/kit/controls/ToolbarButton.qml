@@ -17,14 +17,13 @@ Pressable {
     implicitWidth: Theme.controlHeight
     implicitHeight: Theme.controlHeight
     enabled: !isBusy
-    opacity: enabled ? 1 : 0.4
     cursorShape: Qt.ArrowCursor
     Accessible.name: help
 
     Rectangle {
         anchors.fill: parent
         radius: Theme.controlRadius
-        color: button.down ? Theme.pressed : button.hovered ? Theme.hover : "transparent"
+        color: button.down ? Theme.pressed : button.hovered ? Theme.hover : Theme.rest
         Behavior on color {
             ColorAnimation { duration: Theme.quick }
         }
@@ -36,7 +35,7 @@ Pressable {
         width: button.iconSize
         height: width
         name: button.symbol
-        color: button.ink
+        color: button.enabled ? button.ink : Theme.disabledText
     }
     BusyIndicator {
         visible: button.isBusy

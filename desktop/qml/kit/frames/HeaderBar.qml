@@ -2,8 +2,8 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// The bar at the top: the back button and further items at both ends, the title in the middle of the window while there
-// is room for it.
+// The bar at the top: the back button and further items at both ends, the title in the middle of the window or, if the
+// status needs that place, left of it. If there is not enough room for all, the status gives way first.
 Rectangle {
     id: bar
     required property string title
@@ -11,12 +11,23 @@ Rectangle {
     property bool isTitleDispensable: false
     property bool canGoBack: false
     property marker status
+    property alias hidesStatusProgress: statusLine.hidesProgress
+    // Whether the screen shows the status elsewhere if there is no room for it here.
+    property bool isStatusMovable: false
     signal wentBack
     default property alias leading: leadingItems.data
     property alias trailing: trailingItems.data
 
-    readonly property real freeLeft: leadingRow.x + leadingRow.width + Theme.unit
-    readonly property real freeRight: trailingRow.x - Theme.unit
+    // The title keeps its distance from both ends; the status has the room that the title leaves.
+    readonly property real freeLeft: leadingRow.x + leadingRow.width + Theme.headerGap
+    readonly property real freeRight: trailingItems.x - Theme.headerGap
+    readonly property real room: Math.max(0, freeRight - freeLeft)
+    readonly property bool hasRoomForTitle: !isTitleDispensable || caption.implicitWidth <= room
+    readonly property real statusBegin: hasRoomForTitle ? freeLeft + caption.width + Theme.headerGap : freeLeft
+    readonly property real statusRoom: Math.max(0, trailingItems.x - Theme.unit - statusBegin)
+    readonly property bool hasRoomForStatus: !isStatusMovable
+        || statusRoom >= Math.min(statusLine.naturalWidth, Theme.statusLeastWidth)
+    readonly property bool showsStatus: hasRoomForStatus && status.text !== ""
 
     implicitHeight: Theme.headerHeight
     color: Theme.card
@@ -43,12 +54,12 @@ Rectangle {
 
     Label {
         id: caption
-        readonly property real room: Math.max(0, bar.freeRight - bar.freeLeft)
+        readonly property real end: bar.showsStatus ? statusLine.x - Theme.headerGap : bar.freeRight
 
         anchors.verticalCenter: parent.verticalCenter
-        visible: !bar.isTitleDispensable || implicitWidth <= room
-        width: Math.min(implicitWidth, room)
-        x: Math.round(Math.max(bar.freeLeft, Math.min((bar.width - width) / 2, bar.freeRight - width)))
+        visible: bar.hasRoomForTitle
+        width: Math.min(implicitWidth, bar.room)
+        x: Math.floor(Math.max(bar.freeLeft, Math.min((bar.width - width) / 2, end - width)))
         text: bar.title.replace(/[\n\v\f\r\u0085\u2028\u2029]+/g, " ")
         maximumLineCount: 1
         font.weight: Font.DemiBold
@@ -64,23 +75,21 @@ Rectangle {
         }
     }
 
+    MarkerLine {
+        id: statusLine
+        anchors.right: trailingItems.left
+        anchors.rightMargin: Theme.unit
+        anchors.verticalCenter: parent.verticalCenter
+        visible: bar.showsStatus
+        marker: bar.status
+        maximumWidth: bar.statusRoom
+    }
     Row {
-        id: trailingRow
+        id: trailingItems
         anchors.right: parent.right
         anchors.rightMargin: Theme.unit + Theme.halfUnit
         anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.halfUnit
-
-        MarkerLine {
-            anchors.verticalCenter: parent.verticalCenter
-            marker: bar.status
-            maximumWidth: bar.width - bar.freeLeft - trailingItems.width - 3 * Theme.unit
-        }
-        Row {
-            id: trailingItems
-            anchors.verticalCenter: parent.verticalCenter
-            spacing: Theme.halfUnit
-        }
     }
 
     Rectangle {

@@ -13,6 +13,9 @@ FocusScope {
     property alias busyText: overlay.text
     property alias alert: area.alert
     property alias status: header.status
+    property alias hidesStatusProgress: header.hidesStatusProgress
+    property alias isStatusMovable: header.isStatusMovable
+    readonly property alias hasRoomForStatus: header.hasRoomForStatus
     property alias isTitleDispensable: header.isTitleDispensable
     property alias canGoBack: header.canGoBack
     property alias leading: header.leading

@@ -13,10 +13,10 @@ ListView {
     // Content below the rows.
     property Component below: null
     // The largest width; the rest is margin on both sides.
-    property real widest: Infinity
+    property real widest: Theme.columnWidth * Theme.scale
     // The row that is kept visible; -1 for none.
     property int selectedRow: -1
-    // The height of what floats over the end of the list; the last row can be scrolled clear of it.
+    // The height of what floats over the end of the list; the current row and the last one are scrolled clear of it.
     property real reserve: 0
     // Whether keys move between rows; if not, they scroll the list.
     property bool walksRows: true
@@ -52,6 +52,7 @@ ListView {
     onCountChanged: keepToStops()
     // Not if a button in a row has lost the focus to the action that it started: the button gets it back.
     onActiveFocusChanged: if (scrolling.focusedItem === list) handOn()
+    onReserveChanged: if (InputHand.isKeyboard && currentItem && scrolling.isWithin(scrolling.focusedItem, currentItem)) clearReserve()
     onSelectedRowChanged: if (selectedRow >= 0) moveTo(selectedRow)
     onDragEnded: if (verticalOvershoot < -Theme.pullDistance) list.pulled()
 
@@ -176,6 +177,12 @@ ListView {
             contentY = Math.max(originY - topMargin, originY + contentHeight + bottomMargin - height)
         }
         positionViewAtIndex(row, ListView.Contain)
+        clearReserve()
+    }
+    function clearReserve() {
+        if (reserve <= 0 || !currentItem) return
+        const behind = currentItem.y + currentItem.height + Theme.unit - (contentY + height - reserve)
+        if (behind > 0) scrolling.move(Math.min(contentY + behind, Math.max(contentY, currentItem.y)))
     }
 
     TypeAhead {

@@ -19,7 +19,7 @@ Item {
     required property Item contentItem
     property real topPadding: Theme.unit
     property real bottomPadding: topPadding
-    property real leftPadding: 2 * Theme.unit - Theme.halfUnit
+    property real leftPadding: 2 * Theme.unit
     property real rightPadding: leftPadding
     readonly property real implicitContentHeight: contentItem.implicitHeight
     // The distance of the ring from the row's edge.
@@ -54,7 +54,10 @@ Item {
         anchors.topMargin: card.ringTop
         anchors.bottomMargin: card.ringBottom
         radius: Theme.controlRadius
-        color: tap.pressed ? Theme.pressed : pointer.hovered ? Theme.hover : "transparent"
+        color: tap.pressed ? Theme.pressed : pointer.hovered ? Theme.hover : Theme.rest
+        Behavior on color {
+            ColorAnimation { duration: Theme.quick }
+        }
         border.width: InputHand.isKeyboard && card.activeFocus ? Theme.focusWidth : 0
         border.color: Theme.focus
     }

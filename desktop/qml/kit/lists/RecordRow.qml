@@ -7,45 +7,31 @@ CardRow {
     id: delegate
     property int tone: Tone.Gray
     default property alias details: line.data
-    property alias trailing: end.data
+    property alias trailing: content.end
 
-    contentItem: Item {
-        implicitHeight: words.implicitHeight
-
-        Rectangle {
-            id: dot
-            anchors.verticalCenter: parent.verticalCenter
+    contentItem: RowContent {
+        id: content
+        wordsSpacing: Theme.halfUnit / 2
+        wordsWidth: title.implicitWidth
+        mark: Rectangle {
             width: Theme.recordDotSize
             height: width
             radius: width / 2
             color: Theme.toneColor(delegate.tone)
         }
-        Column {
-            id: words
-            anchors.left: dot.right
-            anchors.leftMargin: Theme.unit + Theme.halfUnit
-            anchors.right: end.left
-            anchors.rightMargin: Theme.unit + Theme.halfUnit
-            anchors.verticalCenter: parent.verticalCenter
-            spacing: Theme.halfUnit / 2
 
-            MarqueeText {
-                width: parent.width
-                layoutHeight: Theme.titleHeight
-                text: delegate.name
-                font.weight: Font.DemiBold
-            }
-            // One below the other if a large font leaves no room.
-            Flow {
-                id: line
-                width: parent.width
-                spacing: Theme.narrowGap
-            }
+        MarqueeText {
+            id: title
+            width: parent.width
+            layoutHeight: Theme.titleHeight
+            text: delegate.name
+            font.weight: Font.DemiBold
         }
-        Row {
-            id: end
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
+        // One below the other if a large font leaves no room.
+        Flow {
+            id: line
+            width: parent.width
+            spacing: Theme.narrowGap
         }
     }
 }

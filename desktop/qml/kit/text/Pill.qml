@@ -18,7 +18,9 @@ Rectangle {
     implicitHeight: label.implicitHeight + 2 * topPadding
     baselineOffset: content.y + label.y + label.baselineOffset
     radius: Theme.pillRadius
-    color: Qt.alpha(Theme.toneColor(pill.tone), tint)
+    color: Theme.tinted(pill.tone, tint)
+    border.width: Theme.toneOutline(pill.tone)
+    border.color: Theme.toneColor(pill.tone)
 
     Row {
         id: content
