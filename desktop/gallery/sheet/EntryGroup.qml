@@ -10,6 +10,8 @@ SheetGroup {
     }
     StateRow {
         width: parent.width
+        // A press gives it the focus, and looks like it.
+        hasPress: false
         name: "TextEntry"
         isWide: true
         piece: TextEntry { name: "Title"; placeholderText: "Incident Title" }
@@ -17,18 +19,24 @@ SheetGroup {
     }
     StateRow {
         width: parent.width
+        // A press gives it the focus, and looks like it.
+        hasPress: false
         name: "SecretField"
         isWide: true
         piece: SecretField { name: "API Key"; text: "nobody sees it" }
     }
     StateRow {
         width: parent.width
+        // A press gives it the focus, and looks like it.
+        hasPress: false
         name: "TimeField"
         piece: TimeField { name: "Hour"; value: "09"; pattern: "[0-9]*" }
         selected: TimeField { name: "Hour"; value: "09"; pattern: "[0-9]*"; Component.onCompleted: selectAll() }
     }
     StateRow {
         width: parent.width
+        // A press gives it the focus, and looks like it.
+        hasPress: false
         name: "TextBox"
         isWide: true
         piece: TextBox { name: "Message"; Component.onCompleted: show("We are looking into it.") }

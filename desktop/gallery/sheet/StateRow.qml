@@ -10,6 +10,7 @@ Item {
     // The piece when it is selected, if it can be.
     property Component selected: null
     property bool hasHover: true
+    property bool hasPress: hasHover
     property bool isFocusable: true
     property bool hasDisabled: true
     // Whether the piece is as wide as its column.
@@ -33,7 +34,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
 
         Repeater {
-            model: ["", row.hasHover ? "hovered" : "none", row.hasHover ? "pressed" : "none",
+            model: ["", row.hasHover ? "hovered" : "none", row.hasPress ? "pressed" : "none",
                 row.isFocusable ? "focused" : "none", row.selected ? "selected" : "none",
                 row.hasDisabled ? "disabled" : "none"]
 

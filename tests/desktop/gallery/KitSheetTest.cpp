@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 #include <string>
 
@@ -64,7 +65,13 @@ private:
 TEST(KitSheet, ShowsEveryPieceOfTheKit)
 {
     adapters::MainExecutor main;
-    const KitSheet sheet(calm, main);
+    KitSheet sheet(calm, main);
+    auto& window = *sheet.windows().front();
+    window.requestActivate();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const auto poses = sheet.poses();
+    const auto focused = std::ranges::find(poses, QStringLiteral("focused"), &Pose::kind);
+    sheet.take(**focused);
     const VisibleTypes visible(sheet.windows());
     const auto pieces = piecesOfTheKit();
     EXPECT_GT(pieces.size(), 40);
