@@ -18,7 +18,8 @@ using namespace std::chrono_literals;
 constexpr auto timeBetweenLooks = 30ms;
 constexpr int mostLooks = 50;
 
-/// Waits until the window looks the same twice; there is no motion to wait for.
+}  // namespace
+
 void settle(QQuickWindow& window)
 {
     QImage before;
@@ -32,17 +33,15 @@ void settle(QQuickWindow& window)
     }
 }
 
-void setFontSize(double points)
+void setApplicationFontSize(double points)
 {
     QFont font = QGuiApplication::font();
     font.setPointSizeF(points);
     QGuiApplication::setFont(font);
 }
 
-}  // namespace
-
 ShownScene::ShownScene(const Scene& scene, const Look& look, adapters::MainExecutor& main)
-    : stage_((setFontSize(look.fontPointSize), main))
+    : stage_((setApplicationFontSize(look.fontPointSize), main))
     , mainWindow_(stage_.content(), main)
 {
     mainWindow_.appearance().setProperty("isDark", look.isDark);

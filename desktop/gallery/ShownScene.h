@@ -10,6 +10,12 @@
 
 namespace larkspan::gallery {
 
+/// The size of the desktop's font, in points.
+void setApplicationFontSize(double points);
+
+/// Waits until the window looks the same twice; there is no motion to wait for.
+void settle(QQuickWindow& window);
+
 /// A scene in a window without motion, to be rendered or examined.
 class ShownScene {
 public:

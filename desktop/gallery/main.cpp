@@ -11,6 +11,7 @@
 
 #include "adapters/MainExecutor.h"
 #include "gallery/DesktopFonts.h"
+#include "gallery/KitSheet.h"
 #include "gallery/Scene.h"
 #include "gallery/ShownScene.h"
 #include "qml/Renderer.h"
@@ -88,22 +89,41 @@ public:
             for (const auto& look : order_.looks) take(scene, look);
             tookOne = true;
         }
+        // The sheet consists of many pictures; at a higher scale they take long, and are wanted only by name.
+        const bool isWanted = !order_.names.isEmpty() || qGuiApp->devicePixelRatio() == 1;
+        if (QStringLiteral("kit").contains(order_.names) && isWanted) {
+            for (const auto& look : order_.looks) takeKit(look);
+            tookOne = true;
+        }
         return tookOne;
     }
 
 private:
     void take(const Scene& scene, const QString& name)
     {
-        auto look = ShownScene::Look::of(scene);
+        const ShownScene shown(scene, inOrder(ShownScene::Look::of(scene), name), main_);
+        keep(shown.window().grabWindow(), QString::fromStdString(scene.name), name);
+    }
+
+    void takeKit(const QString& name)
+    {
+        keep(KitSheet(inOrder({}, name), main_).picture(), QStringLiteral("kit"), name);
+    }
+
+    ShownScene::Look inOrder(ShownScene::Look look, const QString& name) const
+    {
         look.isDark = name == QStringLiteral("dark");
         look.hasHighContrast = look.hasHighContrast || name == QStringLiteral("contrast");
         if (order_.size.isValid()) look.size = order_.size;
         if (order_.fontPointSize > 0) look.fontPointSize = order_.fontPointSize;
-        const ShownScene shown(scene, look, main_);
-        const auto file = QStringLiteral("%1/%2-%3@%4x.png")
-                              .arg(order_.folder, QString::fromStdString(scene.name), name)
-                              .arg(qGuiApp->devicePixelRatio());
-        if (!shown.window().grabWindow().save(file)) qFatal("cannot write %s", qPrintable(file));
+        return look;
+    }
+
+    void keep(const QImage& picture, const QString& scene, const QString& look) const
+    {
+        const auto file
+            = QStringLiteral("%1/%2-%3@%4x.png").arg(order_.folder, scene, look).arg(qGuiApp->devicePixelRatio());
+        if (!picture.save(file)) qFatal("cannot write %s", qPrintable(file));
     }
 
     Order order_;

@@ -1,0 +1,9 @@
+import QtQuick
+import Larkspan
+
+// What a specimen is.
+Label {
+    font.pointSize: Theme.caption
+    color: Theme.secondary
+    wrapMode: Text.WrapAtWordBoundaryOrAnywhere
+}
