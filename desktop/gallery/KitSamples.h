@@ -8,6 +8,7 @@
 #include "adapters/MainExecutor.h"
 #include "adapters/QtLocaleText.h"
 #include "bridge/lists/RowListModel.h"
+#include "bridge/monitors/MetricBadgeValue.h"
 #include "bridge/screens/DateTimePickerBridge.h"
 #include "bridge/values/ActionButtonValue.h"
 #include "bridge/values/AlertValue.h"
@@ -17,11 +18,10 @@
 #include "bridge/values/FactValue.h"
 #include "bridge/values/LinkValue.h"
 #include "bridge/values/MarkerValue.h"
-#include "bridge/values/MetricBadgeValue.h"
 #include "bridge/values/PillValue.h"
 #include "bridge/values/PlaceholderValue.h"
-#include "bridge/values/StatusPageRowValue.h"
 #include "bridge/values/TimelineRowValue.h"
+#include "bridge/workspace/StatusPageRowValue.h"
 
 namespace larkspan::gallery {
 

@@ -9,6 +9,8 @@
 #include <chrono>
 #include <utility>
 
+#include "workspace/SettingsView.h"
+
 namespace larkspan::gallery {
 
 namespace {

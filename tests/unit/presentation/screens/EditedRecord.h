@@ -4,6 +4,8 @@
 #include <memory>
 #include <string>
 
+#include "components/ComponentDetailView.h"
+#include "components/ComponentRow.h"
 #include "components/StatusPageComponentsView.h"
 #include "fakes/ListOfAPage.h"
 #include "incidents/IncidentsOfAPage.h"
