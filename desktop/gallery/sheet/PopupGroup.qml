@@ -123,6 +123,24 @@ SheetGroup {
         }
         PopupStand {
             width: (parent.width - parent.spacing) / 2
+
+            TabPicker {
+                id: tabs
+                x: Theme.margin
+                y: Theme.margin
+                width: parent.width - 2 * x
+                name: "View"
+                segments: ["Overview", "Incidents of the last year", "Monitors of every region", "Components and their groups"]
+                selected: 1
+            }
+            TabMenu {
+                parent: tabs
+                picker: tabs
+                visible: true
+            }
+        }
+        PopupStand {
+            width: (parent.width - parent.spacing) / 2
             height: implicitHeight / 2
 
             BusyOverlay {

@@ -11,12 +11,12 @@ SheetGroup {
         spacing: 2 * Theme.unit
 
         Repeater {
-            model: ["dashboard-list-stale-narrow", "maintenances-list-narrow", "incident-whole", "maintenance-delete"]
+            model: ["dashboard-list-stale-narrow", "maintenances-list-narrow", "incident-whole", "maintenance-delete", "maintenance-scheduled"]
             Stand {
                 required property string modelData
                 scene: modelData
                 width: 480
-                height: modelData === "incident-whole" ? 900 : 440
+                height: modelData === "incident-whole" ? 900 : modelData === "maintenance-scheduled" ? 340 : 440
             }
         }
     }

@@ -1,5 +1,6 @@
 import QtQuick
 import Larkspan
+import Larkspan.Bridge
 import Larkspan.Bridge.Menu
 
 // A row of the menu: a text, a command, or a separator. A mark before its title takes the same room whatever it is.

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "ChosenSize.h"
 #include "IncidentsOnScreen.h"
-#include "LargeLetters.h"
 #include "MaintenancesOnScreen.h"
 #include "Measures.h"
 #include "MonitorsOnScreen.h"
