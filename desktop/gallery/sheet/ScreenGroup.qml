@@ -11,12 +11,18 @@ SheetGroup {
         spacing: 2 * Theme.unit
 
         Repeater {
-            model: ["dashboard-list-stale-narrow", "maintenances-list-narrow", "incident-whole", "maintenance-delete", "maintenance-scheduled"]
+            model: [
+                { scene: "dashboard-list-stale-narrow", height: 440 },
+                { scene: "maintenances-list-narrow", height: 440 },
+                { scene: "incident-whole", height: 900 },
+                { scene: "incident-whole", height: 440 },
+                { scene: "maintenance-delete", height: 440 }
+            ]
             Stand {
-                required property string modelData
-                scene: modelData
+                required property var modelData
+                scene: modelData.scene
                 width: 480
-                height: modelData === "incident-whole" ? 900 : modelData === "maintenance-scheduled" ? 340 : 440
+                height: modelData.height
             }
         }
     }

@@ -35,7 +35,8 @@ T.Popup {
     onClosed: popup.menu.setOpen(false)
     onCurrentChanged: {
         const row = current - pages.first
-        if (row >= 0 && row < pages.count) pages.positionViewAtIndex(row, ListView.Contain)
+        if (row === 0) pages.positionViewAtBeginning()
+        else if (row > 0 && row < pages.count) pages.positionViewAtIndex(row, ListView.Contain)
     }
 
     // Before the menu closes, which may put another row at that place.

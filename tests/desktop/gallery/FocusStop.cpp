@@ -90,7 +90,7 @@ bool isReadAfter(const QQuickItem& next, const QQuickItem& before)
     return place.left() >= past.left();
 }
 
-bool strikesText(const QQuickWindow& window, const QRectF& ring, const QQuickItem& holder)
+QString struckText(const QQuickWindow& window, const QRectF& ring, const QQuickItem& holder)
 {
     const std::array lines{QRectF(ring.left(), ring.top(), ring.width(), ringWidth),
         QRectF(ring.left(), ring.bottom() - ringWidth, ring.width(), ringWidth),
@@ -107,12 +107,14 @@ bool strikesText(const QQuickWindow& window, const QRectF& ring, const QQuickIte
     // The top and the bottom of a line of text are free of ink.
     const auto words = [layer, isFloating](const ShownText& text) {
         if (text.layer != layer || text.scrollsItself || isFloating != (text.floating != nullptr)) return QRectF();
-        return text.seen.adjusted(0, 3, 0, -3);
+        return text.seen.height() <= 6 ? QRectF() : text.seen.adjusted(0, 3, 0, -3);
     };
-    return std::ranges::any_of(textsOf(window), [&](const ShownText& text) {
-        const auto struck = words(text);
-        return std::ranges::any_of(lines, [&](const QRectF& line) { return (line & room).intersects(struck); });
-    });
+    for (const auto& text : textsOf(window)) {
+        const auto place = words(text);
+        if (std::ranges::any_of(lines, [&](const QRectF& line) { return (line & room).intersects(place); }))
+            return text.text;
+    }
+    return {};
 }
 
 }  // namespace larkspan::gallery

@@ -33,7 +33,7 @@ FocusStop focusIn(const QQuickWindow& window);
 /// and an item after the one that contains it.
 bool isReadAfter(const QQuickItem& next, const QQuickItem& before);
 
-/// Whether the line of a ring crosses a text.
-bool strikesText(const QQuickWindow& window, const QRectF& ring, const QQuickItem& holder);
+/// The text that the line of a ring crosses; empty for none.
+QString struckText(const QQuickWindow& window, const QRectF& ring, const QQuickItem& holder);
 
 }  // namespace larkspan::gallery

@@ -47,7 +47,8 @@ void lookAt(const FocusStop& stop, const QQuickWindow& window, Findings& finding
     const auto& ring = stop.rings.front();
     if (!isAround(ring, stop.seen) && !isAround(ring, stop.place))
         findings.insert(words(stop) + " has its ring elsewhere");
-    if (strikesText(window, ring, *stop.holder)) findings.insert("the ring of " + words(stop) + " strikes text");
+    const auto struck = struckText(window, ring, *stop.holder);
+    if (!struck.isEmpty()) findings.insert("the ring of " + words(stop) + " strikes \"" + struck.toStdString() + "\"");
 }
 
 class FocusInAScene : public testing::TestWithParam<Scene> {

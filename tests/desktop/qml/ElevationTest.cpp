@@ -141,14 +141,16 @@ TEST_F(SheetOverAWindow, ADialogOverTheWindowItselfDimsItAsASheetDoes)
     const auto dimmed = ground();
     setProperty("isShown", false);
     KitWindow other(QStringLiteral(R"(
+        property bool isShown: false
         color: "#ffffff"
         PopupLoader {
-            isShown: true
+            isShown: window.isShown
             sourceComponent: MessageDialog {
                 title: "Question"
                 CommandButton { text: "OK"; focus: true }
             }
         })"));
+    other.setProperty("isShown", true);
     EXPECT_EQ(other.window().grabWindow().pixelColor(3, 3).lightness(), dimmed);
 }
 

@@ -30,6 +30,7 @@ protected:
         for (int number = 0; number < pages; ++number) ids.push_back("page-" + std::to_string(number));
         servePages(ids, {});
         refresh();
+        menu.setButton(statusItem.button);
         menu.setMenu(statusItem.rows);
         settle();
         button().forceActiveFocus(Qt::TabFocusReason);
@@ -65,8 +66,8 @@ protected:
     {
         for (const auto& thing : things()) {
             auto* const row = qobject_cast<QQuickItem*>(thing.object);
-            if (row && thing.name == title && thing.role != Role::StaticText && row->property("row").isValid())
-                return *row;
+            const bool isOfTheMenu = row && thing.role != Role::ListItem && row->property("isLit").isValid();
+            if (isOfTheMenu && thing.name == title) return *row;
         }
         throw std::runtime_error("no row is called " + title.toStdString());
     }
@@ -244,8 +245,6 @@ TEST_F(MenuOnScreen, OpensClearOfTheHeadersLine)
 TEST_F(MenuOnScreen, TheRowOfTheStateIsSemiboldWithItsSymbolAndTheHeadingOfIncidentsIsAHeading)
 {
     serveIncidents({incident("1", "Login errors")});
-    refresh();
-    menu.setButton(statusItem.button);
     open(1);
     const auto& status = *partOf(titled(QStringLiteral("Down")), "text", QStringLiteral("Down"));
     EXPECT_EQ(fontOf(status).weight(), QFont::DemiBold);

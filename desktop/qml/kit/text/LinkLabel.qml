@@ -21,5 +21,10 @@ Pressable {
         font.underline: link.hovered || link.activeFocus && InputHand.isKeyboard
         Accessible.ignored: true
     }
-    FocusRing { holder: link }
+    // Without the gap, which the lines above and below leave no room for.
+    FocusRing {
+        holder: link
+        anchors.margins: -Theme.focusWidth
+        radius: Theme.halfUnit
+    }
 }
