@@ -15,7 +15,7 @@ SheetGroup {
                 { scene: "dashboard-list-stale-narrow", height: 440 },
                 { scene: "maintenances-list-narrow", height: 440 },
                 { scene: "incident-whole", height: 900 },
-                { scene: "incident-whole", height: 440 },
+                { scene: "incident-whole", height: 340 },
                 { scene: "maintenance-delete", height: 440 }
             ]
             Stand {

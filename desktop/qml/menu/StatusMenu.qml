@@ -102,6 +102,7 @@ T.Popup {
                 header: Item {
                     width: pages.width
                     height: popup.scrollsAsOne ? summary.height : 0
+                    onHeightChanged: if (popup.current < 0) pages.positionViewAtBeginning()
                 }
                 footer: Item {
                     width: pages.width

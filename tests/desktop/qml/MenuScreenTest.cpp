@@ -222,6 +222,7 @@ TEST_F(MenuOnScreen, InASmallWindowTheCommandsStayInViewAndEverythingAboveThemSc
     serveIncidents(
         {incident("1", "a"), incident("2", "b"), incident("3", "c"), incident("4", "d"), incident("5", "e")});
     open(40);
+    EXPECT_GE(frameOf(titled(QStringLiteral("Down"))).top(), 48) << "it opens at its beginning";
     press(Qt::Key_Home);
     EXPECT_EQ(current(), QStringLiteral("page-0"));
     const auto commands = frameOf(titled(QStringLiteral("Refresh")));
