@@ -75,7 +75,6 @@ T.Popup {
         }
     }
 
+    // It does not fade: a popup has the focus only once it has come, and letters are typed as soon as it is opened.
     background: Surface {}
-    enter: Fade {}
-    exit: Fade { isOut: true }
 }
