@@ -98,8 +98,8 @@ SheetGroup {
                 y: Theme.margin
                 width: parent.width - 2 * x
                 text: "Component Group"
-                // qmllint takes a list that a function gives for its first element.
-                choices: { return group.samples.choices(["Entire status page", "Europe", "North America", "Asia"]) }
+                readonly property var regions: group.samples.choices(["Entire status page", "Europe", "North America", "Asia"])
+                choices: regions
                 selected: "1"
                 Component.onCompleted: clicked()
             }
