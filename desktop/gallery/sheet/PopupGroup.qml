@@ -79,8 +79,8 @@ SheetGroup {
             }
             KitMenu {
                 parent: opener
-                visible: true
-                currentIndex: 1
+                // Not by its initial properties, of which Qt 6.8 may set the parent last.
+                Component.onCompleted: open()
 
                 KitMenuItem { text: "Refresh"; symbol: "arrow.clockwise" }
                 KitMenuItem { text: "Edit"; symbol: "pencil" }
@@ -137,7 +137,7 @@ SheetGroup {
             TabMenu {
                 parent: tabs
                 picker: tabs
-                visible: true
+                Component.onCompleted: open()
             }
         }
         PopupStand {
