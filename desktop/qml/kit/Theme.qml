@@ -114,7 +114,7 @@ QtObject {
     readonly property int rowHeight: Math.round(44 * scale)
     readonly property int placeholderWidth: 420
     readonly property int pickerWidth: 560
-    // The largest width of lists, overview and details, and that of running text in the overview.
+    // The largest width of lists and details, and that of the overview, whose lines are to be read.
     readonly property int columnWidth: 880
     readonly property int readingWidth: 680
     // Less room for a row's words, or for the header's status, would not tell anything.

@@ -14,7 +14,6 @@ CardList {
     walksRows: message.takesKeys
     // With a buffer, rows are made later, and Qt complains if the message goes meanwhile.
     cacheBuffer: 0
-    widest: Theme.columnWidth * Theme.scale
     delegate: MessageRow {
         offsets: tableOffsets
         columnWidths: row.isTable ? list.message.columnWidths(

@@ -8,7 +8,7 @@ GroupBox {
     required property list<fact> lines
     required property string more
     readonly property real captionWidth: most(line => line.ownCaptionWidth)
-    readonly property bool isStacked: most(line => line.ownWidth) > Math.min(width - 4 * Theme.unit, widest) - captionWidth
+    readonly property bool isStacked: most(line => line.ownWidth) > width - 4 * Theme.unit - captionWidth
 
     title: qsTr("Uptime")
 

@@ -2,7 +2,8 @@ import QtQuick
 import Larkspan
 import Larkspan.Bridge
 
-// A day of a calendar: today in a ring, the chosen one filled, those of the neighbouring months smaller. The day from which the keys move has the calendar's focus.
+// A day of a calendar: today in a ring, the chosen one filled, those of the neighbouring months smaller. The day from
+// which the keys move has the calendar's focus.
 Item {
     id: cell
     required property calendarDay day

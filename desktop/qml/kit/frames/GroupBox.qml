@@ -11,8 +11,6 @@ RevealedColumn {
     // Whether there is a card; if not, the title is the heading of what follows.
     property bool hasCard: true
     property alias contentSpacing: column.spacing
-    // The largest width of what is in the card.
-    property real widest: Infinity
     default property alias content: column.data
 
     spacing: Theme.unit
@@ -52,7 +50,7 @@ RevealedColumn {
             id: column
             x: 2 * Theme.unit
             y: 2 * Theme.unit
-            width: Math.min(parent.width - 4 * Theme.unit, group.widest)
+            width: parent.width - 4 * Theme.unit
             spacing: Theme.unit + Theme.halfUnit
         }
     }
