@@ -19,8 +19,8 @@
 
 #include "Arguments.h"
 #include "account/MonitorMetrics.h"
-#include "bridge/items/LatencyPlotItem.h"
-#include "bridge/monitors/SelectedLatencyValue.h"
+#include "bridge/metrics/LatencyPlotItem.h"
+#include "bridge/metrics/SelectedLatencyValue.h"
 #include "fakes/FakeLocaleText.h"
 #include "qml/Renderer.h"
 #include "service/WallClock.h"
@@ -91,10 +91,11 @@ double selectingIn(QSizeF size, std::size_t times)
     QQmlEngine engine;
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     QQmlComponent component(&engine);
-    component.setData("import QtQuick\nimport Larkspan\nimport Larkspan.Bridge\nimport Larkspan.Bridge.Monitors\n"
-                      "Window {\nid: window\nproperty latencyCurve curve\nproperty selectedLatency selection\n"
-                      "LatencyGraph {\ny: 60; width: window.width; height: window.height - 60\n"
-                      "curve: window.curve; selection: window.selection\n}\n}",
+    component.setData(
+        "import QtQuick\nimport Larkspan.Bridge\nimport Larkspan.Bridge.Metrics\nimport Larkspan.Monitors\n"
+        "Window {\nid: window\nproperty latencyCurve curve\nproperty selectedLatency selection\n"
+        "LatencyGraph {\ny: 60; width: window.width; height: window.height - 60\n"
+        "curve: window.curve; selection: window.selection\n}\n}",
         {});
     const std::unique_ptr<QQuickWindow> window(qobject_cast<QQuickWindow*>(component.create()));
     if (!window) throw std::runtime_error(component.errorString().toStdString());

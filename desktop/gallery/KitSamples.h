@@ -8,7 +8,7 @@
 #include "adapters/MainExecutor.h"
 #include "adapters/QtLocaleText.h"
 #include "bridge/lists/RowListModel.h"
-#include "bridge/monitors/MetricBadgeValue.h"
+#include "bridge/metrics/MetricBadgeValue.h"
 #include "bridge/screens/DateTimePickerBridge.h"
 #include "bridge/values/ActionButtonValue.h"
 #include "bridge/values/AlertValue.h"

@@ -3,6 +3,7 @@ import Larkspan
 import Larkspan.Bridge
 import Larkspan.Bridge.Menu
 import Larkspan.Bridge.Workspace
+import Larkspan.Kit
 
 Window {
     id: window

@@ -1,6 +1,6 @@
 #include "qml/MainWindow.h"
 
-#include <QQuickWindow>
+#include <QQmlComponent>
 #include <QtQml/QQmlExtensionPlugin>
 
 #include <utility>
@@ -15,8 +15,17 @@ Q_IMPORT_QML_PLUGIN(Larkspan_Bridge_IncidentsPlugin)
 Q_IMPORT_QML_PLUGIN(Larkspan_Bridge_MaintenancesPlugin)
 Q_IMPORT_QML_PLUGIN(Larkspan_Bridge_MenuPlugin)
 Q_IMPORT_QML_PLUGIN(Larkspan_Bridge_MessagesPlugin)
+Q_IMPORT_QML_PLUGIN(Larkspan_Bridge_MetricsPlugin)
 Q_IMPORT_QML_PLUGIN(Larkspan_Bridge_MonitorsPlugin)
 Q_IMPORT_QML_PLUGIN(Larkspan_Bridge_WorkspacePlugin)
+Q_IMPORT_QML_PLUGIN(Larkspan_ComponentsPlugin)
+Q_IMPORT_QML_PLUGIN(Larkspan_EventsPlugin)
+Q_IMPORT_QML_PLUGIN(Larkspan_IncidentsPlugin)
+Q_IMPORT_QML_PLUGIN(Larkspan_KitPlugin)
+Q_IMPORT_QML_PLUGIN(Larkspan_MaintenancesPlugin)
+Q_IMPORT_QML_PLUGIN(Larkspan_MenuPlugin)
+Q_IMPORT_QML_PLUGIN(Larkspan_MessagesPlugin)
+Q_IMPORT_QML_PLUGIN(Larkspan_MonitorsPlugin)
 
 // Not in a header of Qt; the documentation of QKeySequence says to declare it.
 QT_BEGIN_NAMESPACE
@@ -25,6 +34,7 @@ QT_END_NAMESPACE
 
 namespace larkspan {
 
+// A plain engine: a QQmlApplicationEngine looks for variants of each file for this platform and language.
 MainWindow::MainWindow(Content content, platform::Executor& main)
     : screenUpdates_(main)
     , dashboard_(std::move(content.dashboard), screenUpdates_)
@@ -36,22 +46,21 @@ MainWindow::MainWindow(Content content, platform::Executor& main)
     // Captions have no mnemonics: otherwise Alt and the space bar would press "Save & Verify".
     qt_set_sequence_auto_mnemonic(false);
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    engine_.setInitialProperties({
+    QQmlComponent component(&engine_, QUrl(QStringLiteral("qrc:/qt/qml/Larkspan/Main.qml")));
+    window_.reset(qobject_cast<QQuickWindow*>(component.createWithInitialProperties({
         {QStringLiteral("dashboard"), QVariant::fromValue(&dashboard_)},
         {QStringLiteral("about"), QVariant::fromValue(&about_)},
         {QStringLiteral("updates"), QVariant::fromValue(&updates_)},
         {QStringLiteral("menu"), QVariant::fromValue(&content.menu)},
         {QStringLiteral("appearance"), QVariant::fromValue(&appearance_)},
-    });
-    engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Larkspan/Main.qml")));
-    if (engine_.rootObjects().isEmpty()) qFatal("the main window's QML does not load");
-    window_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().constFirst());
-    connect(window_, &QWindow::visibilityChanged, this, [this](QWindow::Visibility visibility) {
+    })));
+    if (!window_) qFatal("the main window's QML does not load: %s", qPrintable(component.errorString()));
+    connect(window_.get(), &QWindow::visibilityChanged, this, [this](QWindow::Visibility visibility) {
         const bool isSeen = visibility != QWindow::Minimized && visibility != QWindow::Hidden;
         isSeen ? screenUpdates_.release() : screenUpdates_.hold();
     });
     // Declared only in QML, so it can be connected only by a string.
-    connect(window_, SIGNAL(quitRequested()), this, SIGNAL(quitRequested()));
+    connect(window_.get(), SIGNAL(quitRequested()), this, SIGNAL(quitRequested()));
 }
 
 }  // namespace larkspan

@@ -1,7 +1,8 @@
 #pragma once
 
 #include <QObject>
-#include <QQmlApplicationEngine>
+#include <QQmlEngine>
+#include <QQuickWindow>
 
 #include <memory>
 
@@ -15,8 +16,6 @@
 #include "support/ScreenUpdates.h"
 #include "workspace/AboutKestruneView.h"
 #include "workspace/DashboardView.h"
-
-class QQuickWindow;
 
 namespace larkspan {
 
@@ -51,8 +50,8 @@ private:
     bridge::DashboardBridge dashboard_;
     bridge::AboutKestruneBridge about_;
     bridge::UpdateReportBridge updates_;
-    QQmlApplicationEngine engine_;
-    QQuickWindow* window_ = nullptr;
+    QQmlEngine engine_;
+    std::unique_ptr<QQuickWindow> window_;
 };
 
 }  // namespace larkspan

@@ -1,6 +1,7 @@
 import QtQuick
 import Larkspan
 import Larkspan.Bridge.Workspace
+import Larkspan.Kit
 
 // The sheets and dialogs over the whole window.
 Item {

@@ -8,13 +8,11 @@
 
 #include "api/MonitorEndpoints.h"
 #include "model/records/Monitor.h"
+#include "monitors/MonitorAction.h"
 #include "support/Observable.h"
 #include "support/Task.h"
 
 namespace larkspan::monitors {
-
-/// The actions on a monitor, from its row or from its own screen.
-enum class MonitorAction { pauseResume, checkNow };
 
 /// The actions on the monitors of a page, and on which of them one runs. Main thread only; a running action outlives
 /// the screen that began it.

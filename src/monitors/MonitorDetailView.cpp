@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "model/records/URL.h"
-#include "monitors/MonitorRow.h"
 #include "presentation/text/WebAddress.h"
 #include "support/LocalizedError.h"
 
@@ -64,14 +63,14 @@ std::vector<Command<MonitorDetailView>> MonitorDetailView::commands() const
     const bool isPaused = currentMonitor->isPaused;
     const bool isIdle = !isBusy();
     return {
-        {{.id = std::string(MonitorRow::pauseResume),
+        {{.id = std::string(pauseResumeButton),
              .label = isPaused ? "Resume Monitor" : "Pause Monitor",
              .symbol = isPaused ? "play.fill" : "pause.fill",
              .tone = isPaused ? Tone::green : Tone::orange,
              .isProminent = true,
              .isEnabled = isIdle},
             [](auto& view) { view.perform(DetailAction::pauseResume); }},
-        {{.id = std::string(MonitorRow::checkNow),
+        {{.id = std::string(checkNowButton),
              .label = "Run Check",
              .symbol = "arrow.clockwise",
              .tone = Tone::blue,

@@ -1,7 +1,9 @@
 #include "monitors/MonitorRow.h"
 
+#include "monitors/MonitorAction.h"
 #include "monitors/MonitorColors.h"
 #include "monitors/MonitorPills.h"
+#include "monitors/MonitorRowView.h"
 #include "presentation/text/NameText.h"
 
 namespace larkspan::monitors {
@@ -13,11 +15,11 @@ namespace {
 
 std::vector<ActionButton> buttonsOf(const Monitor& monitor, bool areEnabled)
 {
-    return {{.id = std::string(MonitorRow::pauseResume),
+    return {{.id = std::string(pauseResumeButton),
                 .label = monitor.isPaused ? "Resume" : "Pause",
                 .symbol = monitor.isPaused ? "play.fill" : "pause.fill",
                 .isEnabled = areEnabled},
-        {.id = std::string(MonitorRow::checkNow),
+        {.id = std::string(checkNowButton),
             .label = "Check Now",
             .symbol = "arrow.clockwise",
             .isEnabled = areEnabled}};

@@ -1,24 +1,20 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "model/records/Monitor.h"
 #include "monitors/MetricBadge.h"
-#include "monitors/MonitorRowView.h"
 #include "presentation/shapes/ActionButton.h"
 #include "presentation/shapes/Pill.h"
 #include "presentation/shapes/Tone.h"
 
 namespace larkspan::monitors {
 
+class MonitorRowView;
+
 /// One monitor in the list of its page.
 struct MonitorRow {
-    /// The ids of the buttons.
-    static constexpr std::string_view pauseResume = "pauseResume";
-    static constexpr std::string_view checkNow = "checkNow";
-
     std::string id{};
     std::string title{};
     std::string statusIcon{};

@@ -63,10 +63,10 @@ void StatusPageMonitorsView::press(const std::string& id, std::string_view butto
 {
     const auto* const monitor = viewModel->monitors.find(id);
     if (!monitor || viewModel->performingActions->contains(monitor->id)) return;
-    if (button == MonitorRow::pauseResume) {
+    if (button == pauseResumeButton) {
         support::start(ports_.main, perform(shared_from_this(), viewModel->togglePause(*monitor), monitor->id));
     }
-    if (button == MonitorRow::checkNow) {
+    if (button == checkNowButton) {
         support::start(ports_.main, perform(shared_from_this(), viewModel->checkMonitor(*monitor), monitor->id));
     }
 }

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "bridge/monitors/MetricsPanelBridge.h"
+#include "bridge/metrics/MetricsPanelBridge.h"
 #include "bridge/screens/ChildScreen.h"
 #include "bridge/screens/ScreenBridge.h"
 #include "bridge/values/MarkerValue.h"

@@ -6,7 +6,7 @@
 #include <QtQml/qqmlregistration.h>
 
 #include "bridge/lists/ValueList.h"
-#include "bridge/monitors/MetricBadgeValue.h"
+#include "bridge/metrics/MetricBadgeValue.h"
 #include "bridge/values/ActionButtonValue.h"
 #include "bridge/values/PillValue.h"
 #include "bridge/values/ToneNames.h"

@@ -1,7 +1,7 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
 import Larkspan.Gallery
+import Larkspan.Kit
 
 SheetGroup {
     id: group

@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 SheetGroup {
     title: "Entries"

@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Gallery
+import Larkspan.Kit
 
 // Every piece of the kit in every state, for whoever builds the next screen.
 Window {

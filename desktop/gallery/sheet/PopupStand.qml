@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Gallery
+import Larkspan.Kit
 
 // A window of its own for a piece that opens over a window; the sheet shows its picture in this place.
 Stand {

@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Gallery
+import Larkspan.Kit
 
 SheetGroup {
     title: "Screens"

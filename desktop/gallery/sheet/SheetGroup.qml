@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // A chapter of the sheet: its title and its remark, and below them its specimens on a card.
 Column {

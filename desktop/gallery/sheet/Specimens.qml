@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // Specimens of a piece without states, side by side.
 Item {

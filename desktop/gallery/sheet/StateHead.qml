@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // The head of a table of states.
 Item {

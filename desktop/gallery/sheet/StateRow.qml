@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Gallery
+import Larkspan.Kit
 
 // A row of a table of states: one piece in each of its states.
 Item {

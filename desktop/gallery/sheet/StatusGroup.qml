@@ -1,7 +1,9 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Events
 import Larkspan.Gallery
+import Larkspan.Kit
+import Larkspan.Monitors
 
 SheetGroup {
     id: group

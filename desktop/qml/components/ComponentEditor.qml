@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge.Components
+import Larkspan.Kit
 
 // The editable values of a component.
 Column {

@@ -1,7 +1,7 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
 import Larkspan.Bridge.Components
+import Larkspan.Kit
 
 // The status and the facts of a component.
 Column {

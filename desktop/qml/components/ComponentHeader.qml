@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // A component's name, and on its baseline at the other end its status; below the name if they do not fit on one line.
 Item {

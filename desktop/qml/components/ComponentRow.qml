@@ -1,7 +1,7 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
 import Larkspan.Bridge.Components
+import Larkspan.Kit
 
 // A component, or the heading of a section, which separates the sections' cards.
 CardRow {

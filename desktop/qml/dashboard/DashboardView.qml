@@ -1,7 +1,8 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge.Menu
 import Larkspan.Bridge.Workspace
+import Larkspan.Kit
+import Larkspan.Menu
 
 ScreenFrame {
     id: view

@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // The account's status in one sentence.
 Rectangle {

@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge.Workspace
+import Larkspan.Kit
 
 // Opens the choice of the interval at which the account is polled.
 MenuButton {

@@ -1,7 +1,7 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
 import Larkspan.Bridge.Workspace
+import Larkspan.Kit
 
 CardRow {
     id: delegate

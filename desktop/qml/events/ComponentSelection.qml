@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // The choice of what an event affects: the whole page, or a component of a group and one of its monitors.
 GroupBox {

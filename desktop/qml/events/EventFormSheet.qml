@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // The form of a new event: its title, its message and, beside them in a wide sheet, what it affects; below that, the
 // fields of one kind of event only.

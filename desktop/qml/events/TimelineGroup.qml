@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // The times of a record's states; below a line, separate entries, if any.
 GroupBox {

@@ -1,6 +1,7 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge.Incidents
+import Larkspan.Events
+import Larkspan.Kit
 
 EventFormSheet {
     id: sheet

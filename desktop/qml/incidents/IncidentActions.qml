@@ -1,7 +1,7 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
 import Larkspan.Bridge.Incidents
+import Larkspan.Kit
 
 // The actions of an incident; in the editor, the button that sends the text.
 ActionCard {

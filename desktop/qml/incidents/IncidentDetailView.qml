@@ -1,6 +1,7 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge.Incidents
+import Larkspan.Kit
+import Larkspan.Messages
 
 // One incident and its actions. Its message may be long, so it is the list, and the rest is above and below it.
 EditableDetailFrame {

@@ -1,6 +1,7 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge.Incidents
+import Larkspan.Events
+import Larkspan.Kit
 
 // The part above an incident's message: its status, and the times of its states.
 Column {

@@ -1,6 +1,7 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge.Maintenances
+import Larkspan.Events
+import Larkspan.Kit
 
 EventFormSheet {
     id: sheet

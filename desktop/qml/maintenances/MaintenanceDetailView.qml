@@ -1,6 +1,7 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge.Maintenances
+import Larkspan.Kit
+import Larkspan.Messages
 
 // One maintenance and its actions; in its place, while it is edited, the editor. Its message may be long, so it is the
 // list, and the rest is above and below it.

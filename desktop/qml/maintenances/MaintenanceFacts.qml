@@ -1,7 +1,8 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
 import Larkspan.Bridge.Maintenances
+import Larkspan.Events
+import Larkspan.Kit
 
 // The part above a maintenance's message: its status, and the times of its states.
 Column {

@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge.Maintenances
+import Larkspan.Kit
 
 // What else can be done to a maintenance.
 KitMenu {

@@ -1,7 +1,7 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
 import Larkspan.Bridge.Maintenances
+import Larkspan.Kit
 
 RecordRow {
     id: delegate

@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // Start and end of a maintenance, side by side if there is room for two calendars, and under the end how long it is.
 Grid {

@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge.Maintenances
+import Larkspan.Kit
 
 ListArea {
     id: view

@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Templates as T
-import Larkspan
 import Larkspan.Bridge.Menu
+import Larkspan.Kit
 
 // The panel item's rows as a menu of the window, which opens as fast with a thousand pages as with one. Only the pages
 // scroll; in a window too small for that, everything above the commands.

@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge.Menu
+import Larkspan.Kit
 
 // Opens the rows of the panel's item, for desktops that show no such item and for users who are in the window.
 MenuButton {

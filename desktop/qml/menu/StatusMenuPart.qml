@@ -1,5 +1,4 @@
 import QtQuick
-import Larkspan
 
 // Rows of the menu that stand together, and are so few that each has its item.
 Column {

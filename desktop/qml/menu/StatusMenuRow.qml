@@ -1,7 +1,7 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
 import Larkspan.Bridge.Menu
+import Larkspan.Kit
 
 // A row of the menu: a text, a command, or a separator. A mark before its title takes the same room whatever it is.
 Item {

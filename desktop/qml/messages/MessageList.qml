@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge.Messages
+import Larkspan.Kit
 
 // A message of an event, row by row, with the screen's other content above and below it.
 CardList {

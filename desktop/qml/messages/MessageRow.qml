@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge.Messages
+import Larkspan.Kit
 
 // A row of a message, with markup that the program has made of the message's text. Return asks about its links, one
 // after the other, and the arrows scroll a table sideways.

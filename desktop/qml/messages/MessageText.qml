@@ -1,7 +1,7 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
 import Larkspan.Bridge.Messages
+import Larkspan.Kit
 
 // Styled text that can be selected. The markup is written by the program, with all text of the service escaped, and
 // refers to nothing that would be fetched.

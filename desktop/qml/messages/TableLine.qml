@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge.Messages
+import Larkspan.Kit
 
 // A row of a table, or the divider below its headers. The columns are as wide as their longest text; a table that does
 // not fit is scrolled sideways, all its rows at once.

@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
-import Larkspan.Bridge.Monitors
+import Larkspan.Bridge.Metrics
+import Larkspan.Kit
 
 // The callout of the selected sample of a latency graph.
 Rectangle {

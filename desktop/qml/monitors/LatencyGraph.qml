@@ -1,7 +1,6 @@
 import QtQuick
-import Larkspan
-import Larkspan.Bridge
-import Larkspan.Bridge.Monitors
+import Larkspan.Bridge.Metrics
+import Larkspan.Kit
 
 // A day of latency. A press, a drag or the keyboard selects a sample, which a callout describes; the callout floats
 // over the content above the graph.

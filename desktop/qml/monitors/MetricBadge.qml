@@ -1,7 +1,7 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
-import Larkspan.Bridge.Monitors
+import Larkspan.Bridge.Metrics
+import Larkspan.Kit
 
 // One figure on a tint of its own colour: its icon, and beside it the figure over its name; a trend is a word with its
 // name beside it.

@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
-import Larkspan.Bridge.Monitors
+import Larkspan.Bridge.Metrics
+import Larkspan.Kit
 
 // A figure of the panel: its label at the left, its value at the right.
 PairedLine {

@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
-import Larkspan.Bridge.Monitors
+import Larkspan.Bridge.Metrics
+import Larkspan.Kit
 
 // A monitor's metrics for a day: the graph, the figures and the regions.
 Column {

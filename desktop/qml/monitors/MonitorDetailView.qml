@@ -1,7 +1,7 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
 import Larkspan.Bridge.Monitors
+import Larkspan.Kit
 
 // One monitor and its actions.
 ScreenFrame {

@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge.Monitors
+import Larkspan.Kit
 
 // The opened part of a monitor's row: its metrics, or what is shown in their place.
 Column {

@@ -1,7 +1,8 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Bridge.Metrics
 import Larkspan.Bridge.Monitors
+import Larkspan.Kit
 
 // One monitor in the list, with its opened part. Return opens the monitor's screen; the controls in the current row are
 // reached with Tab.

@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
-import Larkspan.Bridge.Monitors
+import Larkspan.Bridge.Metrics
+import Larkspan.Kit
 
 // A monitor's state as seen from one region.
 PairedLine {

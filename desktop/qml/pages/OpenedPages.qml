@@ -1,11 +1,15 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
 import Larkspan.Bridge.Components
 import Larkspan.Bridge.Incidents
 import Larkspan.Bridge.Maintenances
 import Larkspan.Bridge.Monitors
 import Larkspan.Bridge.Workspace
+import Larkspan.Components
+import Larkspan.Incidents
+import Larkspan.Kit
+import Larkspan.Maintenances
+import Larkspan.Monitors
 
 // A status page over the dashboard, and over it the record that is opened in one of its tabs.
 FocusScope {

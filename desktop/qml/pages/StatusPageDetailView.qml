@@ -1,7 +1,11 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
 import Larkspan.Bridge.Workspace
+import Larkspan.Components
+import Larkspan.Incidents
+import Larkspan.Kit
+import Larkspan.Maintenances
+import Larkspan.Monitors
 
 // One status page: its tabs, and the screen of the selected one.
 ScreenFrame {

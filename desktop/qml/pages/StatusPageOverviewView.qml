@@ -1,7 +1,7 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
 import Larkspan.Bridge.Workspace
+import Larkspan.Kit
 
 // A page in summary. There may be many current events, so they are the list, and the rest is above and below it.
 CardList {

@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // A page's uptime by period; the percentages stand in one column, aligned at their points.
 GroupBox {

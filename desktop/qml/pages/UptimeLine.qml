@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // The uptime of one period, and behind it the number of incidents in a column of its own.
 Item {

@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge.Workspace
+import Larkspan.Kit
 
 MessageDialog {
     id: dialog

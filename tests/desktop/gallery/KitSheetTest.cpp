@@ -27,7 +27,7 @@ std::set<QString> piecesOfTheKit()
 {
     std::set<QString> names;
     QDirIterator files(
-        QStringLiteral(":/qt/qml/Larkspan/kit"), {QStringLiteral("*.qml")}, QDir::Files, QDirIterator::Subdirectories);
+        QStringLiteral(":/qt/qml/Larkspan/Kit"), {QStringLiteral("*.qml")}, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         files.next();
         if (files.fileName() != QStringLiteral("Theme.qml")) names.insert(files.fileInfo().baseName());

@@ -123,7 +123,7 @@ protected:
     {
         engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
         QQmlComponent probe(&engine_);
-        probe.setData("import QtQml; import Larkspan; QtObject { property QtObject theme: Theme }", {});
+        probe.setData("import QtQml; import Larkspan.Kit; QtObject { property QtObject theme: Theme }", {});
         probe_.reset(probe.create());
         theme_ = probe_->property("theme").value<QObject*>();
         theme_->setProperty("isDark", std::get<0>(GetParam()).isDark);

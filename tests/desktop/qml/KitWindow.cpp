@@ -16,11 +16,12 @@ KitWindow::KitWindow(const QString& body)
     bridge::reportUnreachableItems();
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
     QQmlComponent component(&engine_);
-    const auto text = QStringLiteral(
-        "import QtQuick\nimport Larkspan\nimport Larkspan.Bridge\nimport Larkspan.Bridge.Monitors\nWindow {\nid: window\n"
-        "width: 480; height: 440\nproperty bool hasMotion: false\nBinding { target: Theme; "
-        "property: \"reducesMotion\"; value: !window.hasMotion }\n%1\n}\n")
-                          .arg(body);
+    const auto text
+        = QStringLiteral("import QtQuick\nimport Larkspan.Bridge\nimport Larkspan.Bridge.Metrics\nimport Larkspan.Kit\n"
+                         "import Larkspan.Monitors\nWindow {\nid: window\n"
+                         "width: 480; height: 440\nproperty bool hasMotion: false\nBinding { target: Theme; "
+                         "property: \"reducesMotion\"; value: !window.hasMotion }\n%1\n}\n")
+              .arg(body);
     component.setData(text.toUtf8(), QUrl());
     window_.reset(qobject_cast<QQuickWindow*>(component.create()));
     if (!window_) throw std::runtime_error(component.errorString().toStdString());

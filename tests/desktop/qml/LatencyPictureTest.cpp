@@ -1,4 +1,4 @@
-#include "bridge/items/LatencyPicture.h"
+#include "bridge/metrics/LatencyPicture.h"
 
 #include <gtest/gtest.h>
 

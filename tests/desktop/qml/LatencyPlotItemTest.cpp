@@ -1,4 +1,4 @@
-#include "bridge/items/LatencyPlotItem.h"
+#include "bridge/metrics/LatencyPlotItem.h"
 
 #include <QQuickWindow>
 

@@ -27,7 +27,7 @@ protected:
         screen.mainWindow.appearance().setProperty("isDark", GetParam());
         screen.settle();
         QQmlComponent probe(qmlEngine(&screen.window()));
-        probe.setData("import QtQml; import Larkspan; QtObject { property QtObject theme: Theme }", {});
+        probe.setData("import QtQml; import Larkspan.Kit; QtObject { property QtObject theme: Theme }", {});
         probe_.reset(probe.create());
     }
 

@@ -239,14 +239,14 @@ TEST_F(PageOfTheDashboard, InWhichAMonitorIsPausedStaysUntilThatHasEnded)
     (*dashboard->openedPage)->select(Tab::monitors);
     run();
     const auto list = (*dashboard->openedPage)->monitors();
-    list->press("1", monitors::MonitorRow::pauseResume);
+    list->press("1", monitors::pauseResumeButton);
     run();
     cycleWith({"b"});
     EXPECT_NE(opened(), nullptr);
     list->openMonitor("1");
     transport.answer(platform::HttpResponse{200, ""});
     run();
-    list->detail()->press(monitors::MonitorRow::checkNow);
+    list->detail()->press(monitors::checkNowButton);
     run();
     cycleWith({"b"});
     EXPECT_NE(opened(), nullptr) << "the opened monitor's own order";

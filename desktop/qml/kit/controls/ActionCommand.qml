@@ -1,5 +1,4 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
 
 // A button with the text that `src/` gives it. The model of a row of them is their number, not the list of buttons, so

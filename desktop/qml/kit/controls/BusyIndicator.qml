@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // Shows that something is running. Does not move if the desktop asks for reduced motion.
 Item {

@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // The days of a month. The arrow keys choose the neighbouring day, Home and End the ends of the week, the page keys the
 // same day of the neighbouring month, with Shift of the neighbouring year; the wheel over the month shows other months

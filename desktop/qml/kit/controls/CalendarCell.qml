@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // A day of a calendar: today in a ring, the chosen one filled, those of the neighbouring months smaller. The day from
 // which the keys move has the calendar's focus.

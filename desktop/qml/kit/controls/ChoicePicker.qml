@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // A choice of one among many: a line with the chosen name, which opens a list of all names over it. If there is no room
 // beside the caption, the name is below it. Arrows, Home, End and letters move in the list, Return chooses.

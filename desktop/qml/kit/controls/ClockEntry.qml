@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // Hours and minutes, typed or changed step by step; on a clock of twelve hours also the half of the day.
 Row {

@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // A button with a text; the prominent one is the most likely choice.
 Pressable {

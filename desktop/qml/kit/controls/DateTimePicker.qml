@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // The choice of a moment: its date, its time beside the time's label, or below that if there is no room, and a calendar.
 Column {

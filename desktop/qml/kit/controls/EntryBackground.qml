@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // The frame of an entry, with the text that is shown while the entry is empty.
 Rectangle {

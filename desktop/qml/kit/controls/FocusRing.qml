@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // Marks the item with the focus for users of the keyboard. Only one item has the focus, so only one ring is shown.
 // A gap separates it from an item of its own colour.

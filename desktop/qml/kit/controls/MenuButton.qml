@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // A button of the header bar that opens a menu.
 ToolbarButton {

@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // A control that is pressed: a button, or whatever other role it has for screen readers. The roles of Qt's own controls
 // cannot be changed in Qt 6.4. A small one is also hit beside it.

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import Larkspan
+import Larkspan.Kit
 
 // An entry whose text is hidden, on screen and on the accessibility bus.
 T.TextField {

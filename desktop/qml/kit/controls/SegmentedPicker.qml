@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // A choice of one among a few that are side by side. The arrow keys choose the neighbour.
 Rectangle {

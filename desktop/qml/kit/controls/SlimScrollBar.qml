@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import Larkspan
+import Larkspan.Kit
 
 // The scroll bar of what a `ScrollBarLoader` stands over. Its handle is thin until the pointer comes near.
 T.ScrollBar {

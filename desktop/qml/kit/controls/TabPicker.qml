@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // The choice of a screen among a few: side by side if all their words fit, otherwise one button with a menu of them. The
 // arrow keys choose the neighbour in either form.

@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Templates as T
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // An entry of several lines; it grows with its text and then scrolls. Tab moves to the next control.
 FocusScope {

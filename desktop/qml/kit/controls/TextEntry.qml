@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import Larkspan
+import Larkspan.Kit
 
 // An entry of one line.
 T.TextField {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import Larkspan
+import Larkspan.Kit
 
 // Two digits of a time of day, typed or changed with the arrow and page keys and, while the field has the focus, with
 // the wheel; without the focus the wheel scrolls the surrounding content.

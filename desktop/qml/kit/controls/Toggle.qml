@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // A setting that is on or off, with its label before it.
 Pressable {

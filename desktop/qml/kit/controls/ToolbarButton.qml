@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // A button of the header bar: a symbol, with its help text as name and tool tip.
 Pressable {

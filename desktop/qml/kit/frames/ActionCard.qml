@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // The actions of a record on a card: in one row if there is room, with one that stands apart at the other end; if not,
 // one below the other, the most likely ones first and paired ones side by side.

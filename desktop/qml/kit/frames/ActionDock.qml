@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // The content of a record, which scrolls, and below its end the card of the record's actions. While the end lies below
 // the window, the card stays at the window's bottom edge. If that would take much of the screen, only the first action

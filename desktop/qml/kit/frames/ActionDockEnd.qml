@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // The actions for which an `ActionDock` has no room, at the end of its content.
 FocusScope {

@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // Covers a screen while the user waits for something; nothing beneath it can be pressed meanwhile.
 Rectangle {

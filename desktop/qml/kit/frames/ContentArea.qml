@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // What a screen shows or, where there is nothing to show, the placeholder; over both the alert of what has failed.
 FocusScope {

@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // The screen of an opened record that can be edited: the button that closes it or its editor, and the questions before
 // the record or typed text is lost.

@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // Remembers the item that had the focus before a popup or page was opened, and gives the focus back.
 QtObject {

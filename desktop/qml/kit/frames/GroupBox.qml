@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // A card under a small title, with an optional symbol before it.
 RevealedColumn {

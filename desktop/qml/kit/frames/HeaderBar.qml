@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // The bar at the top: the back button and further items at both ends, the title in the middle of the window or, if the
 // status needs that place, left of it. If there is not enough room for all, the status gives way first.

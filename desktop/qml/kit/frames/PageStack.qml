@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // The window's screens, one over the other: the first child is the one at the bottom, the pages pushed over it follow.
 // The focus is always with one of them.

@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // Shown in place of content: a symbol or progress, a title, a sentence, and a button to resolve it.
 Column {

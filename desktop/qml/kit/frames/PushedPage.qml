@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // A page over the screen that it was opened from. It is created when it is to be shown, covers that screen and takes
 // the focus; Escape, Alt+Left, the mouse's back button and the back button of its header close it, and the focus

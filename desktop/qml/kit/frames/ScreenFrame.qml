@@ -1,5 +1,4 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
 
 // A screen of the window: its header, and below it its content or, if there is none, the placeholder. While one of its

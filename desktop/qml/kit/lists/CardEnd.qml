@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // The top or the bottom of a card, beneath a row of a list with several cards.
 Rectangle {

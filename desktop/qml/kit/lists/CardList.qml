@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // A list of `CardRow`s on one card; only the visible rows exist. Keys: arrows, Home, End, the page keys, Return and
 // Space; typed letters move to the next row that starts with them.

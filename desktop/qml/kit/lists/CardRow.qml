@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // A row of a `CardList`: a list item for screen readers, with the focus ring and the line above it. Its content is read
 // in the order in which it is declared.

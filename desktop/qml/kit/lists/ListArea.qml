@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // The list of a tab, with what stands in its place and the alert of what has failed in it.
 ContentArea {

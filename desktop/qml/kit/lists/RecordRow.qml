@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // A record in a list: its dot, its title over a line of details, and the content at the end.
 CardRow {

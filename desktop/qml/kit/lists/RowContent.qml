@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // The content of a row: a mark, words beside it, and what stands at the row's end. That stands below the words instead
 // if it would leave them too little width.

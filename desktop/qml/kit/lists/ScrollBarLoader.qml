@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // The scroll bar of a flickable, created when the content is first larger than the view.
 LateLoader {

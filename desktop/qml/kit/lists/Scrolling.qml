@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // Scrolls content with the keyboard, and makes visible what the focus reaches in it.
 QtObject {

@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // Items one below the other, which scroll if they do not fit. Whatever gets the focus is made visible; while the column
 // itself has the focus, the arrows, the page keys, Home and End scroll.

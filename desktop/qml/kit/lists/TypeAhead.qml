@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // Collects the letters that are typed in a list and finds the row that they mean. A pause starts a new search; a blank
 // among letters is one of them, and alone it presses the row.

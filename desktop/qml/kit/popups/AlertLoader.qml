@@ -1,5 +1,4 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
 
 // Shows one failure after the other, each until it is dismissed.

@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // Asks before something is lost. Cancel has the focus, so that a premature Return loses nothing.
 MessageDialog {

@@ -1,5 +1,4 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
 
 // Shows a confirmation while there is one.

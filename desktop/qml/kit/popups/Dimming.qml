@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // The dimmed layer between the window and a sheet.
 Rectangle {

@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // Reports that an action of the user has failed, and why.
 MessageDialog {

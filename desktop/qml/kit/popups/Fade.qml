@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // How a menu comes and, backwards, goes.
 Transition {

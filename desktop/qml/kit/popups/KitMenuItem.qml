@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Templates as T
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 T.MenuItem {
     id: item

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import Larkspan
+import Larkspan.Kit
 
 T.MenuSeparator {
     implicitHeight: Theme.hairline + 2 * Theme.unit

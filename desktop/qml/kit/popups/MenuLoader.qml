@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // The menu of a button, its holder, created when it is first opened. The focus returns to the button when it closes.
 LateLoader {

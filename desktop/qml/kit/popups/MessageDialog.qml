@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // A short message with its buttons, over the dimmed window.
 ModalDialog {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import Larkspan
+import Larkspan.Kit
 
 // A dialog in the middle of the dimmed window, which keeps the focus while it is open. Escape closes it. When its
 // content grows, its top edge stays where it is as long as there is room beneath.

@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // Creates a sheet or a dialog when it is to be shown, and destroys it afterwards. The focus then returns to the item
 // that had it.

@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Templates as T
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // A panel over the dimmed window: a bar with its title, then content that scrolls if the window is small. It keeps the
 // focus while it is open, closes on Escape, and gives the focus back.

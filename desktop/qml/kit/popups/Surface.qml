@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // The ground of what is shown over the window, with the shadow that lifts it off the cards beneath.
 Rectangle {

@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // The words of the tabs in a window that is too narrow for them side by side.
 WordMenu {

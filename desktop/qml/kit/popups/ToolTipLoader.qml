@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // The tool tip of its parent, created when it is first shown.
 LateLoader {

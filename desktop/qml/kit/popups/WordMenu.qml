@@ -1,5 +1,4 @@
 import QtQuick
-import Larkspan
 
 // A menu of words, of which one may be the present choice; that one is current when the menu opens.
 KitMenu {

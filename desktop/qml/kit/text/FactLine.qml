@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // A labelled value with an optional symbol before it; a link opens an address outside the program.
 PairedLine {

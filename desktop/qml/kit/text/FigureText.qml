@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // A short text with figures, or the number before an item of a list. All digits have the same width, so that numbers
 // one below the other are aligned: in many fonts "1" is narrower than the others, and Qt 6.4 cannot ask a font for its

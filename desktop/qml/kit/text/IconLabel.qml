@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // A symbol, or progress, and a sentence beside it that wraps.
 Row {

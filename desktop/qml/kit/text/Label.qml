@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // The only way to show text: literally, even if it looks like markup. A text of one line stands at the left in any
 // script, since it follows a mark or heads a column; paragraphs are aligned as their script is.

@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // A name or a title in one line of a fixed height, cut at its end; it does not move. A
 // screen reader reads it in full.

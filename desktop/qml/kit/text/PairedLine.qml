@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // A label at the left and its value at the right; if there is no room for both, the value stands below the label.
 Item {

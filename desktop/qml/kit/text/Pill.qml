@@ -1,6 +1,6 @@
 import QtQuick
-import Larkspan
 import Larkspan.Bridge
+import Larkspan.Kit
 
 // A status word on a tint of its own colour, with an optional symbol before it.
 Rectangle {

@@ -1,5 +1,5 @@
 import QtQuick
-import Larkspan
+import Larkspan.Kit
 
 // The dot of a status. It tells by its colour alone, so a tool tip and a screen reader say the status in a word.
 Rectangle {

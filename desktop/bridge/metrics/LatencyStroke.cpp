@@ -1,4 +1,4 @@
-#include "bridge/items/LatencyStroke.h"
+#include "bridge/metrics/LatencyStroke.h"
 
 #include <cmath>
 #include <cstddef>

@@ -1,4 +1,4 @@
-#include "bridge/monitors/MetricsPanelBridge.h"
+#include "bridge/metrics/MetricsPanelBridge.h"
 
 #include <utility>
 

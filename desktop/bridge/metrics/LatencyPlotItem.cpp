@@ -1,10 +1,10 @@
-#include "bridge/items/LatencyPlotItem.h"
+#include "bridge/metrics/LatencyPlotItem.h"
 
 #include <QPainter>
 
 #include <optional>
 
-#include "bridge/items/LatencyPicture.h"
+#include "bridge/metrics/LatencyPicture.h"
 #include "monitors/LatencyPlace.h"
 #include "monitors/LatencySelection.h"
 

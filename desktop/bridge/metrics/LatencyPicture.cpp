@@ -1,9 +1,9 @@
-#include "bridge/items/LatencyPicture.h"
+#include "bridge/metrics/LatencyPicture.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "bridge/items/LatencyStroke.h"
+#include "bridge/metrics/LatencyStroke.h"
 
 namespace larkspan::bridge {
 

@@ -4,7 +4,7 @@
 #include <QQuickPaintedItem>
 #include <QtQml/qqmlregistration.h>
 
-#include "bridge/values/LatencyCurveValue.h"
+#include "bridge/metrics/LatencyCurveValue.h"
 
 namespace larkspan::bridge {
 
