@@ -145,6 +145,9 @@ T.Popup {
     }
 
     background: Surface {}
-    enter: Fade {}
-    exit: Fade { isOut: true }
+    exit: FadeOut {}
+
+    FadeIn {
+        target: popup
+    }
 }

@@ -176,6 +176,26 @@ protected:
     QObject& menu() const { return *window().findChild<QObject*>(QStringLiteral("menu")); }
 };
 
+TEST_F(MenuOfAButton, FadesInWhileItsRowsAreAlreadyReachedByTheKeyboard)
+{
+    setProperty("hasMotion", true);
+    window().setProperty("isOpen", true);
+    QTest::keyClick(&window(), Qt::Key_Down);
+    EXPECT_LT(menu().property("opacity").toDouble(), 1);
+    EXPECT_EQ(menu().property("currentIndex").toInt(), 0);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return menu().property("opacity").toDouble() == 1; }));
+}
+
+TEST_F(MenuOfAButton, ClosedWhileItFadesInItIsWholeWhenItIsOpenedAgain)
+{
+    setProperty("hasMotion", true);
+    window().setProperty("isOpen", true);
+    window().setProperty("isOpen", false);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !menu().property("visible").toBool(); }));
+    window().setProperty("isOpen", true);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return menu().property("opacity").toDouble() == 1; }));
+}
+
 TEST_F(MenuOfAButton, LeavesAsItCame)
 {
     setProperty("hasMotion", true);

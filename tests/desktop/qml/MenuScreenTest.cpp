@@ -117,6 +117,16 @@ TEST_F(MenuOnScreen, TheKeyboardMovesFromCommandToCommandAndReturnChooses)
     EXPECT_TRUE(button().hasActiveFocus());
 }
 
+TEST_F(MenuOnScreen, KeysPressedWhileItFadesInChooseInIt)
+{
+    mainWindow.appearance().setProperty("reducesMotion", false);
+    open(1);
+    press(Qt::Key_Escape);
+    for (const auto key : {Qt::Key_Space, Qt::Key_Down, Qt::Key_Return}) QTest::keyClick(&window(), key);
+    settle();
+    EXPECT_EQ(chosen, std::vector<std::string>{"page-0"});
+}
+
 TEST_F(MenuOnScreen, AKeyEquivalentChooses)
 {
     open(1);

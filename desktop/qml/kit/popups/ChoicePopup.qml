@@ -75,6 +75,10 @@ T.Popup {
         }
     }
 
-    // It does not fade: a popup has the focus only once it has come, and letters are typed as soon as it is opened.
     background: Surface {}
+    exit: FadeOut {}
+
+    FadeIn {
+        target: popup
+    }
 }

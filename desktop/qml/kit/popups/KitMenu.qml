@@ -22,6 +22,9 @@ T.Menu {
     }
 
     background: Surface {}
-    enter: Fade {}
-    exit: Fade { isOut: true }
+    exit: FadeOut {}
+
+    FadeIn {
+        target: menu
+    }
 }

@@ -7,14 +7,14 @@ T.MenuItem {
     id: item
     property string symbol
     property bool isDestructive: false
-    readonly property color ink: highlighted || down ? Theme.accentText : isDestructive ? Theme.red : Theme.text
+    readonly property color ink: !enabled ? Theme.disabledText
+        : highlighted || down ? Theme.accentText : isDestructive ? Theme.red : Theme.text
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Math.max(Theme.controlHeight, implicitContentHeight + 2 * Theme.halfUnit)
     leftPadding: 2 * Theme.unit - Theme.halfUnit
     rightPadding: leftPadding
     hoverEnabled: true
-    opacity: enabled ? 1 : 0.5
     Accessible.name: text
     // Qt 6.4 reports the action to assistive technologies, but does nothing when they invoke it.
     Accessible.onPressAction: triggered()

@@ -28,6 +28,9 @@ T.ToolTip {
         radius: Theme.pillRadius
         color: Theme.text
     }
-    enter: Fade {}
-    exit: Fade { isOut: true }
+    exit: FadeOut {}
+
+    FadeIn {
+        target: tip
+    }
 }

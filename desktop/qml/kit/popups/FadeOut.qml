@@ -1,15 +1,11 @@
 import QtQuick
 import Larkspan.Kit
 
-// How a menu comes and, backwards, goes.
+// How what came with a FadeIn goes.
 Transition {
-    id: fade
-    property bool isOut: false
-
     NumberAnimation {
         property: "opacity"
-        from: fade.isOut ? 1 : 0
-        to: fade.isOut ? 0 : 1
+        to: 0
         duration: Theme.quick
         easing.type: Easing.OutCubic
     }
