@@ -16,7 +16,7 @@
 namespace {
 
 using namespace larkspan;
-using namespace larkspan::incidents;
+using namespace larkspan::messages;
 
 // A piece has this number of characters of up to four bytes; at worst each becomes a reference with its own style or
 // link.

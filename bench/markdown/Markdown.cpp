@@ -72,18 +72,18 @@ public:
     static std::size_t runsOf(const std::string& source)
     {
         Reading reading;
-        for (const auto& block : incidents::parseMarkdownBlocks(source)) std::visit(reading, block);
+        for (const auto& block : messages::parseMarkdownBlocks(source)) std::visit(reading, block);
         return reading.runs_;
     }
 
-    void operator()(const incidents::MarkdownTable& table)
+    void operator()(const messages::MarkdownTable& table)
     {
         read(table.headers);
         for (const auto& row : table.rows) read(row);
     }
 
-    void operator()(const incidents::MarkdownUnorderedList& list) { read(list.items); }
-    void operator()(const incidents::MarkdownOrderedList& list) { read(list.items); }
+    void operator()(const messages::MarkdownUnorderedList& list) { read(list.items); }
+    void operator()(const messages::MarkdownOrderedList& list) { read(list.items); }
     void operator()(const auto& block) { read(block.text); }
 
 private:
@@ -92,7 +92,7 @@ private:
         for (const auto& text : texts) read(text);
     }
 
-    void read(const std::string& text) { runs_ += incidents::inlineMarkdownText(text).runs.size(); }
+    void read(const std::string& text) { runs_ += messages::inlineMarkdownText(text).runs.size(); }
 
     std::size_t runs_ = 0;
 };
@@ -112,7 +112,7 @@ void measure(std::size_t messages, std::size_t times)
 {
     std::string text;
     for (; messages > 0; --messages) text += message;
-    const incidents::StatusMarkdownContent content(text);
+    const messages::StatusMarkdownContent content(text);
     if (content.rows().rows.size() < 14) throw std::runtime_error("the message has lost some of its rows");
 
     const auto read = medianOf(times, [&text] {

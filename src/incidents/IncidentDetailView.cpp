@@ -32,7 +32,7 @@ IncidentDetailView::IncidentDetailView(Ports ports, Incident shown, Owner owner)
     : EditableDetail(
           ports.main, deletion, {.dismiss = std::move(owner.dismiss), .reloadList = std::move(owner.reloadList)})
     , incident(*this, std::move(shown))
-    , message(std::make_shared<MessageView>(ports.links))
+    , message(std::make_shared<messages::MessageView>(ports.links))
     , ports_(ports)
     , onUpdate_(std::move(owner.onUpdate))
 {

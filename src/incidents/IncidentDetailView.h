@@ -51,7 +51,7 @@ public:
     /// The text of the update that is being written.
     support::Published<std::string> editMessage{*this};
     /// The description in its shown form.
-    const std::shared_ptr<MessageView> message;
+    const std::shared_ptr<messages::MessageView> message;
 
     const std::string& id() const { return incident->id; }
     void show(model::Incident changed) { incident = std::move(changed); }

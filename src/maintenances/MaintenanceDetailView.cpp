@@ -35,7 +35,7 @@ MaintenanceDetailView::MaintenanceDetailView(Ports ports, Maintenance shown, Own
           std::make_shared<DateTimePicker>(DateTimePicker::Ports{ports.clock, ports.locale}, ports.clock.now()))
     , editedScheduledUntil(std::make_shared<DateTimePicker>(
           DateTimePicker::Ports{ports.clock, ports.locale}, ports.clock.now() + std::chrono::hours(1)))
-    , message(std::make_shared<incidents::MessageView>(ports.links))
+    , message(std::make_shared<messages::MessageView>(ports.links))
     , ports_(ports)
     , onUpdate_(std::move(owner.onUpdate))
     , onDelete_(std::move(owner.onDelete))

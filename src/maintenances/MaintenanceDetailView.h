@@ -55,7 +55,7 @@ public:
     const std::shared_ptr<presentation::DateTimePicker> editedScheduledFor;
     const std::shared_ptr<presentation::DateTimePicker> editedScheduledUntil;
     /// The description in its shown form.
-    const std::shared_ptr<incidents::MessageView> message;
+    const std::shared_ptr<messages::MessageView> message;
 
     const std::string& id() const { return currentMaintenance->id; }
     std::string title() const { return *isEditing ? "Edit Maintenance" : currentMaintenance->title; }

@@ -3,7 +3,7 @@
 #include "messages/markdown/StatusMarkdownContent.h"
 #include "presentation/text/InPart.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 MarkdownRows MessageView::rowsOf(const std::string& source)
 {
@@ -23,4 +23,4 @@ void MessageView::openLink()
     opener_.open(link.destination);
 }
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -9,7 +9,7 @@
 #include "presentation/shapes/Confirmation.h"
 #include "support/Observable.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 /// The message of an incident or a maintenance, and the question before one of its links is opened: the author of a
 /// message chooses a link's text, so the user is told where it leads. Main thread only.
@@ -39,4 +39,4 @@ private:
     platform::LinkOpener& opener_;
 };
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

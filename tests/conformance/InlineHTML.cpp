@@ -10,7 +10,7 @@
 
 namespace {
 
-using namespace larkspan::incidents;
+using namespace larkspan::messages;
 
 std::string escaped(std::string_view text)
 {

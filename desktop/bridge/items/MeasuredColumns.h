@@ -13,7 +13,7 @@ namespace larkspan::bridge {
 /// The columns of tables, as wide as their widest texts are drawn; measured once for all rows of a table.
 class MeasuredColumns {
 public:
-    using Columns = std::shared_ptr<const incidents::MarkdownColumns>;
+    using Columns = std::shared_ptr<const messages::MarkdownColumns>;
 
     struct Drawing {
         QFont ofHeaders;

@@ -7,7 +7,7 @@ namespace larkspan::bridge {
 
 MarkdownRowValue MarkdownRowValue::of(const MessageEntry& entry)
 {
-    using Kind = incidents::MarkdownRow::Kind;
+    using Kind = messages::MarkdownRow::Kind;
     const auto& row = entry.row;
     MarkdownRowValue value;
     value.isTitle = row.kind == Kind::title;

@@ -9,7 +9,7 @@
 
 namespace larkspan::bridge {
 
-/// `incidents::MarkdownText` for QML; without the destinations of its links.
+/// `messages::MarkdownText` for QML; without the destinations of its links.
 struct MarkdownTextValue {
     Q_GADGET
     QML_VALUE_TYPE(markdownText)
@@ -22,7 +22,7 @@ public:
     QString plain{};
     int linkCount = 0;
 
-    static MarkdownTextValue of(const incidents::MarkdownText& text)
+    static MarkdownTextValue of(const messages::MarkdownText& text)
     {
         return {wholeText(text.styled), words(text.plain), static_cast<int>(text.links.size())};
     }

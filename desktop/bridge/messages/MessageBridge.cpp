@@ -5,8 +5,7 @@
 
 namespace larkspan::bridge {
 
-MessageBridge::MessageBridge(
-    std::shared_ptr<incidents::MessageView> view, const ScreenUpdates& updates, QObject* parent)
+MessageBridge::MessageBridge(std::shared_ptr<messages::MessageView> view, const ScreenUpdates& updates, QObject* parent)
     : ScreenBridge(updates, parent)
     , view_(std::move(view))
 {
@@ -17,7 +16,7 @@ void MessageBridge::show(const std::string& source)
 {
     if (source_ == source) return;
     source_ = source;
-    rows_.update(MessageEntry::entriesOf(incidents::MessageView::rowsOf(source)));
+    rows_.update(MessageEntry::entriesOf(messages::MessageView::rowsOf(source)));
     emit changed();
 }
 
@@ -29,7 +28,7 @@ bool MessageBridge::takesKeys() const
 
 ConfirmationValue MessageBridge::linkConfirmation() const
 {
-    auto confirmation = ConfirmationValue::of(incidents::MessageView::linkConfirmation);
+    auto confirmation = ConfirmationValue::of(messages::MessageView::linkConfirmation);
     confirmation.text = words(view_->questionText());
     return confirmation;
 }

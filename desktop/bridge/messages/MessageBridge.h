@@ -17,7 +17,7 @@
 
 namespace larkspan::bridge {
 
-/// A message for QML: its rows, and the question before a link is opened, both of `incidents::MessageView`.
+/// A message for QML: its rows, and the question before a link is opened, both of `messages::MessageView`.
 class MessageBridge : public ScreenBridge {
     Q_OBJECT
     QML_ELEMENT
@@ -29,8 +29,7 @@ class MessageBridge : public ScreenBridge {
     Q_PROPERTY(larkspan::bridge::ConfirmationValue linkConfirmation READ linkConfirmation NOTIFY changed)
 
 public:
-    MessageBridge(
-        std::shared_ptr<incidents::MessageView> view, const ScreenUpdates& updates, QObject* parent = nullptr);
+    MessageBridge(std::shared_ptr<messages::MessageView> view, const ScreenUpdates& updates, QObject* parent = nullptr);
 
     /// Shows the rows of `source`, if it differs from the current one.
     void show(const std::string& source);
@@ -48,7 +47,7 @@ public:
     Q_INVOKABLE void cancelLink() { view_->cancelLink(); }
 
 private:
-    std::shared_ptr<incidents::MessageView> view_;
+    std::shared_ptr<messages::MessageView> view_;
     std::optional<std::string> source_;
     RowListModel<MarkdownRowValue> rows_;
     MeasuredColumns columns_;

@@ -4,11 +4,11 @@
 
 namespace larkspan::bridge {
 
-std::vector<MessageEntry> MessageEntry::entriesOf(incidents::MarkdownRows rows)
+std::vector<MessageEntry> MessageEntry::entriesOf(messages::MarkdownRows rows)
 {
-    std::vector<std::shared_ptr<const incidents::MarkdownColumns>> tables;
+    std::vector<std::shared_ptr<const messages::MarkdownColumns>> tables;
     for (auto& table : rows.tables) {
-        tables.push_back(std::make_shared<const incidents::MarkdownColumns>(std::move(table)));
+        tables.push_back(std::make_shared<const messages::MarkdownColumns>(std::move(table)));
     }
     std::vector<MessageEntry> entries;
     entries.reserve(rows.rows.size());

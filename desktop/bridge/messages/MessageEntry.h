@@ -12,11 +12,11 @@ namespace larkspan::bridge {
 struct MessageEntry {
     std::string id{};
     std::string title{};
-    incidents::MarkdownRow row{.kind = incidents::MarkdownRow::Kind::paragraph};
+    messages::MarkdownRow row{.kind = messages::MarkdownRow::Kind::paragraph};
     /// Shared by the rows of a table, so that a change of it changes each of them.
-    std::shared_ptr<const incidents::MarkdownColumns> columns{};
+    std::shared_ptr<const messages::MarkdownColumns> columns{};
 
-    static std::vector<MessageEntry> entriesOf(incidents::MarkdownRows rows);
+    static std::vector<MessageEntry> entriesOf(messages::MarkdownRows rows);
 
     bool operator==(const MessageEntry&) const = default;
 };

@@ -6,11 +6,11 @@
 
 #include <memory>
 
+#include "bridge/metrics/LatencyCurveValue.h"
 #include "bridge/metrics/MetricRowValue.h"
 #include "bridge/metrics/RegionRowValue.h"
 #include "bridge/metrics/SelectedLatencyValue.h"
 #include "bridge/screens/ScreenBridge.h"
-#include "bridge/metrics/LatencyCurveValue.h"
 #include "bridge/values/Words.h"
 #include "monitors/MetricsPanel.h"
 

@@ -7,7 +7,7 @@
 #include "messages/markdown/CharacterTables.h"
 #include "support/Utf8.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -34,4 +34,4 @@ std::string decodedCharacterReference(std::string_view reference)
     return std::string(found != known.end() && found->name == name ? found->text : reference);
 }
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

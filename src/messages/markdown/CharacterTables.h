@@ -3,7 +3,7 @@
 #include <span>
 #include <string_view>
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 // Generated from Python's tables of HTML and Unicode; see character_tables.py.
 
@@ -24,4 +24,4 @@ struct CharacterRange {
 /// syllables, modifiers and tags of emoji. Sorted.
 std::span<const CharacterRange> joiningCharacters();
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -7,7 +7,7 @@
 
 #include "support/Utf8.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -103,4 +103,4 @@ std::string asciiDomainName(std::string_view host)
     return name + asciiLabel(host);
 }
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -9,7 +9,7 @@
 
 #include "messages/markdown/CharacterReference.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -205,4 +205,4 @@ InlineText inlineMarkdownText(std::string text)
     return runs.read() ? std::move(runs).take() : verbatim(std::move(text));
 }
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 struct InlineStyles {
     bool isEmphasised = false;
@@ -41,4 +41,4 @@ struct InlineText {
 /// returned with its markup.
 InlineText inlineMarkdownText(std::string text);
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -5,7 +5,7 @@
 #include "messages/markdown/SourceLines.h"
 #include "support/Trimming.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -88,4 +88,4 @@ std::vector<MarkdownBlock> parseMarkdownBlocks(std::string_view source)
     return BlockReader(source).read();
 }
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -5,7 +5,7 @@
 #include <variant>
 #include <vector>
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 struct MarkdownHeading {
     int level;
@@ -55,4 +55,4 @@ using MarkdownBlock = std::variant<MarkdownHeading, MarkdownParagraph, MarkdownU
 /// Every text can be parsed: a line that matches no rule is paragraph text.
 std::vector<MarkdownBlock> parseMarkdownBlocks(std::string_view source);
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -6,7 +6,7 @@
 
 #include "support/Trimming.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -50,4 +50,4 @@ std::optional<std::string_view> parseOrderedItem(std::string_view trimmedLine)
     return rest.substr(1);
 }
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

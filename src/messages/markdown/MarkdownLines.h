@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 /// With the blank that belongs to each marker.
 inline constexpr std::array<std::string_view, 3> unorderedMarkers{"- ", "* ", "+ "};
@@ -25,4 +25,4 @@ std::optional<std::string_view> parseUnorderedItem(std::string_view trimmedLine)
 /// The text after an integer, a dot and a blank.
 std::optional<std::string_view> parseOrderedItem(std::string_view trimmedLine);
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -6,7 +6,7 @@
 #include "model/records/URL.h"
 #include "support/IgnoringCase.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -75,4 +75,4 @@ std::optional<MarkdownLink> MarkdownLink::parse(std::string_view destination)
     return std::nullopt;
 }
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 /// A destination that may be opened, and the place to which it really leads: its host, or the address of a mail.
 struct MarkdownLink {
@@ -19,4 +19,4 @@ struct MarkdownLink {
     static std::optional<MarkdownLink> parse(std::string_view destination);
 };
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

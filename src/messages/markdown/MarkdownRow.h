@@ -7,7 +7,7 @@
 
 #include "messages/markdown/MarkdownText.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 /// One row of a message on screen, small enough to be created when it scrolls into view. A long text continues in the
 /// next rows, which have no gap.
@@ -65,4 +65,4 @@ struct MarkdownRows {
     bool operator==(const MarkdownRows&) const = default;
 };
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -3,7 +3,7 @@
 #include "support/Trimming.h"
 #include "support/Utf8.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -85,4 +85,4 @@ std::optional<TableLines> parseTableBlock(std::span<const std::string_view> line
     return found;
 }
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

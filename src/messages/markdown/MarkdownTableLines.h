@@ -9,7 +9,7 @@
 
 #include "messages/markdown/MarkdownBlock.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 struct TableLines {
     MarkdownTable table;
@@ -29,4 +29,4 @@ std::vector<std::string> parseTableCells(std::string_view line);
 /// Three or more of "-" and ":", with blanks anywhere.
 bool isTableSeparatorCell(std::string_view cell);
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

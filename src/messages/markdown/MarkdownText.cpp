@@ -8,7 +8,7 @@
 #include "support/Trimming.h"
 #include "support/Utf8.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -85,4 +85,4 @@ std::vector<MarkdownText> MarkdownText::piecesOf(InlineText text)
     return pieces;
 }
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

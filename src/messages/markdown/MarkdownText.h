@@ -6,7 +6,7 @@
 #include "messages/markdown/InlineText.h"
 #include "messages/markdown/MarkdownLink.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 /// The content of one text item.
 struct MarkdownText {
@@ -24,4 +24,4 @@ struct MarkdownText {
     static std::vector<MarkdownText> piecesOf(InlineText text);
 };
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -6,7 +6,7 @@
 #include "support/Trimming.h"
 #include "support/Utf8.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -45,4 +45,4 @@ std::vector<std::string_view> linesOf(std::string_view text)
     return lines;
 }
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -5,7 +5,7 @@
 #include "messages/markdown/MarkdownBlock.h"
 #include "messages/markdown/TableRows.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -90,4 +90,4 @@ MarkdownRows StatusMarkdownContent::rows() const
     return std::move(writer).take();
 }
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

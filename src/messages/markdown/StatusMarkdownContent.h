@@ -4,7 +4,7 @@
 
 #include "messages/markdown/MarkdownRow.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 /// A message of an incident or a maintenance, as it is shown.
 ///
@@ -26,4 +26,4 @@ private:
     std::string source_;
 };
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -7,7 +7,7 @@
 #include "support/Trimming.h"
 #include "support/Utf8.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -154,4 +154,4 @@ void StyledTextWriter::addLineEnd()
     before_ = U'\n';
 }
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -7,7 +7,7 @@
 
 #include "messages/markdown/InlineText.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 /// Writes text for a Qt Quick Text with Text.StyledText, which knows few tags and folds white space:
 ///
@@ -46,4 +46,4 @@ private:
     std::size_t unbroken_ = 0;
 };
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -5,7 +5,7 @@
 
 #include "messages/markdown/WidestTexts.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -100,4 +100,4 @@ void appendTable(MarkdownRows& content, const MarkdownTable& table, int gap)
     }
 }
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -3,7 +3,7 @@
 #include "messages/markdown/MarkdownBlock.h"
 #include "messages/markdown/MarkdownRow.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 /// The space above a table's headers and below its last row, in points.
 inline constexpr int tablePadding = 2;
@@ -12,4 +12,4 @@ inline constexpr int tablePadding = 2;
 /// shown.
 void appendTable(MarkdownRows& content, const MarkdownTable& table, int gap);
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

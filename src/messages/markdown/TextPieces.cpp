@@ -6,7 +6,7 @@
 #include "support/Trimming.h"
 #include "support/Utf8.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -60,4 +60,4 @@ std::size_t firstPieceEnd(std::string_view text)
     return at;
 }
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <string_view>
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 /// The most characters of one text on screen, whose cost grows faster than its length.
 inline constexpr std::size_t longestPiece = 2'000;
@@ -16,4 +16,4 @@ std::size_t firstPieceEnd(std::string_view text);
 /// emoji, flag or syllable.
 bool areDrawnApart(char32_t before, char32_t after);
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -5,7 +5,7 @@
 
 #include "support/Utf8.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -54,4 +54,4 @@ std::vector<WidestTexts::Text> WidestTexts::texts() const
     return found;
 }
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -8,7 +8,7 @@
 
 #include "messages/markdown/MarkdownRow.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 /// Keeps the texts of a column that may be the widest when drawn. The width of letters is known only roughly here, so
 /// the few widest by that estimate are kept, to be measured with the font.
@@ -30,4 +30,4 @@ private:
 /// The estimated width, in quarters of a wide character such as "語".
 std::size_t roughWidth(std::string_view text);
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

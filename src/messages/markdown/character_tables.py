@@ -12,7 +12,7 @@ from pathlib import Path
 
 FRAME = """#include "messages/markdown/CharacterTables.h"
 
-namespace larkspan::incidents {{
+namespace larkspan::messages {{
 
 namespace {{
 
@@ -36,7 +36,7 @@ std::span<const CharacterRange> joiningCharacters()
     return joining;
 }}
 
-}}  // namespace larkspan::incidents
+}}  // namespace larkspan::messages
 """
 
 

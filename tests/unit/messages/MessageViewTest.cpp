@@ -4,7 +4,7 @@
 
 #include "fakes/FakeLinkOpener.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -55,4 +55,4 @@ TEST_F(MessageOfAnIncident, HasNoLinkToAFileOrAScript)
 
 }  // namespace
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

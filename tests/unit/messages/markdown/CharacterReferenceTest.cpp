@@ -7,7 +7,7 @@
 
 #include "messages/markdown/CharacterTables.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -66,4 +66,4 @@ TEST(JoiningCharacters, AreSortedAndDoNotOverlap)
 
 }  // namespace
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -4,7 +4,7 @@
 
 #include <ostream>
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -45,4 +45,4 @@ INSTANTIATE_TEST_SUITE_P(OfTheStandard, DomainName,
 
 }  // namespace
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -10,7 +10,7 @@
 #include "messages/markdown/TextPieces.h"
 #include "support/Utf8.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -177,4 +177,4 @@ TEST(AnyMarkdown, IsPutTogetherAgainFromItsPieces)
 
 }  // namespace
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string_view>
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -251,4 +251,4 @@ TEST(InlineText, IsItsRunsPutTogether)
 
 }  // namespace
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -4,7 +4,7 @@
 
 #include <ostream>
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -196,4 +196,4 @@ TEST(MarkdownBlocks, KeepBadBytesAndNULs)
 
 }  // namespace
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -100,4 +100,4 @@ INSTANTIATE_TEST_SUITE_P(Lines, NoOrderedItem,
 
 }  // namespace
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -4,7 +4,7 @@
 
 #include <ostream>
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -76,4 +76,4 @@ TEST(Openable, MayBeAsLongAsBrowsersTake)
 
 }  // namespace
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -5,7 +5,7 @@
 
 #include <ostream>
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -113,4 +113,4 @@ TEST(TableBlock, OfNothingButPipesHasOneEmptyHeader)
 
 }  // namespace
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -87,4 +87,4 @@ TEST(MarkdownText, EndsItsLinkWhereOnlyTheLineEndOfItIsLeft)
 
 }  // namespace
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

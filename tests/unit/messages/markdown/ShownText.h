@@ -9,7 +9,7 @@
 #include "support/Trimming.h"
 #include "support/Utf8.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 /// Reads styled text as it would be shown, to check it.
 class ShownText {
@@ -119,4 +119,4 @@ private:
     std::string seen_;
 };
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -102,4 +102,4 @@ TEST(StatusMarkdownContent, LeavesATablesPaddingAboveItAndBelow)
 
 }  // namespace
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -149,4 +149,4 @@ TEST(StyledText, BreaksNoCharacterFromItsMark)
 
 }  // namespace
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

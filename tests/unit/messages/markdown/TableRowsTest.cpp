@@ -3,7 +3,7 @@
 #include "messages/markdown/StatusMarkdownContent.h"
 #include "messages/markdown/WidestTexts.h"
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -114,4 +114,4 @@ TEST(TableRows, OfManyColumnsRepeatNoRowThatHasNothingMoreToShow)
 
 }  // namespace
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages

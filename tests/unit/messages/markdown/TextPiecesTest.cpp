@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace larkspan::incidents {
+namespace larkspan::messages {
 
 namespace {
 
@@ -103,4 +103,4 @@ INSTANTIATE_TEST_SUITE_P(Pairs, DrawnTogether,
 
 }  // namespace
 
-}  // namespace larkspan::incidents
+}  // namespace larkspan::messages
