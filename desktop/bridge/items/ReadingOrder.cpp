@@ -5,6 +5,12 @@
 
 namespace larkspan::bridge {
 
+ReadingOrder::ReadingOrder(QObject* parent)
+    : QObject(parent)
+{
+    connect(this, &ReadingOrder::lastChanged, this, &ReadingOrder::settleSoon);
+}
+
 void ReadingOrder::setContainer(QQuickItem* container)
 {
     if (container_ == container) return;
@@ -36,7 +42,8 @@ void ReadingOrder::settle()
     isPending_ = false;
     if (!container_) return;
     auto sorted = container_->childItems();
-    std::ranges::stable_sort(sorted, {}, &QQuickItem::y);
+    std::ranges::stable_sort(
+        sorted, {}, [this](const QQuickItem* item) { return std::pair(item == last_, item->y()); });
     for (qsizetype at = 1; at < sorted.size(); ++at) {
         const auto* previous = std::as_const(sorted)[at - 1];
         auto* item = std::as_const(sorted)[at];

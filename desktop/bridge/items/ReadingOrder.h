@@ -14,15 +14,19 @@ class ReadingOrder : public QObject {
     QML_ELEMENT
     /// The item whose children are the rows.
     Q_PROPERTY(QQuickItem* container READ container WRITE setContainer NOTIFY containerChanged)
+    /// The child that follows all rows, even while none of them is in sight and the list does not yet know their
+    /// heights.
+    Q_PROPERTY(QQuickItem* last MEMBER last_ NOTIFY lastChanged)
 
 public:
-    using QObject::QObject;
+    explicit ReadingOrder(QObject* parent = nullptr);
 
     QQuickItem* container() const { return container_; }
     void setContainer(QQuickItem* container);
 
 signals:
     void containerChanged();
+    void lastChanged();
 
 private:
     void watchRows();
@@ -30,6 +34,7 @@ private:
     void settle();
 
     QPointer<QQuickItem> container_;
+    QQuickItem* last_ = nullptr;
     bool isPending_ = false;
 };
 

@@ -55,6 +55,7 @@ class FocusInAScene : public testing::TestWithParam<Scene> {
 protected:
     struct Round {
         std::vector<const QQuickItem*> holders{};
+        std::string told{};
         Findings findings{};
         int turnsBack = 0;
     };
@@ -77,6 +78,7 @@ protected:
         const auto* const first = stop.holder;
         do {
             round.holders.push_back(stop.holder);
+            round.told += words(stop) + "; ";
             lookAt(stop, window, round.findings);
             const auto* const before = stop.whole;
             stop = step(window, key);
@@ -103,7 +105,7 @@ protected:
         std::ranges::reverse(backward.holders);
         if (forward.holders.empty() || backward.holders.empty()) return;
         std::ranges::rotate(backward.holders, std::ranges::find(backward.holders, forward.holders.front()));
-        EXPECT_EQ(forward.holders, backward.holders) << "Tab goes another way back";
+        EXPECT_EQ(forward.holders, backward.holders) << "Tab goes another way back: " << forward.told << "beside " << backward.told;
     }
 
     adapters::MainExecutor main;

@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 
 #include "ComponentsOnScreen.h"
+#include "Measures.h"
 
 namespace larkspan {
 
@@ -19,6 +20,20 @@ TEST_F(ComponentsOnScreen, AreRowsUnderTheHeadingsOfTheirSections)
         (QStringList{"Core", "REST API: Degradedperformance", "Worker: Up", "Edge", "Ungrouped", "Site: Partialoutage",
             "Other Components", "Old: Unknown"}));
     EXPECT_TRUE(names(Role::StaticText).contains(QStringLiteral("Serves all.")));
+}
+
+TEST_F(ComponentsOnScreen, BeginWithTheirFirstHeadingInAWindowTooSmallForAllOfThem)
+{
+    std::vector<std::string> many;
+    for (int number = 0; number < 40; ++number) {
+        many.push_back(component(std::to_string(number), "Name " + std::to_string(number), inGroup("core")));
+    }
+    serve(many);
+    window().resize(480, 440);
+    enterAgain();
+    settle();
+    const auto& heading = item(Role::Heading, QStringLiteral("Core"));
+    EXPECT_GE(frameOf(heading).top(), frameOf(item(Role::List, QStringLiteral("Components"))).top());
 }
 
 TEST_F(ComponentsOnScreen, AHeadingIsSkippedByEveryKeyThatMovesThroughTheRows)

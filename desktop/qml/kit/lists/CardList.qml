@@ -116,6 +116,7 @@ ListView {
 
     ReadingOrder {
         container: list.contentItem
+        last: list.footerItem
     }
 
     Scrolling {
@@ -137,7 +138,14 @@ ListView {
     // After a refresh, the current row may be one at which the keyboard does not stop.
     function keepToStops() {
         const stop = walksRows && count > 0 ? stopNear(Math.max(0, currentIndex), 1) : -1
-        if (stop !== currentIndex) currentIndex = stop
+        if (stop === currentIndex) return
+        const wasAtTop = !isScrolled
+        currentIndex = stop
+        // The view moves to the current row, and away from a heading above it.
+        if (wasAtTop && stop === rows.stopFrom(0, 1)) {
+            forceLayout()
+            contentY = originY - topMargin
+        }
     }
     function stopNear(row: int, direction: int): int {
         const stop = rows.stopFrom(row, direction)

@@ -27,7 +27,7 @@ T.Dialog {
     focus: true
     closePolicy: T.Popup.CloseOnEscape
     onAboutToShow: isPlaced = false
-    onOpened: place()
+    onOpened: if (parent) parent.Window.window.update()
     onRoomChanged: if (isPlaced) place()
 
     function middle(): real {
@@ -38,8 +38,16 @@ T.Dialog {
         isPlaced = true
     }
 
+    // Only a frame has laid out the content, and with reduced motion the dialog is open before its first one.
+    Connections {
+        target: dialog.parent ? dialog.parent.Window.window : null
+        enabled: dialog.opened && !dialog.isPlaced
+        function onAfterAnimating() {
+            dialog.place()
+        }
+    }
     Behavior on growingHeight {
-        enabled: dialog.isPlaced && !Theme.reducesMotion
+        enabled: dialog.opened && !Theme.reducesMotion
         NumberAnimation { duration: Theme.calm; easing.type: Easing.OutCubic }
     }
 
