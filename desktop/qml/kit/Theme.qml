@@ -24,6 +24,7 @@ QtObject {
     readonly property color accentLine: hasHighContrast ? text : isDark ? "#4f86db" : accent
     readonly property color disabledText: hasHighContrast ? gray : isDark ? "#868d97" : "#7b828d"
     readonly property color disabledFill: Qt.tint(card, hover)
+    readonly property color disabledLine: hasHighContrast ? disabledText : line
     readonly property color segment: isDark ? "#4a515b" : card
     readonly property color segmentLine: hasHighContrast ? text : isDark ? "#828994" : "#737b87"
     readonly property color switchOff: isDark ? "#737b87" : "#868d97"

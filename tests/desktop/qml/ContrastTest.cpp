@@ -102,8 +102,17 @@ std::vector<Pairs> everyPair()
         {"HandleOfAScrollBar", {"scrollHandle", "scrollHandleHovered", "scrollHandlePressed"},
             {{"window"}, {"card"}, {"field"}}, shape},
 
+        {"WordsOfAMenu", {"text", "red"}, {{"raised"}}, words},
+        {"WordsOfAMenusRowThatIsLit", {"accentText"}, {{"accent"}, {"accentPressed"}}, words},
+        {"WordsOfAChoicesRow", {"text"}, {{"raised"}, {"raised", "hover"}, {"raised", "pressed"}}, words},
+        {"WordsOfASheet", {"text", "secondary"}, {{"sheet"}}, words},
+        {"EdgeOfAControlOnASheet", {"controlLine"}, {{"sheet"}, {"raised"}}, shape},
+        {"FocusRingOnASheet", {"focus"}, {{"sheet"}, {"raised"}}, shape},
+        {"WordsOfAButtonThatDeletes", {"dangerText"},
+            {{"danger"}, {"danger", "hoverOnFill"}, {"danger", "pressedOnFill"}}, words},
         {"WordsOfATip", {"card"}, {{"text"}}, words},
-        {"DisabledWords", {"disabledText"}, {{"window"}, {"card"}, {"disabledFill"}}, disabledWords},
+        {"DisabledWords", {"disabledText"}, {{"window"}, {"card"}, {"disabledFill"}, {"raised"}, {"sheet"}},
+            disabledWords},
     };
     for (const auto& more : {pills(), tintedButtons()}) all.insert(all.end(), more.begin(), more.end());
     return all;

@@ -24,7 +24,7 @@ Item {
         width: Math.min(parent.width, parent.height * 1.5) - 2 * Theme.hairline
         height: parent.height - 2 * Theme.hairline
         radius: Theme.pillRadius
-        color: cell.day.isChosen ? Theme.accent : tap.pressed ? Theme.pressed : pointer.hovered ? Theme.hover : "transparent"
+        color: cell.day.isChosen ? (cell.enabled ? Theme.accent : Theme.disabledFill) : tap.pressed ? Theme.pressed : pointer.hovered ? Theme.hover : "transparent"
         border.width: cell.day.isToday && !cell.day.isChosen ? Theme.hairline : 0
         border.color: Theme.accentOnCard
 
@@ -47,7 +47,7 @@ Item {
         horizontalAlignment: Text.AlignHCenter
         font.pointSize: cell.day.isInMonth ? Theme.body : Theme.caption
         font.weight: cell.day.isToday ? Font.DemiBold : Font.Normal
-        color: cell.day.isChosen ? Theme.accentText : cell.day.isToday ? Theme.accentOnCard
+        color: !cell.enabled ? Theme.disabledText : cell.day.isChosen ? Theme.accentText : cell.day.isToday ? Theme.accentOnCard
             : cell.day.isInMonth ? Theme.text : Theme.secondary
         Accessible.ignored: true
     }

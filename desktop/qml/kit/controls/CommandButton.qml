@@ -21,7 +21,7 @@ Pressable {
         : isDestructive ? Theme.red : Theme.toneColor(tone)
     readonly property color fill: !isProminent ? Theme.card : !enabled ? Theme.disabledFill
         : isDestructive ? Theme.danger : isTinted ? Theme.toneColor(tone) : Theme.accent
-    readonly property color edge: !enabled ? Theme.line : isTinted ? Theme.toneColor(tone)
+    readonly property color edge: !enabled ? Theme.disabledLine : isTinted ? Theme.toneColor(tone)
         : isProminent ? isDestructive ? Theme.danger : Theme.accentLine
         : hovered || down ? Theme.controlLineHovered : Theme.controlLine
     readonly property real sidePadding: 2 * Theme.unit - Theme.halfUnit

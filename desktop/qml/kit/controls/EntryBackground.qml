@@ -10,8 +10,10 @@ Rectangle {
 
     radius: Theme.controlRadius
     color: Theme.field
-    border.width: isFocused ? Theme.focusWidth : Theme.hairline
-    border.color: isFocused ? Theme.focus : isHovered ? Theme.controlLineHovered : Theme.controlLine
+    // In high contrast the edge cannot become darker under the pointer, but wider.
+    border.width: isFocused || isHovered && Theme.hasHighContrast ? Theme.focusWidth : Theme.hairline
+    border.color: !enabled ? Theme.disabledLine : isFocused ? Theme.focus
+        : isHovered ? Theme.controlLineHovered : Theme.controlLine
 
     Label {
         anchors.fill: parent
@@ -19,6 +21,6 @@ Rectangle {
         anchors.rightMargin: anchors.leftMargin
         visible: text !== ""
         text: frame.placeholder
-        color: Theme.secondary
+        color: frame.enabled ? Theme.secondary : Theme.disabledText
     }
 }

@@ -22,6 +22,8 @@ Rectangle {
     implicitHeight: Theme.controlHeight + Theme.unit
     radius: Theme.controlRadius + Theme.halfUnit
     color: Theme.track
+    border.width: Theme.hasHighContrast ? Theme.hairline : 0
+    border.color: Theme.controlLine
     activeFocusOnTab: true
     Accessible.role: choosesTab ? Accessible.PageTabList : Accessible.Grouping
     Accessible.name: name
@@ -35,6 +37,11 @@ Rectangle {
     }
 
     FocusRing { holder: picker }
+    FontMetrics {
+        id: metrics
+        font.pointSize: Theme.subheadline
+        font.weight: Font.DemiBold
+    }
     Row {
         anchors.fill: parent
         anchors.margins: Theme.halfUnit
@@ -47,12 +54,13 @@ Rectangle {
                 id: segment
                 required property int index
                 required property string modelData
-                wordWidth: label.implicitWidth
+                // As the chosen one, so that no word moves when another is chosen.
+                wordWidth: metrics.advanceWidth(modelData) + 2 * Theme.halfUnit
                 readonly property bool isSelected: index === picker.selected
 
                 // Each has the width of its text, plus or minus its share of the remaining or missing width.
-                width: picker.room < picker.wordsWidth ? label.implicitWidth * picker.room / picker.wordsWidth
-                    : label.implicitWidth + (picker.room - picker.wordsWidth) / picker.segments.length
+                width: picker.room < picker.wordsWidth ? wordWidth * picker.room / picker.wordsWidth
+                    : wordWidth + (picker.room - picker.wordsWidth) / picker.segments.length
                 height: picker.height - 2 * Theme.halfUnit
                 takesFocus: false
                 text: modelData
@@ -66,9 +74,9 @@ Rectangle {
                 Rectangle {
                     anchors.fill: parent
                     radius: Theme.controlRadius
-                    color: segment.isSelected ? Theme.segment : segment.down ? Theme.pressed : segment.hovered ? Theme.hover : Theme.rest
+                    color: segment.isSelected ? Theme.segment : !picker.enabled ? Theme.rest : segment.down ? Theme.pressed : segment.hovered ? Theme.hover : Theme.rest
                     border.width: segment.isSelected ? Theme.hairline : 0
-                    border.color: Theme.segmentLine
+                    border.color: picker.enabled ? Theme.segmentLine : Theme.disabledLine
                 }
                 Label {
                     id: label
@@ -76,6 +84,7 @@ Rectangle {
                     anchors.leftMargin: Theme.halfUnit
                     anchors.rightMargin: Theme.halfUnit
                     text: segment.text
+                    color: picker.enabled ? Theme.text : Theme.disabledText
                     horizontalAlignment: Text.AlignHCenter
                     font.pointSize: Theme.subheadline
                     fontSizeMode: Text.HorizontalFit

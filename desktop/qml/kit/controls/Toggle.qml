@@ -27,9 +27,9 @@ Pressable {
         width: Theme.toggleWidth
         height: Theme.toggleHeight
         radius: height / 2
-        color: !toggle.enabled ? Theme.line : toggle.isOn ? Theme.accent : Theme.switchOff
+        color: !toggle.enabled ? Theme.disabledLine : toggle.isOn ? Theme.accent : Theme.switchOff
         border.width: Theme.hairline
-        border.color: !toggle.enabled ? Theme.line : toggle.hovered || toggle.down ? Theme.controlLineHovered
+        border.color: !toggle.enabled ? Theme.disabledLine : toggle.hovered || toggle.down ? Theme.controlLineHovered
             : toggle.isOn ? Theme.accentLine : Theme.controlLine
         Behavior on color {
             ColorAnimation { duration: Theme.quick }
