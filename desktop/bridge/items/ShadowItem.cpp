@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <memory>
 #include <utility>
@@ -41,9 +42,11 @@ public:
 
     const ShadowShape& shape() const { return shape_; }
 
-    void surround(const QRectF& box)
+    /// The pieces end at pixels, of which `ratio` make a point: two that share one would darken it twice.
+    void surround(const QSizeF& box, qreal ratio)
     {
-        const auto whole = shape_.around(box);
+        const auto atPixel = [ratio](qreal length) { return std::round(length * ratio) / ratio; };
+        const auto whole = shape_.around({0, 0, atPixel(box.width()), atPixel(box.height())});
         const QRectF picture({}, texture_->textureSize());
         std::size_t at = 0;
         for (int row = 0; row < 3; ++row) {
@@ -127,7 +130,7 @@ QSGNode* ShadowItem::updatePaintNode(QSGNode* node, UpdatePaintNodeData*)
     }
     if (!hasRoom || shape_.reach <= 0) return nullptr;
     if (!shadow) shadow = new ShadowNode(*window(), shape_);
-    shadow->surround(boundingRect());
+    shadow->surround(size(), window()->effectiveDevicePixelRatio());
     return shadow;
 }
 

@@ -20,6 +20,12 @@ EditableDetailFrame {
             enabled: !view.detail.isBusy
             onClicked: view.detail.beginEditing()
         },
+        // What deletes stands apart.
+        Item {
+            visible: !view.isEditing
+            width: Theme.unit
+            height: 1
+        },
         ToolbarButton {
             visible: !view.isEditing
             symbol: "trash"

@@ -38,8 +38,7 @@ Column {
             onChosen: segment => editor.detail.chooseStatus(segment)
         }
         Label {
-            x: Theme.halfUnit
-            width: parent.width - 2 * x
+            width: parent.width
             visible: text !== ""
             text: editor.detail.unlistedStatus
             font.pointSize: Theme.caption

@@ -43,6 +43,7 @@ ScreenFrame {
     ]
 
     CardList {
+        id: list
         anchors.fill: parent
         name: view.dashboard.listHeading
         rows: view.dashboard.rows
@@ -92,6 +93,8 @@ ScreenFrame {
         anchors.right: parent.right
         anchors.bottom: parent.bottom
         anchors.margins: Theme.margin
+        // At the end of the column, however wide the window is.
+        anchors.rightMargin: list.rightMargin
     }
 
     Shortcut {

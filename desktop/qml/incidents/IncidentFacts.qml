@@ -11,7 +11,7 @@ Column {
     required property real visibleHeight
 
     spacing: Theme.margin
-    bottomPadding: Theme.unit
+    bottomPadding: incident.showsDescription && !incident.isEditing ? Theme.unit : 0
 
     RecordHeader {
         width: parent.width

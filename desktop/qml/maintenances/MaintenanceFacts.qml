@@ -10,7 +10,7 @@ Column {
     required property MaintenanceDetailBridge maintenance
 
     spacing: Theme.margin
-    bottomPadding: Theme.unit
+    bottomPadding: maintenance.showsDescription ? Theme.unit : 0
 
     RecordHeader {
         width: parent.width

@@ -41,8 +41,7 @@ Grid {
             }
         }
         IconLabel {
-            x: Theme.halfUnit
-            width: times.columnWidth - 2 * x
+            width: times.columnWidth
             symbol: times.length.symbol
             text: times.length.text
             tone: times.length.tone

@@ -17,7 +17,7 @@ CardList {
 
     above: Column {
         spacing: Theme.columnSpacing
-        bottomPadding: Theme.unit
+        bottomPadding: overview.count > 0 ? Theme.unit : 0
 
         StatusHeader {
             width: parent.width

@@ -73,6 +73,13 @@ TEST_F(SmallIncident, KeepsItsActionsAtTheBottomEdgeWhileALongMessageScrolls)
     EXPECT_EQ(frameOf(cardOf("Add Update")), place);
 }
 
+TEST_F(SmallIncident, HasHalfOfTheWindowForALongMessage)
+{
+    open(paragraphs(10));
+    EXPECT_GE(frameOf(description()).height(), 220);
+    EXPECT_TRUE(isInView(button("Add Update")));
+}
+
 TEST_F(SmallIncident, HidesNothingOfItsMessageBehindItsActions)
 {
     open(paragraphs(100));

@@ -36,6 +36,18 @@ TEST_F(SurfaceOnAWindow, HasASoftShadowAroundItThatPartsItFromACardOfItsColour)
     EXPECT_EQ(lightness(200, 175), 255) << "on it";
 }
 
+TEST(SurfaceOfAnySize, HasAnEvenShadow)
+{
+    KitWindow kit(QStringLiteral("color: Theme.card\nSurface { x: 100; y: 100; width: 200.45; height: 150.55 }"));
+    const auto picture = kit.window().grabWindow();
+    for (int x = 130; x < 270; ++x) {
+        EXPECT_EQ(picture.pixelColor(x, 254), picture.pixelColor(x + 1, 254)) << x;
+    }
+    for (int y = 130; y < 220; ++y) {
+        EXPECT_EQ(picture.pixelColor(97, y), picture.pixelColor(97, y + 1)) << y;
+    }
+}
+
 /// A sheet over the window with a box as its content, and a dialog over that one.
 class SheetOverAWindow : public testing::Test, public KitWindow {
 protected:
@@ -152,6 +164,31 @@ TEST_F(SheetOverAWindow, ADialogOverTheWindowItselfDimsItAsASheetDoes)
         })"));
     other.setProperty("isShown", true);
     EXPECT_EQ(other.window().grabWindow().pixelColor(3, 3).lightness(), dimmed);
+}
+
+TEST(DialogOverAWindow, StandsInTheMiddleAsSoonAsItIsSeenWithAndWithoutMotion)
+{
+    for (const bool hasMotion : {false, true}) {
+        KitWindow kit(QStringLiteral(R"(
+            property bool isShown: false
+            PopupLoader {
+                isShown: window.isShown
+                sourceComponent: MessageDialog {
+                    objectName: "dialog"
+                    title: "Delete \"Checkout\"?"
+                    text: "The component is removed from the page at once, and its history with it. This can't be undone."
+                    CommandButton { text: "Cancel"; focus: true }
+                }
+            })"));
+        kit.setProperty("hasMotion", hasMotion);
+        kit.setProperty("isShown", true);
+        const auto& dialog = *kit.window().findChild<QObject*>(QStringLiteral("dialog"));
+        ASSERT_TRUE(QTest::qWaitFor([&dialog] { return dialog.property("opened").toBool(); }));
+        kit.settle();
+        const auto height = dialog.property("height").toDouble();
+        EXPECT_GT(height, 100);
+        EXPECT_NEAR(dialog.property("y").toDouble() + height / 2, 220, 1) << hasMotion;
+    }
 }
 
 class MenuOfAButton : public testing::Test, public KitWindow {

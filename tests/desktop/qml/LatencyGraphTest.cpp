@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "KitWindow.h"
-#include "bridge/metrics/SelectedLatencyValue.h"
 #include "bridge/metrics/LatencyCurveValue.h"
+#include "bridge/metrics/SelectedLatencyValue.h"
 #include "fakes/FakeLocaleText.h"
 #include "monitors/LatencySelection.h"
 

@@ -19,10 +19,13 @@ GroupBox {
     readonly property real room: width - 4 * Theme.unit
     readonly property bool isCompact: row.implicitWidth + row.least > room
     readonly property bool isDivisible: isCompact && first >= 0 && buttons.length > 1
+    // Whether the most likely actions and the others stand in two parts.
+    readonly property bool isParted: first >= 0 && plainCount > 0
     // The height of the card with all actions, even if it shows a part of them.
     readonly property real wholeHeight: {
         const lines = !isCompact ? 1 : buttons.length - (pair.isStacked ? 0 : Math.max(0, pairedCount - 1))
-        return lines * row.implicitHeight + (lines - 1) * column.spacing + 4 * Theme.unit
+        const parts = lines * row.implicitHeight + (lines - 1) * column.spacing + 4 * Theme.unit
+        return isCompact && isParted ? parts + Theme.hairline + column.spacing : parts
     }
     signal pressed(button: string)
 
@@ -78,7 +81,7 @@ GroupBox {
             }
         }
         Rectangle {
-            visible: card.first >= 0 && card.plainCount > 0 && card.showsFirst && card.showsOthers
+            visible: card.isParted && card.showsFirst && card.showsOthers
             width: parent.width
             height: Theme.hairline
             color: Theme.line

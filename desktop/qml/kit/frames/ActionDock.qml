@@ -2,7 +2,7 @@ import QtQuick
 import Larkspan.Kit
 
 // The content of a record, which scrolls, and below its end the card of the record's actions. While the end lies below
-// the window, the card stays at the window's bottom edge. If that would take much of the screen, only the first action
+// the window, the card stays at the window's bottom edge. If that would take more than a third of the screen, only the first action
 // stays there, and the content ends with the others.
 Item {
     id: dock
@@ -10,7 +10,7 @@ Item {
     required property ActionCard card
     // The largest width of content and card.
     required property real widest
-    readonly property bool isDivided: height > 0 && card.isDivisible && card.wholeHeight > 0.4 * height
+    readonly property bool isDivided: height > 0 && card.isDivisible && card.wholeHeight > height / 3
     readonly property real contentEnd: scroller.contentHeight + scroller.topMargin + scroller.bottomMargin
     readonly property real gap: Theme.rowGap
 

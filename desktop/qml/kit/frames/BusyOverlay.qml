@@ -23,14 +23,11 @@ Rectangle {
         onWheel: wheel => { wheel.accepted = true }
     }
 
-    Rectangle {
+    Surface {
         anchors.centerIn: parent
         width: Math.max(indicator.width, label.width) + 6 * Theme.unit
         height: label.y + label.height + 3 * Theme.unit
         radius: Theme.cardRadius
-        color: Theme.card
-        border.width: Theme.hairline
-        border.color: Theme.line
 
         BusyIndicator {
             id: indicator

@@ -39,6 +39,7 @@ FocusScope {
             y: Math.round((instead.contentHeight - height) / 2)
             width: Math.min(Theme.placeholderWidth * Theme.scale, instead.width - 2 * Theme.margin)
             placeholder: area.placeholder
+            mostHeight: instead.height - 2 * Theme.margin
             onRetried: area.retried()
             onSettingsRequested: area.settingsRequested()
         }

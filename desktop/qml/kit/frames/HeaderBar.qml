@@ -29,13 +29,21 @@ Rectangle {
         || statusRoom >= Math.min(statusLine.naturalWidth, Theme.statusLeastWidth)
     readonly property bool showsStatus: hasRoomForStatus && status.text !== ""
 
+    // What is seen of the first and the last item is flush with the content: a button's edge, or its symbol.
+    function emptyRim(items: list<Item>, step: int): real {
+        for (let at = step > 0 ? 0 : items.length - 1; at >= 0 && at < items.length; at += step) {
+            if (items[at].visible && items[at].width > 0) return items[at] instanceof ToolbarButton ? Theme.unit : 0
+        }
+        return 0
+    }
+
     implicitHeight: Theme.headerHeight
     color: Theme.card
 
     Row {
         id: leadingRow
         anchors.left: parent.left
-        anchors.leftMargin: Theme.unit + Theme.halfUnit
+        anchors.leftMargin: Theme.margin - (bar.canGoBack ? Theme.unit : bar.emptyRim(leadingItems.children, 1))
         anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.halfUnit
 
@@ -87,7 +95,7 @@ Rectangle {
     Row {
         id: trailingItems
         anchors.right: parent.right
-        anchors.rightMargin: Theme.unit + Theme.halfUnit
+        anchors.rightMargin: Theme.margin - bar.emptyRim(trailingItems.children, -1)
         anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.halfUnit
     }

@@ -7,12 +7,17 @@ Column {
     id: state
     required property placeholder placeholder
     property bool hasBoldTitle: true
+    // The height in which the button should be in view; the sentence is cut for it, but never below three lines.
+    property real mostHeight: Infinity
+    readonly property real others: (progress.visible ? progress.height : 0) + (symbol.visible ? symbol.height : 0)
+        + (title.visible ? title.height : 0) + buttons.height + 3 * spacing
     signal retried
     signal settingsRequested
 
     spacing: 2 * Theme.unit
 
     BusyIndicator {
+        id: progress
         anchors.horizontalCenter: parent.horizontalCenter
         visible: state.placeholder.showsProgress
         width: 2 * Theme.iconSize
@@ -20,6 +25,7 @@ Column {
         name: state.placeholder.text
     }
     Symbol {
+        id: symbol
         anchors.horizontalCenter: parent.horizontalCenter
         visible: state.placeholder.symbol !== ""
         width: Theme.largeIconSize
@@ -28,6 +34,7 @@ Column {
         color: Theme.toneColor(state.placeholder.tone)
     }
     Label {
+        id: title
         width: parent.width
         visible: text !== ""
         text: state.placeholder.title
@@ -38,15 +45,22 @@ Column {
         Accessible.role: Accessible.Heading
     }
     Label {
+        id: sentence
         width: parent.width
         visible: text !== ""
         text: state.placeholder.text
         color: Theme.secondary
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.Wrap
-        maximumLineCount: 8
+        maximumLineCount: Math.max(3, Math.min(8, Math.floor((state.mostHeight - state.others) / metrics.lineSpacing)))
+
+        FontMetrics {
+            id: metrics
+            font: sentence.font
+        }
     }
     Row {
+        id: buttons
         anchors.horizontalCenter: parent.horizontalCenter
         spacing: Theme.unit
 

@@ -12,7 +12,7 @@ CardRow {
     contentItem: RowContent {
         id: content
         wordsSpacing: Theme.halfUnit / 2
-        wordsWidth: title.implicitWidth
+        wordsWidth: Math.max(title.implicitWidth, line.wordsWidth)
         mark: StatusDot {
             width: Theme.recordDotSize
             tone: delegate.tone
@@ -31,6 +31,14 @@ CardRow {
         // One below the other if a large font leaves no room.
         Flow {
             id: line
+            // Of all details side by side.
+            readonly property real wordsWidth: {
+                let sum = -spacing
+                for (let at = 0; at < children.length; ++at) {
+                    if (children[at].visible) sum += spacing + children[at].implicitWidth
+                }
+                return sum
+            }
             width: parent.width
             spacing: Theme.narrowGap
         }

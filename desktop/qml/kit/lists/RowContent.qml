@@ -21,19 +21,22 @@ Item {
 
     Item {
         id: markPlace
-        y: column.y + Math.round((column.height - height) / 2)
+        // Beside the first line of words where that is not the middle of the row.
+        readonly property real lineHeight: content.isStacked && column.children.length > 0
+            ? column.children[0].height : column.height
+        y: column.y + Math.round((lineHeight - height) / 2)
         width: childrenRect.width
         height: childrenRect.height
     }
     Column {
         id: column
         x: markPlace.width + Theme.unit + Theme.halfUnit
-        y: content.isStacked ? 0 : Math.round((content.height - height) / 2)
+        y: Math.round((content.height - (content.isStacked ? content.implicitHeight : height)) / 2)
         width: content.isStacked ? content.mostWidth : content.room
     }
     Row {
         id: endPlace
         x: content.isStacked ? column.x : content.width - width
-        y: content.isStacked ? column.height + Theme.halfUnit : Math.round((content.height - height) / 2)
+        y: content.isStacked ? column.y + column.height + Theme.halfUnit : Math.round((content.height - height) / 2)
     }
 }
