@@ -15,7 +15,8 @@ T.Popup {
     readonly property real allPages: pages.count * Theme.menuRowHeight
     readonly property real roomForPages: most - summary.height - incidents.height - commands.height
     readonly property bool scrollsAsOne: roomForPages < Math.min(allPages, 3 * Theme.menuRowHeight)
-    readonly property real allThatScrolls: scrollsAsOne ? summary.height + allPages + incidents.height : allPages
+    readonly property real allThatScrolls: summary.height + allPages + incidents.height
+    readonly property real roomAsOne: most - commands.height
 
     x: parent ? parent.width - width : 0
     y: Theme.menuTop
@@ -37,6 +38,17 @@ T.Popup {
         const row = current - pages.first
         if (row === 0) pages.positionViewAtBeginning()
         else if (row > 0 && row < pages.count) pages.positionViewAtIndex(row, ListView.Contain)
+    }
+
+    // Where what scrolls as one ends within its room: in the middle of a row, which shows that it goes on, and never at
+    // a separator, since another one follows.
+    function endWithin(room: real): real {
+        const pagesEnd = summary.height + allPages
+        const incident = incidents.lastCut(room - pagesEnd)
+        const page = Math.min(pages.count - 1, Math.floor((room - summary.height) / Theme.menuRowHeight - 0.3))
+        if (incident > 0) return pagesEnd + incident
+        if (page < 0) return summary.lastCut(room)
+        return Math.min(room, summary.height + Math.floor((page + 0.5) * Theme.menuRowHeight))
     }
 
     // Before the menu closes, which may put another row at that place.
@@ -92,7 +104,8 @@ T.Popup {
                 readonly property int first: summary.count
 
                 width: parent.width
-                height: Math.min(popup.allThatScrolls, popup.scrollsAsOne ? popup.most - commands.height : popup.roomForPages)
+                height: !popup.scrollsAsOne ? Math.min(popup.allPages, popup.roomForPages)
+                    : popup.allThatScrolls <= popup.roomAsOne ? popup.allThatScrolls : popup.endWithin(popup.roomAsOne)
                 clip: true
                 model: popup.menu.pages
                 reuseItems: true

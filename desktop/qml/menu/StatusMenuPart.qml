@@ -13,6 +13,16 @@ Column {
 
     width: parent ? parent.width : 0
 
+    // The greatest height up to this one that cuts a row, but no separator, in its middle; 0 if there is none.
+    function lastCut(height: real): real {
+        for (let at = rows.count - 1; at >= 0; --at) {
+            const row = rows.itemAt(at) as StatusMenuRow
+            if (row && !row.row.isSeparator && row.y + 0.3 * row.height <= height)
+                return Math.min(height, Math.floor(row.y + 0.5 * row.height))
+        }
+        return 0
+    }
+
     Repeater {
         id: rows
         StatusMenuRow {

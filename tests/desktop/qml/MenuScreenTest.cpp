@@ -246,6 +246,35 @@ TEST_F(MenuOnScreen, InASmallWindowTheCommandsStayInViewAndEverythingAboveThemSc
     EXPECT_LE(frameOf(titled(QStringLiteral("Quit"))).bottom(), 440);
 }
 
+/// The menu in a small window, with this many pages and five incidents.
+class SmallMenuOnScreen : public MenuOnScreen, public testing::WithParamInterface<int> {
+protected:
+    SmallMenuOnScreen()
+    {
+        window().resize(480, 440);
+        settle();
+        serveIncidents(
+            {incident("1", "a"), incident("2", "b"), incident("3", "c"), incident("4", "d"), incident("5", "e")});
+        open(GetParam());
+    }
+};
+
+TEST_P(SmallMenuOnScreen, WhatScrollsEndsInTheMiddleOfARowAndNotAtASeparator)
+{
+    const double separator = 9;
+    const double end = frameOf(titled(QStringLiteral("Refresh"))).top() - separator;
+    int cut = 0;
+    visit([&](QQuickItem& row) {
+        const bool isRow = row.isVisible() && row.property("isLit").isValid() && row.height() > separator;
+        const auto place = frameOf(row);
+        if (isRow && end >= place.top() + 8 && end <= place.bottom() - 8) ++cut;
+    });
+    EXPECT_EQ(cut, 1);
+    EXPECT_LE(frameOf(titled(QStringLiteral("Quit"))).bottom(), 440);
+}
+
+INSTANTIATE_TEST_SUITE_P(PagesAndIncidents, SmallMenuOnScreen, testing::Values(3, 4, 5, 6, 40));
+
 TEST_F(MenuOnScreen, OpensClearOfTheHeadersLine)
 {
     open(1);
