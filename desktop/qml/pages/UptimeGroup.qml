@@ -2,12 +2,14 @@ import QtQuick
 import Larkspan.Bridge
 import Larkspan.Kit
 
-// A page's uptime by period; the percentages stand in one column, aligned at their points.
+// A page's uptime by period; the percentages stand in one column, aligned at their points or, below their periods, at
+// the left.
 GroupBox {
     id: group
     required property list<fact> lines
     required property string more
     readonly property real captionWidth: most(line => line.ownCaptionWidth)
+    readonly property real stackedCaptionX: most(line => line.ownStackedCaptionX)
     readonly property bool isStacked: most(line => line.ownWidth) > width - 4 * Theme.unit - captionWidth
 
     title: qsTr("Uptime")
@@ -36,6 +38,7 @@ GroupBox {
             digitWidth: metrics.digitWidth
             captionWidth: group.captionWidth
             isStacked: group.isStacked
+            stackedCaptionX: group.stackedCaptionX
         }
     }
     Label {

@@ -9,8 +9,11 @@ Item {
     required property real digitWidth
     // The width of the column of captions.
     required property real captionWidth
-    // Whether the figures stand below the label.
+    // Whether the figures stand below the label, from the left.
     required property bool isStacked
+    // Where the captions begin then.
+    required property real stackedCaptionX
+    readonly property real ownStackedCaptionX: caption.text === "" ? 0 : Math.ceil(figure.implicitWidth) + Theme.unit
     readonly property real ownCaptionWidth: caption.text === "" ? 0 : Math.ceil(caption.implicitWidth) + Theme.unit
     // Without its caption.
     readonly property real ownWidth: label.implicitWidth + 2 * Theme.unit + figure.implicitWidth
@@ -27,7 +30,7 @@ Item {
     }
     FigureText {
         id: figure
-        x: line.width - line.captionWidth - width
+        x: line.isStacked ? 0 : line.width - line.captionWidth - width
         y: line.isStacked ? label.height : 0
         text: line.fact.text
         digitWidth: line.digitWidth
@@ -38,8 +41,9 @@ Item {
     Label {
         id: caption
         visible: text !== ""
-        x: line.width - line.captionWidth + Theme.unit
+        x: line.isStacked ? line.stackedCaptionX : line.width - line.captionWidth + Theme.unit
         y: figure.y
+        width: Math.min(implicitWidth, line.width - x)
         height: figure.height
         text: line.fact.caption
         font.pointSize: Theme.caption

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "ChosenSize.h"
 #include "Measures.h"
 #include "Screen.h"
 #include "workspace/StatusPageDetailView.h"
@@ -72,6 +73,25 @@ TEST_F(PageOnScreen, ItsPercentagesOfUptimeStandInOneColumn)
     EXPECT_EQ(frame("99.11%").width(), frame("98.88%").width());
     EXPECT_EQ(frame("100.00%").right(), frame("98.88%").right());
     EXPECT_EQ(frame("1 incident").left(), frame("1234 incidents").left());
+}
+
+class NarrowPage : public LargeLetters, public PageOnScreen {};
+
+TEST_F(NarrowPage, ItsUptimeStandsInAColumnOfFiguresBelowTheirPeriodsAndOneOfIncidentsBehindThem)
+{
+    window().resize(480, 440);
+    transport.script(pagesURL, 200, R"([{"id": "a", "name": "Acme Cloud", "metrics": [
+        {"period": "24h", "uptime": 99.11, "incidents": 1}, {"period": "7d", "uptime": 100, "incidents": 1234},
+        {"period": "30d"}]}])");
+    refresh();
+    settle();
+    const auto frame = [this](const char* text) { return frameOf(item(Role::StaticText, QString::fromUtf8(text))); };
+    ASSERT_GE(frame("99.11%").top(), frame("Last 24 Hours").bottom()) << "there is no room beside each other";
+    for (const auto* const figure : {"99.11%", "100.00%", "Unavailable"})
+        EXPECT_EQ(frame(figure).left(), frame("Last 24 Hours").left()) << figure;
+    EXPECT_NEAR(frame("1 incident").left(), frame("100.00%").right() + 8, 1);
+    EXPECT_EQ(frame("1234 incidents").left(), frame("1 incident").left());
+    EXPECT_EQ(frame("1 incident").top(), frame("99.11%").top());
 }
 
 TEST_F(PageOnScreen, ItsLastUpdateIsADistanceThatGoesOnAndIsToldInFull)
