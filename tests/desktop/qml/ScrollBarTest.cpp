@@ -82,6 +82,19 @@ TEST_F(BarOfAColumn, ShowsWhereTheColumnStands)
     EXPECT_NEAR(handle().bottom(), 200, 4);
 }
 
+TEST_F(BarOfAColumn, HasAHandleThatCanBeSeenAndHitHoweverLongTheColumn)
+{
+    setProperty("length", 100'000);
+    EXPECT_NEAR(handle().height(), 24, 0.5);
+    column().setHeight(120);
+    settle();
+    EXPECT_NEAR(handle().height(), 24, 0.5);
+    EXPECT_NEAR(handle().top(), 0, 4);
+    column().forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_End);
+    EXPECT_NEAR(handle().bottom(), 120, 4);
+}
+
 TEST_F(BarOfAColumn, ScrollsByItsHandle)
 {
     grow();

@@ -18,7 +18,7 @@ T.ScrollBar {
     leftPadding: width - padding - handleWidth
     hoverEnabled: true
     visible: size < 1
-    minimumSize: 0.05
+    minimumSize: Math.min(1, Theme.leastTarget / Math.max(1, availableHeight))
     Accessible.ignored: true
     Component.onCompleted: flickable.T.ScrollBar.vertical = bar
 
