@@ -19,6 +19,7 @@ Column {
         visible: facts.detail.showsDetails
         width: parent.width
         title: qsTr("Details")
+        hasCard: facts.detail.details.length > 0
 
         Repeater {
             model: facts.detail.details

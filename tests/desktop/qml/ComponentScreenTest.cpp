@@ -129,6 +129,18 @@ TEST_F(ComponentsOnScreen, OneOfWhichLittleIsKnownShowsItsHeaderAlone)
     EXPECT_FALSE(shows(QStringLiteral("Description")));
 }
 
+TEST_F(ComponentsOnScreen, OneWithoutAnyDetailToShowHasTheirHeadingAndNoCard)
+{
+    serve({component("1", "REST API", R"(, "url": "https://[broken")")});
+    enterAgain();
+    open();
+    ASSERT_TRUE(names(Role::Heading).contains(QStringLiteral("Details")));
+    EXPECT_EQ(names(Role::Link), QStringList());
+    const auto& heading = item(Role::Heading, QStringLiteral("Details"));
+    const auto& group = *heading.parentItem()->parentItem();
+    EXPECT_EQ(group.height(), heading.height());
+}
+
 TEST_F(ComponentsOnScreen, ItsURLOpensInTheBrowser)
 {
     open();
