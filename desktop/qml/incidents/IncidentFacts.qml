@@ -52,6 +52,7 @@ Column {
             active: facts.incident.isEditing
             sourceComponent: TextBox {
                 name: qsTr("Update")
+                isTight: true
                 // A long text scrolls before the box is taller than what can be seen of it.
                 height: Math.max(Theme.textBoxHeight, Math.min(implicitHeight, facts.visibleHeight - 2 * Theme.margin - 2 * Theme.unit))
                 Component.onCompleted: {

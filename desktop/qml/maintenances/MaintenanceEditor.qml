@@ -39,6 +39,7 @@ ScrollingColumn {
             // The whole box and its title stay visible together in a small window.
             height: Math.min(implicitHeight, Math.max(Theme.textBoxHeight * Theme.scale, editor.height * 0.7))
             name: qsTr("Message")
+            isTight: true
             onEdited: text => editor.maintenance.editMessage(text)
         }
     }

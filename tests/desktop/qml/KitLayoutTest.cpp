@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "KitWindow.h"
 #include "Measures.h"
 
@@ -11,12 +13,19 @@ namespace {
 
 class BoxLayout : public testing::Test, public KitWindow {
 protected:
-    BoxLayout()
+    explicit BoxLayout(bool isTight = false)
         : KitWindow(QStringLiteral(R"(
             Column {
                 CommandButton { objectName: "before"; text: "Before" }
-                TextBox { objectName: "box"; width: 300; name: "Text"; Component.onCompleted: show("Words") }
-            })"))
+                TextBox {
+                    objectName: "box"
+                    width: 300
+                    name: "Text"
+                    isTight: %1
+                    Component.onCompleted: show("Words")
+                }
+            })")
+                  .arg(isTight ? QStringLiteral("true") : QStringLiteral("false")))
     {
         item(QStringLiteral("before")).forceActiveFocus(Qt::TabFocusReason);
     }
@@ -31,6 +40,24 @@ protected:
 
         bool operator==(const Line&) const = default;
     };
+
+    /// How far the text, where it is not scrolled, is from the left, top and right edges.
+    std::array<double, 3> insets() const
+    {
+        const auto& area = *partOf(box(), "color", light::primary);
+        const auto& view = *area.parentItem()->parentItem();
+        const auto place = box().mapRectFromScene(frameOf(view));
+        return {place.left() + area.property("leftPadding").toReal(),
+            place.top() + area.property("topPadding").toReal(),
+            300 - place.right() + area.property("rightPadding").toReal()};
+    }
+
+    /// Types more lines than the box can grow for.
+    void fill()
+    {
+        press(Qt::Key_Tab);
+        for (int line = 0; line < 30; ++line) press(Qt::Key_Return);
+    }
 
     /// The lines around the box, in order of painting.
     std::vector<Line> lines() const
@@ -54,7 +81,23 @@ private:
     }
 };
 
-TEST_F(BoxLayout, HasAThinRoundedOutlineInSecondaryAtThreeTenths)
+class TightBoxLayout : public BoxLayout {
+protected:
+    TightBoxLayout()
+        : BoxLayout(true)
+    {
+    }
+};
+
+TEST_F(BoxLayout, HasTheInsetsAndTheEdgeOfAField)
+{
+    EXPECT_EQ(insets(), (std::array<double, 3>{12, 8, 12}));
+    EXPECT_EQ(lines()[0].color, QColor("#868d97"));
+    fill();
+    EXPECT_EQ(insets(), (std::array<double, 3>{12, 8, 12})) << "which is clear of the scroll bar";
+}
+
+TEST_F(TightBoxLayout, HasAThinRoundedOutlineInSecondaryAtThreeTenths)
 {
     const auto all = lines();
     ASSERT_EQ(all.size(), 1);
@@ -90,14 +133,19 @@ TEST_F(BoxLayout, HasItsRingOverTheOutlineWhileItHasTheFocus)
     EXPECT_EQ(all[1].color, light::blue);
 }
 
-TEST_F(BoxLayout, HasFourPointsAroundItsText)
+TEST_F(TightBoxLayout, HasFourPointsAroundItsText)
 {
-    const auto& area = *partOf(box(), "text", QStringLiteral("Words"));
-    const auto place = box().mapRectFromScene(frameOf(area));
-    EXPECT_EQ(place.left() + area.property("leftPadding").toReal(), 4);
-    EXPECT_EQ(place.top() + area.property("topPadding").toReal(), 4);
-    EXPECT_EQ(300 - place.right() + area.property("rightPadding").toReal(), 4);
+    EXPECT_EQ(insets(), (std::array<double, 3>{4, 4, 4}));
     EXPECT_GE(box().height(), 100);
+}
+
+TEST_F(TightBoxLayout, KeepsItsTextClearOfTheScrollBar)
+{
+    fill();
+    EXPECT_EQ(insets(), (std::array<double, 3>{4, 4, 12}));
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(insets(), (std::array<double, 3>{4, 4, 4}));
 }
 
 class TitleBesideADot : public testing::Test, public KitWindow {

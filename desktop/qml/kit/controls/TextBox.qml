@@ -8,6 +8,8 @@ FocusScope {
     id: box
     required property string name
     readonly property alias text: area.text
+    // Whether the text stands close to a faint edge, and not as in a field.
+    property bool isTight: false
     signal edited(text: string)
 
     // Sets the text of the box; `typed` follows it.
@@ -25,7 +27,8 @@ FocusScope {
         radius: Theme.boxRadius
         color: Theme.field
         border.width: Theme.hairline
-        border.color: Qt.alpha(Theme.secondary, pointer.hovered ? 1 : Theme.outlineOpacity)
+        border.color: pointer.hovered ? Theme.controlLineHovered
+            : box.isTight ? Qt.alpha(Theme.secondary, Theme.outlineOpacity) : Theme.controlLine
     }
     HoverHandler {
         id: pointer
@@ -44,10 +47,16 @@ FocusScope {
         anchors.margins: Theme.focusWidth
         boundsBehavior: Flickable.StopAtBounds
         clip: true
+        onContentHeightChanged: area.scrolls = contentHeight > height
+        onHeightChanged: area.scrolls = contentHeight > height
         T.TextArea.flickable: T.TextArea {
             id: area
             focus: true
-            padding: Theme.halfUnit - Theme.focusWidth
+            // Set and not bound: on the padding depends whether the text scrolls.
+            property bool scrolls: false
+            padding: (box.isTight ? Theme.halfUnit : Theme.unit) - Theme.focusWidth
+            leftPadding: (box.isTight ? Theme.halfUnit : Theme.unit + Theme.halfUnit) - Theme.focusWidth
+            rightPadding: Math.max(leftPadding, scrolls ? Theme.wideGap : 0)
             implicitHeight: contentHeight + topPadding + bottomPadding
             // Looking for a place to break takes quadratic time for a text without one.
             property int lengthToCome: 0
