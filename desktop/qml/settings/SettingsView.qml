@@ -8,6 +8,8 @@ Sheet {
     required property SettingsBridge settings
 
     title: qsTr("Settings")
+    // A press in the field must not move it.
+    keptInView: field.activeFocus && field.focusReason !== Qt.MouseFocusReason ? entry : null
 
     // The field and its button appear and disappear; the focus must not be lost with them.
     readonly property bool takesKey: settings.showsField
@@ -59,58 +61,68 @@ Sheet {
                 showsProgress: sheet.settings.marker.showsProgress
             }
         }
-        SecretField {
-            id: field
+        // A key is of no use without the button below it.
+        RevealedColumn {
+            id: entry
             width: parent.width
-            visible: sheet.settings.showsField
-            name: qsTr("API key")
-            maximumLength: sheet.settings.longestEntry
-            placeholderText: qsTr("Paste your API key here")
-            onTextEdited: sheet.settings.edit(text)
+            spacing: Theme.unit + Theme.halfUnit
 
-            // When the key has been stored or deleted, it is removed from the field.
-            readonly property bool holdsKey: sheet.settings.holdsKey
-            onHoldsKeyChanged: if (!holdsKey) clear()
-        }
-        IconLabel {
-            width: parent.width
-            visible: sheet.settings.showsField && text !== ""
-            symbol: sheet.settings.refusal.symbol
-            text: sheet.settings.refusal.text
-            tone: sheet.settings.refusal.tone
-        }
-        IconLabel {
-            width: parent.width
-            visible: sheet.settings.showsField && text !== ""
-            symbol: sheet.settings.demoHint.symbol
-            text: sheet.settings.demoHint.text
-            tone: sheet.settings.demoHint.tone
-        }
-        IconLabel {
-            width: parent.width
-            visible: sheet.settings.showsField
-            symbol: "lock.shield"
-            text: qsTr("Your API key is stored securely in the Keychain.")
-            tone: Tone.Secondary
-            pointSize: Theme.subheadline
-        }
-        Flow {
-            width: parent.width
-            spacing: Theme.unit
-
-            CommandButton {
+            SecretField {
+                id: field
+                width: parent.width
                 visible: sheet.settings.showsField
-                enabled: sheet.settings.isSaveEnabled
-                isBusy: sheet.settings.marker.showsProgress
-                text: qsTr("Save & Verify")
-                isProminent: true
-                onClicked: sheet.settings.saveAndVerify()
+                name: qsTr("API key")
+                maximumLength: sheet.settings.longestEntry
+                placeholderText: qsTr("Paste your API key here")
+                onTextEdited: {
+                    sheet.settings.edit(text)
+                    sheet.reveal(entry)
+                }
+
+                // When the key has been stored or deleted, it is removed from the field.
+                readonly property bool holdsKey: sheet.settings.holdsKey
+                onHoldsKeyChanged: if (!holdsKey) clear()
             }
-            CommandButton {
-                visible: sheet.settings.hasExistingKey
-                text: qsTr("Delete API Key")
-                isDestructive: true
-                onClicked: sheet.settings.confirmDelete()
+            IconLabel {
+                width: parent.width
+                visible: sheet.settings.showsField && text !== ""
+                symbol: sheet.settings.refusal.symbol
+                text: sheet.settings.refusal.text
+                tone: sheet.settings.refusal.tone
+            }
+            IconLabel {
+                width: parent.width
+                visible: sheet.settings.showsField && text !== ""
+                symbol: sheet.settings.demoHint.symbol
+                text: sheet.settings.demoHint.text
+                tone: sheet.settings.demoHint.tone
+            }
+            IconLabel {
+                width: parent.width
+                visible: sheet.settings.showsField
+                symbol: "lock.shield"
+                text: qsTr("Your API key is stored securely in the Keychain.")
+                tone: Tone.Secondary
+                pointSize: Theme.subheadline
+            }
+            Flow {
+                width: parent.width
+                spacing: Theme.unit
+
+                CommandButton {
+                    visible: sheet.settings.showsField
+                    enabled: sheet.settings.isSaveEnabled
+                    isBusy: sheet.settings.marker.showsProgress
+                    text: qsTr("Save & Verify")
+                    isProminent: true
+                    onClicked: sheet.settings.saveAndVerify()
+                }
+                CommandButton {
+                    visible: sheet.settings.hasExistingKey
+                    text: qsTr("Delete API Key")
+                    isDestructive: true
+                    onClicked: sheet.settings.confirmDelete()
+                }
             }
         }
     }

@@ -1,6 +1,8 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include "ChosenSize.h"
+#include "Measures.h"
 #include "SettingsOnScreen.h"
 
 namespace larkspan {
@@ -11,6 +13,50 @@ TEST_F(SettingsOnScreen, TheFieldIsReadyForAPaste)
 {
     openWithoutKey();
     EXPECT_TRUE(field().hasActiveFocus());
+}
+
+class SmallSettings : public LargeLetters, public SettingsOnScreen {
+protected:
+    SmallSettings()
+    {
+        window().resize(480, 440);
+        settle();
+    }
+
+    bool isSeen(const QQuickItem& part) const
+    {
+        const auto& title = item(Role::Heading, QStringLiteral("Settings"));
+        return frameOf(part).top() > frameOf(title).bottom() && frameOf(part).bottom() <= 420;
+    }
+};
+
+TEST_F(SmallSettings, TheFieldIsSeenTogetherWithItsButtonWhoeverOpensThem)
+{
+    openWithoutKey();
+    ASSERT_TRUE(field().hasActiveFocus());
+    EXPECT_TRUE(isSeen(field()));
+    EXPECT_TRUE(isSeen(button(saveLabel)));
+    press(Qt::Key_Escape);
+    const auto gear = frameOf(item(Role::Button, QStringLiteral("Settings"))).center().toPoint();
+    QTest::mouseClick(&window(), Qt::LeftButton, {}, gear);
+    settle();
+    ASSERT_TRUE(field().hasActiveFocus());
+    EXPECT_TRUE(isSeen(field()));
+    EXPECT_TRUE(isSeen(button(saveLabel)));
+}
+
+TEST_F(SmallSettings, BothComeIntoViewAgainWithTheFirstLetter)
+{
+    openWithoutKey();
+    auto* view = field().parentItem();
+    while (!view->inherits("QQuickFlickable")) view = view->parentItem();
+    view->setProperty("contentY", view->property("contentHeight").toReal() - view->height());
+    settle();
+    ASSERT_FALSE(isSeen(field()));
+    QTest::keyClick(&window(), 'k');
+    settle();
+    EXPECT_TRUE(isSeen(button(saveLabel)));
+    EXPECT_TRUE(isSeen(field()));
 }
 
 TEST_F(SettingsOnScreen, UntilTheKeyringHasAnsweredItIsShownThatItIsAskedAndNoFieldIsOffered)

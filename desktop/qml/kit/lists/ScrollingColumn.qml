@@ -17,6 +17,10 @@ Flickable {
     property alias followsFocus: scrolling.followsFocus
     readonly property bool isStop: takesFocus && scrolling.isScrollable
 
+    function reveal(item: Item) {
+        scrolling.reveal(item)
+    }
+
     activeFocusOnTab: isStop || activeFocus
     contentHeight: column.implicitHeight + 2 * Theme.margin
     boundsBehavior: Flickable.StopAtBounds

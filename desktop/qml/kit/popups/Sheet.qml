@@ -16,8 +16,15 @@ ModalDialog {
     property bool isBusy: false
     property string busyText
     property alert alert
+    // What is kept in view, also while the content grows; a sheet without it opens at its top.
+    property Item keptInView: null
     signal closeRequested
     signal alertDismissed
+
+    function reveal(item: Item) {
+        scroller.reveal(item)
+    }
+    onKeptInViewChanged: reveal(keptInView)
 
     closePolicy: closesByItself ? T.Popup.CloseOnEscape : T.Popup.NoAutoClose
 
@@ -49,8 +56,10 @@ ModalDialog {
             width: parent.width
             // Laid out once, however long the sheet takes to get there.
             height: sheet.lastHeight - bar.height
-            // A sheet opens at its top, wherever its focus is.
+            // A sheet does not open where its focus is.
             followsFocus: sheet.isPlaced
+            onContentHeightChanged: sheet.reveal(sheet.keptInView)
+            onHeightChanged: sheet.reveal(sheet.keptInView)
             enabled: !sheet.isBusy
         }
 
