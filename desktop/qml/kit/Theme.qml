@@ -141,6 +141,8 @@ QtObject {
     readonly property int narrowGap: 6
     readonly property int wideGap: 10
     readonly property int rowGap: 12
+    // Between the symbol and the word of a pill.
+    readonly property int pillGap: Math.round(2 + 2 * scale)
     readonly property int headerPillPadding: 5
     readonly property int titleHeight: 22
     readonly property int detailTitleHeight: 38

@@ -47,12 +47,16 @@ Pressable {
         Label {
             width: parent.width
             text: row.link.title
+            wrapMode: Text.Wrap
+            horizontalAlignment: Text.AlignLeft
         }
         Label {
             width: parent.width
             text: row.link.subtitle
             font.pointSize: Theme.caption
             color: Theme.secondary
+            wrapMode: Text.Wrap
+            horizontalAlignment: Text.AlignLeft
         }
     }
     Symbol {

@@ -25,7 +25,7 @@ Rectangle {
     Row {
         id: content
         anchors.centerIn: parent
-        spacing: Theme.halfUnit
+        spacing: Theme.pillGap
 
         Symbol {
             visible: shape.pill.symbol !== ""
