@@ -28,6 +28,11 @@ CardRow {
         spacing: Theme.unit + Theme.halfUnit
 
         Item {
+            id: header
+            // Whether the type stands beside the status, since beside the name it would leave that too little room.
+            readonly property bool isNarrow: width - words.x - typePill.width - buttons.width - 2 * Theme.rowGap
+                < Theme.wordsLeastWidth
+
             width: parent.width
             implicitHeight: words.implicitHeight
 
@@ -43,36 +48,69 @@ CardRow {
                 id: words
                 anchors.left: mark.right
                 anchors.leftMargin: Theme.rowGap
-                anchors.right: trailing.left
+                anchors.right: besideName.left
                 anchors.rightMargin: Theme.rowGap
 
                 MarqueeText {
+                    id: title
                     width: parent.width
                     layoutHeight: Theme.titleHeight
                     text: delegate.row.title
                     font.weight: Font.DemiBold
+
+                    HoverHandler {
+                        id: pointer
+                    }
+                    ToolTipLoader {
+                        text: title.text
+                        isShown: pointer.hovered && title.truncated
+                    }
                 }
-                Label {
+                Flow {
                     width: parent.width
-                    text: delegate.row.status
-                    font.pointSize: Theme.caption
-                    color: Theme.toneColor(delegate.row.tone)
+                    spacing: Theme.unit
+
+                    Label {
+                        width: Math.min(implicitWidth, words.width)
+                        height: Math.max(implicitHeight, besideStatus.visible ? besideStatus.height : 0)
+                        text: delegate.row.status
+                        font.pointSize: Theme.caption
+                        color: Theme.toneColor(delegate.row.tone)
+                    }
+                    Item {
+                        id: besideStatus
+                        visible: header.isNarrow
+                        width: typePill.width
+                        height: typePill.height
+                    }
                 }
             }
-            Row {
-                id: trailing
-                anchors.right: parent.right
+            Item {
+                id: besideName
+                anchors.right: buttons.left
+                anchors.rightMargin: header.isNarrow ? 0 : Theme.rowGap
                 anchors.verticalCenter: parent.verticalCenter
-                spacing: Theme.rowGap
+                width: header.isNarrow ? 0 : typePill.width
+                height: typePill.height
 
                 Pill {
-                    anchors.verticalCenter: parent.verticalCenter
+                    id: typePill
+                    parent: header.isNarrow ? besideStatus : besideName
                     pill: delegate.row.type
                     pointSize: Theme.caption2
                     isBold: true
                     sidePadding: Theme.narrowGap
                     topPadding: Theme.tightGap
                 }
+            }
+            Row {
+                id: buttons
+                anchors.right: parent.right
+                // The sign ends where the content below does, and not its button.
+                anchors.rightMargin: -(details.width - details.iconSize) / 2
+                anchors.verticalCenter: parent.verticalCenter
+                spacing: Theme.rowGap
+
                 ToolbarButton {
                     activeFocusOnTab: delegate.ListView.isCurrentItem || activeFocus
                     symbol: delegate.row.isOpen ? "chevron.up" : "chevron.down"
@@ -83,6 +121,7 @@ CardRow {
                     onClicked: delegate.disclosed()
                 }
                 ToolbarButton {
+                    id: details
                     activeFocusOnTab: delegate.ListView.isCurrentItem || activeFocus
                     symbol: "info.circle"
                     help: qsTr("Monitor Details")
@@ -93,15 +132,23 @@ CardRow {
 
         Flow {
             id: badges
+            readonly property real tallest: {
+                let most = 0
+                for (let at = 0; at < shapes.count; ++at) most = Math.max(most, shapes.itemAt(at)?.implicitHeight ?? 0)
+                return most
+            }
+
             visible: delegate.row.badges.length > 0
             width: parent.width
             spacing: Theme.unit
 
             Repeater {
+                id: shapes
                 model: delegate.row.badges
                 MetricBadge {
                     required property metricBadge modelData
                     width: Math.min(implicitWidth, badges.width)
+                    height: badges.tallest
                     badge: modelData
                 }
             }

@@ -106,7 +106,10 @@ TEST_F(MonitorLayout, OfATrendsBadgeIsIconWordAndNameSideBySide)
     EXPECT_NEAR(frameOf(word).center().y(), frameOf(name).center().y(), 1);
     EXPECT_NEAR(frameOf(word).center().y(), frameOf(icon).center().y(), 1);
     const auto content = frameOf(icon) | frameOf(word) | frameOf(name);
-    EXPECT_EQ(frameOf(shapeAround(word)), content.adjusted(-8, -6, 8, 6));
+    const auto shape = frameOf(shapeAround(word));
+    EXPECT_EQ(shape.left(), content.left() - 8);
+    EXPECT_EQ(shape.right(), content.right() + 8);
+    EXPECT_EQ(shapeAround(word).implicitHeight(), content.height() + 2 * 6);
     EXPECT_EQ(shapeAround(word).property("radius").toInt(), 8);
     EXPECT_EQ(tintOf(word), 0.12);
     EXPECT_EQ(sizeOf(word), type::caption);
