@@ -3,17 +3,14 @@ import Larkspan.Bridge.Metrics
 import Larkspan.Kit
 
 // The callout of the selected sample of a latency graph.
-Rectangle {
+Surface {
     id: callout
     required property selectedLatency selection
-    readonly property bool floats: true
+    // The height with both lines.
+    readonly property real mostHeight: value.implicitHeight + lines.spacing + time.implicitHeight + 2 * Theme.halfUnit
 
     implicitWidth: lines.implicitWidth + 2 * Theme.itemGap
     implicitHeight: lines.implicitHeight + 2 * Theme.halfUnit
-    radius: Theme.pillRadius
-    color: Theme.card
-    border.width: Theme.hairline
-    border.color: Theme.line
     Accessible.role: Accessible.ToolTip
     Accessible.name: selection.words
 
@@ -23,12 +20,14 @@ Rectangle {
         spacing: 1
 
         Label {
+            id: value
             anchors.horizontalCenter: parent.horizontalCenter
             text: callout.selection.value
             font.pointSize: Theme.caption
             font.weight: Font.Medium
         }
         Label {
+            id: time
             anchors.horizontalCenter: parent.horizontalCenter
             visible: text !== ""
             text: callout.selection.time

@@ -2,8 +2,7 @@ import QtQuick
 import Larkspan.Bridge.Metrics
 import Larkspan.Kit
 
-// A day of latency. A press, a drag or the keyboard selects a sample, which a callout describes; the callout floats
-// over the content above the graph.
+// A day of latency. A press, a drag or the keyboard selects a sample, which a callout above the graph describes.
 Item {
     id: view
     required property latencyCurve curve
@@ -11,6 +10,9 @@ Item {
     signal selected(position: real)
 
     readonly property bool hasSelection: selection.index >= 0
+    // What is to be kept free above the graph for the callout, also while there is none: the graph must not move under
+    // the pointer that selects.
+    readonly property real headroom: callout.mostHeight + Theme.halfUnit
     // The value of the slider for screen readers.
     readonly property real value: selection.milliseconds
     readonly property real minimumValue: curve.lowestValue
@@ -68,6 +70,7 @@ Item {
     }
 
     LatencyCallout {
+        id: callout
         visible: view.hasSelection
         x: Math.round(plot.calloutLeft(plot.selectedX, width))
         y: -height - Theme.halfUnit

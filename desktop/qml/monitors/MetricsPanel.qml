@@ -10,8 +10,11 @@ Column {
     required property bool isCurrent
 
     spacing: Theme.unit
+    // What stands above is at a distance already.
+    topPadding: graph.visible ? graph.headroom - Theme.unit : 0
 
     LatencyGraph {
+        id: graph
         visible: curve.isShown
         width: parent.width
         activeFocusOnTab: panel.isCurrent || activeFocus

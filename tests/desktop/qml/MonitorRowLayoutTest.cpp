@@ -21,12 +21,18 @@ class MonitorRowLayout : public MonitorsOnScreen {
 protected:
     QQuickItem& label(const char* text) const { return item(Role::StaticText, QString::fromUtf8(text)); }
     QQuickItem& button(const char* name) const { return item(Role::Button, QString::fromUtf8(name)); }
+    QQuickItem& graph() const { return item(Role::Slider, QStringLiteral("Latency graph")); }
     double middle(const QQuickItem& part) const { return frameOf(part).center().y(); }
 
     void openMetrics()
     {
         transport.script(metricsURL, 200, trends);
         choose("Show latency graph");
+    }
+    void select(Qt::Key key)
+    {
+        graph().forceActiveFocus(Qt::TabFocusReason);
+        press(key);
     }
 };
 
@@ -46,6 +52,23 @@ TEST_F(MonitorRowLayout, HasAllItsBadgesInOneHeight)
     EXPECT_EQ(trend.top(), figure.top());
     EXPECT_EQ(trend.height(), figure.height());
     EXPECT_NEAR(middle(label("Up")), trend.center().y(), 1);
+}
+
+TEST_F(MonitorRowLayout, HasRoomForTheCalloutBetweenItsHeaderAndTheGraph)
+{
+    openMetrics();
+    const auto before = frameOf(graph());
+    for (const auto key : {Qt::Key_Home, Qt::Key_End}) {
+        select(key);
+        const auto& callout
+            = item(Role::ToolTip, key == Qt::Key_Home ? QStringLiteral("180 ms") : QStringLiteral("210 ms"));
+        for (const auto* const part : {"Operational", "Gateway"})
+            EXPECT_GE(frameOf(callout).top(), frameOf(label(part)).bottom()) << part;
+        for (const auto* const part : {"Hide latency graph", "Monitor Details"})
+            EXPECT_GE(frameOf(callout).top(), frameOf(button(part)).bottom()) << part;
+        EXPECT_LT(frameOf(callout).bottom(), frameOf(graph()).top());
+        EXPECT_EQ(frameOf(graph()), before) << "nothing moves under the pointer";
+    }
 }
 
 TEST_F(MonitorRowLayout, ACutNameIsToldWholeByItsToolTip)
