@@ -47,12 +47,9 @@ FocusScope {
         anchors.margins: Theme.focusWidth
         boundsBehavior: Flickable.StopAtBounds
         clip: true
-        onContentHeightChanged: area.scrolls = contentHeight > height
-        onHeightChanged: area.scrolls = contentHeight > height
         T.TextArea.flickable: T.TextArea {
             id: area
             focus: true
-            // Set and not bound: on the padding depends whether the text scrolls.
             property bool scrolls: false
             padding: (box.isTight ? Theme.halfUnit : Theme.unit) - Theme.focusWidth
             leftPadding: (box.isTight ? Theme.halfUnit : Theme.unit + Theme.halfUnit) - Theme.focusWidth
@@ -82,6 +79,13 @@ FocusScope {
             Accessible.role: Accessible.EditableText
             Accessible.name: box.name
             onTextChanged: if (activeFocus) box.edited(TypedText.of(textDocument))
+        }
+        // Later, since the padding changes the heights, and the box grows before its text scrolls.
+        Binding {
+            target: area
+            property: "scrolls"
+            value: view.contentHeight > view.height
+            delayed: true
         }
         ScrollBarLoader {
             flickable: view
