@@ -4,6 +4,7 @@
 
 #include <array>
 
+#include "ChosenSize.h"
 #include "KitWindow.h"
 #include "Measures.h"
 
@@ -13,19 +14,21 @@ namespace {
 
 class BoxLayout : public testing::Test, public KitWindow {
 protected:
-    explicit BoxLayout(bool isTight = false)
+    explicit BoxLayout(bool isTight = false, const QString& text = QStringLiteral("\"Words\""),
+        const QString& height = QStringLiteral("implicitHeight"))
         : KitWindow(QStringLiteral(R"(
             Column {
                 CommandButton { objectName: "before"; text: "Before" }
                 TextBox {
                     objectName: "box"
                     width: 300
+                    height: %3
                     name: "Text"
                     isTight: %1
-                    Component.onCompleted: show("Words")
+                    Component.onCompleted: show(%2)
                 }
             })")
-                  .arg(isTight ? QStringLiteral("true") : QStringLiteral("false")))
+                  .arg(isTight ? QStringLiteral("true") : QStringLiteral("false"), text, height))
     {
         item(QStringLiteral("before")).forceActiveFocus(Qt::TabFocusReason);
     }
@@ -146,6 +149,22 @@ TEST_F(TightBoxLayout, KeepsItsTextClearOfTheScrollBar)
     press(Qt::Key_A, Qt::ControlModifier);
     press(Qt::Key_Delete);
     EXPECT_EQ(insets(), (std::array<double, 3>{4, 4, 4}));
+}
+
+/// A box whose height is limited, and whose text is longer from the beginning.
+class LongBoxLayout : public LargeLetters, public BoxLayout {
+protected:
+    LongBoxLayout()
+        : BoxLayout(true, QStringLiteral(R"(Array(40).fill("Words that wrap").join(" ") + "\n\nEnd")"),
+              QStringLiteral("Math.min(implicitHeight, 90)"))
+    {
+    }
+};
+
+TEST_F(LongBoxLayout, KeepsItsTextClearOfTheScrollBar)
+{
+    EXPECT_EQ(box().height(), 90);
+    EXPECT_EQ(insets(), (std::array<double, 3>{4, 4, 12}));
 }
 
 class TitleBesideADot : public testing::Test, public KitWindow {
