@@ -12,15 +12,16 @@ MarkdownRows MessageView::rowsOf(const std::string& source)
 
 std::string MessageView::questionText() const
 {
-    return *linkInQuestion ? "This link leads to " + (*linkInQuestion)->host + "." : "";
+    const std::optional<MarkdownLink>& link = *linkInQuestion;
+    return link ? "This link leads to " + link->host + "." : "";
 }
 
 void MessageView::openLink()
 {
-    if (!*linkInQuestion) return;
-    const auto link = **linkInQuestion;
+    const std::optional<MarkdownLink> link = *linkInQuestion;
+    if (!link) return;
     linkInQuestion = std::nullopt;
-    opener_.open(link.destination);
+    opener_.open(link->destination);
 }
 
 }  // namespace larkspan::messages

@@ -1,7 +1,10 @@
 #include "bridge/items/ReadingOrder.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <tuple>
 #include <utility>
+#include <vector>
 
 namespace larkspan::bridge {
 
@@ -41,12 +44,14 @@ void ReadingOrder::settle()
 {
     isPending_ = false;
     if (!container_) return;
-    auto sorted = container_->childItems();
-    std::ranges::stable_sort(
-        sorted, {}, [this](const QQuickItem* item) { return std::pair(item == last_, item->y()); });
-    for (qsizetype at = 1; at < sorted.size(); ++at) {
-        const auto* previous = std::as_const(sorted)[at - 1];
-        auto* item = std::as_const(sorted)[at];
+    const auto held = container_->childItems();
+    // Those at one height stay in the order in which they are.
+    std::vector<std::tuple<bool, qreal, qsizetype>> places;
+    for (qsizetype at = 0; at < held.size(); ++at) places.emplace_back(held[at] == last_, held[at]->y(), at);
+    std::ranges::sort(places);
+    for (std::size_t at = 1; at < places.size(); ++at) {
+        const auto* const previous = held[std::get<qsizetype>(places[at - 1])];
+        auto* const item = held[std::get<qsizetype>(places[at])];
         const auto siblings = container_->childItems();
         if (siblings.indexOf(item) < siblings.indexOf(previous)) item->stackAfter(previous);
     }

@@ -49,7 +49,7 @@ private:
         double y;
     };
 
-    static std::size_t columnOf(int x) { return static_cast<std::size_t>(x * columnsPerPixel); }
+    static std::size_t columnOf(int x) { return static_cast<std::size_t>(x) * columnsPerPixel; }
     Spot spotOf(const monitors::LatencyDataPoint& point) const;
     void follow(Spot from, Spot to);
     void widen(double radius);

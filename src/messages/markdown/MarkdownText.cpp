@@ -39,10 +39,10 @@ public:
             const auto length = std::min(run_->length - passed_, rest.size());
             const auto seen = rest.substr(0, std::min(length, shown));
             if (!seen.empty()) {
-                const bool isLink = run_->link && links_[*run_->link];
-                if (isLink && link != run_->link) piece.links.push_back(*links_[*run_->link]);
+                const auto* const target = linkOf(*run_);
+                if (target && link != run_->link) piece.links.push_back(*target);
                 link = run_->link;
-                writer.add(seen, run_->styles, isLink ? std::optional(piece.links.size() - 1) : std::nullopt);
+                writer.add(seen, run_->styles, target ? std::optional(piece.links.size() - 1) : std::nullopt);
             }
             pass(length);
             rest.remove_prefix(length);
@@ -53,6 +53,14 @@ public:
     }
 
 private:
+    /// Null for a text that leads nowhere, or to no address.
+    const MarkdownLink* linkOf(const InlineRun& run) const
+    {
+        if (!run.link) return nullptr;
+        const auto& link = links_[*run.link];
+        return link ? &*link : nullptr;
+    }
+
     void pass(std::size_t length)
     {
         passed_ += length;

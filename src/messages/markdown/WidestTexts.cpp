@@ -1,6 +1,7 @@
 #include "messages/markdown/WidestTexts.h"
 
 #include <array>
+#include <ranges>
 #include <string_view>
 
 #include "support/Utf8.h"
@@ -12,8 +13,8 @@ namespace {
 constexpr auto widthsOfAscii = [] {
     std::array<std::size_t, 0x80> widths{};
     widths.fill(2);
-    for (const char narrow : std::string_view(" !'(),-./:;I[]`fijlrt{|}")) widths[static_cast<std::size_t>(narrow)] = 1;
-    for (const char wide : std::string_view("%@GMOQWmw")) widths[static_cast<std::size_t>(wide)] = 3;
+    for (const unsigned char narrow : std::string_view(" !'(),-./:;I[]`fijlrt{|}")) widths[narrow] = 1;
+    for (const unsigned char wide : std::string_view("%@GMOQWmw")) widths[wide] = 3;
     return widths;
 }();
 
@@ -50,7 +51,7 @@ std::vector<WidestTexts::Text> WidestTexts::texts() const
 {
     std::vector<Text> found;
     found.reserve(texts_.size());
-    for (auto each = texts_.rbegin(); each != texts_.rend(); ++each) found.push_back(each->second);
+    for (const auto& [width, text] : std::views::reverse(texts_)) found.push_back(text);
     return found;
 }
 

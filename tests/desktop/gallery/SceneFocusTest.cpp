@@ -105,7 +105,8 @@ protected:
         std::ranges::reverse(backward.holders);
         if (forward.holders.empty() || backward.holders.empty()) return;
         std::ranges::rotate(backward.holders, std::ranges::find(backward.holders, forward.holders.front()));
-        EXPECT_EQ(forward.holders, backward.holders) << "Tab goes another way back: " << forward.told << "beside " << backward.told;
+        EXPECT_EQ(forward.holders, backward.holders)
+            << "Tab goes another way back: " << forward.told << "beside " << backward.told;
     }
 
     adapters::MainExecutor main;

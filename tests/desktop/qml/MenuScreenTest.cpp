@@ -5,6 +5,7 @@
 
 #include <map>
 #include <stdexcept>
+#include <vector>
 
 #include "Measures.h"
 #include "Screen.h"
@@ -191,7 +192,8 @@ TEST_F(MenuOnScreen, ATitleThatLooksLikeMarkupOrAMnemonicIsShownLiterally)
     auto rows = statusItem.rows;
     const QStringList odd{"<b>Bold</b>", "R&D", "snake_case", "&amp;"};
     // The state, its age, a page and a command.
-    for (int at = 0; const std::size_t place : {0, 1, 3, 5}) rows[place].title = odd[at++].toStdString();
+    for (int at = 0; const auto place : std::vector<std::size_t>{0, 1, 3, 5})
+        rows[place].title = odd[at++].toStdString();
     menu.setMenu(rows);
     press(Qt::Key_Escape);
     press(Qt::Key_Space);

@@ -54,6 +54,13 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(
     Cells, NoSeparatorCell, testing::Values("", " ", "--", "- -", "-- a", "---\n", "\u2014\u2014\u2014", "--\xFF"));
 
+/// The table that starts at a line, and the line after it; that of no line if there is none.
+std::pair<MarkdownTable, int> tableAt(const Lines& lines, std::size_t index)
+{
+    const auto found = parseTableBlock(lines, index);
+    return found ? std::pair(found->table, static_cast<int>(found->nextIndex)) : std::pair(MarkdownTable{}, -1);
+}
+
 class Separator : public testing::TestWithParam<std::string_view> {};
 class NoSeparator : public testing::TestWithParam<std::string_view> {};
 
@@ -61,10 +68,7 @@ TEST_P(Separator, MakesATable)
 {
     const Lines lines{"a | b", GetParam()};
     EXPECT_TRUE(beginsTable(lines, 0));
-    const auto found = parseTableBlock(lines, 0);
-    ASSERT_TRUE(found);
-    EXPECT_EQ(found->table, (MarkdownTable{{"a", "b"}, {}}));
-    EXPECT_EQ(found->nextIndex, 2u);
+    EXPECT_EQ(tableAt(lines, 0), std::pair(MarkdownTable{{"a", "b"}, {}}, 2));
 }
 
 TEST_P(NoSeparator, MakesNoTable)
@@ -93,22 +97,14 @@ TEST(TableBlock, NeedsAPipeInItsFirstLine)
 
 TEST(TableBlock, HasARowForEachLineWithAPipe)
 {
-    const auto found = parseTableBlock(Lines{"x", "a | b", "---", "1", "| 1 |", "c | d"}, 1);
-    ASSERT_TRUE(found);
-    EXPECT_EQ(found->table, (MarkdownTable{{"a", "b"}, {}}));
-    EXPECT_EQ(found->nextIndex, 3u);
-
-    const auto next = parseTableBlock(Lines{"a | b", "---", "| 1 |", "- a | b", "1 | 2 | 3", "", "c | d"}, 0);
-    ASSERT_TRUE(next);
-    EXPECT_EQ(next->table, (MarkdownTable{{"a", "b"}, {{"1"}, {"- a", "b"}, {"1", "2", "3"}}}));
-    EXPECT_EQ(next->nextIndex, 5u);
+    EXPECT_EQ(tableAt({"x", "a | b", "---", "1", "| 1 |", "c | d"}, 1), std::pair(MarkdownTable{{"a", "b"}, {}}, 3));
+    EXPECT_EQ(tableAt({"a | b", "---", "| 1 |", "- a | b", "1 | 2 | 3", "", "c | d"}, 0),
+        std::pair(MarkdownTable{{"a", "b"}, {{"1"}, {"- a", "b"}, {"1", "2", "3"}}}, 5));
 }
 
 TEST(TableBlock, OfNothingButPipesHasOneEmptyHeader)
 {
-    const auto found = parseTableBlock(Lines{"|", "---", "|"}, 0);
-    ASSERT_TRUE(found);
-    EXPECT_EQ(found->table, (MarkdownTable{{""}, {{""}}}));
+    EXPECT_EQ(tableAt({"|", "---", "|"}, 0), std::pair(MarkdownTable{{""}, {{""}}}, 3));
 }
 
 }  // namespace
