@@ -13,8 +13,9 @@ namespace {
 constexpr auto widthsOfAscii = [] {
     std::array<std::size_t, 0x80> widths{};
     widths.fill(2);
-    for (const unsigned char narrow : std::string_view(" !'(),-./:;I[]`fijlrt{|}")) widths[narrow] = 1;
-    for (const unsigned char wide : std::string_view("%@GMOQWmw")) widths[wide] = 3;
+    for (const char narrow : std::string_view(" !'(),-./:;I[]`fijlrt{|}"))
+        widths[static_cast<unsigned char>(narrow)] = 1;
+    for (const char wide : std::string_view("%@GMOQWmw")) widths[static_cast<unsigned char>(wide)] = 3;
     return widths;
 }();
 
