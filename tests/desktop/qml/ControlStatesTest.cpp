@@ -56,6 +56,35 @@ INSTANTIATE_TEST_SUITE_P(Kit, SmallControl,
         Target{"VeryShort", R"(Pressable { objectName: "it"; width: 8; height: 8; onClicked: window.presses += 1 })"}),
     [](const auto& instance) { return instance.param.name; });
 
+/// A control that is enabled while the window's `isOn` is.
+class ControlThatIsDisabled : public testing::TestWithParam<Target>, public KitWindow {
+protected:
+    ControlThatIsDisabled()
+        : KitWindow(QStringLiteral("property bool isOn: true\nItem { x: 100; y: 100; width: 300; height: 200\n"
+                                   "enabled: window.isOn\n %1 }")
+                  .arg(QString::fromStdString(GetParam().qml)))
+    {
+    }
+};
+
+TEST_P(ControlThatIsDisabled, LooksOtherThanAtRest)
+{
+    const auto atRest = window().grabWindow();
+    setProperty("isOn", false);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window().grabWindow() != atRest; }));
+}
+
+INSTANTIATE_TEST_SUITE_P(Kit, ControlThatIsDisabled,
+    testing::Values(Target{"Button", R"(CommandButton { text: "It" })"},
+        Target{"Tool", R"(ToolbarButton { symbol: "plus"; help: "It" })"},
+        Target{"Switch", R"(Toggle { width: 200; text: "It"; isOn: true })"},
+        Target{"Entry", R"(TextEntry { width: 200; name: "It"; text: "It" })"},
+        Target{"Secret", R"(SecretField { width: 200; name: "It"; text: "It" })"},
+        Target{"Time", R"(TimeField { name: "It"; value: "12"; pattern: "[0-9]*"; text: "12" })"},
+        Target{"Box", R"(TextBox { width: 200; name: "It"; Component.onCompleted: show("It") })"},
+        Target{"Segments", R"(SegmentedPicker { width: 200; name: "It"; segments: ["It", "Else"]; selected: 0 })"}),
+    [](const auto& instance) { return instance.param.name; });
+
 /// A pill of each tone that tells a severity.
 class PillsOfSeverity : public testing::Test, public KitWindow {
 protected:

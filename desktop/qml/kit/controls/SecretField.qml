@@ -18,7 +18,7 @@ T.TextField {
     hoverEnabled: true
     selectByMouse: true
     clip: true
-    color: Theme.text
+    color: enabled ? Theme.text : Theme.disabledText
     selectionColor: Theme.accent
     selectedTextColor: Theme.accentText
     font.pointSize: Theme.body

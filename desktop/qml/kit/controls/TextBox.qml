@@ -26,8 +26,8 @@ FocusScope {
         anchors.fill: parent
         radius: Theme.boxRadius
         color: Theme.field
-        border.width: Theme.hairline
-        border.color: pointer.hovered ? Theme.controlLineHovered
+        border.width: pointer.hovered && Theme.hasHighContrast ? Theme.focusWidth : Theme.hairline
+        border.color: !box.enabled ? Theme.disabledLine : pointer.hovered ? Theme.controlLineHovered
             : box.isTight ? Qt.alpha(Theme.secondary, Theme.outlineOpacity) : Theme.controlLine
     }
     HoverHandler {
@@ -60,7 +60,7 @@ FocusScope {
             wrapMode: Math.max(length, lengthToCome) > 20000 ? TextEdit.WrapAnywhere : TextEdit.Wrap
             textFormat: TextEdit.PlainText
             selectByMouse: true
-            color: Theme.text
+            color: enabled ? Theme.text : Theme.disabledText
             selectionColor: Theme.accent
             selectedTextColor: Theme.accentText
             font.pointSize: Theme.body

@@ -35,7 +35,7 @@ T.TextField {
     inputMethodHints: Qt.ImhDigitsOnly
     hoverEnabled: true
     selectByMouse: true
-    color: Theme.text
+    color: enabled ? Theme.text : Theme.disabledText
     selectionColor: Theme.accent
     selectedTextColor: Theme.accentText
     font.pointSize: Theme.body

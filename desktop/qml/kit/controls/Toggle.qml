@@ -27,7 +27,7 @@ Pressable {
         width: Theme.toggleWidth
         height: Theme.toggleHeight
         radius: height / 2
-        color: !toggle.enabled ? Theme.disabledLine : toggle.isOn ? Theme.accent : Theme.switchOff
+        color: !toggle.enabled ? Theme.disabledFill : toggle.isOn ? Theme.accent : Theme.switchOff
         border.width: Theme.hairline
         border.color: !toggle.enabled ? Theme.disabledLine : toggle.hovered || toggle.down ? Theme.controlLineHovered
             : toggle.isOn ? Theme.accentLine : Theme.controlLine
@@ -41,7 +41,7 @@ Pressable {
             width: track.height - 4
             height: width
             radius: width / 2
-            color: Theme.knob
+            color: toggle.enabled ? Theme.knob : Theme.disabledText
             Behavior on x {
                 NumberAnimation { duration: Theme.quick; easing.type: Easing.OutCubic }
             }
