@@ -2,10 +2,12 @@
 #include <QGuiApplication>
 
 #include <optional>
+#include <string>
 
 #include "Application.h"
 #include "BuildSettings.h"
 #include "adapters/ActivationToken.h"
+#include "adapters/CommandLine.h"
 #include "adapters/HardenProcess.h"
 #include "adapters/MainExecutor.h"
 #include "adapters/SingleInstance.h"
@@ -21,6 +23,8 @@ int main(int argc, char* argv[])
     using namespace larkspan;
 
     adapters::hardenProcess();
+    const std::string version = std::string(BuildSettings::version) + " (" + BuildSettings::buildNumber + ")";
+    if (const auto code = adapters::answerOnTerminal(argc, argv, "larkspan", version)) return *code;
     const QString activationToken = adapters::launchActivationToken();
     chooseRenderer();
     const QGuiApplication qt(argc, argv);

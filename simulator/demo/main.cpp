@@ -3,9 +3,12 @@
 #include <QIcon>
 
 #include <chrono>
+#include <string>
 
 #include "Application.h"
+#include "BuildSettings.h"
 #include "adapters/ActivationToken.h"
+#include "adapters/CommandLine.h"
 #include "adapters/MainExecutor.h"
 #include "adapters/SingleInstance.h"
 #include "adapters/SystemClock.h"
@@ -18,6 +21,8 @@ int main(int argc, char* argv[])
 {
     using namespace larkspan;
 
+    const std::string version = std::string(BuildSettings::version) + " (" + BuildSettings::buildNumber + ")";
+    if (const auto code = adapters::answerOnTerminal(argc, argv, "larkspan-demo", version)) return *code;
     const QString activationToken = adapters::launchActivationToken();
     chooseRenderer();
     const QGuiApplication qt(argc, argv);
