@@ -8,7 +8,7 @@ namespace larkspan::simulator {
 DemoAccount::DemoAccount(
     const platform::Clock& clock, const platform::CredentialItem& item, std::chrono::milliseconds latency)
     : service_(livelyAccount(key, clock.now()), clock)
-    , transport_(std::in_place, service_, worker_, worker_)
+    , transport_(std::make_unique<InProcessTransport>(service_, worker_, worker_))
 {
     service_.live(Storyline::ordinaryDay());
     service_.inject({fault::Delay{latency}});

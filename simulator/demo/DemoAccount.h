@@ -1,7 +1,7 @@
 #pragma once
 
 #include <chrono>
-#include <optional>
+#include <memory>
 
 #include "demo/MemoryCredentialStore.h"
 #include "inprocess/InProcessTransport.h"
@@ -35,7 +35,7 @@ private:
     Service service_;
     MemoryCredentialStore credentialStore_;
     WorkerThread worker_;
-    std::optional<InProcessTransport> transport_;
+    std::unique_ptr<InProcessTransport> transport_;
 };
 
 }  // namespace larkspan::simulator
