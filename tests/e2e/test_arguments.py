@@ -11,6 +11,8 @@ import program
 
 def answer(binary, *arguments: str) -> subprocess.CompletedProcess:
     surroundings = {name: os.environ[name] for name in ("PATH", "HOME") if name in os.environ}
+    # Otherwise Qt 6.8 itself says something about it.
+    surroundings["LANG"] = "C.UTF-8"
     return subprocess.run([binary, *arguments], env=surroundings, capture_output=True, text=True, timeout=20)
 
 
