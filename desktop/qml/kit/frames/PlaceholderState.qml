@@ -7,7 +7,8 @@ Column {
     id: state
     required property placeholder placeholder
     property bool hasBoldTitle: true
-    // The height in which the button should be in view; the sentence is cut for it, but never below three lines.
+    // The height in which the button should be in view; the sentence is cut for it, but never below three lines, and is
+    // told whole in a tool tip.
     property real mostHeight: Infinity
     readonly property real others: (progress.visible ? progress.height : 0) + (symbol.visible ? symbol.height : 0)
         + (title.visible ? title.height : 0) + buttons.height + 3 * spacing
@@ -57,6 +58,13 @@ Column {
         FontMetrics {
             id: metrics
             font: sentence.font
+        }
+        HoverHandler {
+            id: pointer
+        }
+        ToolTipLoader {
+            text: sentence.text
+            isShown: pointer.hovered && sentence.truncated
         }
     }
     Row {
