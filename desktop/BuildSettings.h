@@ -9,6 +9,7 @@ struct BuildSettings {
 
     static constexpr auto version = LARKSPAN_VERSION;
     static constexpr auto buildNumber = LARKSPAN_BUILD_NUMBER;
+    static constexpr auto versionAndBuild = LARKSPAN_VERSION " (" LARKSPAN_BUILD_NUMBER ")";
 
     /// The addresses in the about box.
     static constexpr auto websiteAddress = LARKSPAN_WEBSITE;

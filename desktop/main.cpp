@@ -2,7 +2,6 @@
 #include <QGuiApplication>
 
 #include <optional>
-#include <string>
 
 #include "Application.h"
 #include "BuildSettings.h"
@@ -23,8 +22,8 @@ int main(int argc, char* argv[])
     using namespace larkspan;
 
     adapters::hardenProcess();
-    const std::string version = std::string(BuildSettings::version) + " (" + BuildSettings::buildNumber + ")";
-    if (const auto code = adapters::answerOnTerminal(argc, argv, "larkspan", version)) return *code;
+    if (const auto code = adapters::answerOnTerminal(argc, argv, "larkspan", BuildSettings::versionAndBuild))
+        return *code;
     const QString activationToken = adapters::launchActivationToken();
     chooseRenderer();
     const QGuiApplication qt(argc, argv);

@@ -3,7 +3,6 @@
 #include <QIcon>
 
 #include <chrono>
-#include <string>
 
 #include "Application.h"
 #include "BuildSettings.h"
@@ -21,8 +20,8 @@ int main(int argc, char* argv[])
 {
     using namespace larkspan;
 
-    const std::string version = std::string(BuildSettings::version) + " (" + BuildSettings::buildNumber + ")";
-    if (const auto code = adapters::answerOnTerminal(argc, argv, "larkspan-demo", version)) return *code;
+    if (const auto code = adapters::answerOnTerminal(argc, argv, "larkspan-demo", BuildSettings::versionAndBuild))
+        return *code;
     const QString activationToken = adapters::launchActivationToken();
     chooseRenderer();
     const QGuiApplication qt(argc, argv);

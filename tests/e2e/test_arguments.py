@@ -17,7 +17,7 @@ def answer(binary, *arguments: str) -> subprocess.CompletedProcess:
 
 
 @pytest.mark.parametrize("argument", ["--version", "-v"])
-def test_the_version_is_that_of_the_about_box(argument):
+def test_the_version_is_told_with_the_number_of_its_build(argument):
     answered = answer(program.BINARY, argument)
     assert re.fullmatch(r"larkspan \d+(\.\d+)+ \(\d+\)\n", answered.stdout)
     assert (answered.returncode, answered.stderr) == (0, "")

@@ -2,8 +2,8 @@ import QtQuick
 import Larkspan.Kit
 
 // The content of a record, which scrolls, and below its end the card of the record's actions. While the end lies below
-// the window, the card stays at the window's bottom edge. If that would take more than a third of the screen, only the first action
-// stays there, and the content ends with the others.
+// the window, the card stays at the window's bottom edge. If that would take more than a third of the screen, only the
+// first action stays there, and the content ends with the others.
 Item {
     id: dock
     required property Flickable scroller
