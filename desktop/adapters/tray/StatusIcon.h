@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QColor>
 #include <QString>
 
 #include <string>
@@ -9,17 +8,22 @@
 
 namespace larkspan::adapters {
 
-/// The item's icon: the name of the installed icon, which the host recolours, or pixels if none is installed. Both are
-/// looked up on demand, which never happens on a desktop without a panel.
+/// The item's icon: the name of the installed icon, which the host recolours. If none is installed, the folder with the
+/// program's own ones, and pixels for hosts that do not look there. All are looked up on demand, which never happens on
+/// a desktop without a panel.
 class StatusIcon {
 public:
     StatusIcon() = default;
 
     /// The icon for a symbol of the overall status; any other symbol gives the icon of the unknown status.
-    StatusIcon(const std::string& symbolName, const QColor& color);
+    /// `isOnDark` says whether its ground is probably dark.
+    StatusIcon(const std::string& symbolName, bool isOnDark);
 
-    /// Empty if the icon is not installed.
+    /// Empty if there is no file of the icon.
     QString themeName() const;
+
+    /// The folder of themes with the icon; empty if hosts find it without.
+    QString themePath() const;
 
     /// Empty if the icon is installed.
     StatusNotifierPixmaps pixmaps() const;
@@ -29,7 +33,7 @@ public:
 
 private:
     QString name_;
-    QColor color_;
+    bool isOnDark_ = false;
 };
 
 }  // namespace larkspan::adapters

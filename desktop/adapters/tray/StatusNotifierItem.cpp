@@ -1,7 +1,5 @@
 #include "adapters/tray/StatusNotifierItem.h"
 
-#include <QColor>
-
 #include <utility>
 
 #include "adapters/tray/StatusIcon.h"
@@ -58,8 +56,8 @@ void StatusNotifierItem::perform(const MenuRow& row) const
 
 void StatusNotifierItem::updateIcon()
 {
-    const QColor color = appearance_.isDark() ? QColor(0xec, 0xee, 0xf1) : QColor(0x1d, 0x21, 0x27);
-    item_.setIcon(StatusIcon(button_.symbolName, color), QString::fromStdString(button_.accessibilityDescription));
+    const StatusIcon icon(button_.symbolName, appearance_.isDark());
+    item_.setIcon(icon, QString::fromStdString(button_.accessibilityDescription));
 }
 
 }  // namespace larkspan::adapters

@@ -18,7 +18,7 @@ class StatusNotifierItemService final : public QObject {
     Q_PROPERTY(QString Title READ title CONSTANT)
     Q_PROPERTY(QString Status READ status CONSTANT)
     Q_PROPERTY(int WindowId READ windowId CONSTANT)
-    Q_PROPERTY(QString IconThemePath READ noName CONSTANT)
+    Q_PROPERTY(QString IconThemePath READ iconThemePath CONSTANT)
     Q_PROPERTY(QString IconName READ iconName NOTIFY NewIcon)
     Q_PROPERTY(larkspan::adapters::StatusNotifierPixmaps IconPixmap READ iconPixmap NOTIFY NewIcon)
     Q_PROPERTY(QString IconAccessibleDesc READ iconAccessibleDescription NOTIFY NewIcon)
@@ -46,6 +46,7 @@ public:
     QString title() const { return "Kestrune"; }
     QString status() const { return "Active"; }
     int windowId() const { return 0; }
+    QString iconThemePath() const { return icon_.themePath(); }
     QString iconName() const { return icon_.themeName(); }
     StatusNotifierPixmaps iconPixmap() const { return icon_.pixmaps(); }
     QString iconAccessibleDescription() const { return accessibleDescription_; }

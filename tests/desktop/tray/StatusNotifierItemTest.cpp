@@ -1,11 +1,15 @@
 #include "adapters/tray/StatusNotifierItem.h"
 
+#include <QFile>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPalette>
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <set>
+#include <utility>
 
 #include "TrayTest.h"
 
@@ -77,16 +81,28 @@ TEST_P(EachStatus, IsTheInstalledIconOfItsName)
     const auto properties = host->item();
 
     EXPECT_EQ(properties.value("IconName"), QString("com.kestrune.larkspan-%1-symbolic").arg(GetParam().status));
+    EXPECT_EQ(properties.value("IconThemePath"), "");
     EXPECT_EQ(properties.value("IconPixmap"), QJsonArray());
 }
 
-TEST_P(EachStatus, IsPaintedInEachSizeWhereNoIconIsInstalled)
+TEST_P(EachStatus, IsFoundBesideAProgramThatIsNotInstalled)
 {
     const auto host = panelWith(GetParam().symbolName);
 
     const auto properties = host->item();
 
-    EXPECT_EQ(properties.value("IconName"), "");
+    const auto name = properties.value("IconName").toString();
+    EXPECT_EQ(name, QString("com.kestrune.larkspan-%1-symbolic").arg(GetParam().status));
+    const auto folder = properties.value("IconThemePath").toString();
+    EXPECT_TRUE(QFile::exists(folder + "/hicolor/symbolic/apps/" + name + ".svg")) << qPrintable(folder);
+}
+
+TEST_P(EachStatus, IsPaintedInEachSizeForAHostThatLooksForNoFile)
+{
+    const auto host = panelWith(GetParam().symbolName);
+
+    const auto properties = host->item();
+
     std::vector<int> sizes;
     for (const auto& pixmap : properties.value("IconPixmap").toArray()) {
         const auto icon = image(pixmap);
@@ -112,13 +128,52 @@ TEST_F(StatusNotifierItemTest, EachStatusHasAShapeOfItsOwn)
     EXPECT_EQ(shapes.size(), 6U);
 }
 
+double luminance(const QColor& color)
+{
+    const auto linear
+        = [](double part) { return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+/// The part of the shape's pixels that can be told from this ground, by 3:1.
+double legiblePart(const QImage& icon, const QColor& ground)
+{
+    int opaque = 0;
+    int legible = 0;
+    const double lightOfGround = luminance(ground);
+    for (int y = 0; y < icon.height(); ++y) {
+        for (int x = 0; x < icon.width(); ++x) {
+            const auto color = icon.pixelColor(x, y);
+            if (color.alpha() < 0x80) continue;
+            ++opaque;
+            const auto [less, more] = std::minmax({luminance(color), lightOfGround});
+            legible += (more + 0.05) / (less + 0.05) >= 3;
+        }
+    }
+    return static_cast<double>(legible) / opaque;
+}
+
+TEST_P(EachStatus, ThePaintedIconIsSeenOnADarkPanelAndOnALightOneWhateverTheProgramsColours)
+{
+    const auto host = panelWith(GetParam().symbolName);
+    for (const auto& [window, text] : {std::pair(Qt::white, Qt::black), std::pair(Qt::black, Qt::white)}) {
+        usePalette(window, text);
+        for (const auto& pixmap : host->item().value("IconPixmap").toArray()) {
+            const auto icon = image(pixmap);
+            for (const auto& ground : {QColor(0x1b, 0x1d, 0x21), QColor(0xf4, 0xf5, 0xf7)}) {
+                EXPECT_GE(legiblePart(icon, ground), 0.2) << icon.width() << qPrintable(ground.name());
+            }
+        }
+    }
+}
+
 TEST_F(StatusNotifierItemTest, ThePaintedIconFollowsTheDesktopsColours)
 {
     const auto host = panelWith("checkmark.circle.fill");
     // The left edge of the icon is in the disk, its centre in the mark.
     const auto color = [&] {
         const auto pixmaps = host->item().value("IconPixmap").toArray();
-        return image(pixmaps.at(5)).pixelColor(6, 32);
+        return image(pixmaps.at(5)).pixelColor(9, 32);
     };
     EXPECT_EQ(color(), QColor(0x1d, 0x21, 0x27));
 
