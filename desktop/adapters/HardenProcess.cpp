@@ -1,5 +1,6 @@
 #include "adapters/HardenProcess.h"
 
+#include <sys/prctl.h>
 #include <sys/resource.h>
 
 #include <fstream>
@@ -8,6 +9,8 @@ namespace larkspan::adapters {
 
 void hardenProcess()
 {
+    // Nothing that it starts, such as the browser, needs more rights than the user has.
+    prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
 #ifdef NDEBUG
     const rlimit none{0, 0};
     setrlimit(RLIMIT_CORE, &none);

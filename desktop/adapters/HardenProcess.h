@@ -2,8 +2,8 @@
 
 namespace larkspan::adapters {
 
-/// Keeps the process's memory, and with it the API key, out of core dumps.
-/// Does nothing in a debug build, where developers want the dumps.
+/// Gives up what the process never needs: rights beyond the user's, also for what it starts; and core dumps, which would
+/// contain the API key. In a debug build, where developers want them, dumps are kept.
 void hardenProcess();
 
 }  // namespace larkspan::adapters

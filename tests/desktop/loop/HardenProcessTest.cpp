@@ -29,5 +29,15 @@ TEST(HardenedProcess, LeavesNoMemoryInACoreDump)
     EXPECT_EXIT(hardenAndLook(), testing::ExitedWithCode(0), "");
 }
 
+TEST(HardenedProcess, GivesNoMoreRightsThanTheUsersToWhatItStarts)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const auto hardenAndStart = [] {
+        hardenProcess();
+        std::_Exit(std::system("grep -q '^NoNewPrivs:[[:space:]]*1$' /proc/self/status") == 0 ? 0 : 1);
+    };
+    EXPECT_EXIT(hardenAndStart(), testing::ExitedWithCode(0), "");
+}
+
 }  // namespace
 }  // namespace larkspan::adapters
