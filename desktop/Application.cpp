@@ -6,9 +6,11 @@
 #include <utility>
 
 #include "BuildSettings.h"
+#include "adapters/StatusService.h"
 #include "adapters/TerminationSignals.h"
 #include "qml/MainWindow.h"
 #include "workspace/DashboardView.h"
+#include "workspace/StatusReports.h"
 
 namespace larkspan {
 
@@ -73,15 +75,22 @@ Application::~Application()
     main_.drop();
 }
 
-int Application::run(adapters::SingleInstance& instance)
+int Application::run(adapters::SingleInstance& instance, bool isMinimized)
 {
     const adapters::TerminationSignals termination;
     connect(&termination, &adapters::TerminationSignals::requested, this, &Application::quit);
     connect(&instance, &adapters::SingleInstance::replaced, this, &Application::quit);
     connect(&instance, &adapters::SingleInstance::activated, this, &Application::reopen);
+    const adapters::StatusService status(
+        QDBusConnection::sessionBus(), instance.name(), [this] { return workspace::statusReport(*app_->appState()); });
     appearance_.catchUp();
-    window_->window().show();
-    app_->windowLifecycleDelegate().applicationDidFinishLaunching();
+    auto& rules = app_->windowLifecycleDelegate();
+    if (isMinimized) {
+        rules.applicationDidFinishLaunchingMinimized(timers_);
+    } else {
+        window_->window().show();
+        rules.applicationDidFinishLaunching();
+    }
     return QGuiApplication::exec();
 }
 

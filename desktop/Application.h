@@ -3,10 +3,9 @@
 #include <QObject>
 #include <QString>
 
-#include <functional>
 #include <memory>
-#include <string>
 
+#include "ServiceAccess.h"
 #include "adapters/Appearance.h"
 #include "adapters/DesktopLinkOpener.h"
 #include "adapters/FreedesktopNotificationCenter.h"
@@ -31,18 +30,6 @@ namespace larkspan {
 
 class MainWindow;
 
-/// The access to the service, which differs between the program and its demo.
-struct ServiceAccess {
-    std::string host;
-    platform::Executor& client;
-    platform::HttpTransport& transport;
-    platform::CredentialStore& credentials;
-    /// The key that works, for the settings to show; empty if it is the user's own.
-    std::string demoKey = {};
-    /// Drops all requests and ends the client's executor. Called once, at the end.
-    std::function<void()> stop;
-};
-
 /// The program on top of a `QGuiApplication`: constructs its parts and destroys them in order. Main thread only.
 class Application final : public QObject {
 public:
@@ -50,9 +37,9 @@ public:
     Application(adapters::MainExecutor& main, ServiceAccess service);
     ~Application() override;
 
-    /// Shows the window and runs until the user, a signal or another process that has taken over `instance` ends the
-    /// program.
-    int run(adapters::SingleInstance& instance);
+    /// Runs until the user, a signal or another process that has taken over `instance` ends the program. Shows the
+    /// window, or with `isMinimized` only the panel's item if there is a panel.
+    int run(adapters::SingleInstance& instance, bool isMinimized);
 
 private:
     /// Brings the window to the front because the user started the program again.

@@ -2,9 +2,11 @@
 #include <QGuiApplication>
 
 #include <optional>
+#include <variant>
 
 #include "Application.h"
 #include "BuildSettings.h"
+#include "StatusCommand.h"
 #include "adapters/ActivationToken.h"
 #include "adapters/CommandLine.h"
 #include "adapters/HardenProcess.h"
@@ -17,43 +19,89 @@
 #include "qml/Fonts.h"
 #include "qml/Renderer.h"
 
+namespace larkspan {
+
+namespace {
+
+using Prompts = adapters::SecretServiceStore::Prompts;
+
+/// The service over HTTPS, with the key in the user's keyring.
+class Service {
+public:
+    Service(adapters::MainExecutor& main, Prompts prompts)
+        : proxies_(QDBusConnection::sessionBus(), main)
+        , credentials_(std::chrono::seconds(10), prompts)
+    {
+        // The keyring may have to be started, and negotiates a cipher: both happen while the screens load.
+        client_->post([this] { credentials_.open(); });
+    }
+
+    ServiceAccess access()
+    {
+        return {
+            .host = BuildSettings::serviceHost,
+            .client = *client_,
+            .transport = transport_,
+            .credentials = credentials_,
+            .stop =
+                [this] {
+                    credentials_.stop();
+                    transport_.stop();
+                    client_.reset();
+                },
+        };
+    }
+
+private:
+    adapters::PortalProxies proxies_;
+    adapters::SecretServiceStore credentials_;
+    std::optional<adapters::ClientLoop> client_{std::in_place};
+    adapters::CurlTransport transport_{*client_, {.proxies = &proxies_}};
+};
+
+int tellStatus(int argc, char** argv, const QString& name, bool asJSON)
+{
+    const QCoreApplication qt(argc, argv);
+    return printStatus(name, asJSON, [] {
+        adapters::MainExecutor main;
+        Service service(main, Prompts::never);
+        return fetchStatus(main, service.access());
+    });
+}
+
+int start(int argc, char** argv, const QString& name, bool isMinimized)
+{
+    const QString activationToken = adapters::launchActivationToken();
+    chooseRenderer();
+    const QGuiApplication qt(argc, argv);
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Kestrune"));
+    QGuiApplication::setDesktopFileName(name);
+
+    adapters::SingleInstance instance(QDBusConnection::sessionBus(), name);
+    using adapters::SingleInstance;
+    const auto raise = isMinimized ? SingleInstance::Raise::no : SingleInstance::Raise::yes;
+    if (instance.claim(activationToken, raise) == SingleInstance::Standing::second) return 0;
+    lookUpFonts();
+
+    adapters::MainExecutor main;
+    Service service(main, Prompts::allowed);
+    Application application(main, service.access());
+    return application.run(instance, isMinimized);
+}
+
+}  // namespace
+
+}  // namespace larkspan
+
 int main(int argc, char* argv[])
 {
     using namespace larkspan;
 
     adapters::hardenProcess();
-    if (const auto code = adapters::answerOnTerminal(argc, argv, "larkspan", BuildSettings::versionAndBuild))
-        return *code;
-    const QString activationToken = adapters::launchActivationToken();
-    chooseRenderer();
-    const QGuiApplication qt(argc, argv);
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("Kestrune"));
+    const auto read = adapters::readArguments(argc, argv, "larkspan", BuildSettings::versionAndBuild);
+    if (const auto* const code = std::get_if<int>(&read)) return *code;
+    const auto arguments = std::get<adapters::Arguments>(read);
     const auto name = QStringLiteral("com.kestrune.larkspan");
-    QGuiApplication::setDesktopFileName(name);
-
-    adapters::SingleInstance instance(QDBusConnection::sessionBus(), name);
-    if (instance.claim(activationToken) == adapters::SingleInstance::Standing::second) return 0;
-    lookUpFonts();
-
-    adapters::MainExecutor main;
-    adapters::PortalProxies proxies(QDBusConnection::sessionBus(), main);
-    adapters::SecretServiceStore credentials;
-    std::optional<adapters::ClientLoop> client(std::in_place);
-    // The keyring may have to be started, and negotiates a cipher: both happen while the screens load.
-    client->post([&credentials] { credentials.open(); });
-    adapters::CurlTransport transport(*client, {.proxies = &proxies});
-    Application application(main,
-        {
-            .host = BuildSettings::serviceHost,
-            .client = *client,
-            .transport = transport,
-            .credentials = credentials,
-            .stop =
-                [&] {
-                    credentials.stop();
-                    transport.stop();
-                    client.reset();
-                },
-        });
-    return application.run(instance);
+    if (arguments.asksForStatus) return tellStatus(argc, argv, name, arguments.asJSON);
+    return start(argc, argv, name, arguments.isMinimized);
 }

@@ -4,6 +4,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QString>
+#include <QStringList>
 
 #include <array>
 #include <cstdio>
@@ -26,6 +27,15 @@ QCommandLineOption hidden(const QString& name, const QString& valueName = {})
     return option;
 }
 
+// Not those of a `QCoreApplication`: the end of a first one would clear what makes the windows of a second one
+// accessible.
+QStringList texts(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int index = 0; index < argc; ++index) arguments << QString::fromLocal8Bit(argv[index]);
+    return arguments;
+}
+
 void print(std::FILE* stream, const QString& text)
 {
     std::fputs(qUtf8Printable(text), stream);
@@ -33,10 +43,9 @@ void print(std::FILE* stream, const QString& text)
 
 }  // namespace
 
-std::optional<int> answerOnTerminal(int argc, char** argv, std::string_view program, std::string_view version)
+std::variant<Arguments, int> readArguments(int argc, char** argv, std::string_view program, std::string_view version)
 {
-    if (argc < 2) return std::nullopt;
-    const QCoreApplication qt(argc, argv);
+    if (argc < 2) return Arguments{};
     const auto name = QString::fromUtf8(program);
     QCommandLineParser parser;
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
@@ -46,27 +55,45 @@ std::optional<int> answerOnTerminal(int argc, char** argv, std::string_view prog
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Prints this text."));
     const QCommandLineOption versionAlone(
         {QStringLiteral("v"), QStringLiteral("version")}, QStringLiteral("Prints the version."));
-    parser.addOptions({help, versionAlone});
+    const QCommandLineOption minimized(QStringLiteral("minimized"),
+        QStringLiteral("Starts in the panel alone; where there is no panel, the window is shown."));
+    const QCommandLineOption status(QStringLiteral("status"),
+        QStringLiteral("Prints the status and ends: with 0 if all is operational, 1 if something is degraded or under "
+                       "maintenance, 2 if something is down, and 3 if the status is not known for certain."));
+    const QCommandLineOption json(
+        QStringLiteral("json"), QStringLiteral("With --status: prints JSON, with all pages."));
+    parser.addOptions({minimized, status, json, help, versionAlone});
     for (const auto* const argument : argumentsOfQt) {
         parser.addOption(hidden(QString::fromLatin1(argument), QStringLiteral("value")));
     }
     parser.addOption(hidden(QStringLiteral("reverse")));
 
-    const bool isUnderstood = parser.parse(QCoreApplication::arguments());
-    if (isUnderstood && parser.isSet(help)) {
+    const auto problem = [&]() -> QString {
+        if (!parser.parse(texts(argc, argv))) return parser.errorText();
+        const auto words = parser.positionalArguments();
+        if (!words.isEmpty() && !parser.isSet(help) && !parser.isSet(versionAlone))
+            return QStringLiteral("Unknown argument '%1'.").arg(words.constFirst());
+        if (parser.isSet(json) && !parser.isSet(status)) return QStringLiteral("'--json' needs '--status'.");
+        if (parser.isSet(minimized) && parser.isSet(status))
+            return QStringLiteral("'--status' starts nothing that '--minimized' could minimise.");
+        return {};
+    }();
+    if (!problem.isEmpty()) {
+        print(stderr, QStringLiteral("%1: %2 '%1 --help' lists what there is.\n").arg(name, problem));
+        return misused;
+    }
+    if (parser.isSet(help)) {
+        // Named in the text.
+        const QCoreApplication qt(argc, argv);
         print(stdout, parser.helpText());
         return succeeded;
     }
-    if (isUnderstood && parser.isSet(versionAlone)) {
+    if (parser.isSet(versionAlone)) {
         print(stdout, name + u' ' + QString::fromUtf8(version) + u'\n');
         return succeeded;
     }
-    const auto words = parser.positionalArguments();
-    if (isUnderstood && words.isEmpty()) return std::nullopt;
-    const auto problem
-        = isUnderstood ? QStringLiteral("Unknown argument '%1'.").arg(words.constFirst()) : parser.errorText();
-    print(stderr, QStringLiteral("%1: %2 '%1 --help' lists what there is.\n").arg(name, problem));
-    return misused;
+    return Arguments{
+        .isMinimized = parser.isSet(minimized), .asksForStatus = parser.isSet(status), .asJSON = parser.isSet(json)};
 }
 
 }  // namespace larkspan::adapters

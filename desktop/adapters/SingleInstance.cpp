@@ -6,6 +6,8 @@
 
 #include <utility>
 
+#include "adapters/BusName.h"
+
 namespace larkspan::adapters {
 
 namespace {
@@ -21,7 +23,7 @@ SingleInstance::SingleInstance(QDBusConnection bus, QString name, std::chrono::m
     : QObject(parent)
     , bus_(std::move(bus))
     , name_(std::move(name))
-    , path_(QLatin1Char('/') + QString(name_).replace(QLatin1Char('.'), QLatin1Char('/')))
+    , path_(objectPath(name_))
     , patience_(patience)
 {
     connect(&service_, &ApplicationService::activated, this, &SingleInstance::activated);
@@ -33,7 +35,7 @@ SingleInstance::~SingleInstance()
     bus_.unregisterService(name_);
 }
 
-SingleInstance::Standing SingleInstance::claim(const QString& activationToken)
+SingleInstance::Standing SingleInstance::claim(const QString& activationToken, Raise raise)
 {
     if (!bus_.isConnected()) return Standing::first;
 
@@ -46,7 +48,7 @@ SingleInstance::Standing SingleInstance::claim(const QString& activationToken)
         }
         const auto first = owner();
         if (first.isEmpty()) continue;
-        if (activate(first, activationToken)) return Standing::second;
+        if (raise == Raise::no ? isThere(first) : activate(first, activationToken)) return Standing::second;
         if (first == owner() && ownName(true)) break;
     }
     watchForReplacement();
@@ -75,6 +77,16 @@ bool SingleInstance::activate(const QString& owner, const QString& activationTok
     // The owner's unique name: a call to the well-known one could start a program.
     auto call = QDBusMessage::createMethodCall(owner, path_, "org.freedesktop.Application", "Activate");
     call << platformData;
+    return isAnswered(call);
+}
+
+bool SingleInstance::isThere(const QString& owner)
+{
+    return isAnswered(QDBusMessage::createMethodCall(owner, path_, "org.freedesktop.DBus.Peer", "Ping"));
+}
+
+bool SingleInstance::isAnswered(const QDBusMessage& call)
+{
     const auto reply = bus_.call(call, QDBus::Block, static_cast<int>(patience_.count()));
     // Any other answer, even a refusal, comes from a living process; these come from the bus or mean that nobody
     // answered.

@@ -29,9 +29,14 @@ public:
         QObject* parent = nullptr);
     ~SingleInstance() override;
 
+    /// Whether a second start shows the window of the first.
+    enum class Raise { yes, no };
+
     /// Blocks for at most a few times `patience`; call it before anything is shown. Without a bus every process is the
     /// first.
-    Standing claim(const QString& activationToken);
+    Standing claim(const QString& activationToken, Raise raise = Raise::yes);
+
+    const QString& name() const { return name_; }
 
 signals:
     /// Emitted when the program is started again, or its window is asked for.
@@ -44,6 +49,8 @@ private:
     bool ownName(bool replacing);
     QString owner() const;
     bool activate(const QString& owner, const QString& activationToken);
+    bool isThere(const QString& owner);
+    bool isAnswered(const QDBusMessage& call);
     void watchForReplacement();
 
     QDBusConnection bus_;

@@ -31,6 +31,16 @@ void MainWindowLifecycleDelegate::applicationDidFinishLaunching()
         support::whileAlive(weak_from_this(), &MainWindowLifecycleDelegate::bringBackIfStranded));
 }
 
+void MainWindowLifecycleDelegate::applicationDidFinishLaunchingMinimized(platform::Timers& timers)
+{
+    applicationDidFinishLaunching();
+    isHidden_ = true;
+    waitForAPanel_ = timers.every(timeForAPanel, [this] {
+        bringBackIfStranded();
+        waitForAPanel_.reset();
+    });
+}
+
 void MainWindowLifecycleDelegate::applicationDidBecomeActive()
 {
     adoptDashboardWindow();

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 
 #include "platform/Executor.h"
 #include "platform/StatusItem.h"
+#include "platform/Timers.h"
 #include "platform/WindowSystem.h"
 
 namespace larkspan::core {
@@ -17,6 +19,13 @@ public:
         platform::WindowSystem& windows, platform::StatusItem& statusItem, platform::Executor& main);
 
     void applicationDidFinishLaunching();
+
+    /// The same for a start in the panel alone: the window, not shown yet, is shown only if there is no panel by the
+    /// end of `timeForAPanel`, or when that disappears.
+    void applicationDidFinishLaunchingMinimized(platform::Timers& timers);
+
+    /// How long a session may take to start its panel after this program.
+    static constexpr std::chrono::seconds timeForAPanel{10};
     void applicationDidBecomeActive();
 
     /// Called when the program is started again, or chosen in the launcher, while it runs. Always returns true.
@@ -41,6 +50,7 @@ private:
     platform::Executor& main_;
     std::weak_ptr<platform::Window> dashboardWindow_;
     bool isHidden_ = false;
+    std::unique_ptr<platform::Timer> waitForAPanel_;
 };
 
 /// Activates the program and brings the dashboard to the front; without a `delegate`, every window that can become

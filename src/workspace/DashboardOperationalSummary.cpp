@@ -20,24 +20,37 @@ std::string counted(int count, std::string_view noun)
     return std::to_string(count) + ' ' + std::string(noun) + (count == 1 ? "" : "s");
 }
 
+DashboardOperationalSummary counted(const std::vector<model::StatusPage>& pages,
+    const std::vector<model::Incident>& incidents, const std::vector<model::Maintenance>& maintenances)
+{
+    const auto maintenancesWith = [&maintenances](std::string_view status) {
+        return count(maintenances, [status](const auto& maintenance) { return core::hasStatus(maintenance, status); });
+    };
+    return {
+        .statusPageCount = static_cast<int>(pages.size()),
+        .affectedPageCount
+        = count(pages, [](const auto& page) { return page.status != model::StatusPageStatus::operational; }),
+        .activeIncidentCount = count(incidents, core::isActive),
+        .activeMaintenanceCount = maintenancesWith("in_progress"),
+        .scheduledMaintenanceCount = maintenancesWith("scheduled"),
+    };
+}
+
 }  // namespace
 
 DashboardOperationalSummary DashboardOperationalSummary::of(const core::AppStateManager& state)
 {
-    const auto maintenancesWith = [&state](std::string_view status) {
-        return count(
-            *state.maintenances, [status](const auto& maintenance) { return core::hasStatus(maintenance, status); });
-    };
-    return {
-        .overallStatus = *state.overallStatus,
-        .statusPageCount = static_cast<int>(state.statusPages->size()),
-        .affectedPageCount = count(
-            *state.statusPages, [](const auto& page) { return page.status != model::StatusPageStatus::operational; }),
-        .activeIncidentCount = count(*state.incidents, core::isActive),
-        .activeMaintenanceCount = maintenancesWith("in_progress"),
-        .scheduledMaintenanceCount = maintenancesWith("scheduled"),
-        .isStale = *state.refreshError != nullptr || !*state.isReachable,
-    };
+    auto summary = counted(*state.statusPages, *state.incidents, *state.maintenances);
+    summary.overallStatus = *state.overallStatus;
+    summary.isStale = *state.refreshError != nullptr || !*state.isReachable;
+    return summary;
+}
+
+DashboardOperationalSummary DashboardOperationalSummary::of(const core::AccountLists& lists)
+{
+    auto summary = counted(lists.statusPages, lists.incidents, lists.maintenances);
+    summary.overallStatus = core::rolledUpStatus(lists.statusPages, lists.incidents, lists.maintenances, false);
+    return summary;
 }
 
 std::string DashboardOperationalSummary::operationalTitle() const

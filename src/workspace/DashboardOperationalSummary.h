@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/AccountFetch.h"
 #include "core/AppStateManager.h"
 #include "core/OverallStatus.h"
 #include "presentation/shapes/Headline.h"
@@ -24,6 +25,8 @@ struct DashboardOperationalSummary {
     bool isStale = false;
 
     static DashboardOperationalSummary of(const core::AppStateManager& state);
+    /// Of lists that have just been fetched.
+    static DashboardOperationalSummary of(const core::AccountLists& lists);
 
     std::string operationalTitle() const;
     std::vector<std::string> operationalDetails() const;

@@ -41,8 +41,8 @@ def surroundings(session: Session) -> dict[str, str]:
 
 
 @contextmanager
-def program(session: Session, display: Display, binary: Path = BINARY) -> Iterator[Program]:
-    with running(str(binary), env=surroundings(session)) as process:
+def program(session: Session, display: Display, binary: Path = BINARY, *arguments: str) -> Iterator[Program]:
+    with running(str(binary), *arguments, env=surroundings(session)) as process:
         yield Program(process, binary, session, display)
 
 

@@ -26,7 +26,7 @@ def test_the_version_is_told_with_the_number_of_its_build(argument):
 @pytest.mark.parametrize("argument", ["--help", "-h"])
 def test_help_says_what_the_program_is_and_names_its_arguments(argument):
     answered = answer(program.BINARY, argument)
-    for word in ("status pages", "--help", "--version"):
+    for word in ("status pages", "--minimized", "--status", "--json", "--help", "--version"):
         assert word in answered.stdout
     assert (answered.returncode, answered.stderr) == (0, "")
 
@@ -40,6 +40,13 @@ def test_an_unknown_argument_is_named_and_ends_with_2(argument):
 
 def test_an_unknown_argument_is_named_even_beside_one_that_is_known():
     assert answer(program.BINARY, "--version", "--colour").returncode == 2
+
+
+@pytest.mark.parametrize("arguments", [["--json"], ["--status", "--minimized"]])
+def test_arguments_that_contradict_each_other_end_with_2(arguments):
+    answered = answer(program.BINARY, *arguments)
+    assert re.fullmatch(r"larkspan: '--\w+' .*\n", answered.stderr)
+    assert (answered.returncode, answered.stdout) == (2, "")
 
 
 def test_arguments_of_qt_are_known():

@@ -26,9 +26,10 @@ std::string changedLast(SecretServiceSession& session, const std::vector<std::st
 
 }  // namespace
 
-SecretServiceStore::SecretServiceStore(std::chrono::milliseconds patience)
+SecretServiceStore::SecretServiceStore(std::chrono::milliseconds patience, Prompts prompts)
     : stop_(std::make_unique<GLibStop>())
     , session_(std::make_unique<SecretServiceSession>(*stop_, patience))
+    , prompts_(prompts)
 {
 }
 
@@ -48,7 +49,7 @@ std::optional<std::string> SecretServiceStore::find(const platform::CredentialIt
     session_->forgetChanges();
     auto found = session_->search(item);
     if (found.unlocked.empty()) {
-        if (found.locked.empty() || !mayPrompt_) return std::nullopt;
+        if (found.locked.empty() || prompts_ == Prompts::never || !mayPrompt_) return std::nullopt;
         if (!unlock(found.locked.front())) return std::nullopt;
         found = session_->search(item);
         if (found.unlocked.empty()) return std::nullopt;

@@ -22,7 +22,14 @@ class SecretServiceSession;
 /// shown until `allowPromptAgain()`, an addition or removal, or until the keyring is found unlocked.
 class SecretServiceStore final : public platform::CredentialStore {
 public:
-    explicit SecretServiceStore(std::chrono::milliseconds patience = std::chrono::seconds(10));
+    enum class Prompts {
+        allowed,
+        /// A locked secret counts as absent: for a process without a user in front of it.
+        never,
+    };
+
+    explicit SecretServiceStore(
+        std::chrono::milliseconds patience = std::chrono::seconds(10), Prompts prompts = Prompts::allowed);
     ~SecretServiceStore() override;
 
     /// Opens the session, so that the first read need not wait for that. Shows no prompt, and gives up after a second;
@@ -59,6 +66,7 @@ private:
 
     std::unique_ptr<GLibStop> stop_;
     std::unique_ptr<SecretServiceSession> session_;
+    const Prompts prompts_;
     std::atomic<bool> mayPrompt_ = true;
     std::optional<Place> lastPlace_;
 };

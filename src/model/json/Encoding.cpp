@@ -56,10 +56,27 @@ void JSONObjectWriter::write(std::string_view keyName, bool value)
     text_ += value ? "true" : "false";
 }
 
+void JSONObjectWriter::write(std::string_view keyName, int value)
+{
+    writeKey(keyName);
+    text_ += std::to_string(value);
+}
+
 void JSONObjectWriter::write(std::string_view keyName, support::Time value)
 {
     writeKey(keyName);
     writeText(writeISO8601(value), text_);
+}
+
+void JSONObjectWriter::writeObjects(std::string_view keyName, const std::vector<std::string>& objects)
+{
+    writeKey(keyName);
+    text_ += '[';
+    for (const auto& object : objects) {
+        if (&object != &objects.front()) text_ += ',';
+        text_ += object;
+    }
+    text_ += ']';
 }
 
 std::string JSONObjectWriter::finish() &&

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 #include <tuple>
+#include <vector>
 
 #include "model/json/WireTable.h"
 #include "support/Time.h"
@@ -14,7 +15,10 @@ class JSONObjectWriter {
 public:
     void write(std::string_view keyName, const std::string& value);
     void write(std::string_view keyName, bool value);
+    void write(std::string_view keyName, int value);
     void write(std::string_view keyName, support::Time value);
+    /// `objects` are texts of other finished writers.
+    void writeObjects(std::string_view keyName, const std::vector<std::string>& objects);
 
     /// Returns the object; nothing can be written afterwards.
     std::string finish() &&;

@@ -1,4 +1,4 @@
-// usage: larkspan_instance_probe NAME
+// usage: larkspan_instance_probe [--minimized] NAME
 // Claims to be the single instance of that name, and prints what happens to it.
 
 #include <QCoreApplication>
@@ -26,7 +26,8 @@ int main(int argc, char** argv)
     const QCoreApplication application(argc, argv);
     SingleInstance instance(
         QDBusConnection::sessionBus(), QString::fromLocal8Bit(argv[argc - 1]), std::chrono::milliseconds(1500));
-    if (instance.claim(token) == SingleInstance::Standing::second) {
+    const auto raise = argc > 2 ? SingleInstance::Raise::no : SingleInstance::Raise::yes;
+    if (instance.claim(token, raise) == SingleInstance::Standing::second) {
         say("second");
         return 0;
     }

@@ -24,8 +24,8 @@ const auto programName = QStringLiteral("com.kestrune.larkspan");
 class Start : public peers::Peer {
 public:
     explicit Start(const QString& busAddress, const QString& tokenVariable = {}, const QString& token = {},
-        const QString& name = programName)
-        : Peer(LARKSPAN_INSTANCE_PROBE, {name}, environment(busAddress, tokenVariable, token))
+        const QString& name = programName, const QStringList& arguments = {})
+        : Peer(LARKSPAN_INSTANCE_PROBE, arguments + QStringList{name}, environment(busAddress, tokenVariable, token))
     {
     }
 
@@ -76,6 +76,19 @@ TEST(SingleInstance, ASecondStartHandsOverItsActivationToken)
 
     Start x11(bus.address(), "DESKTOP_STARTUP_ID", "launcher-1_TIME42");
     EXPECT_EQ(first.hear(), "activated launcher-1_TIME42");
+}
+
+TEST(SingleInstance, ASecondStartInThePanelAloneEndsAndShowsNoWindow)
+{
+    const PrivateBus bus;
+    Start first(bus.address());
+    ASSERT_EQ(first.hear(), "first");
+
+    Start second(bus.address(), {}, {}, programName, {"--minimized"});
+
+    EXPECT_EQ(second.hear(), "second");
+    EXPECT_TRUE(second.endsWell());
+    EXPECT_EQ(first.heardByNow(), QStringList());
 }
 
 TEST(SingleInstance, OfManyStartsAtOnceExactlyOneIsFirst)

@@ -52,6 +52,18 @@ TEST_F(LockedKeyring, RaisesTheDesktopsPromptOnceAndGivesTheSecretWhenItIsAnswer
     EXPECT_EQ(prompter.promptsByNow(), 1);
 }
 
+TEST_F(LockedKeyring, CountsAsEmptyWithoutAPromptForAProcessThatMayShowNone)
+{
+    Prompter prompter(Prompter::answeringRightly());
+    SecretServiceStore withoutPrompts(1s, SecretServiceStore::Prompts::never);
+
+    EXPECT_EQ(withoutPrompts.find(apiKey), std::nullopt);
+    withoutPrompts.allowPromptAgain();
+    EXPECT_EQ(withoutPrompts.find(apiKey), std::nullopt);
+
+    EXPECT_EQ(prompter.promptsByNow(), 0);
+}
+
 TEST_F(LockedKeyring, CountsAsEmptyWhenThePromptIsDismissedAndRaisesNoFurtherOne)
 {
     Prompter prompter(Prompter::dismissing());

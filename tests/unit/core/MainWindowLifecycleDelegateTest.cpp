@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <memory>
 #include <string>
 #include <vector>
@@ -9,11 +10,13 @@
 #include "fakes/FakeStatusItem.h"
 #include "fakes/FakeWindowSystem.h"
 #include "fakes/ManualExecutor.h"
+#include "fakes/ManualTimers.h"
 
 namespace larkspan::core {
 
 namespace {
 
+using namespace std::chrono_literals;
 using Calls = std::vector<std::string>;
 
 const Calls broughtForward{"deminiaturize", "makeKeyAndOrderFront"};
@@ -23,8 +26,15 @@ protected:
     fakes::ManualExecutor main;
     fakes::FakeWindowSystem windows;
     fakes::FakeStatusItem statusItem;
+    fakes::ManualTimers timers;
     std::shared_ptr<MainWindowLifecycleDelegate> delegate
         = std::make_shared<MainWindowLifecycleDelegate>(windows, statusItem, main);
+
+    void startMinimized()
+    {
+        delegate->applicationDidFinishLaunchingMinimized(timers);
+        main.run();
+    }
 };
 
 TEST_F(WindowLifecycle, ClosingMinimisesTheWindowAndDoesNotCloseIt)
@@ -73,6 +83,52 @@ TEST_F(WindowLifecycle, AHiddenWindowComesBackWhenThePanelGoesAway)
     statusItem.setPanel(true);
     statusItem.setPanel(false);
     EXPECT_EQ(window->calls, Calls{}) << "it was brought back already";
+}
+
+TEST_F(WindowLifecycle, StartedInThePanelAloneTheWindowIsShownByTheMenu)
+{
+    const auto window = windows.addWindow();
+    window->visible = false;
+    startMinimized();
+    timers.advance(1h);
+    EXPECT_EQ(window->calls, Calls{});
+    showDashboardWindow(windows, delegate.get());
+    EXPECT_EQ(window->calls, broughtForward);
+}
+
+TEST_F(WindowLifecycle, StartedInThePanelAloneTheWindowIsShownOnceWhereNoPanelComesInTime)
+{
+    statusItem.hasPanel = false;
+    const auto window = windows.addWindow();
+    window->visible = false;
+    startMinimized();
+    timers.advance(9'999ms);
+    EXPECT_EQ(window->calls, Calls{}) << "the session may still be starting its panel";
+    timers.advance(1ms);
+    EXPECT_EQ(window->calls, broughtForward);
+    timers.advance(1h);
+    EXPECT_EQ(window->calls, broughtForward);
+}
+
+TEST_F(WindowLifecycle, StartedInThePanelAloneBeforeThePanelTheWindowStaysHidden)
+{
+    statusItem.hasPanel = false;
+    const auto window = windows.addWindow();
+    window->visible = false;
+    startMinimized();
+    timers.advance(3s);
+    statusItem.setPanel(true);
+    timers.advance(1h);
+    EXPECT_EQ(window->calls, Calls{});
+}
+
+TEST_F(WindowLifecycle, StartedInThePanelAloneTheWindowComesWhenThePanelGoesAway)
+{
+    const auto window = windows.addWindow();
+    window->visible = false;
+    startMinimized();
+    statusItem.setPanel(false);
+    EXPECT_EQ(window->calls, broughtForward);
 }
 
 TEST_F(WindowLifecycle, AWindowThatWasOnlyMinimisedStaysSoWhenThePanelGoesAway)

@@ -42,6 +42,16 @@ TEST(Encoding, EscapesWhatJSONReservesAndNothingElse)
               R"(","notify_subscribers":false})");
 }
 
+TEST(Encoding, AWriterTakesNumbersAndOtherObjectsToo)
+{
+    JSONObjectWriter first;
+    first.write("count", -3);
+    JSONObjectWriter whole;
+    whole.writeObjects("noPages", {});
+    whole.writeObjects("allPages", {std::move(first).finish(), "{}"});
+    EXPECT_EQ(std::move(whole).finish(), R"({"no_pages":[],"all_pages":[{"count":-3},{}]})");
+}
+
 TEST(Encoding, OfATextThatIsNotUTF8FailsAndNamesTheKey)
 {
     try {
