@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Rules about what is said in several files of a package: the packages that it needs, and its version.
+"""Rules about what is said in several files of a package: the packages that it needs, its version and its home.
 
 usage: packaging_rules.py    prints a sentence for each difference, and ends with 1 if there is one
 """
@@ -18,6 +18,11 @@ VERSIONS = {
     "packaging/debian/changelog": r"\A\S+ \((\S+)\)",
     "packaging/com.kestrune.larkspan.metainfo.xml.in": r'<release version="([^"]+)"',
     "packaging/larkspan.1": r'^\.TH LARKSPAN 1 \S+ "Larkspan ([^"]+)"',
+}
+
+HOMES = {
+    "CMakeLists.txt": r'^set\(LARKSPAN_WEBSITE "([^"]+)"',
+    CONTROL: r"^Homepage: (\S+)$",
 }
 
 
@@ -47,17 +52,18 @@ def differences_of_packages(control: str, dependencies: str) -> list[str]:
     ]
 
 
-def differences_of_versions(texts: dict[str, str]) -> list[str]:
-    versions = {path: found.group(1) if (found := re.search(VERSIONS[path], text, re.MULTILINE)) else "none"
-                for path, text in texts.items()}
-    if len(set(versions.values())) == 1 and "none" not in versions.values():
+def differences(of_what: str, patterns: dict[str, str], texts: dict[str, str]) -> list[str]:
+    values = {path: found.group(1) if (found := re.search(patterns[path], text, re.MULTILINE)) else "none"
+              for path, text in texts.items()}
+    if len(set(values.values())) == 1 and "none" not in values.values():
         return []
-    return ["the versions differ: " + ", ".join(f"{version} in {path}" for path, version in versions.items())]
+    return [f"the {of_what} differ: " + ", ".join(f"{value} in {path}" for path, value in values.items())]
 
 
 def main() -> int:
     found = differences_of_packages(Path(CONTROL).read_text(), Path(DEPENDENCIES).read_text())
-    found += differences_of_versions({path: Path(path).read_text() for path in VERSIONS})
+    for of_what, patterns in [("versions", VERSIONS), ("homes", HOMES)]:
+        found += differences(of_what, patterns, {path: Path(path).read_text() for path in patterns})
     for sentence in found:
         print(sentence)
     return 1 if found else 0

@@ -1,6 +1,6 @@
 """Tests each rule with text that breaks it and text that keeps it."""
 
-from packaging_rules import VERSIONS, differences_of_packages, differences_of_versions
+from packaging_rules import HOMES, VERSIONS, differences, differences_of_packages
 
 DEPENDENCIES = """# group package purpose
 build   cmake                 the build's description
@@ -46,14 +46,22 @@ def texts_with(version_of_the_manual):
 
 
 def test_equal_versions_are_no_difference():
-    assert differences_of_versions(texts_with("1.2")) == []
+    assert differences("versions", VERSIONS, texts_with("1.2")) == []
 
 
 def test_versions_that_differ_are_told_with_their_files():
-    (sentence,) = differences_of_versions(texts_with("1.1"))
+    (sentence,) = differences("versions", VERSIONS, texts_with("1.1"))
     assert "1.2 in packaging/debian/changelog" in sentence and "1.1 in packaging/larkspan.1" in sentence
 
 
 def test_a_file_without_a_version_is_told():
-    (sentence,) = differences_of_versions(texts_with('" "'))
+    (sentence,) = differences("versions", VERSIONS, texts_with('" "'))
     assert "none in packaging/larkspan.1" in sentence
+
+
+def test_another_home_than_that_of_the_build_is_told():
+    build, control = HOMES
+    texts = {build: 'set(LARKSPAN_WEBSITE "https://one.example" CACHE STRING "")\n', control: "Homepage: https://two.example\n"}
+    (sentence,) = differences("homes", HOMES, texts)
+    assert "https://one.example in CMakeLists.txt" in sentence and f"https://two.example in {control}" in sentence
+    assert differences("homes", HOMES, texts | {control: "Homepage: https://one.example\n"}) == []
