@@ -28,6 +28,10 @@ class Panel:
         """The texts of the icon's tool tip: title and text."""
         return " ".join(self._ask("item")["ToolTip"][2:]).strip()
 
+    def icon(self) -> str:
+        """The name of the icon in the theme, if it is taken from there."""
+        return self._ask("item")["IconName"]
+
     def rows(self) -> list[str]:
         return [label for _, label in self._menu() if label]
 

@@ -15,6 +15,7 @@ from processes import running
 
 ACCESSIBILITY = ("org.a11y.Bus",)
 PROMPTS = ("org.gnome.keyring.SystemPrompter", "org.gnome.keyring.PrivatePrompter")
+SERVICES = ACCESSIBILITY + PROMPTS
 
 BUS = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
@@ -51,11 +52,12 @@ class Session:
 
 
 @contextmanager
-def session(display: Display, home: Path) -> Iterator[Session]:
+def session(display: Display, home: Path, daemon: tuple[str, ...] = ("dbus-daemon",), started: tuple[str, ...] = SERVICES) -> Iterator[Session]:
+    """A session whose bus starts the services of these names."""
     runtime, services = home / "run", home / "services"
     for folder in (runtime, services, home / "data"):
         folder.mkdir(mode=0o700)
-    for service in ACCESSIBILITY + PROMPTS:
+    for service in started:
         (services / f"{service}.service").symlink_to(f"/usr/share/dbus-1/services/{service}.service")
     (home / "bus.conf").write_text(BUS.format(runtime=runtime, services=services), encoding="utf-8")
 
@@ -69,9 +71,9 @@ def session(display: Display, home: Path) -> Iterator[Session]:
         "NO_AT_BRIDGE": "0",
         "GSETTINGS_BACKEND": "memory",
     }
-    with running("dbus-daemon", f"--config-file={home}/bus.conf", "--nofork", "--print-address", env=surroundings,
-                 stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True) as daemon:
-        daemon.stdout.readline()
+    with running(*daemon, f"--config-file={home}/bus.conf", "--nofork", "--print-address", env=surroundings,
+                 stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True) as bus:
+        bus.stdout.readline()
         made = Session(surroundings)
         try:
             yield made
