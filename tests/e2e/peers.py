@@ -25,8 +25,8 @@ class Panel:
         eventually(lambda: self._ask("registrations"), "no item is registered with the panel")
 
     def tool_tip(self) -> str:
-        """The texts of the icon's tool tip: title and text."""
-        return " ".join(self._ask("item")["ToolTip"][2:]).strip()
+        """The first line of the icon's tool tip."""
+        return self._ask("item")["ToolTip"][2]
 
     def icon(self) -> str:
         """The name of the icon in the theme, if it is taken from there."""

@@ -52,7 +52,8 @@ public:
     QString iconAccessibleDescription() const { return accessibleDescription_; }
     QString noName() const { return {}; }
     StatusNotifierPixmaps noPixmap() const { return {}; }
-    StatusNotifierToolTip toolTip() const { return {.title = toolTip_}; }
+    /// Hosts show the icon's description as the second line if there is no other.
+    StatusNotifierToolTip toolTip() const { return {.title = toolTip_, .text = title()}; }
     /// Whether a press on the item opens the menu.
     bool isMenu() const { return true; }
     QDBusObjectPath menu() const { return QDBusObjectPath(menuPath); }
