@@ -2,16 +2,30 @@
 
 import os
 import subprocess
+import tempfile
 from contextlib import contextmanager
-from typing import Iterator
+from pathlib import Path
+from typing import Iterator, NamedTuple
 
+import picture
 from patience import eventually
 from processes import running
 
 
+class Place(NamedTuple):
+    left: int
+    top: int
+    width: int
+    height: int
+
+    def centre(self) -> tuple[int, int]:
+        return self.left + self.width // 2, self.top + self.height // 2
+
+
 class Display:
-    def __init__(self, name: str) -> None:
+    def __init__(self, name: str, memory: Path) -> None:
         self.name = name
+        self._memory = memory
 
     def _ask(self, *command: str) -> str:
         return subprocess.run(command, env=os.environ | {"DISPLAY": self.name}, capture_output=True, text=True, check=False).stdout
@@ -50,8 +64,20 @@ class Display:
     def has_icon(self, window: str) -> bool:
         return "Icon (" in self._ask("xprop", "-id", window, "_NET_WM_ICON")
 
+    def windows_of_class(self, name: str) -> list[str]:
+        """All visible windows of a program, also those that no window manager touches, such as menus and tool tips."""
+        return self._ask("xdotool", "search", "--onlyvisible", "--class", f"^{name}$").split()
+
+    def place(self, window: str) -> Place | None:
+        told = dict(line.split("=") for line in self._ask("xdotool", "getwindowgeometry", "--shell", window).split())
+        return Place(*(int(told[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))) if told else None
+
     def type_text(self, text: str) -> None:
         self._ask("xdotool", "type", "--delay", "5", text)
+
+    def point(self, x: int, y: int) -> None:
+        """Moves the mouse there, through a place beside, since programs notice movements only."""
+        self._ask("xdotool", "mousemove", str(x + 1), str(y), "mousemove", str(x), str(y))
 
     def drag(self, places: list[tuple[int, int]]) -> None:
         """Holds the mouse button from the first place to the last; with one place only, this is a click."""
@@ -64,16 +90,21 @@ class Display:
     def press_key(self, key: str) -> None:
         self._ask("xdotool", "key", key)
 
+    def picture(self) -> picture.Picture:
+        """What the display shows now."""
+        return picture.of_x_window_dump(self._memory.read_bytes())
+
 
 @contextmanager
 def server(size: str = "1280x960") -> Iterator[Display]:
     """A display without a window manager."""
     reading, writing = os.pipe()
-    with running("Xvfb", "-displayfd", str(writing), "-screen", "0", f"{size}x24", "-nolisten", "tcp", "-noreset",
-                 pass_fds=[writing], stderr=subprocess.DEVNULL):
+    with (tempfile.TemporaryDirectory(prefix="larkspan-display-") as memory,
+          running("Xvfb", "-displayfd", str(writing), "-screen", "0", f"{size}x24", "-nolisten", "tcp", "-noreset",
+                  "-fbdir", memory, pass_fds=[writing], stderr=subprocess.DEVNULL)):
         os.close(writing)
         with os.fdopen(reading) as announced:
-            made = Display(f":{announced.readline().strip()}")
+            made = Display(f":{announced.readline().strip()}", Path(memory, "Xvfb_screen0"))
         yield made
 
 

@@ -14,8 +14,9 @@ from display import Display
 from processes import running
 
 ACCESSIBILITY = ("org.a11y.Bus",)
+SETTINGS = ("org.xfce.Xfconf",)
 PROMPTS = ("org.gnome.keyring.SystemPrompter", "org.gnome.keyring.PrivatePrompter")
-SERVICES = ACCESSIBILITY + PROMPTS
+SERVICES = ACCESSIBILITY + PROMPTS + SETTINGS
 
 BUS = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
