@@ -2,7 +2,8 @@
 
 Runs a command in its own namespaces, which end with it: without a network but loopback, where the service's HOST
 is this machine, and with its own /etc, whose bundle of authorities it may write. So the program that users get
-uses verified HTTPS to a stand-in, and the machine's settings are never touched.
+uses verified HTTPS to a stand-in, and the machine's settings are never touched. Started by root, the command runs as
+an ordinary user, as all desktops do and some insist on.
 """
 
 import fcntl
@@ -16,6 +17,12 @@ import tempfile
 from pathlib import Path
 
 CANNOT_BE_HERE = 77
+
+# What the service's stand-in and the tests need: its port, and the files of whoever has built the program.
+CAPABILITIES = "+net_bind_service,+dac_override"
+FOREIGN = ("QT_", "QML", "DISPLAY", "WAYLAND_", "SWAY", "WLR_", "XDG_", "GTK_", "DBUS_SESSION")
+ORDINARY_USER = ["setpriv", "--reuid=nobody", "--regid=nogroup", "--clear-groups",
+                 f"--inh-caps={CAPABILITIES}", f"--ambient-caps={CAPABILITIES}"]
 
 
 def namespaces() -> list[str] | None:
@@ -55,11 +62,13 @@ def run(binaries: str, host: str, command: list[str]) -> int:
             "LARKSPAN_E2E_BINARIES": binaries,
             "LARKSPAN_E2E_HOST": host,
             "LARKSPAN_E2E_WORLD": world,
+            # The program's folders of another user hold no traces of the tests.
+            "PYTHONDONTWRITEBYTECODE": "1",
             # The machine's own services and settings must have no influence here.
             "DBUS_SYSTEM_BUS_ADDRESS": f"unix:path={world}/no-system-bus",
         }
         for name in list(surroundings):
-            if name.lower().endswith("_proxy") or name.startswith(("QT_", "QML", "WAYLAND_", "XDG_", "GTK_", "DBUS_SESSION")):
+            if name.lower().endswith("_proxy") or name.startswith(FOREIGN):
                 del surroundings[name]
         return subprocess.run([*way, sys.executable, __file__, "--inside", *command], env=surroundings, check=False).returncode
 
@@ -69,7 +78,8 @@ def inside(command: list[str]) -> int:
     subprocess.run(["mount", "--bind", f"{world}/etc", "/etc"], check=True)
     try:
         bring_loopback_up()
-        return subprocess.run(command, check=False).returncode
+        as_user = ORDINARY_USER if os.geteuid() == 0 else []
+        return subprocess.run([*as_user, *command], check=False).returncode
     finally:
         subprocess.run(["umount", "--lazy", "/etc"], check=False)
 
