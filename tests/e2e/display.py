@@ -26,6 +26,7 @@ class Display:
     def __init__(self, name: str, memory: Path) -> None:
         self.name = name
         self._memory = memory
+        self.surroundings = {"DISPLAY": name, "QT_QPA_PLATFORM": "xcb"}
 
     def _ask(self, *command: str) -> str:
         return subprocess.run(command, env=os.environ | {"DISPLAY": self.name}, capture_output=True, text=True, check=False).stdout

@@ -37,7 +37,7 @@ class Program:
 
 
 def surroundings(session: Session) -> dict[str, str]:
-    return session.surroundings | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "QT_QPA_PLATFORM": "xcb"}
+    return session.surroundings | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
 
 
 @contextmanager

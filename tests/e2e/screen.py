@@ -132,7 +132,11 @@ class Screen:
 
     def place(self, name: str) -> tuple[int, int, int, int]:
         """Its place on the display: left, top, width and height."""
-        return self._extents(self._find(lambda thing: thing.name == name, f"\"{name}\""))
+        return self.extents(self._find(lambda thing: thing.name == name, f"\"{name}\""))
+
+    def extents(self, thing: Thing) -> tuple[int, int, int, int]:
+        found = self._call(thing.owner, thing.path, "org.a11y.atspi.Component", "GetExtents", "u", (0,))
+        return tuple(int(value) for value in found)
 
     def press(self, name: str) -> None:
         self._act(self.button(name))
@@ -156,12 +160,8 @@ class Screen:
         names = [str(action[0]) for action in self._call(thing.owner, thing.path, ACTION, "GetActions", "", ())]
         self._call(thing.owner, thing.path, ACTION, "DoAction", "i", (names.index("Press"),))
 
-    def _extents(self, thing: Thing) -> tuple[int, int, int, int]:
-        found = self._call(thing.owner, thing.path, "org.a11y.atspi.Component", "GetExtents", "u", (0,))
-        return tuple(int(value) for value in found)
-
     def _top(self, thing: Thing) -> int:
-        return self._extents(thing)[1]
+        return self.extents(thing)[1]
 
     def _find(self, fits: Callable[[Thing], bool], what: str) -> Thing:
         return eventually(lambda: next(filter(fits, self.things()), None),

@@ -53,8 +53,8 @@ class Session:
 
 
 @contextmanager
-def session(display: Display, home: Path, daemon: tuple[str, ...] = ("dbus-daemon",), started: tuple[str, ...] = SERVICES) -> Iterator[Session]:
-    """A session whose bus starts the services of these names."""
+def session(display: Display | None, home: Path, daemon: tuple[str, ...] = ("dbus-daemon",), started: tuple[str, ...] = SERVICES) -> Iterator[Session]:
+    """On a display, or with none until a compositor is started in it. Its bus starts the services of these names."""
     runtime, services = home / "run", home / "services"
     for folder in (runtime, services, home / "data"):
         folder.mkdir(mode=0o700)
@@ -62,11 +62,10 @@ def session(display: Display, home: Path, daemon: tuple[str, ...] = ("dbus-daemo
         (services / f"{service}.service").symlink_to(f"/usr/share/dbus-1/services/{service}.service")
     (home / "bus.conf").write_text(BUS.format(runtime=runtime, services=services), encoding="utf-8")
 
-    surroundings = os.environ | {
+    surroundings = os.environ | (display.surroundings if display else {}) | {
         "HOME": str(home),
         "XDG_RUNTIME_DIR": str(runtime),
         "XDG_DATA_HOME": str(home / "data"),
-        "DISPLAY": display.name,
         "DBUS_SESSION_BUS_ADDRESS": f"unix:path={runtime}/bus",
         "LC_ALL": "C.UTF-8",
         "NO_AT_BRIDGE": "0",
