@@ -34,4 +34,6 @@ if(LARKSPAN_SANITIZE)
     target_link_options(larkspan_build INTERFACE -fsanitize=${LARKSPAN_SANITIZE})
 endif()
 
+include(Hardening)
+
 find_package(Threads REQUIRED)
