@@ -29,10 +29,13 @@ support::Task<void> fetchInto(std::shared_ptr<platform::StatusReport> report, wo
 int print(const platform::StatusReport& report, bool asJSON)
 {
     std::fputs((asJSON ? report.json : report.text).c_str(), stdout);
+    // Before the problem, also where both go to one place.
+    if (std::fflush(stdout) != 0) {
+        std::perror("larkspan");
+        return couldNotPrint;
+    }
     if (!report.problem.empty()) std::fprintf(stderr, "larkspan: %s\n", report.problem.c_str());
-    if (std::fflush(stdout) == 0) return report.exitCode;
-    std::perror("larkspan");
-    return couldNotPrint;
+    return report.exitCode;
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "adapters/MainExecutor.h"
 #include "gallery/DesktopFonts.h"
 #include "gallery/KitSheet.h"
+#include "gallery/PanelIcons.h"
 #include "gallery/Scene.h"
 #include "gallery/ShownScene.h"
 #include "qml/Renderer.h"
@@ -93,6 +94,12 @@ public:
         const bool isWanted = !order_.names.isEmpty() || qGuiApp->devicePixelRatio() == 1;
         if (QStringLiteral("kit").contains(order_.names) && isWanted) {
             for (const auto& look : order_.looks) takeKit(look);
+            tookOne = true;
+        }
+        for (const auto& icon : panelIcons()) {
+            const auto name = QStringLiteral("icon-%1").arg(QString::fromStdString(icon.status));
+            if (!name.contains(order_.names)) continue;
+            keep(icon.picture, name, QStringLiteral("panels"));
             tookOne = true;
         }
         return tookOne;
