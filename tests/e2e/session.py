@@ -4,6 +4,7 @@ bus."""
 import os
 import subprocess
 from contextlib import contextmanager
+from functools import cached_property
 from pathlib import Path
 from typing import Iterator
 
@@ -37,8 +38,12 @@ BUS = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration
 class Session:
     def __init__(self, surroundings: dict[str, str]) -> None:
         self.surroundings = surroundings
-        self.bus = dbus.bus.BusConnection(surroundings["DBUS_SESSION_BUS_ADDRESS"])
-        self.bus.set_exit_on_disconnect(False)
+
+    @cached_property
+    def bus(self) -> dbus.bus.BusConnection:
+        connection = dbus.bus.BusConnection(self.surroundings["DBUS_SESSION_BUS_ADDRESS"])
+        connection.set_exit_on_disconnect(False)
+        return connection
 
     def has(self, name: str) -> bool:
         return bool(self.bus.name_has_owner(name))

@@ -13,8 +13,9 @@ SecretServiceBus::SecretServiceBus(const GLibStop& stop, std::chrono::millisecon
 bool SecretServiceBus::connect()
 {
     if (connection_ && g_dbus_connection_is_closed(connection_.get()) == FALSE) return true;
-    // GLib returns the old connection for as long as somebody holds it.
+    // GLib returns the old connection for as long as somebody holds it, such as a subscription that ends in the loop.
     connection_.reset();
+    loop_.catchUp();
     const auto result = loop_.await(deadline_, [](GCancellable* cancellable, GAsyncReadyCallback ready, gpointer data) {
         g_bus_get(G_BUS_TYPE_SESSION, cancellable, ready, data);
     });

@@ -90,6 +90,7 @@ void SecretServiceSession::open()
 {
     if (isCurrent()) return;
     service_.reset();
+    changes_.reset();
     if (!bus_.connect()) return;
     changes_.emplace(bus_.connection());
     const auto result
