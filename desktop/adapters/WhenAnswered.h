@@ -11,6 +11,13 @@ namespace larkspan::adapters {
 template <typename Continuation>
 void whenAnswered(QObject* context, const QDBusPendingCall& call, Continuation continuation)
 {
+    if (call.isFinished()) {
+        // A watcher never hears of a call that was not made because there is no connection.
+        QMetaObject::invokeMethod(
+            context, [call, continuation = std::move(continuation)]() mutable { continuation(call); },
+            Qt::QueuedConnection);
+        return;
+    }
     auto* const watcher = new QDBusPendingCallWatcher(call, context);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, context,
         [watcher, continuation = std::move(continuation)]() mutable {

@@ -5,7 +5,7 @@ import struct
 import zlib
 from collections import Counter
 from pathlib import Path
-from typing import NamedTuple
+from typing import Iterator, NamedTuple
 
 FOLDER = Path(os.environ["LARKSPAN_E2E_BINARIES"]).parent / "pictures"
 
@@ -23,11 +23,20 @@ class Picture(NamedTuple):
         return Picture(width, height, b"".join(self.pixels[start:start + 3 * width] for start in rows))
 
     def colours(self) -> Counter[Colour]:
-        return Counter(zip(*(self.pixels[channel::3] for channel in range(3))))
+        return Counter(self.all())
+
+    def all(self) -> Iterator[Colour]:
+        """The colours of all pixels, row by row."""
+        return zip(*(self.pixels[channel::3] for channel in range(3)))
 
     def ground(self) -> Colour:
         """The colour of most pixels."""
         return self.colours().most_common(1)[0][0]
+
+    def rows_unlike(self, other: "Picture") -> int:
+        """How many rows of pixels differ from those of another picture of that size."""
+        line = 3 * self.width
+        return sum(self.pixels[start:start + line] != other.pixels[start:start + line] for start in range(0, len(self.pixels), line))
 
     def save(self, name: str) -> None:
         """Writes it into the build folder, for people to look at."""

@@ -89,6 +89,16 @@ TEST_F(Proxies, AreNoneWithoutABus)
 {
     bus.stop();
     EXPECT_EQ(find(), "");
+    peers::turnFor(50ms);
+    EXPECT_EQ(find(), "");
+}
+
+TEST_F(Proxies, AreNoneWhereThereHasNeverBeenABus)
+{
+    PortalProxies lonely(QDBusConnection::connectToBus("unix:path=/no/such/bus", "never"), main);
+    std::optional<std::string> found;
+    lonely.findProxy("https://service.test/", [&](std::string proxy) { found = std::move(proxy); });
+    EXPECT_TRUE(peers::turnUntil([&] { return found == ""; }));
 }
 
 TEST_F(Proxies, AreNoneWhereThePortalSaysNothingAndItIsNotAskedWithEachRequest)
