@@ -73,6 +73,26 @@ def panel(session: Session) -> Iterator[Panel]:
         yield Panel(process)
 
 
+class Portal:
+    """The desktop's settings, as its user changes them."""
+
+    def __init__(self, process: subprocess.Popen) -> None:
+        self._process = process
+
+    def set_dark(self, is_dark: bool) -> None:
+        """Sets whether programs are dark."""
+        line = f"org.freedesktop.appearance/color-scheme={1 if is_dark else 2}\n"
+        self._process.stdin.write(line)
+        self._process.stdin.flush()
+        assert self._process.stdout.readline() == line
+
+
+@contextmanager
+def portal(session: Session) -> Iterator[Portal]:
+    with _peer(session, "appearance/settings_portal.py") as process:
+        yield Portal(process)
+
+
 @contextmanager
 def notices(session: Session) -> Iterator[Notices]:
     with _peer(session, "notifications/notification_server.py", "body") as process:

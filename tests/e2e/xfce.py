@@ -8,8 +8,6 @@ from contextlib import contextmanager
 from pathlib import Path
 from typing import Iterator, NamedTuple
 
-import dbus
-
 from display import Display, Place
 from patience import eventually
 from picture import Colour, Picture, contrast
@@ -21,7 +19,7 @@ SETTINGS = """<?xml version="1.0" encoding="UTF-8"?>
   <property name="configver" type="int" value="2"/>
   <property name="panels" type="array">
     <value type="int" value="1"/>
-    <property name="dark-mode" type="bool" value="true"/>
+    <property name="dark-mode" type="bool" value="{is_dark}"/>
     <property name="panel-1" type="empty">
       <property name="position" type="string" value="p=6;x=0;y=0"/>
       <property name="position-locked" type="bool" value="true"/>
@@ -69,10 +67,6 @@ class Panel:
     def crash(self) -> None:
         self._process.kill()
         self._process.wait()
-
-    def set_dark(self, is_dark: bool) -> None:
-        self._session.bus.call_blocking("org.xfce.Xfconf", "/org/xfce/Xfconf", "org.xfce.Xfconf", "SetProperty", "ssv",
-                                        ("xfce4-panel", "/panels/dark-mode", dbus.Boolean(is_dark, variant_level=1)))
 
     def icon(self) -> Picture | None:
         """The part of the panel in which its only item stands."""
@@ -147,10 +141,10 @@ def _is_vivid(colour: Colour) -> bool:
 
 
 @contextmanager
-def panel(session: Session, display: Display) -> Iterator[Panel]:
+def panel(session: Session, display: Display, is_dark: bool = True) -> Iterator[Panel]:
     folder = Path(session.surroundings["HOME"], ".config/xfce4/xfconf/xfce-perchannel-xml")
     folder.mkdir(parents=True)
-    (folder / "xfce4-panel.xml").write_text(SETTINGS, encoding="utf-8")
+    (folder / "xfce4-panel.xml").write_text(SETTINGS.format(is_dark=str(is_dark).lower()), encoding="utf-8")
     made = Panel(session, display)
     made.start()
     try:
