@@ -116,11 +116,3 @@ def test_the_manual_page_is_formatted_without_a_warning(the_prefix):
     page = the_prefix / "share/man/man1/larkspan.1"
     ended = subprocess.run(["groff", "-man", "-Tutf8", "-K", "utf8", "-ww", "-z", page], capture_output=True, text=True)
     assert (ended.returncode, ended.stderr) == (0, "")
-
-
-def test_the_manual_page_tells_every_option_of_the_program(the_prefix):
-    _, words = said_by(the_prefix / "bin/larkspan", "--help")
-    options = re.findall(r"--[a-z]+", words)
-    assert "--help" in options
-    manual = (the_prefix / "share/man/man1/larkspan.1").read_text().replace(r"\-", "-")
-    assert [option for option in options if option not in manual] == []
