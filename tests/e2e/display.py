@@ -70,8 +70,9 @@ class Display:
         return self._ask("xdotool", "search", "--onlyvisible", "--class", f"^{name}$").split()
 
     def place(self, window: str) -> Place | None:
-        told = dict(line.split("=") for line in self._ask("xdotool", "getwindowgeometry", "--shell", window).split())
-        return Place(*(int(told[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))) if told else None
+        told = dict(line.strip().split(": ", 1) for line in self._ask("xwininfo", "-id", window).splitlines() if ": " in line)
+        names = ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")
+        return Place(*(int(told[name]) for name in names)) if set(names) <= told.keys() else None
 
     def type_text(self, text: str) -> None:
         self._ask("xdotool", "type", "--delay", "5", text)

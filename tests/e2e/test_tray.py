@@ -121,7 +121,7 @@ def test_a_panel_that_starts_again_has_the_item_again(the_session, program):
             assert panel.rows()[-4:] == COMMANDS
 
 
-def test_without_a_panel_the_window_has_the_same_rows(program):
+def test_without_a_panel_the_window_has_the_same_rows(program, the_service):
     screen = program.screen
     screen.press("Menu")
     eventually(screen.menu, "no menu came")
@@ -135,6 +135,11 @@ def test_without_a_panel_the_window_has_the_same_rows(program):
 
     screen.press("Back")
     screen.wait_for_rows(NAMES)
+    the_service.forget()
+    screen.press("Menu")
+    screen.choose("Refresh")
+    eventually(the_service.requests, "nothing is fetched")
+
     screen.press("Menu")
     screen.choose("Quit")
     assert program.process.wait(5) == 0

@@ -62,7 +62,8 @@ class Panel:
         self._process = subprocess.Popen(["xfce4-panel"], env=self._session.surroundings, stderr=subprocess.DEVNULL)
 
     def end(self) -> None:
-        end(self._process)
+        if self._process:
+            end(self._process)
 
     def crash(self) -> None:
         self._process.kill()
@@ -140,12 +141,17 @@ def _is_vivid(colour: Colour) -> bool:
     return max(colour) - min(colour) > 80
 
 
+def prepared(session: Session, display: Display, is_dark: bool = True) -> Panel:
+    """A panel that has not started yet."""
+    folder = Path(session.surroundings["HOME"], ".config/xfce4/xfconf/xfce-perchannel-xml")
+    folder.mkdir(parents=True, exist_ok=True)
+    (folder / "xfce4-panel.xml").write_text(SETTINGS.format(is_dark=str(is_dark).lower()), encoding="utf-8")
+    return Panel(session, display)
+
+
 @contextmanager
 def panel(session: Session, display: Display, is_dark: bool = True) -> Iterator[Panel]:
-    folder = Path(session.surroundings["HOME"], ".config/xfce4/xfconf/xfce-perchannel-xml")
-    folder.mkdir(parents=True)
-    (folder / "xfce4-panel.xml").write_text(SETTINGS.format(is_dark=str(is_dark).lower()), encoding="utf-8")
-    made = Panel(session, display)
+    made = prepared(session, display, is_dark)
     made.start()
     try:
         yield made
