@@ -7,6 +7,13 @@
 
 namespace larkspan::adapters {
 
+namespace {
+
+// Much longer than any; on X11 it is sent to the display in pieces of twenty bytes.
+constexpr qsizetype longestToken = 1024;
+
+}  // namespace
+
 QtWindowSystem::QtWindowSystem()
 {
     QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -22,7 +29,8 @@ void QtWindowSystem::add(QWindow& window)
 
 void QtWindowSystem::setActivationToken(const QString& token)
 {
-    for (const auto& window : windows_) window->setActivationToken(token);
+    const auto believed = token.size() > longestToken ? QString() : token;
+    for (const auto& window : windows_) window->setActivationToken(believed);
 }
 
 std::vector<std::shared_ptr<platform::Window>> QtWindowSystem::windows()

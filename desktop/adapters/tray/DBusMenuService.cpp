@@ -94,8 +94,16 @@ void DBusMenuService::handle(int id, const QString& event)
 {
     const auto* const row = model_.row(id);
     if (!row || row->kind != platform::MenuRow::Kind::command || event != "clicked") return;
+    // A user presses once at a time; a host that reports thousands of presses at once must not stop the program.
+    if (std::exchange(isChoosing_, true)) return;
     // After the answer to the host, since the command may take a while and may destroy this object.
-    QMetaObject::invokeMethod(this, [this, chosen = *row] { choose_(chosen); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this,
+        [this, chosen = *row] {
+            isChoosing_ = false;
+            choose_(chosen);
+        },
+        Qt::QueuedConnection);
 }
 
 }  // namespace larkspan::adapters

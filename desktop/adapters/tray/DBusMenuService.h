@@ -25,7 +25,8 @@ class DBusMenuService final : public QObject, protected QDBusContext {
     Q_PROPERTY(QStringList IconThemePath READ iconThemePath CONSTANT)
 
 public:
-    /// `choose` is called for each command that the user chooses, in a later turn of the event loop.
+    /// `choose` is called for a command that the user chooses, in a later turn of the event loop; of several that a
+    /// host reports in one turn, for the first.
     explicit DBusMenuService(std::function<void(const platform::MenuRow& row)> choose);
 
     /// Tells the hosts what differs from the previous rows, if anything does.
@@ -58,6 +59,7 @@ private:
 
     std::function<void(const platform::MenuRow& row)> choose_;
     DBusMenuModel model_;
+    bool isChoosing_ = false;
 };
 
 }  // namespace larkspan::adapters

@@ -84,7 +84,7 @@ TEST_F(MenuTest, AChosenRowIsPerformedAsLastGiven)
     EXPECT_EQ(performed, std::vector{page("p1", "Shop, renamed")});
 }
 
-TEST_F(MenuTest, RowsOfAGroupOfEventsArePerformedInTurnAndUnknownOnesNamed)
+TEST_F(MenuTest, OfAGroupOfEventsTheFirstPressIsPerformedAndUnknownRowsAreNamed)
 {
     const auto host = panelWith(menuOf({page("p1", "Shop")}));
     const auto rows = host->rows();
@@ -94,9 +94,26 @@ TEST_F(MenuTest, RowsOfAGroupOfEventsArePerformedInTurnAndUnknownOnesNamed)
     const auto unknown = host->callMenu("EventGroup", "a(isvu)", {QJsonValue(events)});
 
     EXPECT_EQ(unknown, QJsonArray{4711});
+    ASSERT_TRUE(peers::turnUntil([&] { return !performed.empty(); }));
+    peers::turnFor(std::chrono::milliseconds(50));
+    EXPECT_EQ(performed, std::vector{page("p1", "Shop")});
+    host->click(idAt(rows, 8));
     ASSERT_TRUE(peers::turnUntil([&] { return performed.size() == 2; }));
-    EXPECT_EQ(performed[0].action, MenuRow::Action::openStatusPage);
     EXPECT_EQ(performed[1].action, MenuRow::Action::quitApp);
+}
+
+TEST_F(MenuTest, OfThousandsOfPressesAtOnceOneIsPerformed)
+{
+    const auto host = panelWith(menuOf({page("p1", "Shop")}));
+    const int row = idAt(host->rows(), 3);
+    QJsonArray presses;
+    for (int count = 0; count < 20'000; ++count) presses << QJsonArray{row, "clicked", "", 0};
+
+    host->callMenu("EventGroup", "a(isvu)", {QJsonValue(presses)});
+
+    ASSERT_TRUE(peers::turnUntil([&] { return !performed.empty(); }));
+    peers::turnFor(std::chrono::milliseconds(50));
+    EXPECT_EQ(performed.size(), 1U);
 }
 
 TEST_F(MenuTest, OnlyCommandsArePerformed)

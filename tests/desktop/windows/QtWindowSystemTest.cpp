@@ -173,6 +173,16 @@ TEST_F(WindowOnADesktop, EndsTheLaunchThatAskedForIt)
     EXPECT_EQ(desktop.endedLaunches(), expected);
 }
 
+TEST_F(WindowOnADesktop, TakesNoTokenThatIsTooLongToBeOne)
+{
+    system.setActivationToken(QString(1025, 'x'));
+
+    adopted->makeKeyAndOrderFront();
+
+    turnFor(200ms);
+    EXPECT_EQ(desktop.endedLaunches(), QStringList());
+}
+
 TEST_F(WindowWithoutAWindowManager, StaysOnTheScreenWhenMinimisingIsRefused)
 {
     adopted->miniaturize();
