@@ -88,16 +88,9 @@ bool SingleInstance::isThere(const QString& owner)
 bool SingleInstance::isAnswered(const QDBusMessage& call)
 {
     const auto reply = bus_.call(call, QDBus::Block, static_cast<int>(patience_.count()));
-    // Any other answer, even a refusal, comes from a living process; these come from the bus or mean that nobody
-    // answered.
-    switch (QDBusError(reply).type()) {
-    case QDBusError::NoReply:
-    case QDBusError::Timeout:
-    case QDBusError::TimedOut:
-    case QDBusError::ServiceUnknown:
-    case QDBusError::Disconnected: return false;
-    default: return true;
-    }
+    // This program answers without words. Whatever says something else is not one of its instances, and would leave the
+    // user without a window.
+    return reply.type() == QDBusMessage::ReplyMessage && reply.signature().isEmpty();
 }
 
 void SingleInstance::watchForReplacement()

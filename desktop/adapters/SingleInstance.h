@@ -12,8 +12,9 @@ namespace larkspan::adapters {
 
 /// Keeps the program to one process per session: the one that owns its name on the session bus. Main thread only.
 ///
-/// A second process hands its activation token to the first. A first one that does not answer within `patience` loses
-/// the name, so that the user still gets a window; if it recovers later, it is told by `replaced()` and quits.
+/// A second process hands its activation token to the first. A first one that does not answer within `patience`, or
+/// not as this program does, loses the name if it lets go of it, and in any case the user gets a window; if it recovers
+/// later, it is told by `replaced()` and quits.
 class SingleInstance final : public QObject {
     Q_OBJECT
 

@@ -161,6 +161,17 @@ TEST(SingleInstance, AFirstThatDiesWhileItIsAskedIsSucceeded)
     EXPECT_EQ(successor.hear(), "first");
 }
 
+TEST(SingleInstance, AnotherProgramUnderTheNameIsNoInstance)
+{
+    const PrivateBus bus;
+    auto other = bus.connect();
+    ASSERT_TRUE(other.registerService(programName));
+
+    Start first(bus.address());
+
+    EXPECT_EQ(first.hear(), "first");
+}
+
 TEST(SingleInstance, TheNameIsFreeAgainWhenTheFirstHasEnded)
 {
     const PrivateBus bus;
