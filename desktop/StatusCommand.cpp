@@ -10,6 +10,7 @@
 #include "adapters/StatusService.h"
 #include "adapters/SystemClock.h"
 #include "api/KestruneAPI.h"
+#include "support/LegibleOutside.h"
 #include "support/Task.h"
 #include "workspace/StatusReports.h"
 
@@ -34,7 +35,7 @@ int print(const platform::StatusReport& report, bool asJSON)
         std::perror("larkspan");
         return couldNotPrint;
     }
-    if (!report.problem.empty()) std::fprintf(stderr, "larkspan: %s\n", report.problem.c_str());
+    if (!report.problem.empty()) std::fprintf(stderr, "larkspan: %s\n", support::legibleOutside(report.problem).c_str());
     return report.exitCode;
 }
 

@@ -4,48 +4,25 @@
 
 #include <string_view>
 
-#include "support/Utf8.h"
+#include "support/LegibleOutside.h"
 
 namespace larkspan::adapters {
 
 namespace {
 
-// In characters; more than a desktop shows at once.
-constexpr std::size_t longestLine = 256;
-constexpr std::size_t longestBody = 1024;
-
-/// At most `longest` characters from the beginning of `text`.
-std::string_view beginningOf(std::string_view text, std::size_t longest)
+QString paragraphs(std::string_view text)
 {
-    std::size_t end = 0;
-    for (std::size_t count = 0; count < longest && end < text.size(); ++count) {
-        end += support::firstCharacter(text.substr(end)).length;
-    }
-    return text.substr(0, end);
-}
-
-QString paragraphs(std::string_view whole, std::size_t longest)
-{
-    const auto text = beginningOf(whole, longest);
-    const bool isCut = text.size() < whole.size();
-
-    QString fit;
-    for (const auto character : QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))) {
-        if (character == u'\n' || character.category() != QChar::Other_Control) {
-            fit += character;
-        } else if (character == u'\t') {
-            fit += u' ';
-        }
-    }
-    if (isCut) fit += u'…';
+    auto legible = QString::fromStdString(support::legibleOutside(text, support::Lines::several));
     // Many texts may have to wait.
-    fit.squeeze();
-    return fit;
+    legible.squeeze();
+    return legible;
 }
 
 QString line(std::string_view text)
 {
-    return paragraphs(text, longestLine).replace(u'\n', u' ');
+    auto legible = QString::fromStdString(support::legibleOutside(text));
+    legible.squeeze();
+    return legible;
 }
 
 /// `text` with look-alikes in place of the characters that markup is made of.
@@ -66,7 +43,7 @@ QString joined(const QString& subtitle, const QString& body)
 NotificationText::NotificationText(const platform::NotificationRequest& request)
     : title(line(request.title))
     , subtitle(line(request.subtitle))
-    , body(paragraphs(request.body, longestBody))
+    , body(paragraphs(request.body))
     , type(line(request.type))
     , id(line(request.id))
 {

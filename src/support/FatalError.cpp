@@ -3,11 +3,14 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "support/LegibleOutside.h"
+
 namespace larkspan::support {
 
 void fatalError(std::string_view message)
 {
-    std::fprintf(stderr, "larkspan: fatal: %.*s\n", static_cast<int>(message.size()), message.data());
+    // It may quote the service.
+    std::fprintf(stderr, "larkspan: fatal: %s\n", legibleOutside(message).c_str());
     std::abort();
 }
 

@@ -4,6 +4,7 @@
 
 #include "adapters/tray/DBusMenuTypes.h"
 #include "adapters/tray/DotImage.h"
+#include "support/LegibleOutside.h"
 
 namespace larkspan::adapters {
 
@@ -13,7 +14,7 @@ namespace {
 /// hosts whose toolkit uses it as a mark double it themselves.
 QString label(const std::string& title)
 {
-    return QString::fromStdString(title).replace('_', "__");
+    return QString::fromStdString(support::legibleOutside(title)).replace('_', "__");
 }
 
 }  // namespace
@@ -31,7 +32,7 @@ QVariantMap menuRowProperties(const platform::MenuRow& row)
         properties.insert("shortcut", QVariant::fromValue(shortcut));
     }
     if (!row.toolTip.empty()) {
-        const auto toolTip = QString::fromStdString(row.toolTip);
+        const auto toolTip = QString::fromStdString(support::legibleOutside(row.toolTip));
         properties.insert("accessible-desc", toolTip);
         // Not part of the protocol, but some hosts read it.
         properties.insert("tooltip", toolTip);
