@@ -43,7 +43,9 @@ class Package:
         return set(json.loads(self._before.read_text(encoding="utf-8")))
 
     def dependencies(self) -> dict[str, set[str]]:
-        """The files of each installed package that it names."""
+        """The files of each installed package that it names; a name may also be one that such a package provides."""
+        installed = self._administrator.run("dpkg-query", "--show", "--showformat", "${Package} ").split()
         depends = self._administrator.run("dpkg-query", "--show", "--showformat", "${Depends}", NAME)
-        names = [word.split()[0].partition(":")[0] for part in depends.split(",") for word in part.split("|")]
-        return {name: set(self._administrator.run("dpkg-query", "--listfiles", name).splitlines()) for name in names}
+        names = {word.split()[0].partition(":")[0] for part in depends.split(",") for word in part.split("|")}
+        return {name: set(self._administrator.run("dpkg-query", "--listfiles", name).splitlines())
+                for name in names.intersection(installed)}
