@@ -47,9 +47,11 @@ class Administrator:
 def serve(root: str, path: str) -> None:
     surroundings = {"PATH": "/usr/sbin:/usr/bin:/sbin:/bin", "LC_ALL": "C.UTF-8", "HOME": "/root", "DEBIAN_FRONTEND": "noninteractive"}
     with socket.socket(socket.AF_UNIX) as door:
-        door.bind(path)
-        os.chmod(path, 0o666)
+        # It has its name only when it can be knocked at.
+        door.bind(f"{path}.begun")
+        os.chmod(f"{path}.begun", 0o666)
         door.listen()
+        os.rename(f"{path}.begun", path)
         while True:
             connection, _ = door.accept()
             with connection, connection.makefile("rw") as line:

@@ -6,8 +6,9 @@ from pathlib import Path
 from package import ROOT
 from service import NAMES
 
-# Has no code: the authorities with which the service is verified.
-DATA = ["ca-certificates"]
+# The first has no code, but the authorities with which the service is verified. The second is loaded by the templates of
+# Qt 6.4, and not by those of 6.8.
+SILENT = {"ca-certificates", "qml6-module-qtqml-workerscript"}
 
 
 def in_one_place(path: str) -> str:
@@ -34,8 +35,8 @@ def test_each_package_that_it_depends_on_is_used(start, stored_key, the_service,
         screen.wait_until_gone(shown)
 
     code = {in_one_place(path) for path in administrator.code_of(program.process.pid)}
-    unused = [name for name, files in package.dependencies().items() if not code & {in_one_place(file) for file in files}]
-    assert sorted(unused) == DATA
+    unused = {name for name, files in package.dependencies().items() if not code & {in_one_place(file) for file in files}}
+    assert unused - SILENT == set()
 
 
 def test_the_user_who_starts_it_has_no_rights_of_an_administrator(start, stored_key, the_service):
