@@ -38,11 +38,11 @@ private:
 void noteChange(DBusMenuModel::Change& change, int id, const MenuRow& old, const MenuRow& row)
 {
     if (old == row) return;
-    // The title is long and seldom changes.
-    const bool isTitleKept = old.title == row.title;
-    const auto propertiesOf = [isTitleKept](const MenuRow& from) {
+    // The title is long and seldom changes; what a screen reader says is made of it and of the tool tip.
+    const bool isSaidTheSame = old.title == row.title && old.toolTip == row.toolTip;
+    const auto propertiesOf = [isSaidTheSame](const MenuRow& from) {
         return menuRowProperties({.kind = from.kind,
-            .title = isTitleKept ? std::string() : from.title,
+            .title = isSaidTheSame ? std::string() : from.title,
             .keyEquivalent = from.keyEquivalent,
             .dot = from.dot,
             .toolTip = from.toolTip});

@@ -22,14 +22,19 @@ TEST_F(MenuTest, ArrivesRowForRow)
     const auto rows = host->rows();
 
     ASSERT_EQ(rows.size(), 9);
-    EXPECT_EQ(propertiesAt(rows, 0), json(R"({"label": "Operational", "enabled": false})"));
-    EXPECT_EQ(propertiesAt(rows, 1), json(R"({"label": "Updated 5s ago", "enabled": false})"));
+    EXPECT_EQ(
+        propertiesAt(rows, 0), json(R"({"label": "Operational", "accessible-desc": "Operational", "enabled": false})"));
+    EXPECT_EQ(propertiesAt(rows, 1),
+        json(R"({"label": "Updated 5s ago", "accessible-desc": "Updated 5s ago", "enabled": false})"));
     EXPECT_EQ(propertiesAt(rows, 2), json(R"({"type": "separator"})"));
     EXPECT_EQ(propertiesAt(rows, 4), json(R"({"type": "separator"})"));
-    EXPECT_EQ(propertiesAt(rows, 5), json(R"({"label": "Refresh", "shortcut": [["Control", "r"]]})"));
-    EXPECT_EQ(propertiesAt(rows, 6), json(R"({"label": "Open Dashboard", "shortcut": [["Control", "d"]]})"));
+    EXPECT_EQ(propertiesAt(rows, 5),
+        json(R"({"label": "Refresh", "accessible-desc": "Refresh", "shortcut": [["Control", "r"]]})"));
+    EXPECT_EQ(propertiesAt(rows, 6),
+        json(R"({"label": "Open Dashboard", "accessible-desc": "Open Dashboard", "shortcut": [["Control", "d"]]})"));
     EXPECT_EQ(propertiesAt(rows, 7), json(R"({"type": "separator"})"));
-    EXPECT_EQ(propertiesAt(rows, 8), json(R"({"label": "Quit", "shortcut": [["Control", "q"]]})"));
+    EXPECT_EQ(
+        propertiesAt(rows, 8), json(R"({"label": "Quit", "accessible-desc": "Quit", "shortcut": [["Control", "q"]]})"));
 }
 
 TEST_F(MenuTest, ThePagesDotIsItsOnlyColourAndIsAlsoSaidInWords)
@@ -40,7 +45,15 @@ TEST_F(MenuTest, ThePagesDotIsItsOnlyColourAndIsAlsoSaidInWords)
 
     const auto dot = QByteArray::fromHex(properties.take("icon-data").toString().toLatin1());
     EXPECT_EQ(QImage::fromData(dot, "PNG"), QImage::fromData(dotImage(MenuRow::Dot::green), "PNG"));
-    EXPECT_EQ(properties, json(R"({"label": "Shop", "accessible-desc": "Operational", "tooltip": "Operational"})"));
+    EXPECT_EQ(
+        properties, json(R"({"label": "Shop", "accessible-desc": "Shop, Operational", "tooltip": "Operational"})"));
+}
+
+TEST_F(MenuTest, WhatAScreenReaderSaysForARowBeginsWithItsTitleAsItStands)
+{
+    const auto host = panelWith({page("p1", "snake_case")});
+
+    EXPECT_EQ(propertiesAt(host->rows(), 0).value("accessible-desc"), "snake_case, Operational");
 }
 
 struct LabelRow {

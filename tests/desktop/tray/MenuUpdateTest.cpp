@@ -29,9 +29,24 @@ TEST_F(MenuUpdateTest, AnOpenMenuSeesItsTextsChangeInPlace)
     rows[1].title = "Updated 15s ago";
     item.setMenu(rows);
 
-    QJsonArray updated{QJsonArray{idAt(before, 1), QJsonObject{{"label", "Updated 15s ago"}}}};
+    const QJsonObject texts{{"label", "Updated 15s ago"}, {"accessible-desc", "Updated 15s ago"}};
+    QJsonArray updated{QJsonArray{idAt(before, 1), texts}};
     EXPECT_EQ(host->takeSignals(), QJsonArray({QJsonArray{"ItemsPropertiesUpdated", updated, QJsonArray()}}));
     EXPECT_EQ(ids(host->rows()), ids(before));
+}
+
+TEST_F(MenuUpdateTest, AChangedStatusIsSaidWithThePagesTitle)
+{
+    auto rows = menuOf({page("p1", "Shop")});
+    const auto host = panelWith(rows);
+    const int id = idAt(host->rows(), 3);
+
+    rows[3].toolTip = "Down";
+    item.setMenu(rows);
+
+    const QJsonObject texts{{"accessible-desc", "Shop, Down"}, {"tooltip", "Down"}};
+    QJsonArray updated{QJsonArray{id, texts}};
+    EXPECT_EQ(host->takeSignals(), QJsonArray({QJsonArray{"ItemsPropertiesUpdated", updated, QJsonArray()}}));
 }
 
 TEST_F(MenuUpdateTest, WhatARowNoLongerHasIsTakenAwayInPlace)
@@ -44,8 +59,9 @@ TEST_F(MenuUpdateTest, WhatARowNoLongerHasIsTakenAwayInPlace)
     rows[3].toolTip.clear();
     item.setMenu(rows);
 
-    QJsonArray removed{QJsonArray{id, QJsonArray{"accessible-desc", "icon-data", "tooltip"}}};
-    EXPECT_EQ(host->takeSignals(), QJsonArray({QJsonArray{"ItemsPropertiesUpdated", QJsonArray(), removed}}));
+    QJsonArray updated{QJsonArray{id, QJsonObject{{"accessible-desc", "Shop"}}}};
+    QJsonArray removed{QJsonArray{id, QJsonArray{"icon-data", "tooltip"}}};
+    EXPECT_EQ(host->takeSignals(), QJsonArray({QJsonArray{"ItemsPropertiesUpdated", updated, removed}}));
 }
 
 TEST_F(MenuUpdateTest, AnUnchangedMenuPushesNothing)
@@ -112,7 +128,7 @@ TEST_F(MenuUpdateTest, PagesThatChangePlacesAreStillThePagesThatTheUserSaw)
     EXPECT_EQ(performed.front().representedObject, "p1");
 }
 
-TEST_F(MenuUpdateTest, OfAThousandPagesOneChangedTextIsOnePushedProperty)
+TEST_F(MenuUpdateTest, OfAThousandPagesOneChangedTextPushesOneRow)
 {
     auto rows = menuOf(thousandPages());
     const auto host = panelWith(rows);
@@ -121,7 +137,8 @@ TEST_F(MenuUpdateTest, OfAThousandPagesOneChangedTextIsOnePushedProperty)
     rows[500].title = "Renamed";
     item.setMenu(rows);
 
-    QJsonArray updated{QJsonArray{idAt(before, 500), QJsonObject{{"label", "Renamed"}}}};
+    const QJsonObject texts{{"label", "Renamed"}, {"accessible-desc", "Renamed, Operational"}};
+    QJsonArray updated{QJsonArray{idAt(before, 500), texts}};
     EXPECT_EQ(host->takeSignals(), QJsonArray({QJsonArray{"ItemsPropertiesUpdated", updated, QJsonArray()}}));
     EXPECT_EQ(before.size(), 1008);
 }
