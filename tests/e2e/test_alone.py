@@ -60,7 +60,7 @@ class Window:
             expected.save("alone-expected")
             self.picture().save("alone-seen")
             return f"\"{what}\" does not show; see the pictures alone-expected and alone-seen"
-        eventually(lambda: self.picture().rows_unlike(expected) <= ROWS_OF_A_CURSOR, difference)
+        eventually(lambda: self.picture().rows_unlike(expected) <= ROWS_OF_A_CURSOR, difference, seconds=30)
 
     def click(self, x: int, y: int) -> None:
         self._display.drag([(self._place.left + x, self._place.top + y)])

@@ -1,5 +1,7 @@
-"""The icon in a panel that is dark while programs are light, and the reverse: drawn by the program itself, and from
-installed icons. Pictures of it are kept in the build folder."""
+"""The icon in a panel that is dark while programs are light, and the reverse: from installed icons, from those beside a
+program that was only built, and drawn by a program that stands alone. Pictures of it are kept in the build folder."""
+
+import shutil
 
 import pytest
 
@@ -14,7 +16,7 @@ ENOUGH = 3.0
 DATA = program.BINARY.resolve().parent.parent
 
 
-@pytest.fixture(params=["built", "installed"])
+@pytest.fixture(params=["installed", "built", "drawn"])
 def icons(request):
     return request.param
 
@@ -25,6 +27,14 @@ def own_session(the_display, tmp_path, icons):
         if icons == "installed":
             made.surroundings["XDG_DATA_DIRS"] = f"{DATA}:/usr/share"
         yield made
+
+
+@pytest.fixture
+def binary(icons, tmp_path):
+    if icons != "drawn":
+        return program.BINARY
+    (tmp_path / "alone").mkdir()
+    return shutil.copy(program.BINARY, tmp_path / "alone")
 
 
 @pytest.fixture(params=["dark", "light"])
@@ -49,8 +59,8 @@ def size_of_what_stands_out(icon: Picture) -> tuple[int, int]:
     return tuple(max(numbers) - min(numbers) + 1 for numbers in zip(*places)) if places else (0, 0)
 
 
-def test_the_icon_stands_out_from_a_ground_of_the_other_look(panel, own_session, the_display, icons, look):
-    with program.program(own_session, the_display):
+def test_the_icon_stands_out_from_a_ground_of_the_other_look(panel, own_session, the_display, binary, icons, look):
+    with program.program(own_session, the_display, binary):
         panel.wait_for_icon()
         icon = panel.icon()
         icon.save(f"icon-{icons}-in-{look}-panel")

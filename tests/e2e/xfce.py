@@ -75,7 +75,8 @@ class Panel:
         return self._display.picture().part(*tray) if tray else None
 
     def wait_for_icon(self) -> None:
-        eventually(lambda: (icon := self.icon()) and len(icon.colours()) > 5, "no icon came")
+        # A panel takes its time to start on a busy machine.
+        eventually(lambda: (icon := self.icon()) and len(icon.colours()) > 5, "no icon came", seconds=30)
 
     def point_at_icon(self) -> None:
         self._display.point(*self._tray().centre())
