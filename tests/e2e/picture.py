@@ -9,6 +9,9 @@ from typing import Iterator, NamedTuple
 
 FOLDER = Path(os.environ["LARKSPAN_E2E_BINARIES"]).parent / "pictures"
 
+# The last step of a fading may be missing, of 255.
+SEEN = 4
+
 Colour = tuple[int, int, int]
 
 
@@ -34,9 +37,10 @@ class Picture(NamedTuple):
         return self.colours().most_common(1)[0][0]
 
     def rows_unlike(self, other: "Picture") -> int:
-        """How many rows of pixels differ from those of another picture of that size."""
+        """How many rows of pixels can be seen to differ from those of another picture of that size."""
         line = 3 * self.width
-        return sum(self.pixels[start:start + line] != other.pixels[start:start + line] for start in range(0, len(self.pixels), line))
+        rows = (slice(start, start + line) for start in range(0, len(self.pixels), line))
+        return sum(_is_unlike(self.pixels[row], other.pixels[row]) for row in rows)
 
     def save(self, name: str) -> None:
         """Writes it into the build folder, for people to look at."""
@@ -46,6 +50,10 @@ class Picture(NamedTuple):
         chunks = [(b"IHDR", header), (b"IDAT", zlib.compress(b"".join(rows))), (b"IEND", b"")]
         (FOLDER / f"{name}.png").write_bytes(b"\x89PNG\r\n\x1a\n" + b"".join(
             struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data)) for kind, data in chunks))
+
+
+def _is_unlike(row: bytes, other: bytes) -> bool:
+    return row != other and any(abs(one - another) > SEEN for one, another in zip(row, other))
 
 
 def of_x_window_dump(dump: bytes) -> Picture:
