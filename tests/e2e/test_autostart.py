@@ -40,9 +40,9 @@ def test_it_stands_in_the_panel_until_its_menu_opens_the_window(panel, start_min
     running.screen.wait_for_rows(NAMES)
 
 
-def test_a_panel_that_the_session_starts_later_has_the_icon(panel, start_minimized, the_service):
+def test_a_panel_that_the_session_starts_later_has_the_icon(panel, start_minimized, the_session):
     running = start_minimized()
-    eventually(the_service.requests, "nothing is fetched")
+    eventually(lambda: the_session.has("com.kestrune.larkspan"), "the program does not start")
     assert windows(running) == []
     panel.start()
     panel.wait_for_icon()
