@@ -35,7 +35,8 @@ int print(const platform::StatusReport& report, bool asJSON)
         std::perror("larkspan");
         return couldNotPrint;
     }
-    if (!report.problem.empty()) std::fprintf(stderr, "larkspan: %s\n", support::legibleOutside(report.problem).c_str());
+    if (!report.problem.empty())
+        std::fprintf(stderr, "larkspan: %s\n", support::legibleOutside(report.problem).c_str());
     return report.exitCode;
 }
 

@@ -16,8 +16,8 @@ struct Arguments {
 };
 
 /// Reads the arguments, or answers those after which a program does not start: `--help`, `--version`, and any that it
-/// does not know. The answer is printed to the terminal, without a display, and the code returned with which the process
-/// must end: 0, or 2 after arguments that cannot be obeyed. Call it before there is a `QCoreApplication`.
+/// does not know. The answer is printed to the terminal, without a display, and the code returned with which the
+/// process must end: 0, or 2 after arguments that cannot be obeyed. Call it before there is a `QCoreApplication`.
 std::variant<Arguments, int> readArguments(int argc, char** argv, std::string_view program, std::string_view version);
 
 }  // namespace larkspan::adapters
