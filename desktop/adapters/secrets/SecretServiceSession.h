@@ -45,8 +45,11 @@ public:
 
     /// Whether anything may have changed since the last call of `forgetChanges`. Changes that an answer reflects are
     /// known when the answer arrives.
-    bool hasChanges() const { return changes_->haveHappened(); }
-    void forgetChanges() { changes_->forget(); }
+    bool hasChanges() const { return !changes_ || changes_->haveHappened(); }
+    void forgetChanges()
+    {
+        if (changes_) changes_->forget();
+    }
 
     /// The items with these attributes. Shows no prompt.
     Found search(const platform::CredentialItem& item);
