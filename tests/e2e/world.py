@@ -18,6 +18,9 @@ from pathlib import Path
 
 CANNOT_BE_HERE = 77
 
+AS_THE_USER = "--inside-as-the-user"
+AS_IT_IS = "--inside-as-it-is"
+
 # What the service's stand-in and the tests need: its port, and the files of whoever has built the program.
 CAPABILITIES = "+net_bind_service,+dac_override"
 FOREIGN = ("QT_", "QML", "DISPLAY", "WAYLAND_", "SWAY", "WLR_", "XDG_", "GTK_", "DBUS_SESSION")
@@ -38,8 +41,8 @@ def namespaces() -> list[str] | None:
     return None
 
 
-def run(binaries: str, host: str, command: list[str]) -> int:
-    """Runs the command and returns its exit code."""
+def run(binaries: str, host: str, command: list[str], mode: str = AS_THE_USER) -> int:
+    """Runs the command and returns its exit code. With `AS_IT_IS` a command that root starts gives up root's rights itself."""
     if not shutil.which("unshare"):
         sys.exit("unshare is missing; it is in the package util-linux.")
     way = namespaces()
@@ -70,15 +73,15 @@ def run(binaries: str, host: str, command: list[str]) -> int:
         for name in list(surroundings):
             if name.lower().endswith("_proxy") or name.startswith(FOREIGN):
                 del surroundings[name]
-        return subprocess.run([*way, sys.executable, __file__, "--inside", *command], env=surroundings, check=False).returncode
+        return subprocess.run([*way, sys.executable, __file__, mode, *command], env=surroundings, check=False).returncode
 
 
-def inside(command: list[str]) -> int:
+def inside(mode: str, command: list[str]) -> int:
     world = os.environ["LARKSPAN_E2E_WORLD"]
     subprocess.run(["mount", "--bind", f"{world}/etc", "/etc"], check=True)
     try:
         bring_loopback_up()
-        as_user = ORDINARY_USER if os.geteuid() == 0 else []
+        as_user = ORDINARY_USER if os.geteuid() == 0 and mode == AS_THE_USER else []
         return subprocess.run([*as_user, *command], check=False).returncode
     finally:
         subprocess.run(["umount", "--lazy", "/etc"], check=False)
@@ -91,6 +94,6 @@ def bring_loopback_up() -> None:
 
 
 if __name__ == "__main__":
-    if sys.argv[1] == "--inside":
-        sys.exit(inside(sys.argv[2:]))
+    if sys.argv[1] in (AS_THE_USER, AS_IT_IS):
+        sys.exit(inside(sys.argv[1], sys.argv[2:]))
     sys.exit(run(sys.argv[1], sys.argv[2], sys.argv[3:]))
