@@ -67,12 +67,15 @@ class KWin:
         """What the display shows now."""
         reading, writing = os.pipe()
         read = []
-        reader = threading.Thread(target=lambda: read.append(_all_of(reading)))
+        # A compositor that refuses never closes its end.
+        reader = threading.Thread(target=lambda: read.append(_all_of(reading)), daemon=True)
         reader.start()
         options = dbus.Dictionary({}, signature="sv")
-        told = self._call("/org/kde/KWin/ScreenShot2", "org.kde.KWin.ScreenShot2", "CaptureArea", "iiuua{sv}h",
-                          (0, 0, WIDTH, HEIGHT, options, dbus.types.UnixFd(writing)))
-        os.close(writing)
+        try:
+            told = self._call("/org/kde/KWin/ScreenShot2", "org.kde.KWin.ScreenShot2", "CaptureArea", "iiuua{sv}h",
+                              (0, 0, WIDTH, HEIGHT, options, dbus.types.UnixFd(writing)))
+        finally:
+            os.close(writing)
         reader.join(10)
         return _plain(read[0], int(told["width"]), int(told["height"]), int(told["stride"]), int(told["format"]))
 
