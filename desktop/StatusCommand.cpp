@@ -35,8 +35,8 @@ int print(const platform::StatusReport& report, bool asJSON)
         std::perror("larkspan");
         return couldNotPrint;
     }
-    if (!report.problem.empty())
-        std::fprintf(stderr, "larkspan: %s\n", support::legibleOutside(report.problem).c_str());
+    const auto legible = support::legibleOutside(report.problem, support::Lines::one, report.problem.size());
+    if (!legible.empty()) std::fprintf(stderr, "larkspan: %s\n", legible.c_str());
     return report.exitCode;
 }
 

@@ -77,20 +77,19 @@ bool SingleInstance::activate(const QString& owner, const QString& activationTok
     // The owner's unique name: a call to the well-known one could start a program.
     auto call = QDBusMessage::createMethodCall(owner, path_, "org.freedesktop.Application", "Activate");
     call << platformData;
-    return isAnswered(call);
-}
-
-bool SingleInstance::isThere(const QString& owner)
-{
-    return isAnswered(QDBusMessage::createMethodCall(owner, path_, "org.freedesktop.DBus.Peer", "Ping"));
-}
-
-bool SingleInstance::isAnswered(const QDBusMessage& call)
-{
     const auto reply = bus_.call(call, QDBus::Block, static_cast<int>(patience_.count()));
     // This program answers without words. Whatever says something else is not one of its instances, and would leave the
     // user without a window.
     return reply.type() == QDBusMessage::ReplyMessage && reply.signature().isEmpty();
+}
+
+bool SingleInstance::isThere(const QString& owner)
+{
+    const auto question
+        = QDBusMessage::createMethodCall(owner, path_, "org.freedesktop.DBus.Introspectable", "Introspect");
+    // Every program on the bus answers a ping, but only an instance has this object.
+    const QDBusReply<QString> described = bus_.call(question, QDBus::Block, static_cast<int>(patience_.count()));
+    return described.isValid() && described.value().contains("\"org.freedesktop.Application\"");
 }
 
 void SingleInstance::watchForReplacement()

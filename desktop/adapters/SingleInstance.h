@@ -51,7 +51,6 @@ private:
     QString owner() const;
     bool activate(const QString& owner, const QString& activationToken);
     bool isThere(const QString& owner);
-    bool isAnswered(const QDBusMessage& call);
     void watchForReplacement();
 
     QDBusConnection bus_;

@@ -9,8 +9,8 @@ namespace larkspan::support {
 
 void fatalError(std::string_view message)
 {
-    // It may quote the service.
-    std::fprintf(stderr, "larkspan: fatal: %s\n", legibleOutside(message).c_str());
+    // It may quote the service, whole.
+    std::fprintf(stderr, "larkspan: fatal: %s\n", legibleOutside(message, Lines::one, message.size()).c_str());
     std::abort();
 }
 

@@ -172,6 +172,17 @@ TEST(SingleInstance, AnotherProgramUnderTheNameIsNoInstance)
     EXPECT_EQ(first.hear(), "first");
 }
 
+TEST(SingleInstance, AnotherProgramUnderTheNameIsNoInstanceForAStartInThePanelAlone)
+{
+    const PrivateBus bus;
+    auto other = bus.connect();
+    ASSERT_TRUE(other.registerService(programName));
+
+    Start first(bus.address(), {}, {}, programName, {"--minimized"});
+
+    EXPECT_EQ(first.hear(), "first");
+}
+
 TEST(SingleInstance, TheNameIsFreeAgainWhenTheFirstHasEnded)
 {
     const PrivateBus bus;

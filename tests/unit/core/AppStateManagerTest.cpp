@@ -174,6 +174,13 @@ TEST_F(RefreshDeathTest, TheSameIdTwiceInTheOverviewEndsTheProcess)
     EXPECT_DEATH(refresh(), "Duplicate values for key: 'a'");
 }
 
+TEST_F(RefreshDeathTest, TheMessageOfAnIdThatOccursTwiceHasTheWholeId)
+{
+    const std::string id(300, 'x');
+    servePages({id}, {{id, "operational"}, {id, "degraded"}});
+    EXPECT_DEATH(refresh(), "Duplicate values for key: '" + id + "'");
+}
+
 TEST_F(Refresh, AsksForTheOverviewLast)
 {
     state->refreshNow();
