@@ -1,19 +1,15 @@
-"""A Wayland desktop that minimises windows, in memory, and its user's orders by scripts as the desktop's own tools give
+"""A Wayland desktop that minimises windows, and its user's orders by scripts as the desktop's own tools give
 them."""
 
 import json
-import os
 import re
 import shutil
-import threading
 from contextlib import contextmanager
 from pathlib import Path
 from typing import Iterator
 
-import dbus
-
+from display import Display
 from patience import eventually
-from picture import Picture
 from processes import running
 from session import Session
 
@@ -22,9 +18,7 @@ SOCKET = "wayland-larkspan"
 SERVICE = "org.kde.KWin"
 SURROUNDINGS = {
     # Without a graphics card.
-    "KWIN_COMPOSE": "O2ES",
-    "LIBGL_ALWAYS_SOFTWARE": "1",
-    "KWIN_SCREENSHOT_NO_PERMISSION_CHECKS": "1",
+    "KWIN_COMPOSE": "Q",
     # What scripts print is all that can be read of them.
     "QT_FORCE_STDERR_LOGGING": "1",
     "QT_LOGGING_RULES": "js=true;qml=true;kwin_scripting=true",
@@ -38,8 +32,6 @@ print("larkspan done {number}");
 """
 TELL = 'print("larkspan window " + JSON.stringify({title: window.caption, id: String(window.resourceClass), ' \
        'is_minimised: window.minimized, has_focus: window.active}));'
-# By Qt's numbers of picture formats: the places of red, green and blue in a pixel.
-FORMATS = {4: (2, 1, 0), 5: (2, 1, 0), 6: (2, 1, 0), 16: (0, 1, 2), 17: (0, 1, 2), 18: (0, 1, 2)}
 
 
 class KWin:
@@ -56,28 +48,18 @@ class KWin:
         return eventually(lambda: self.windows(process_id), "no window came")[0]
 
     def close(self, process_id: int) -> None:
-        """What the button in the title bar does."""
+        """What the button in the title bar does, which has to minimise the window."""
         self._run(process_id, "window.closeWindow();")
+        eventually(lambda: self.window(process_id)["is_minimised"], "closing does not minimise")
 
     def activate(self, process_id: int) -> None:
         """What a taskbar does with a minimised window."""
         self._run(process_id, "window.minimized = false; activate(window);")
+        self.wait_until_in_front(process_id)
 
-    def picture(self) -> Picture:
-        """What the display shows now."""
-        reading, writing = os.pipe()
-        read = []
-        # A compositor that refuses never closes its end.
-        reader = threading.Thread(target=lambda: read.append(_all_of(reading)), daemon=True)
-        reader.start()
-        options = dbus.Dictionary({}, signature="sv")
-        try:
-            told = self._call("/org/kde/KWin/ScreenShot2", "org.kde.KWin.ScreenShot2", "CaptureArea", "iiuua{sv}h",
-                              (0, 0, WIDTH, HEIGHT, options, dbus.types.UnixFd(writing)))
-        finally:
-            os.close(writing)
-        reader.join(10)
-        return _plain(read[0], int(told["width"]), int(told["height"]), int(told["stride"]), int(told["format"]))
+    def wait_until_in_front(self, process_id: int) -> None:
+        eventually(lambda: (window := self.window(process_id))["has_focus"] and not window["is_minimised"],
+                   lambda: f"the window does not come back: {self.window(process_id)}")
 
     def _run(self, process_id: int, order: str) -> str:
         """Returns what is written to the log until the script is done."""
@@ -95,28 +77,16 @@ class KWin:
         return self._session.bus.call_blocking(SERVICE, path, interface, method, signature, arguments)
 
 
-def _all_of(pipe: int) -> bytes:
-    with os.fdopen(pipe, "rb") as stream:
-        return stream.read()
-
-
-def _plain(content: bytes, width: int, height: int, stride: int, kind: int) -> Picture:
-    lines = b"".join(content[line:line + 4 * width] for line in range(0, stride * height, stride))
-    pixels = bytearray(3 * width * height)
-    for channel, place in enumerate(FORMATS[kind]):
-        pixels[channel::3] = lines[place::4]
-    return Picture(width, height, bytes(pixels))
-
-
 @contextmanager
-def kwin(session: Session) -> Iterator[KWin]:
-    """Started in the session, whose programs are on it from then on."""
+def kwin(session: Session, on: Display | None = None) -> Iterator[KWin]:
+    """Started in the session, whose programs are on it from then on; to be seen if it is on a display."""
     runtime, home = (Path(session.surroundings[name]) for name in ("XDG_RUNTIME_DIR", "HOME"))
     # The installed one asks for a capability that a container may forbid; a copy has none.
     program, log = home / "kwin_wayland", home / "kwin.log"
     shutil.copyfile(shutil.which("kwin_wayland"), program)
     program.chmod(0o700)
-    command = [str(program), "--virtual", "--no-lockscreen", "--width", str(WIDTH), "--height", str(HEIGHT), "--socket", SOCKET]
+    place = ["--x11-display", on.name] if on else ["--virtual"]
+    command = [str(program), *place, "--no-lockscreen", "--width", str(WIDTH), "--height", str(HEIGHT), "--socket", SOCKET]
     with log.open("w") as words, running(*command, env=session.surroundings | SURROUNDINGS, stdout=words, stderr=words):
         eventually(lambda: (runtime / SOCKET).is_socket() and session.has(SERVICE), lambda: f"no compositor came; it says: {log.read_text()}")
         session.surroundings |= {"WAYLAND_DISPLAY": SOCKET, "QT_QPA_PLATFORM": "wayland", "XDG_SESSION_TYPE": "wayland",

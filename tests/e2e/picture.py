@@ -2,10 +2,13 @@
 
 import os
 import struct
+import time
 import zlib
 from collections import Counter
 from pathlib import Path
-from typing import Iterator, NamedTuple
+from typing import Callable, Iterator, NamedTuple
+
+from patience import eventually
 
 FOLDER = Path(os.environ["LARKSPAN_E2E_BINARIES"]).parent / "pictures"
 
@@ -50,6 +53,16 @@ class Picture(NamedTuple):
         chunks = [(b"IHDR", header), (b"IDAT", zlib.compress(b"".join(rows))), (b"IEND", b"")]
         (FOLDER / f"{name}.png").write_bytes(b"\x89PNG\r\n\x1a\n" + b"".join(
             struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data)) for kind, data in chunks))
+
+
+def at_rest(take: Callable[[], Picture], rows_that_may_move: int = 0) -> Picture:
+    """A picture once nothing moves any more; what a screen reader has been told may be painted later."""
+    def settled() -> Picture | None:
+        before = take()
+        time.sleep(0.4)
+        now = take()
+        return now if now.rows_unlike(before) <= rows_that_may_move else None
+    return eventually(settled, "what is to be seen does not come to rest")
 
 
 def _is_unlike(row: bytes, other: bytes) -> bool:

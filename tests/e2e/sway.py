@@ -2,7 +2,6 @@
 
 import json
 import subprocess
-import time
 from contextlib import contextmanager
 from pathlib import Path
 from typing import Iterator
@@ -12,7 +11,7 @@ import pytest
 import session
 from hands import Hands
 from patience import eventually
-from picture import Picture
+from picture import Picture, at_rest
 from processes import running
 
 WIDTH, HEIGHT = 1280, 960
@@ -76,13 +75,7 @@ class Sway:
         return Picture(int(width), int(height), pixels)
 
     def still_picture(self) -> Picture:
-        """The same once nothing moves any more; what a screen reader has been told may be painted later."""
-        def settled() -> Picture | None:
-            before = self.picture()
-            time.sleep(0.3)
-            now = self.picture()
-            return now if now == before else None
-        return eventually(settled, "the display does not come to rest")
+        return at_rest(self.picture)
 
     def part(self, window: dict, left: int, top: int, width: int, height: int) -> Picture:
         """A place in a window, in the display's own pixels."""

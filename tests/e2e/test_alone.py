@@ -1,7 +1,6 @@
 """A desktop without a session bus. A screen reader cannot read the window then, so its pictures are compared with those
 of a program that only lacks a keyring, step by step."""
 
-import time
 from typing import NamedTuple
 
 import pytest
@@ -10,7 +9,7 @@ import lone
 import program
 from display import Place
 from patience import eventually
-from picture import Picture
+from picture import Picture, at_rest
 from program import Program
 from service import KEY
 from test_key import MISSING
@@ -48,13 +47,7 @@ class Window:
         return self._display.picture().part(*self._place)
 
     def still_picture(self) -> Picture:
-        """Once nothing moves but a cursor."""
-        def still() -> Picture | None:
-            before = self.picture()
-            time.sleep(0.4)
-            now = self.picture()
-            return now if now.rows_unlike(before) <= ROWS_OF_A_CURSOR else None
-        return eventually(still, "the window does not come to rest")
+        return at_rest(self.picture, rows_that_may_move=ROWS_OF_A_CURSOR)
 
     def wait_for(self, expected: Picture, what: str) -> None:
         def difference() -> str:
