@@ -1,5 +1,6 @@
 #include "qml/MainWindow.h"
 
+#include <QKeyEvent>
 #include <QQmlComponent>
 #include <QtQml/QQmlExtensionPlugin>
 
@@ -59,8 +60,19 @@ MainWindow::MainWindow(Content content, platform::Executor& main)
         const bool isSeen = visibility != QWindow::Minimized && visibility != QWindow::Hidden;
         isSeen ? screenUpdates_.release() : screenUpdates_.hold();
     });
+    window_->installEventFilter(this);
     // Declared only in QML, so it can be connected only by a string.
     connect(window_.get(), SIGNAL(quitRequested()), this, SIGNAL(quitRequested()));
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    // Keys that arrive together, as from a password manager, are handled in one turn: Tab must find the button that the
+    // letter before it has enabled. Of each key, shortcuts are asked first.
+    const bool isKey = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
+    // But an impatient second Escape means the page that the first one leaves.
+    if (isKey && static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape) screenUpdates_.deliver();
+    return QObject::eventFilter(watched, event);
 }
 
 }  // namespace larkspan

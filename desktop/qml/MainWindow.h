@@ -45,6 +45,8 @@ signals:
     void quitRequested();
 
 private:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
     support::ScreenUpdates screenUpdates_;
     bridge::AppearanceBridge appearance_;
     bridge::DashboardBridge dashboard_;

@@ -18,6 +18,10 @@ public:
     void hold();
     void release();
 
+    /// Notifies of all changes so far, for what may come before the next turn: input that arrived together is handled
+    /// in one.
+    void deliver();
+
 private:
     friend class AfterChanges;
 
@@ -28,12 +32,13 @@ private:
 
     struct Board {
         platform::Executor& main;
-        std::vector<std::weak_ptr<Reaction>> waiting{};
+        std::vector<std::weak_ptr<Reaction>> pending{};
         bool isHeld = false;
     };
 
     static void announce(const std::shared_ptr<Board>& board, const std::shared_ptr<Reaction>& reaction);
     static void post(const std::shared_ptr<Board>& board, const std::shared_ptr<Reaction>& reaction);
+    static void notify(Reaction& reaction);
 
     std::shared_ptr<Board> board_;
 };

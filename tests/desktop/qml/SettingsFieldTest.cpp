@@ -139,6 +139,19 @@ TEST_F(SettingsOnScreen, AKeyIsPastedWithSurroundingBlanksAndNewlinesAndStoredWi
     EXPECT_EQ(api::KeychainHelper::readAPIKey(credentials), "secret");
 }
 
+TEST_F(SettingsOnScreen, KeysThatArriveAllAtOnceGoWhereTheyWouldGoOneByOne)
+{
+    openWithoutKey();
+    answerKey(200);
+    // As a password manager types them.
+    for (const auto letter : {'k', 'e', 'y'}) QTest::keyClick(&window(), letter);
+    QTest::keyClick(&window(), Qt::Key_Tab);
+    QTest::keyClick(&window(), Qt::Key_Return);
+    settle();
+    EXPECT_EQ(api::KeychainHelper::readAPIKey(credentials), "key");
+    EXPECT_TRUE(isOpen());
+}
+
 }  // namespace
 
 }  // namespace larkspan

@@ -77,6 +77,44 @@ TEST_F(UpdatesOfAWindow, AChangeThatIsOnItsWayWhenNobodySeesItAnyMoreIsKeptToo)
     EXPECT_EQ(told, 1);
 }
 
+TEST_F(UpdatesOfAWindow, WhatTheUserDoesNextMeetsScreensThatKnowAllChanges)
+{
+    const auto notice = counting(told);
+    notice.announce();
+    updates.deliver();
+    EXPECT_EQ(told, 1);
+    main.run();
+    EXPECT_EQ(told, 1);
+
+    notice.announce();
+    main.run();
+    updates.deliver();
+    EXPECT_EQ(told, 2);
+}
+
+TEST_F(UpdatesOfAWindow, AChangeThatANoticeBringsAboutHasANoticeOfItsOwn)
+{
+    const auto second = counting(told);
+    const AfterChanges first(updates, [&second] { second.announce(); });
+    first.announce();
+    updates.deliver();
+    EXPECT_EQ(told, 0);
+    main.run();
+    EXPECT_EQ(told, 1);
+}
+
+TEST_F(UpdatesOfAWindow, WhatAProgramDoesInAWindowThatNobodySeesBringsNoNotice)
+{
+    const auto notice = counting(told);
+    notice.announce();
+    updates.hold();
+    updates.deliver();
+    EXPECT_EQ(told, 0);
+    updates.release();
+    main.run();
+    EXPECT_EQ(told, 1);
+}
+
 TEST_F(UpdatesOfAWindow, AScreenThatWasDestroyedBeforeItsNoticeIsNotNotified)
 {
     const auto tell = [this] { ++told; };
