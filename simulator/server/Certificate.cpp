@@ -8,8 +8,6 @@ namespace larkspan::simulator {
 
 namespace {
 
-using namespace std::chrono_literals;
-
 using BigNumberPointer = std::unique_ptr<BIGNUM, OpenSslFree<BN_free>>;
 using ExtensionPointer = std::unique_ptr<X509_EXTENSION, OpenSslFree<X509_EXTENSION_free>>;
 
@@ -56,7 +54,7 @@ void sign(X509* certificate, const X509* issuer, EVP_PKEY* key)
 
 Identity makeAuthority(const std::string& name)
 {
-    auto authority = blank(name, {-1h, std::chrono::years(10)});
+    auto authority = blank(name, {-std::chrono::years(2), std::chrono::years(10)});
     auto* certificate = authority.certificate.get();
     extend(certificate, certificate, NID_basic_constraints, "critical,CA:TRUE");
     extend(certificate, certificate, NID_key_usage, "critical,keyCertSign,cRLSign");

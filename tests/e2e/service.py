@@ -6,6 +6,7 @@ import ssl
 import subprocess
 import urllib.request
 from contextlib import contextmanager
+from datetime import datetime
 from pathlib import Path
 from typing import Iterator
 
@@ -77,6 +78,12 @@ class Service:
     def plan_maintenance(self, title: str, **details: str) -> str:
         """Plans a maintenance and returns its id."""
         return self._order("POST", "maintenances", {"title": title, **details})["id"]
+
+    def schedule(self, title: str, page: str, start: datetime, end: datetime) -> None:
+        """Plans a maintenance for that time, as another client of the account would."""
+        form = "%Y-%m-%dT%H:%M:%SZ"
+        dates = {"start_at": start.strftime(form), "end_at": end.strftime(form)}
+        self._ask("POST", "v1/maintenances", {"title": title, "status_page_id": page} | dates)
 
     def add_component_group(self, name: str, page: str) -> str:
         """Adds a component group and returns its id."""
