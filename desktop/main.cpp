@@ -18,6 +18,7 @@
 #include "adapters/secrets/SecretServiceStore.h"
 #include "qml/Fonts.h"
 #include "qml/Renderer.h"
+#include "support/FatalError.h"
 
 namespace larkspan {
 
@@ -97,6 +98,7 @@ int main(int argc, char* argv[])
 {
     using namespace larkspan;
 
+    support::endWhenMemoryRunsOut();
     adapters::hardenProcess();
     const auto read = adapters::readArguments(argc, argv, "larkspan", BuildSettings::versionAndBuild);
     if (const auto* const code = std::get_if<int>(&read)) return *code;

@@ -17,6 +17,7 @@
 #include "demo/DemoAccount.h"
 #include "qml/Fonts.h"
 #include "qml/Renderer.h"
+#include "support/FatalError.h"
 
 namespace larkspan {
 
@@ -83,6 +84,7 @@ int main(int argc, char* argv[])
 {
     using namespace larkspan;
 
+    support::endWhenMemoryRunsOut();
     const auto read = adapters::readArguments(argc, argv, "larkspan-demo", BuildSettings::versionAndBuild);
     if (const auto* const code = std::get_if<int>(&read)) return *code;
     const auto arguments = std::get<adapters::Arguments>(read);
