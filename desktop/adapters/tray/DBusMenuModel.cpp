@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <map>
 #include <tuple>
+#include <utility>
 
 #include "adapters/tray/MenuRowProperties.h"
+#include "platform/BoundedMenu.h"
 
 namespace larkspan::adapters {
 
@@ -88,8 +90,10 @@ QVariantMap rootProperties()
 
 }  // namespace
 
-DBusMenuModel::Change DBusMenuModel::setRows(const std::vector<MenuRow>& rows)
+DBusMenuModel::Change DBusMenuModel::setRows(const std::vector<MenuRow>& allRows)
 {
+    // The bus cuts a program off that sends a message too large for it.
+    auto rows = platform::boundedMenu(allRows);
     Change change;
     if (hasSameItems(rows)) {
         for (std::size_t position = 0; position < rows.size(); ++position) {
@@ -98,7 +102,7 @@ DBusMenuModel::Change DBusMenuModel::setRows(const std::vector<MenuRow>& rows)
     } else {
         arrange(rows, change);
     }
-    rows_ = rows;
+    rows_ = std::move(rows);
     return change;
 }
 

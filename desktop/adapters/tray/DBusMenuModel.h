@@ -27,7 +27,8 @@ public:
         bool isLayoutChanged = false;
     };
 
-    Change setRows(const std::vector<platform::MenuRow>& rows);
+    /// Of very many pages only the first are taken over.
+    Change setRows(const std::vector<platform::MenuRow>& allRows);
 
     /// The number of changes of the layout so far.
     uint revision() const { return revision_; }
