@@ -27,13 +27,14 @@ workspace::AboutKestruneView::Bundle bundle()
 
 }  // namespace
 
-Application::Application(adapters::MainExecutor& main, ServiceAccess service)
+Application::Application(adapters::MainExecutor& main, ServiceAccess service, const adapters::SessionBus& bus)
     : main_(main)
     , service_(std::move(service))
-    , appearance_(QDBusConnection::sessionBus())
-    , notifications_(QDBusConnection::sessionBus())
+    , bus_(bus)
+    , appearance_(bus)
+    , notifications_(bus)
     , updater_(QDBusConnection::systemBus())
-    , tray_(QDBusConnection::sessionBus(), appearance_)
+    , tray_(bus, appearance_)
     , menu_([this] { app_->showingAbout = true; })
     , statusItems_({tray_, menu_})
     , about_(bundle(), links_)
@@ -82,7 +83,7 @@ int Application::run(adapters::SingleInstance& instance, bool isMinimized)
     connect(&instance, &adapters::SingleInstance::replaced, this, &Application::quit);
     connect(&instance, &adapters::SingleInstance::activated, this, &Application::reopen);
     const adapters::StatusService status(
-        QDBusConnection::sessionBus(), instance.name(), [this] { return workspace::statusReport(*app_->appState()); });
+        bus_, instance.name(), [this] { return workspace::statusReport(*app_->appState()); });
     appearance_.catchUp();
     auto& rules = app_->windowLifecycleDelegate();
     if (isMinimized) {

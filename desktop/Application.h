@@ -15,6 +15,7 @@
 #include "adapters/QtNetworkPathMonitor.h"
 #include "adapters/QtTimers.h"
 #include "adapters/QtWindowSystem.h"
+#include "adapters/SessionBus.h"
 #include "adapters/SingleInstance.h"
 #include "adapters/StatusItems.h"
 #include "adapters/SystemClock.h"
@@ -33,8 +34,9 @@ class MainWindow;
 /// The program on top of a `QGuiApplication`: constructs its parts and destroys them in order. Main thread only.
 class Application final : public QObject {
 public:
-    /// `main` is the executor of this thread; nothing else may run on it once the application is destroyed.
-    Application(adapters::MainExecutor& main, ServiceAccess service);
+    /// `main` is the executor of this thread; nothing else may run on it once the application is destroyed. `bus` must
+    /// outlive the application.
+    Application(adapters::MainExecutor& main, ServiceAccess service, const adapters::SessionBus& bus);
     ~Application() override;
 
     /// Runs until the user, a signal or another process that has taken over `instance` ends the program. Shows the
@@ -50,6 +52,7 @@ private:
 
     adapters::MainExecutor& main_;
     ServiceAccess service_;
+    const adapters::SessionBus& bus_;
     adapters::Appearance appearance_;
     adapters::QtTimers timers_;
     adapters::SystemClock clock_;

@@ -1,7 +1,6 @@
 #include "StatusCommand.h"
 
 #include <QCoreApplication>
-#include <QDBusConnection>
 
 #include <cstdio>
 #include <memory>
@@ -42,9 +41,10 @@ int print(const platform::StatusReport& report, bool asJSON)
 
 }  // namespace
 
-int printStatus(const QString& name, bool asJSON, const std::function<platform::StatusReport()>& fetch)
+int printStatus(
+    QDBusConnection bus, const QString& name, bool asJSON, const std::function<platform::StatusReport()>& fetch)
 {
-    const auto told = adapters::StatusService::ask(QDBusConnection::sessionBus(), name);
+    const auto told = adapters::StatusService::ask(std::move(bus), name);
     return print(told ? *told : fetch(), asJSON);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDBusConnection>
 #include <QString>
 
 #include <functional>
@@ -11,9 +12,10 @@
 namespace larkspan {
 
 /// Prints the status to the terminal, its problem to standard error, and returns the exit code. The running program
-/// with this `name` on the session bus is asked, and only if it has no answer, `fetch` is called. Needs a
+/// with this `name` on the session's `bus` is asked, and only if it has no answer, `fetch` is called. Needs a
 /// `QCoreApplication`.
-int printStatus(const QString& name, bool asJSON, const std::function<platform::StatusReport()>& fetch);
+int printStatus(
+    QDBusConnection bus, const QString& name, bool asJSON, const std::function<platform::StatusReport()>& fetch);
 
 /// Fetches the account once, without a window; blocks until the answer is there.
 platform::StatusReport fetchStatus(adapters::MainExecutor& main, ServiceAccess service);

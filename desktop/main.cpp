@@ -1,4 +1,3 @@
-#include <QDBusConnection>
 #include <QGuiApplication>
 
 #include <optional>
@@ -11,6 +10,7 @@
 #include "adapters/CommandLine.h"
 #include "adapters/HardenProcess.h"
 #include "adapters/MainExecutor.h"
+#include "adapters/SessionBus.h"
 #include "adapters/SingleInstance.h"
 #include "adapters/http/ClientLoop.h"
 #include "adapters/http/CurlTransport.h"
@@ -29,8 +29,8 @@ using Prompts = adapters::SecretServiceStore::Prompts;
 /// The service over HTTPS, with the key in the user's keyring.
 class Service {
 public:
-    Service(adapters::MainExecutor& main, Prompts prompts)
-        : proxies_(QDBusConnection::sessionBus(), main)
+    Service(adapters::MainExecutor& main, const adapters::SessionBus& bus, Prompts prompts)
+        : proxies_(bus, main)
         , credentials_(std::chrono::seconds(10), prompts)
     {
         // The keyring may have to be started, and negotiates a cipher: both happen while the screens load.
@@ -63,9 +63,10 @@ private:
 int tellStatus(int argc, char** argv, const QString& name, bool asJSON)
 {
     const QCoreApplication qt(argc, argv);
-    return printStatus(name, asJSON, [] {
+    const adapters::SessionBus bus;
+    return printStatus(bus.connection(), name, asJSON, [&bus] {
         adapters::MainExecutor main;
-        Service service(main, Prompts::never);
+        Service service(main, bus, Prompts::never);
         return fetchStatus(main, service.access());
     });
 }
@@ -78,15 +79,16 @@ int start(int argc, char** argv, const QString& name, bool isMinimized)
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Kestrune"));
     QGuiApplication::setDesktopFileName(name);
 
-    adapters::SingleInstance instance(QDBusConnection::sessionBus(), name);
+    const adapters::SessionBus bus;
+    adapters::SingleInstance instance(bus, name);
     using adapters::SingleInstance;
     const auto raise = isMinimized ? SingleInstance::Raise::no : SingleInstance::Raise::yes;
     if (instance.claim(activationToken, raise) == SingleInstance::Standing::second) return 0;
     lookUpFonts();
 
     adapters::MainExecutor main;
-    Service service(main, Prompts::allowed);
-    Application application(main, service.access());
+    Service service(main, bus, Prompts::allowed);
+    Application application(main, service.access(), bus);
     return application.run(instance, isMinimized);
 }
 

@@ -2,7 +2,6 @@
 
 #include <QDBusMessage>
 #include <QDBusPendingReply>
-#include <QDBusServiceWatcher>
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPalette>
@@ -56,20 +55,27 @@ bool isPaletteDark()
 
 }  // namespace
 
-Appearance::Appearance(QDBusConnection bus, QObject* parent)
+Appearance::Appearance(const SessionBus& bus, QObject* parent)
     : QObject(parent)
-    , bus_(std::move(bus))
+    , bus_(bus)
+    , portal_(portal, bus_.connection(), QDBusServiceWatcher::WatchForRegistration)
 {
     qGuiApp->installEventFilter(this);
     update();
-    if (!bus_.isConnected()) return;
-
     // Otherwise the connection works only if other code has registered the type of the slot's argument before.
     qRegisterMetaType<QDBusVariant>();
-    bus_.connect(portal, portalPath, settingsInterface, "SettingChanged", this,
+    connect(&portal_, &QDBusServiceWatcher::serviceRegistered, this, &Appearance::readAll);
+    connect(&bus_, &SessionBus::changed, this, &Appearance::followPortal);
+    followPortal();
+}
+
+void Appearance::followPortal()
+{
+    auto bus = bus_.connection();
+    if (!bus.isConnected()) return;
+    portal_.setConnection(bus);
+    bus.connect(portal, portalPath, settingsInterface, "SettingChanged", this,
         SLOT(onSettingChanged(QString, QString, QDBusVariant)));
-    auto* const watcher = new QDBusServiceWatcher(portal, bus_, QDBusServiceWatcher::WatchForRegistration, this);
-    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &Appearance::readAll);
     readAll();
 }
 
@@ -102,7 +108,7 @@ void Appearance::readAll()
     for (const auto& setting : settings) {
         auto call = QDBusMessage::createMethodCall(portal, portalPath, settingsInterface, "Read");
         call << setting.group << setting.key;
-        questions_.push_back({setting.name(), bus_.asyncCall(call)});
+        questions_.push_back({setting.name(), bus_.connection().asyncCall(call)});
         whenAnswered(this, questions_.back().answer, [this](const auto&) { catchUp(); });
     }
 }

@@ -1,13 +1,15 @@
 #pragma once
 
-#include <QDBusConnection>
 #include <QDBusPendingCall>
+#include <QDBusServiceWatcher>
 #include <QDBusVariant>
 #include <QHash>
 #include <QObject>
 #include <QVariant>
 
 #include <vector>
+
+#include "adapters/SessionBus.h"
 
 namespace larkspan::adapters {
 
@@ -20,7 +22,8 @@ class Appearance final : public QObject {
     Q_PROPERTY(bool reducesMotion READ reducesMotion NOTIFY reducesMotionChanged)
 
 public:
-    explicit Appearance(QDBusConnection bus, QObject* parent = nullptr);
+    /// `bus` must outlive this object.
+    explicit Appearance(const SessionBus& bus, QObject* parent = nullptr);
 
     bool isDark() const { return isDark_; }
     bool isHighContrast() const { return isHighContrast_; }
@@ -47,11 +50,13 @@ private:
         QDBusPendingCall answer;
     };
 
+    void followPortal();
     void readAll();
     void take(const Question& question);
     void update();
 
-    QDBusConnection bus_;
+    const SessionBus& bus_;
+    QDBusServiceWatcher portal_;
     std::vector<Question> questions_;
     QHash<QString, QVariant> values_;
     bool isDark_ = false;

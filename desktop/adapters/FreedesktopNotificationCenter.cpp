@@ -2,7 +2,6 @@
 
 #include <QDBusMessage>
 #include <QDBusPendingReply>
-#include <QDBusServiceWatcher>
 #include <QVariantMap>
 
 #include <algorithm>
@@ -38,22 +37,31 @@ QVariantMap hintsOf(const NotificationText& text)
 
 }  // namespace
 
-FreedesktopNotificationCenter::FreedesktopNotificationCenter(QDBusConnection bus, std::chrono::milliseconds deadline)
-    : bus_(std::move(bus))
+FreedesktopNotificationCenter::FreedesktopNotificationCenter(const SessionBus& bus, std::chrono::milliseconds deadline)
+    : bus_(bus)
+    , server_(server, bus_.connection(), QDBusServiceWatcher::WatchForOwnerChange)
     , deadline_(static_cast<int>(deadline.count()))
 {
-    if (!bus_.isConnected()) return;
+    connect(&server_, &QDBusServiceWatcher::serviceOwnerChanged, this, [this](const QString&, const QString& oldOwner) {
+        if (!oldOwner.isEmpty()) forgetServer();
+    });
+    connect(&bus_, &SessionBus::changed, this, &FreedesktopNotificationCenter::followServer);
+    followServer();
+}
 
-    bus_.connect(
+void FreedesktopNotificationCenter::followServer()
+{
+    forgetServer();
+    auto bus = bus_.connection();
+    if (!bus.isConnected()) return;
+    server_.setConnection(bus);
+    bus.connect(
         server, serverPath, serverInterface, "NotificationClosed", this, SLOT(onNotificationClosed(uint, uint)));
-    auto* const watcher = new QDBusServiceWatcher(server, bus_, QDBusServiceWatcher::WatchForOwnerChange, this);
-    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
-        [this](const QString&, const QString& oldOwner) { onOwnerChanged(oldOwner); });
 }
 
 void FreedesktopNotificationCenter::add(const platform::NotificationRequest& request)
 {
-    if (!bus_.isConnected()) return;
+    if (!bus_.connection().isConnected()) return;
 
     waiting_.add({request.identifier, NotificationText(request)});
     sendWaiting();
@@ -64,9 +72,8 @@ void FreedesktopNotificationCenter::onNotificationClosed(uint serverId, uint)
     std::erase_if(shown_, [serverId](const Shown& shown) { return shown.serverId == serverId; });
 }
 
-void FreedesktopNotificationCenter::onOwnerChanged(const QString& oldOwner)
+void FreedesktopNotificationCenter::forgetServer()
 {
-    if (oldOwner.isEmpty()) return;
     ++serversGone_;
     markup_.reset();
     shown_.clear();
@@ -140,7 +147,7 @@ QDBusPendingCall FreedesktopNotificationCenter::call(const QString& method, cons
 {
     auto message = QDBusMessage::createMethodCall(server, serverPath, serverInterface, method);
     message.setArguments(arguments);
-    return bus_.asyncCall(message, deadline_);
+    return bus_.connection().asyncCall(message, deadline_);
 }
 
 }  // namespace larkspan::adapters

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDBusConnection>
+#include <QDBusServiceWatcher>
 #include <QObject>
 #include <QVariantList>
 
@@ -12,6 +12,7 @@
 #include <string>
 
 #include "adapters/NotificationText.h"
+#include "adapters/SessionBus.h"
 #include "adapters/WaitingNotices.h"
 #include "platform/NotificationCenter.h"
 
@@ -25,8 +26,9 @@ class FreedesktopNotificationCenter final : public QObject, public platform::Not
     Q_OBJECT
 
 public:
+    /// `bus` must outlive this object.
     explicit FreedesktopNotificationCenter(
-        QDBusConnection bus, std::chrono::milliseconds deadline = std::chrono::seconds(5));
+        const SessionBus& bus, std::chrono::milliseconds deadline = std::chrono::seconds(5));
 
     /// Nothing to ask: users decide in the desktop's settings which programs may notify, and programs are not told.
     void requestAuthorization() override {}
@@ -41,7 +43,8 @@ private:
         uint serverId;
     };
 
-    void onOwnerChanged(const QString& oldOwner);
+    void followServer();
+    void forgetServer();
     void sendWaiting();
     void askForMarkup();
     void sendAll(BodyMarkup markup);
@@ -50,7 +53,8 @@ private:
     uint serverIdOf(const std::string& identifier) const;
     QDBusPendingCall call(const QString& method, const QVariantList& arguments = {});
 
-    QDBusConnection bus_;
+    const SessionBus& bus_;
+    QDBusServiceWatcher server_;
     int deadline_;
     /// Incremented when a server disappears, to tell its late answers from those of its successor.
     std::uint64_t serversGone_ = 0;

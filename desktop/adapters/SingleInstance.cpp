@@ -1,6 +1,5 @@
 #include "adapters/SingleInstance.h"
 
-#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusReply>
 
@@ -19,9 +18,9 @@ constexpr int mostRounds = 3;
 
 }  // namespace
 
-SingleInstance::SingleInstance(QDBusConnection bus, QString name, std::chrono::milliseconds patience, QObject* parent)
+SingleInstance::SingleInstance(const SessionBus& bus, QString name, std::chrono::milliseconds patience, QObject* parent)
     : QObject(parent)
-    , bus_(std::move(bus))
+    , bus_(bus)
     , name_(std::move(name))
     , path_(objectPath(name_))
     , patience_(patience)
@@ -31,40 +30,55 @@ SingleInstance::SingleInstance(QDBusConnection bus, QString name, std::chrono::m
 
 SingleInstance::~SingleInstance()
 {
-    bus_.unregisterObject(path_);
-    bus_.unregisterService(name_);
+    auto bus = bus_.connection();
+    bus.unregisterObject(path_);
+    bus.unregisterService(name_);
 }
 
 SingleInstance::Standing SingleInstance::claim(const QString& activationToken, Raise raise)
 {
-    if (!bus_.isConnected()) return Standing::first;
+    auto bus = bus_.connection();
+    if (!bus.isConnected()) return Standing::first;
 
     // Before the name is owned, so that whoever finds the owner also finds the object.
-    bus_.registerObject(path_, &service_, QDBusConnection::ExportScriptableSlots);
+    bus.registerObject(path_, &service_, QDBusConnection::ExportScriptableSlots);
     for (int round = 0; round < mostRounds; ++round) {
-        if (ownName(false)) {
-            watchForReplacement();
-            return Standing::first;
-        }
-        const auto first = owner();
-        if (first.isEmpty()) continue;
-        if (raise == Raise::no ? isThere(first) : activate(first, activationToken)) return Standing::second;
-        if (first == owner() && ownName(true)) break;
+        if (ownName(BusInterface::DontQueueService)) return first();
+        const auto other = owner();
+        if (other.isEmpty()) continue;
+        if (raise == Raise::no ? isThere(other) : activate(other, activationToken)) return Standing::second;
+        if (other == owner() && ownName(BusInterface::ReplaceExistingService)) break;
     }
+    return first();
+}
+
+SingleInstance::Standing SingleInstance::first()
+{
     watchForReplacement();
+    connect(&bus_, &SessionBus::changed, this, &SingleInstance::takeNameAgain);
     return Standing::first;
 }
 
-bool SingleInstance::ownName(bool replacing)
+void SingleInstance::takeNameAgain()
 {
-    const auto whenTaken = replacing ? BusInterface::ReplaceExistingService : BusInterface::DontQueueService;
-    const auto reply = bus_.interface()->registerService(name_, whenTaken, BusInterface::AllowReplacement);
+    auto bus = bus_.connection();
+    if (!bus.isConnected()) return;
+    bus.registerObject(path_, &service_, QDBusConnection::ExportScriptableSlots);
+    // Both have a window then, in which the user may be writing: none of the two ends for the other.
+    ownName(BusInterface::QueueService);
+    watchForReplacement();
+}
+
+bool SingleInstance::ownName(WhenTaken whenTaken)
+{
+    const auto bus = bus_.connection();
+    const auto reply = bus.interface()->registerService(name_, whenTaken, BusInterface::AllowReplacement);
     return reply.isValid() && reply.value() == BusInterface::ServiceRegistered;
 }
 
 QString SingleInstance::owner() const
 {
-    return bus_.interface()->serviceOwner(name_);
+    return bus_.connection().interface()->serviceOwner(name_);
 }
 
 bool SingleInstance::activate(const QString& owner, const QString& activationToken)
@@ -77,7 +91,7 @@ bool SingleInstance::activate(const QString& owner, const QString& activationTok
     // The owner's unique name: a call to the well-known one could start a program.
     auto call = QDBusMessage::createMethodCall(owner, path_, "org.freedesktop.Application", "Activate");
     call << platformData;
-    const auto reply = bus_.call(call, QDBus::Block, static_cast<int>(patience_.count()));
+    const auto reply = bus_.connection().call(call, QDBus::Block, static_cast<int>(patience_.count()));
     // This program answers without words. Whatever says something else is not one of its instances, and would leave the
     // user without a window.
     return reply.type() == QDBusMessage::ReplyMessage && reply.signature().isEmpty();
@@ -88,13 +102,14 @@ bool SingleInstance::isThere(const QString& owner)
     const auto question
         = QDBusMessage::createMethodCall(owner, path_, "org.freedesktop.DBus.Introspectable", "Introspect");
     // Every program on the bus answers a ping, but only an instance has this object.
-    const QDBusReply<QString> described = bus_.call(question, QDBus::Block, static_cast<int>(patience_.count()));
+    const QDBusReply<QString> described
+        = bus_.connection().call(question, QDBus::Block, static_cast<int>(patience_.count()));
     return described.isValid() && described.value().contains("\"org.freedesktop.Application\"");
 }
 
 void SingleInstance::watchForReplacement()
 {
-    connect(bus_.interface(), &BusInterface::serviceUnregistered, this, [this](const QString& name) {
+    connect(bus_.connection().interface(), &BusInterface::serviceUnregistered, this, [this](const QString& name) {
         if (name == name_) emit replaced();
     });
 }

@@ -1,12 +1,13 @@
 #pragma once
 
-#include <QDBusConnection>
+#include <QDBusConnectionInterface>
 #include <QObject>
 #include <QString>
 
 #include <chrono>
 
 #include "adapters/ApplicationService.h"
+#include "adapters/SessionBus.h"
 
 namespace larkspan::adapters {
 
@@ -14,7 +15,8 @@ namespace larkspan::adapters {
 ///
 /// A second process hands its activation token to the first. A first one that does not answer within `patience`, or
 /// not as this program does, loses the name if it lets go of it, and in any case the user gets a window; if it recovers
-/// later, it is told by `replaced()` and quits.
+/// later, it is told by `replaced()` and quits. When the bus was lost, the first process takes its name again with the
+/// new one; if another has it by then, as soon as that one ends.
 class SingleInstance final : public QObject {
     Q_OBJECT
 
@@ -25,8 +27,9 @@ public:
         second,
     };
 
-    /// `name` is the program's name on the bus; the path of its object has the same parts.
-    SingleInstance(QDBusConnection bus, QString name, std::chrono::milliseconds patience = std::chrono::seconds(5),
+    /// `name` is the program's name on the bus; the path of its object has the same parts. `bus` must outlive this
+    /// object.
+    SingleInstance(const SessionBus& bus, QString name, std::chrono::milliseconds patience = std::chrono::seconds(5),
         QObject* parent = nullptr);
     ~SingleInstance() override;
 
@@ -47,13 +50,17 @@ signals:
     void replaced();
 
 private:
-    bool ownName(bool replacing);
+    using WhenTaken = QDBusConnectionInterface::ServiceQueueOptions;
+
+    bool ownName(WhenTaken whenTaken);
     QString owner() const;
     bool activate(const QString& owner, const QString& activationToken);
     bool isThere(const QString& owner);
+    Standing first();
     void watchForReplacement();
+    void takeNameAgain();
 
-    QDBusConnection bus_;
+    const SessionBus& bus_;
     const QString name_;
     const QString path_;
     std::chrono::milliseconds patience_;

@@ -22,17 +22,23 @@ QString statusPath(const QString& name)
 
 }  // namespace
 
-StatusService::StatusService(QDBusConnection bus, const QString& name, Report report)
-    : bus_(std::move(bus))
+StatusService::StatusService(const SessionBus& bus, const QString& name, Report report)
+    : bus_(bus)
     , path_(statusPath(name))
     , report_(std::move(report))
 {
-    bus_.registerObject(path_, this, QDBusConnection::ExportScriptableSlots);
+    connect(&bus_, &SessionBus::changed, this, &StatusService::offer);
+    offer();
 }
 
 StatusService::~StatusService()
 {
-    bus_.unregisterObject(path_);
+    bus_.connection().unregisterObject(path_);
+}
+
+void StatusService::offer()
+{
+    bus_.connection().registerObject(path_, this, QDBusConnection::ExportScriptableSlots);
 }
 
 int StatusService::Read(QString& text, QString& json, QString& problem)

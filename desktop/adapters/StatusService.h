@@ -9,6 +9,7 @@
 #include <functional>
 #include <optional>
 
+#include "adapters/SessionBus.h"
 #include "platform/StatusReport.h"
 
 namespace larkspan::adapters {
@@ -22,7 +23,8 @@ public:
     using Report = std::function<std::optional<platform::StatusReport>()>;
 
     /// `name` is the program's name on the bus; `report` is asked for each call, and empty if nothing is known yet.
-    StatusService(QDBusConnection bus, const QString& name, Report report);
+    /// `bus` must outlive this object.
+    StatusService(const SessionBus& bus, const QString& name, Report report);
     ~StatusService() override;
 
     /// What the running program that owns `name` says; empty if none runs, if it knows nothing yet, or if it does not
@@ -35,7 +37,9 @@ public slots:
     Q_SCRIPTABLE int Read(QString& text, QString& json, QString& problem);
 
 private:
-    QDBusConnection bus_;
+    void offer();
+
+    const SessionBus& bus_;
     const QString path_;
     Report report_;
 };

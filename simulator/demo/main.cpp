@@ -1,4 +1,3 @@
-#include <QDBusConnection>
 #include <QGuiApplication>
 #include <QIcon>
 
@@ -11,6 +10,7 @@
 #include "adapters/ActivationToken.h"
 #include "adapters/CommandLine.h"
 #include "adapters/MainExecutor.h"
+#include "adapters/SessionBus.h"
 #include "adapters/SingleInstance.h"
 #include "adapters/SystemClock.h"
 #include "api/KeychainHelper.h"
@@ -46,7 +46,8 @@ private:
 int tellStatus(int argc, char** argv, const QString& name, bool asJSON)
 {
     const QCoreApplication qt(argc, argv);
-    return printStatus(name, asJSON, [] {
+    const adapters::SessionBus bus;
+    return printStatus(bus.connection(), name, asJSON, [] {
         adapters::MainExecutor main;
         DemoService service;
         return fetchStatus(main, service.access());
@@ -64,7 +65,8 @@ int start(int argc, char** argv, const QString& name, bool isMinimized)
     // The desktop knows an installed program's icon; the demo is not installed.
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/com.kestrune.larkspan.svg")));
 
-    adapters::SingleInstance instance(QDBusConnection::sessionBus(), name);
+    const adapters::SessionBus bus;
+    adapters::SingleInstance instance(bus, name);
     using adapters::SingleInstance;
     const auto raise = isMinimized ? SingleInstance::Raise::no : SingleInstance::Raise::yes;
     if (instance.claim(activationToken, raise) == SingleInstance::Standing::second) return 0;
@@ -72,7 +74,7 @@ int start(int argc, char** argv, const QString& name, bool isMinimized)
 
     DemoService service;
     adapters::MainExecutor main;
-    Application application(main, service.access());
+    Application application(main, service.access(), bus);
     return application.run(instance, isMinimized);
 }
 

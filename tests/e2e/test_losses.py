@@ -1,15 +1,19 @@
 """Services of the session that die in the middle of use and return."""
 
+import subprocess
+
 import pytest
 
 import keyring
 import lone
+import peers
 import program
 import session
 from patience import eventually
 from service import KEY, NAMES
 from test_day import STALE
 from test_settings import type_key
+from test_tray import COMMANDS, SUMMARY
 
 
 @pytest.fixture
@@ -95,3 +99,29 @@ def test_the_keyring_of_a_new_session_bus_gives_the_key_again(orphan, lone_sessi
         screen.wait_until_gone(STALE)
         assert screen.rows() == NAMES
         assert orphan.terminate() == 0
+
+
+def test_on_a_new_session_bus_the_program_has_its_name_item_status_and_notices_again(orphan, lone_session, the_display, the_service):
+    window = orphan.window()
+    the_display.press_close_button(window)
+    eventually(lambda: the_display.state(window) == "Iconic", "closing does not minimise")
+
+    lone_session.start_bus()
+    with keyring.keyring(lone_session), peers.panel(lone_session) as panel, peers.notices(lone_session) as notices:
+        eventually(lambda: lone_session.has("com.kestrune.larkspan"), "the program does not have its name again")
+        panel.wait_for_item()
+        panel.wait_for(SUMMARY, "Degraded")
+        assert panel.rows()[-len(COMMANDS):] == COMMANDS
+
+        the_service.forget()
+        told = subprocess.run([program.BINARY, "--status"], env=lone_session.surroundings, capture_output=True, text=True,
+                              timeout=30, check=False)
+        assert (told.returncode, told.stdout) == (1, "1 Status Page is degraded\n3 Status Pages\n")
+        assert the_service.requests() == []
+
+        the_service.open_incident("Login errors")
+        panel.click("Refresh")
+        assert notices.wait_for(1)[0]["body"].splitlines()[0] == "Login errors"
+
+        assert program.start_again(orphan) == 0
+        eventually(lambda: the_display.active_window() == window, "a second start does not bring the window back")

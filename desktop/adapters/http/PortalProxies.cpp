@@ -32,9 +32,11 @@ QDBusMessage lookup(const std::string& url)
 
 class PortalProxies::Portal : public QObject {
 public:
-    explicit Portal(QDBusConnection bus)
-        : bus_(std::move(bus))
+    explicit Portal(const SessionBus& bus)
+        : bus_(bus)
     {
+        // It may be another portal.
+        connect(&bus_, &SessionBus::changed, this, [this] { rest_ = QDeadlineTimer(); });
     }
 
     void findProxy(const std::string& url, Answer answer)
@@ -42,7 +44,7 @@ public:
         // A failing portal delays one request, not each.
         if (!rest_.hasExpired()) return answer({});
 
-        const auto call = bus_.asyncCall(lookup(url), static_cast<int>(patience.count()));
+        const auto call = bus_.connection().asyncCall(lookup(url), static_cast<int>(patience.count()));
         whenAnswered(this, call, [this, answer = std::move(answer)](const QDBusPendingCall& answered) mutable {
             const QDBusPendingReply<QStringList> reply = answered;
             if (reply.isError()) rest_.setRemainingTime(restAfterFailure);
@@ -51,13 +53,13 @@ public:
     }
 
 private:
-    QDBusConnection bus_;
+    const SessionBus& bus_;
     QDeadlineTimer rest_;
 };
 
-PortalProxies::PortalProxies(QDBusConnection bus, platform::Executor& main)
+PortalProxies::PortalProxies(const SessionBus& bus, platform::Executor& main)
     : main_(main)
-    , portal_(std::make_shared<Portal>(std::move(bus)))
+    , portal_(std::make_shared<Portal>(bus))
 {
 }
 

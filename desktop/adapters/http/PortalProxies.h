@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QDBusConnection>
 #include <QStringList>
 
 #include <memory>
 #include <string>
 
+#include "adapters/SessionBus.h"
 #include "adapters/http/ProxySettings.h"
 #include "platform/Executor.h"
 
@@ -16,8 +16,8 @@ namespace larkspan::adapters {
 /// and destroyed on the main thread.
 class PortalProxies final : public ProxySettings {
 public:
-    /// `main` is the executor of the main thread and must outlive this object.
-    PortalProxies(QDBusConnection bus, platform::Executor& main);
+    /// `main` is the executor of the main thread; it and `bus` must outlive this object.
+    PortalProxies(const SessionBus& bus, platform::Executor& main);
     ~PortalProxies() override;
 
     void findProxy(std::string url, support::UniqueFunction<void(std::string proxy)> answer) override;

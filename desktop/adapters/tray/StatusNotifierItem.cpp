@@ -8,9 +8,9 @@ namespace larkspan::adapters {
 
 using platform::MenuRow;
 
-StatusNotifierItem::StatusNotifierItem(QDBusConnection bus, const Appearance& appearance, QObject* parent)
+StatusNotifierItem::StatusNotifierItem(const SessionBus& bus, const Appearance& appearance, QObject* parent)
     : QObject(parent)
-    , bus_(std::move(bus))
+    , bus_(bus)
     , appearance_(appearance)
     , watcher_(bus_)
     , menu_([this](const MenuRow& row) { perform(row); })
@@ -29,10 +29,17 @@ StatusNotifierItem::StatusNotifierItem(QDBusConnection bus, const Appearance& ap
 void StatusNotifierItem::show(std::function<void(const MenuRow& row)> perform)
 {
     perform_ = std::move(perform);
-    const auto exported = QDBusConnection::ExportScriptableContents;
-    bus_.registerObject(StatusNotifierItemService::objectPath, &item_, exported);
-    bus_.registerObject(StatusNotifierItemService::menuPath, &menu_, exported);
+    connect(&bus_, &SessionBus::changed, this, &StatusNotifierItem::offer);
+    offer();
     watcher_.registerItem();
+}
+
+void StatusNotifierItem::offer()
+{
+    auto bus = bus_.connection();
+    const auto exported = QDBusConnection::ExportScriptableContents;
+    bus.registerObject(StatusNotifierItemService::objectPath, &item_, exported);
+    bus.registerObject(StatusNotifierItemService::menuPath, &menu_, exported);
 }
 
 void StatusNotifierItem::setButton(const Button& button)

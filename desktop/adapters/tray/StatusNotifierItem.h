@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QDBusConnection>
 #include <QObject>
 
 #include <functional>
@@ -8,6 +7,7 @@
 #include <vector>
 
 #include "adapters/Appearance.h"
+#include "adapters/SessionBus.h"
 #include "adapters/tray/DBusMenuService.h"
 #include "adapters/tray/StatusNotifierItemService.h"
 #include "adapters/tray/StatusNotifierWatcher.h"
@@ -20,8 +20,8 @@ class StatusNotifierItem final : public QObject, public platform::StatusItem {
     Q_OBJECT
 
 public:
-    /// `appearance` must outlive the item.
-    StatusNotifierItem(QDBusConnection bus, const Appearance& appearance, QObject* parent = nullptr);
+    /// `bus` and `appearance` must outlive the item.
+    StatusNotifierItem(const SessionBus& bus, const Appearance& appearance, QObject* parent = nullptr);
 
     /// Whether the desktop has a panel that shows such items.
     bool hasHost() const { return watcher_.hasHost(); }
@@ -39,10 +39,11 @@ signals:
     void activationTokenProvided(const QString& token);
 
 private:
+    void offer();
     void perform(const platform::MenuRow& row) const;
     void updateIcon();
 
-    QDBusConnection bus_;
+    const SessionBus& bus_;
     const Appearance& appearance_;
     StatusNotifierWatcher watcher_;
     StatusNotifierItemService item_;

@@ -3,7 +3,6 @@
 #include <QDBusPendingCall>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QDBusServiceWatcher>
 #include <QDBusVariant>
 
 #include <utility>
@@ -20,18 +19,28 @@ constexpr auto watcherInterface = "org.kde.StatusNotifierWatcher";
 
 }  // namespace
 
-StatusNotifierWatcher::StatusNotifierWatcher(QDBusConnection bus, QObject* parent)
+StatusNotifierWatcher::StatusNotifierWatcher(const SessionBus& bus, QObject* parent)
     : QObject(parent)
-    , bus_(std::move(bus))
+    , bus_(bus)
+    , changes_(service, bus_.connection(), QDBusServiceWatcher::WatchForOwnerChange)
 {
-    if (!bus_.isConnected()) return;
-    auto* const changes = new QDBusServiceWatcher(service, bus_, QDBusServiceWatcher::WatchForOwnerChange, this);
-    connect(changes, &QDBusServiceWatcher::serviceOwnerChanged, this,
+    connect(&changes_, &QDBusServiceWatcher::serviceOwnerChanged, this,
         [this](const QString&, const QString&, const QString& owner) { setOwner(owner); });
+    connect(&bus_, &SessionBus::changed, this, &StatusNotifierWatcher::follow);
+    follow();
+}
+
+void StatusNotifierWatcher::follow()
+{
+    // The unique names of another bus are the same again.
+    setOwner({});
+    auto bus = bus_.connection();
+    if (!bus.isConnected()) return;
+    changes_.setConnection(bus);
     for (const auto* const name : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"}) {
-        bus_.connect(service, path, watcherInterface, name, this, SLOT(askForHost()));
+        bus.connect(service, path, watcherInterface, name, this, SLOT(askForHost()));
     }
-    whenOwnerIsKnown(this, bus_, service, [this](const QString& owner) { setOwner(owner); });
+    whenOwnerIsKnown(this, bus, service, [this](const QString& owner) { setOwner(owner); });
 }
 
 StatusNotifierWatcher::~StatusNotifierWatcher() = default;
@@ -62,7 +71,8 @@ QDBusMessage StatusNotifierWatcher::call(const char* interface, const char* meth
 void StatusNotifierWatcher::sendRegistration()
 {
     // The connection's unique name, since a sandbox does not let programs own the customary one.
-    bus_.asyncCall(call(watcherInterface, "RegisterStatusNotifierItem", {bus_.baseService()}));
+    const auto bus = bus_.connection();
+    bus.asyncCall(call(watcherInterface, "RegisterStatusNotifierItem", {bus.baseService()}));
 }
 
 void StatusNotifierWatcher::askForHost()
@@ -70,7 +80,7 @@ void StatusNotifierWatcher::askForHost()
     if (owner_.isEmpty()) return;
     const auto question
         = call("org.freedesktop.DBus.Properties", "Get", {watcherInterface, QString("IsStatusNotifierHostRegistered")});
-    answer_ = std::make_unique<QDBusPendingCallWatcher>(bus_.asyncCall(question));
+    answer_ = std::make_unique<QDBusPendingCallWatcher>(bus_.connection().asyncCall(question));
     connect(answer_.get(), &QDBusPendingCallWatcher::finished, this, [this] {
         const QDBusPendingReply<QDBusVariant> reply = *answer_;
         setHasHost(reply.isValid() && reply.value().variant().toBool());

@@ -1,12 +1,14 @@
 #pragma once
 
-#include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusServiceWatcher>
 #include <QObject>
 #include <QString>
 #include <QVariantList>
 
 #include <memory>
+
+#include "adapters/SessionBus.h"
 
 class QDBusPendingCallWatcher;
 
@@ -18,7 +20,8 @@ class StatusNotifierWatcher final : public QObject {
     Q_OBJECT
 
 public:
-    explicit StatusNotifierWatcher(QDBusConnection bus, QObject* parent = nullptr);
+    /// `bus` must outlive this object.
+    explicit StatusNotifierWatcher(const SessionBus& bus, QObject* parent = nullptr);
     ~StatusNotifierWatcher() override;
 
     /// Registers the item of this connection, now and with each new watcher.
@@ -34,12 +37,14 @@ private slots:
     void askForHost();
 
 private:
+    void follow();
     void setOwner(const QString& owner);
     QDBusMessage call(const char* interface, const char* method, const QVariantList& arguments) const;
     void sendRegistration();
     void setHasHost(bool hasHost);
 
-    QDBusConnection bus_;
+    const SessionBus& bus_;
+    QDBusServiceWatcher changes_;
     std::unique_ptr<QDBusPendingCallWatcher> answer_;
     /// The bus name of the watcher's process; empty while there is none.
     QString owner_;

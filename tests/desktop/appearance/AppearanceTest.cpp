@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <memory>
 
 #include "peers/EventLoop.h"
 #include "peers/Peer.h"
@@ -57,12 +58,13 @@ protected:
     }
 
     peers::PrivateBus bus;
+    const SessionBus session{bus.address()};
 };
 
 TEST_F(AppearanceTest, IsDarkWhenTheDesktopPrefersDark)
 {
     const Portal portal(bus, {"org.freedesktop.appearance/color-scheme=1"});
-    const Appearance appearance(bus.connect());
+    const Appearance appearance(session);
 
     EXPECT_TRUE(turnUntil([&] { return appearance.isDark(); }));
 }
@@ -71,7 +73,7 @@ TEST_F(AppearanceTest, IsLightWhenTheDesktopPrefersLightWhateverThePalette)
 {
     const Portal portal(bus, {"org.freedesktop.appearance/color-scheme=2"});
     usePalette(Qt::black, Qt::white);
-    const Appearance appearance(bus.connect());
+    const Appearance appearance(session);
     ASSERT_TRUE(appearance.isDark());
 
     EXPECT_TRUE(turnUntil([&] { return !appearance.isDark(); }));
@@ -80,7 +82,7 @@ TEST_F(AppearanceTest, IsLightWhenTheDesktopPrefersLightWhateverThePalette)
 TEST_F(AppearanceTest, FollowsTheDesktopLive)
 {
     Portal portal(bus, {"org.freedesktop.appearance/color-scheme=2"});
-    const Appearance appearance(bus.connect());
+    const Appearance appearance(session);
     int changes = 0;
     QObject::connect(&appearance, &Appearance::isDarkChanged, [&] { ++changes; });
     turnFor(100ms);
@@ -104,7 +106,7 @@ TEST_P(EachSetting, SaysWhatItSays)
 {
     const auto [setting, isHighContrast, reducesMotion] = GetParam();
     const Portal portal(bus, {setting, "org.freedesktop.appearance/color-scheme=1"});
-    const Appearance appearance(bus.connect());
+    const Appearance appearance(session);
 
     // The answer about colours shows that the portal has answered.
     ASSERT_TRUE(turnUntil([&] { return appearance.isDark(); }));
@@ -128,7 +130,7 @@ INSTANTIATE_TEST_SUITE_P(Appearance, EachSetting,
 TEST_F(AppearanceTest, WithoutAPortalIsThePalettesAndFollowsIt)
 {
     usePalette(Qt::white, Qt::black);
-    const Appearance appearance(bus.connect());
+    const Appearance appearance(session);
     turnFor(50ms);
     ASSERT_FALSE(appearance.isDark());
 
@@ -143,7 +145,7 @@ TEST_F(AppearanceTest, WithoutAPreferenceOfTheDesktopIsThePalettes)
 {
     const Portal portal(bus, {"org.freedesktop.appearance/color-scheme=0", "org.freedesktop.appearance/contrast=1"});
     usePalette(Qt::black, Qt::white);
-    const Appearance appearance(bus.connect());
+    const Appearance appearance(session);
 
     ASSERT_TRUE(turnUntil([&] { return appearance.isHighContrast(); }));
     EXPECT_TRUE(appearance.isDark());
@@ -151,7 +153,7 @@ TEST_F(AppearanceTest, WithoutAPreferenceOfTheDesktopIsThePalettes)
 
 TEST_F(AppearanceTest, APortalThatComesLaterIsHeard)
 {
-    const Appearance appearance(bus.connect());
+    const Appearance appearance(session);
     turnFor(50ms);
 
     const Portal portal(bus, {"org.freedesktop.appearance/color-scheme=1"});
@@ -165,7 +167,7 @@ TEST_F(AppearanceTest, APortalThatDoesNotAnswerHoldsUpNothing)
     portal.signal(SIGSTOP);
     const auto begin = std::chrono::steady_clock::now();
 
-    Appearance appearance(bus.connect());
+    Appearance appearance(session);
     appearance.catchUp();
 
     EXPECT_LT(std::chrono::steady_clock::now() - begin, 1s);
@@ -177,7 +179,7 @@ TEST_F(AppearanceTest, APortalThatDoesNotAnswerHoldsUpNothing)
 TEST_F(AppearanceTest, CatchingUpTakesTheAnswersWithoutTheEventLoop)
 {
     const Portal portal(bus, {"org.freedesktop.appearance/color-scheme=1"});
-    Appearance appearance(bus.connect());
+    Appearance appearance(session);
     QThread::msleep(300);
     ASSERT_FALSE(appearance.isDark());
 
@@ -186,10 +188,29 @@ TEST_F(AppearanceTest, CatchingUpTakesTheAnswersWithoutTheEventLoop)
     EXPECT_TRUE(appearance.isDark());
 }
 
+TEST_F(AppearanceTest, StaysAsItIsWhileTheBusIsLostAndFollowsTheOneThatReturns)
+{
+    auto portal = std::make_unique<Portal>(bus, QStringList{"org.freedesktop.appearance/color-scheme=1"});
+    const Appearance appearance(session);
+    ASSERT_TRUE(turnUntil([&] { return appearance.isDark(); }));
+
+    bus.stop();
+    portal.reset();
+    ASSERT_TRUE(turnUntil([&] { return !session.connection().isConnected(); }));
+    EXPECT_TRUE(appearance.isDark());
+    bus.start();
+    portal = std::make_unique<Portal>(bus, QStringList{"org.freedesktop.appearance/color-scheme=2"});
+
+    EXPECT_TRUE(turnUntil([&] { return !appearance.isDark(); }));
+    portal->change("org.freedesktop.appearance/color-scheme=1");
+    EXPECT_TRUE(turnUntil([&] { return appearance.isDark(); }));
+}
+
 TEST_F(AppearanceTest, WithoutASessionBusIsThePalettes)
 {
     usePalette(Qt::black, Qt::white);
-    const Appearance appearance(QDBusConnection("no such connection"));
+    const SessionBus none("unix:path=/no/such/bus");
+    const Appearance appearance(none);
 
     EXPECT_TRUE(appearance.isDark());
 }

@@ -24,8 +24,8 @@ int main(int argc, char** argv)
 {
     const auto token = larkspan::adapters::launchActivationToken();
     const QCoreApplication application(argc, argv);
-    SingleInstance instance(
-        QDBusConnection::sessionBus(), QString::fromLocal8Bit(argv[argc - 1]), std::chrono::milliseconds(1500));
+    const larkspan::adapters::SessionBus bus;
+    SingleInstance instance(bus, QString::fromLocal8Bit(argv[argc - 1]), std::chrono::milliseconds(1500));
     const auto raise = argc > 2 ? SingleInstance::Raise::no : SingleInstance::Raise::yes;
     if (instance.claim(token, raise) == SingleInstance::Standing::second) {
         say("second");

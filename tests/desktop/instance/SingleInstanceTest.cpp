@@ -216,6 +216,43 @@ TEST(SingleInstance, OutlivesTheSessionBus)
     EXPECT_FALSE(first.hasEnded());
 }
 
+TEST(SingleInstance, HasItsNameAgainOnANewBus)
+{
+    PrivateBus bus;
+    Start first(bus.address());
+    ASSERT_EQ(first.hear(), "first");
+
+    bus.stop();
+    bus.start();
+    ASSERT_TRUE(bus.awaitOwner(programName));
+    Start second(bus.address());
+
+    EXPECT_EQ(second.hear(), "second");
+    EXPECT_EQ(first.hear(), "activated");
+}
+
+TEST(SingleInstance, BesideOneThatStartedMeanwhileGoesOnAndHasItsNameAgainWhenThatOneEnds)
+{
+    PrivateBus bus;
+    Start first(bus.address());
+    ASSERT_EQ(first.hear(), "first");
+    first.signal(SIGSTOP);
+    bus.stop();
+    bus.start();
+    auto meanwhile = std::make_unique<Start>(bus.address());
+    ASSERT_EQ(meanwhile->hear(), "first");
+
+    first.signal(SIGCONT);
+    peers::turnFor(std::chrono::seconds(1));
+    EXPECT_EQ(first.heardByNow(), QStringList());
+    EXPECT_FALSE(first.hasEnded());
+    meanwhile.reset();
+
+    Start third(bus.address());
+    EXPECT_EQ(third.hear(), "second");
+    EXPECT_EQ(first.hear(), "activated");
+}
+
 TEST(ApplicationService, BeingHandedFilesIsAnActivation)
 {
     const PrivateBus bus;

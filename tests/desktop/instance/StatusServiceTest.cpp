@@ -42,8 +42,9 @@ protected:
         return answer;
     }
 
-    const peers::PrivateBus bus;
-    QDBusConnection program = bus.connect();
+    peers::PrivateBus bus;
+    const SessionBus session{bus.address()};
+    QDBusConnection program = session.connection();
     QObject here;
 };
 
@@ -51,7 +52,19 @@ TEST_F(Status, IsThatOfTheRunningProgram)
 {
     const StatusReport report{.exitCode = 2, .text = "Döwn\n", .json = "{}\n", .problem = "why"};
     program.registerService(programName);
-    const StatusService service(program, programName, [&] { return report; });
+    const StatusService service(session, programName, [&] { return report; });
+    EXPECT_EQ(ask(), report);
+}
+
+TEST_F(Status, IsThatOfTheRunningProgramAlsoOnANewBus)
+{
+    const StatusReport report{.exitCode = 1, .text = "Degraded\n"};
+    const StatusService service(session, programName, [&] { return report; });
+    bus.stop();
+    ASSERT_TRUE(peers::turnUntil([&] { return !session.connection().isConnected(); }));
+    bus.start();
+    ASSERT_TRUE(peers::turnUntil([&] { return session.connection().isConnected(); }));
+    session.connection().registerService(programName);
     EXPECT_EQ(ask(), report);
 }
 
@@ -63,7 +76,7 @@ TEST_F(Status, WithoutARunningProgramIsUnknownAndStartsNone)
 TEST_F(Status, OfAProgramThatKnowsNothingYetIsUnknown)
 {
     program.registerService(programName);
-    const StatusService service(program, programName, [] { return std::nullopt; });
+    const StatusService service(session, programName, [] { return std::nullopt; });
     EXPECT_EQ(ask(), std::nullopt);
 }
 
@@ -84,7 +97,7 @@ TEST_F(Status, OfAnotherProgramUnderTheNameIsUnknown)
 TEST_F(Status, OfAProgramThatIsFrozenIsUnknownWithinTheTime)
 {
     program.registerService(programName);
-    const StatusService service(program, programName, [] { return StatusReport{}; });
+    const StatusService service(session, programName, [] { return StatusReport{}; });
     const auto start = std::chrono::steady_clock::now();
     // This thread does not answer.
     EXPECT_EQ(StatusService::ask(bus.connect(), programName, 300ms), std::nullopt);

@@ -47,7 +47,8 @@ protected:
 TEST_F(Dunst, ShowsTheNoticeAndTheLaterOneInItsPlace)
 {
     ASSERT_TRUE(bus.awaitOwner("org.freedesktop.Notifications"));
-    FreedesktopNotificationCenter center(bus.connect());
+    const SessionBus session(bus.address());
+    FreedesktopNotificationCenter center(session);
 
     center.add({"incident-1", "New Incident", "Search", "Slow.", "incident", "1"});
     ASSERT_TRUE(peers::turnUntil([&] { return control("count displayed") == "1"; }));

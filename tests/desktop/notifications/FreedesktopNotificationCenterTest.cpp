@@ -19,12 +19,13 @@ platform::NotificationRequest incident(const std::string& id, const std::string&
 class FreedesktopNotificationCenterTest : public testing::Test {
 protected:
     peers::PrivateBus bus;
+    const SessionBus session{bus.address()};
 };
 
 TEST_F(FreedesktopNotificationCenterTest, HandsTheServerTheWholeNotice)
 {
     NotificationServer server(bus, {"body"});
-    FreedesktopNotificationCenter center(bus.connect());
+    FreedesktopNotificationCenter center(session);
 
     center.add(incident("7"));
 
@@ -39,7 +40,7 @@ TEST_F(FreedesktopNotificationCenterTest, HandsTheServerTheWholeNotice)
 TEST_F(FreedesktopNotificationCenterTest, EscapesTheBodyForAServerThatInterpretsMarkup)
 {
     NotificationServer server(bus, {"body", "body-markup"});
-    FreedesktopNotificationCenter center(bus.connect());
+    FreedesktopNotificationCenter center(session);
 
     center.add(incident("7", "A < B"));
 
@@ -51,7 +52,7 @@ TEST_F(FreedesktopNotificationCenterTest, EscapesTheBodyForAServerThatInterprets
 TEST_F(FreedesktopNotificationCenterTest, AsksForTheCapabilitiesOnceAndKeepsTheOrder)
 {
     NotificationServer server(bus, {"body"});
-    FreedesktopNotificationCenter center(bus.connect());
+    FreedesktopNotificationCenter center(session);
 
     center.add(incident("1", "first"));
     center.add(incident("2", "second"));
@@ -64,7 +65,7 @@ TEST_F(FreedesktopNotificationCenterTest, AsksForTheCapabilitiesOnceAndKeepsTheO
 TEST_F(FreedesktopNotificationCenterTest, ALaterNoticeTakesThePlaceOfTheOneWithItsIdentifier)
 {
     NotificationServer server(bus);
-    FreedesktopNotificationCenter center(bus.connect());
+    FreedesktopNotificationCenter center(session);
     center.add(incident("1"));
     center.add(incident("2"));
     server.notice();
@@ -79,7 +80,7 @@ TEST_F(FreedesktopNotificationCenterTest, ALaterNoticeTakesThePlaceOfTheOneWithI
 TEST_F(FreedesktopNotificationCenterTest, NoticesOfOneIdentifierInQuickSuccessionReplaceEachOther)
 {
     NotificationServer server(bus, {"-gated"});
-    FreedesktopNotificationCenter center(bus.connect());
+    FreedesktopNotificationCenter center(session);
     center.add(incident("1", "shown"));
     server.notice();
     center.add(incident("1", "outdated"));
@@ -97,7 +98,7 @@ TEST_F(FreedesktopNotificationCenterTest, NoticesOfOneIdentifierInQuickSuccessio
 TEST_F(FreedesktopNotificationCenterTest, AClosedNoticeIsNotReplaced)
 {
     NotificationServer server(bus);
-    FreedesktopNotificationCenter center(bus.connect());
+    FreedesktopNotificationCenter center(session);
     center.add(incident("1"));
     server.notice();
     peers::turnFor(std::chrono::milliseconds(50));
@@ -112,7 +113,7 @@ TEST_F(FreedesktopNotificationCenterTest, AClosedNoticeIsNotReplaced)
 TEST_F(FreedesktopNotificationCenterTest, RemembersOnlyTheNewestNoticesHoweverManyThereWere)
 {
     NotificationServer server(bus);
-    FreedesktopNotificationCenter center(bus.connect());
+    FreedesktopNotificationCenter center(session);
     for (int i = 1; i <= 600; ++i) {
         center.add(incident(std::to_string(i)));
         ASSERT_FALSE(server.notice().isEmpty());
@@ -128,7 +129,7 @@ TEST_F(FreedesktopNotificationCenterTest, RemembersOnlyTheNewestNoticesHoweverMa
 
 TEST_F(FreedesktopNotificationCenterTest, ARestartedServerIsAskedAnewAndNothingOfItsPredecessorsIsReplaced)
 {
-    FreedesktopNotificationCenter center(bus.connect());
+    FreedesktopNotificationCenter center(session);
     {
         NotificationServer server(bus, {"body-markup"});
         center.add(incident("1"));
@@ -138,6 +139,26 @@ TEST_F(FreedesktopNotificationCenterTest, ARestartedServerIsAskedAnewAndNothingO
 
     NotificationServer server(bus, {"body"});
     peers::turnFor(std::chrono::milliseconds(50));
+    center.add(incident("1"));
+
+    const auto notice = server.notice();
+    EXPECT_EQ(notice["replaces_id"].toInt(-1), 0);
+    EXPECT_EQ(notice["body"].toString(), "Search <slow>\nQueries take 5 s & more.");
+}
+
+TEST_F(FreedesktopNotificationCenterTest, TheServerOfANewBusIsAskedAnewAndNothingOfItsPredecessorsIsReplaced)
+{
+    FreedesktopNotificationCenter center(session);
+    {
+        NotificationServer server(bus, {"body-markup"});
+        center.add(incident("1"));
+        server.notice();
+        bus.stop();
+    }
+
+    bus.start();
+    NotificationServer server(bus, {"body"});
+    ASSERT_TRUE(peers::turnUntil([&] { return session.connection().isConnected(); }));
     center.add(incident("1"));
 
     const auto notice = server.notice();

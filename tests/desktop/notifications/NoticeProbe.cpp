@@ -14,7 +14,8 @@
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
-    larkspan::adapters::FreedesktopNotificationCenter center(QDBusConnection::sessionBus());
+    const larkspan::adapters::SessionBus bus;
+    larkspan::adapters::FreedesktopNotificationCenter center(bus);
     QSocketNotifier input(0, QSocketNotifier::Read);
     // One line for each event: the tests wait for each notice before they write the next.
     QObject::connect(&input, &QSocketNotifier::activated, [&] {

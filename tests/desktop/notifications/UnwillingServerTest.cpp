@@ -25,7 +25,8 @@ platform::NotificationRequest incident(const std::string& title, const std::stri
 class UnwillingServer : public testing::Test {
 protected:
     peers::PrivateBus bus;
-    FreedesktopNotificationCenter center{bus.connect(), deadline};
+    const SessionBus session{bus.address()};
+    FreedesktopNotificationCenter center{session, deadline};
 };
 
 TEST_F(UnwillingServer, ThatDoesNotTellItsCapabilitiesIsSentNothingThatMightBeMarkup)
@@ -113,7 +114,8 @@ TEST_F(UnwillingServer, GetsTextsThatWouldBreakTheBusWhole)
 
 TEST(WithoutASessionBus, ANoticeIsDropped)
 {
-    FreedesktopNotificationCenter center(QDBusConnection("no such connection"));
+    const SessionBus none("unix:path=/no/such/bus");
+    FreedesktopNotificationCenter center(none);
     center.add(incident("one"));
     turnFor(20ms);
 }
@@ -121,7 +123,8 @@ TEST(WithoutASessionBus, ANoticeIsDropped)
 TEST(ABusThatEnds, DoesNotEndTheProgram)
 {
     peers::PrivateBus bus;
-    FreedesktopNotificationCenter center(bus.connect(), deadline);
+    const SessionBus session(bus.address());
+    FreedesktopNotificationCenter center(session, deadline);
     NotificationServer server(bus, {"-gated"});
     center.add(incident("one"));
     server.notice();

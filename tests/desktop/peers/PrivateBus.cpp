@@ -14,7 +14,7 @@ namespace {
 
 constexpr auto configuration = R"(<busconfig>
   <type>session</type>
-  <listen>unix:dir=%1</listen>
+  <listen>%1</listen>
   <auth>EXTERNAL</auth>
   <policy context="default">
     <allow send_destination="*" eavesdrop="true"/>
@@ -26,16 +26,21 @@ constexpr auto configuration = R"(<busconfig>
 }  // namespace
 
 PrivateBus::PrivateBus()
+    : address_("unix:path=" + directory_.filePath("bus"))
 {
     QFile file(directory_.filePath("bus.conf"));
     if (!file.open(QFile::WriteOnly)) throw std::runtime_error("no place for the bus's configuration");
-    file.write(QString(configuration).arg(directory_.path()).toUtf8());
+    file.write(QString(configuration).arg(address_).toUtf8());
     file.close();
-
     daemon_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    daemon_.start("dbus-daemon", {"--config-file=" + file.fileName(), "--nofork", "--nopidfile", "--print-address"});
+    start();
+}
+
+void PrivateBus::start()
+{
+    const auto settings = directory_.filePath("bus.conf");
+    daemon_.start("dbus-daemon", {"--config-file=" + settings, "--nofork", "--nopidfile", "--print-address"});
     if (!turnUntil([this] { return daemon_.canReadLine(); })) throw std::runtime_error("dbus-daemon doesn't start");
-    address_ = QString::fromUtf8(daemon_.readLine()).trimmed();
 }
 
 PrivateBus::~PrivateBus()

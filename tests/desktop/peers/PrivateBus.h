@@ -24,10 +24,13 @@ public:
     /// Ends the bus early.
     void stop();
 
+    /// Starts another bus in the place of one that has ended.
+    void start();
+
 private:
     QTemporaryDir directory_;
-    QProcess daemon_;
     QString address_;
+    QProcess daemon_;
 };
 
 }  // namespace larkspan::peers

@@ -60,7 +60,8 @@ protected:
 
     peers::PrivateBus bus;
     MainExecutor main;
-    PortalProxies proxies{bus.connect(), main};
+    const SessionBus session{bus.address()};
+    PortalProxies proxies{session, main};
 };
 
 TEST_F(Proxies, AreThePortalsForTheUrl)
@@ -93,9 +94,22 @@ TEST_F(Proxies, AreNoneWithoutABus)
     EXPECT_EQ(find(), "");
 }
 
+TEST_F(Proxies, AreAgainThePortalsOnceTheLostBusHasReturned)
+{
+    bus.stop();
+    ASSERT_TRUE(peers::turnUntil([&] { return !session.connection().isConnected(); }));
+    EXPECT_EQ(find(), "");
+    bus.start();
+    FakePortal portal(bus);
+    portal.proxies = {"http://proxy.test:3128"};
+    ASSERT_TRUE(peers::turnUntil([&] { return session.connection().isConnected(); }));
+    EXPECT_EQ(find(), "http://proxy.test:3128");
+}
+
 TEST_F(Proxies, AreNoneWhereThereHasNeverBeenABus)
 {
-    PortalProxies lonely(QDBusConnection::connectToBus("unix:path=/no/such/bus", "never"), main);
+    const SessionBus none("unix:path=/no/such/bus");
+    PortalProxies lonely(none, main);
     std::optional<std::string> found;
     lonely.findProxy("https://service.test/", [&](std::string proxy) { found = std::move(proxy); });
     EXPECT_TRUE(peers::turnUntil([&] { return found == ""; }));
@@ -114,7 +128,7 @@ TEST_F(Proxies, MayBeAskedForByAProgramThatEnds)
 {
     bool isAnswered = false;
     {
-        PortalProxies ending(bus.connect(), main);
+        PortalProxies ending(session, main);
         ending.findProxy("https://service.test/", [&](const std::string&) { isAnswered = true; });
     }
     peers::turnFor(50ms);

@@ -73,10 +73,12 @@ protected:
         return host;
     }
 
-    const peers::PrivateBus bus;
+    peers::PrivateBus bus;
     // The palette's colours, which a test can change.
-    const Appearance appearance{QDBusConnection("no such connection")};
-    StatusNotifierItem item{bus.connect(), appearance};
+    const SessionBus none{"unix:path=/no/such/bus"};
+    const Appearance appearance{none};
+    const SessionBus session{bus.address()};
+    StatusNotifierItem item{session, appearance};
     std::vector<platform::MenuRow> performed;
 };
 

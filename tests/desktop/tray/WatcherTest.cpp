@@ -56,6 +56,28 @@ TEST_F(WatcherTest, APanelThatReturnsSeesTheItemAgain)
     EXPECT_EQ(host->rows().size(), 8);
 }
 
+TEST_F(WatcherTest, OnANewBusAnItemIsSeenAgainWithItsMenu)
+{
+    show();
+    item.setMenu(menuOf({page("p1", "Shop")}));
+    auto host = panel();
+    ASSERT_TRUE(turnUntil([&] { return item.hasHost(); }));
+
+    bus.stop();
+    host.reset();
+    EXPECT_TRUE(turnUntil([&] { return !item.hasHost(); }));
+    bus.start();
+    host = std::make_unique<TrayHost>(bus);
+
+    EXPECT_TRUE(host->seesItem());
+    EXPECT_TRUE(turnUntil([&] { return item.hasHost(); }));
+    const auto rows = host->rows();
+    ASSERT_EQ(rows.size(), 9);
+    host->click(rows.at(3).toArray().at(0).toInt());
+    ASSERT_TRUE(turnUntil([&] { return !performed.empty(); }));
+    EXPECT_EQ(performed.front().representedObject, "p1");
+}
+
 TEST_F(WatcherTest, BeforeItIsShownAnItemIsOnNoPanel)
 {
     TrayHost host(bus);
@@ -113,7 +135,7 @@ TEST_F(WatcherTest, WithoutAPanelNothingHappens)
 
 TEST_F(WatcherTest, WithoutASessionBusNothingHappens)
 {
-    StatusNotifierItem lonely(QDBusConnection("no such connection"), appearance);
+    StatusNotifierItem lonely(none, appearance);
 
     lonely.show([](const auto&) { FAIL(); });
     lonely.setButton({.symbolName = "checkmark.circle.fill"});
