@@ -1,19 +1,19 @@
 // Feeds arbitrary bytes to every decoding of an answer. Each ends with a result or with a DecodingError whose sentence
 // can be shown.
 
-#include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
+#include "Target.h"
 #include "model/bodies/ResultRecords.h"
 #include "model/json/DecodingError.h"
 #include "model/json/JSONDecoder.h"
 #include "support/Utf8.h"
 
-namespace {
-
 using namespace larkspan;
+using fuzz::require;
+
+namespace {
 
 class StandingClock final : public platform::Clock {
 public:
@@ -32,7 +32,7 @@ void expectResultOrSentence(Decode decode)
     try {
         decode();
     } catch (const model::DecodingError& error) {
-        if (!isOneShortLine(error.localizedDescription())) std::abort();
+        require(isOneShortLine(error.localizedDescription()), "a failure is a sentence that can be shown");
     }
 }
 
@@ -47,11 +47,9 @@ void decodeAll(const model::JSONDecoder& decoder, const std::string& body, model
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+FUZZ_TARGET(decode, input)
 {
     const StandingClock clock;
     const model::JSONDecoder decoder(clock);
-    const std::string body(reinterpret_cast<const char*>(data), size);
-    decodeAll(decoder, body, model::Results{}, model::ListEnvelopes{}, model::BareResults{});
-    return 0;
+    decodeAll(decoder, std::string(input), model::Results{}, model::ListEnvelopes{}, model::BareResults{});
 }
