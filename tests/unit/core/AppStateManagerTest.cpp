@@ -171,7 +171,7 @@ using RefreshDeathTest = Refresh;
 TEST_F(RefreshDeathTest, TheSameIdTwiceInTheOverviewEndsTheProcess)
 {
     servePages({"a"}, {{"a", "operational"}, {"a", "degraded"}});
-    EXPECT_DEATH(refresh(), "Duplicate values for key: 'a'");
+    EXPECT_DEATH(refresh(), "fatal: Duplicate values for key: 'a'");
 }
 
 TEST_F(RefreshDeathTest, TheMessageOfAnIdThatOccursTwiceHasTheWholeId)

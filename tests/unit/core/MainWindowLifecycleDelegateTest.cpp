@@ -120,6 +120,7 @@ TEST_F(WindowLifecycle, StartedInThePanelAloneBeforeThePanelTheWindowStaysHidden
     statusItem.setPanel(true);
     timers.advance(1h);
     EXPECT_EQ(window->calls, Calls{});
+    EXPECT_TRUE(timers.periods().empty()) << "nothing wakes the program up for that any more";
 }
 
 TEST_F(WindowLifecycle, StartedInThePanelAloneTheWindowComesWhenThePanelGoesAway)

@@ -34,7 +34,8 @@ INSTANTIATE_TEST_SUITE_P(OtherAlphabets, Capitalized,
         CapitalizedRow{"ẩn", "Ẩn"}, CapitalizedRow{"ΚΡΊΣΙΜΟ έκτακτο", "Κρίσιμο Έκτακτο"},
         CapitalizedRow{"КРИТИЧНО ёлка", "Критично Ёлка"}, CapitalizedRow{"ӘДІЛ", "Әділ"},
         CapitalizedRow{"ՓՈՔՐ", "Փոքր"}, CapitalizedRow{"重大 ALERT", "重大 Alert"}, CapitalizedRow{"×a", "×A"},
-        CapitalizedRow{"«a» \u2014b", "«A» \u2014B"}));
+        CapitalizedRow{"«a» \u2014b", "«A» \u2014B"}, CapitalizedRow{"m\u2070A", "M\u2070a"},
+        CapitalizedRow{"\u3003a", "\u3003A"}, CapitalizedRow{"\u3004A", "\u3004a"}));
 
 TEST(CapitalizedText, KeepsBytesThatAreNoText)
 {

@@ -27,6 +27,10 @@ INSTANTIATE_TEST_SUITE_P(EachKind, LegibleOutside,
         Row{"a\u200Eb\u200Fc\u061Cd", "abcd"}, Row{"a\xff\xfe", "a\uFFFD\uFFFD"}, Row{"caf\xc3", "caf\uFFFD"},
         Row{"👩\u200d🚒", "👩\u200d🚒"}, Row{"שלום", "שלום"}));
 
+INSTANTIATE_TEST_SUITE_P(BesideThoseThatAreLeftOut, LegibleOutside,
+    testing::Values(Row{"~", "~"}, Row{"\u00A0", "\u00A0"}, Row{"\u061B\u061D", "\u061B\u061D"},
+        Row{"\u2010\u2027", "\u2010\u2027"}, Row{"\u202F", "\u202F"}, Row{"\u2065\u206A", "\u2065\u206A"}));
+
 TEST(LegibleOutsideLines, AreKeptWhereSeveralMayStand)
 {
     EXPECT_EQ(legibleOutside("a\r\nb\u2029c", Lines::several), "a\nb\nc");

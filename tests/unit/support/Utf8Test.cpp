@@ -60,7 +60,9 @@ INSTANTIATE_TEST_SUITE_P(Utf8, FirstCharacter,
         CharacterRow{"\u2019b"sv, U'\u2019', 3}, CharacterRow{"\U0001F426b"sv, U'\U0001F426', 4},
         CharacterRow{"\uFFFDb"sv, U'\uFFFD', 3}, CharacterRow{"\xC3"sv, U'\uFFFD', 1},
         CharacterRow{"\xC3z"sv, U'\uFFFD', 1}, CharacterRow{"\xA9z"sv, U'\uFFFD', 1},
-        CharacterRow{"\xED\xA0\x80"sv, U'\uFFFD', 1}));
+        CharacterRow{"\xED\x9F\xBF"sv, char32_t{0xD7FF}, 3}, CharacterRow{"\xED\xA0\x80"sv, U'\uFFFD', 1},
+        CharacterRow{"\xED\xBF\xBF"sv, U'\uFFFD', 1}, CharacterRow{"\xEE\x80\x80"sv, char32_t{0xE000}, 3},
+        CharacterRow{"\xF4\x8F\xBF\xBF"sv, char32_t{0x10'FFFF}, 4}, CharacterRow{"\xF4\x90\x80\x80"sv, U'\uFFFD', 1}));
 
 INSTANTIATE_TEST_SUITE_P(Utf8, LastCharacter,
     testing::Values(CharacterRow{"ba"sv, U'a', 1}, CharacterRow{"b\u00e9"sv, U'\u00e9', 2},
