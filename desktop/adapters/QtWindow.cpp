@@ -78,7 +78,8 @@ void QtWindow::makeKeyAndOrderFront()
         X11Activation::endLaunch(*window_, token);
         return;
     }
-    // The one place where Qt 6.4 looks for a token on Wayland.
+    // The one place where Qt 6.4 looks for a token on Wayland. Other threads may read the environment meanwhile, since
+    // `launchActivationToken` has prepared this variable's place.
     if (!token.isEmpty()) qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
     window_->requestActivate();
 }
