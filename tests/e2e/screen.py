@@ -78,6 +78,10 @@ class Screen:
             # An object disappeared while the tree was read, so the result is inconsistent.
             return []
 
+    def owner(self) -> str:
+        """The program's name on the accessibility bus."""
+        return self._owners()[0]
+
     def everything_said(self) -> list[str]:
         """Every text that a program on the accessibility bus can read from the window, shown or not."""
         said = []

@@ -53,9 +53,13 @@ class Service:
         self.start()
         self.mend()
         self._order("PUT", "certificate", {"certificate": "valid"})
-        self._order("PUT", "keys", {KEY: "full"})
+        self.accept(KEY)
         self.give(PAGES)
         self.forget()
+
+    def accept(self, *keys: str) -> None:
+        """Makes these the account's keys."""
+        self._order("PUT", "keys", dict.fromkeys(keys, "full"))
 
     def give(self, pages: list[dict]) -> None:
         self._order("PUT", "pages", {"pages": pages})
