@@ -10,6 +10,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "adapters/http/KeptSockets.h"
 #include "platform/Executor.h"
 
 namespace larkspan::adapters {
@@ -43,6 +44,9 @@ public:
     void begin(CURL* transfer, TransferEnd ended);
     void drop(CURL* transfer);
 
+    /// The sockets of the transfers' connections, which outlive them.
+    KeptSockets& sockets() { return sockets_; }
+
 private:
     void run();
     void open();
@@ -59,6 +63,7 @@ private:
 
     std::unordered_map<CURL*, TransferEnd> transfers_;
     std::multimap<Clock::time_point, std::weak_ptr<Work>> alarms_;
+    KeptSockets sockets_;
     std::thread thread_;
 };
 

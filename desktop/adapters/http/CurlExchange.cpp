@@ -1,5 +1,6 @@
 #include "adapters/http/CurlExchange.h"
 
+#include <string_view>
 #include <utility>
 
 #include "adapters/http/Redirect.h"
@@ -14,6 +15,13 @@ namespace {
 using Code = platform::URLError::Code;
 
 constexpr int mostRedirects = 10;
+
+std::string_view pathOf(std::string_view url)
+{
+    const auto host = url.find("//");
+    const auto path = host == std::string_view::npos ? host : url.find('/', host + 2);
+    return path == std::string_view::npos ? "/" : url.substr(path);
+}
 
 }  // namespace
 
@@ -58,6 +66,11 @@ void CurlExchange::setTransport()
     // Without this, destroying a transfer waits for the resolver, which may take as long as its servers are silent.
     setOption(transfer_.get(), CURLOPT_QUICK_EXIT, 1L);
     if (proxy_) setOption(transfer_.get(), CURLOPT_PROXY, proxy_->c_str());
+    if (needsFreshConnection_) setOption(transfer_.get(), CURLOPT_FRESH_CONNECT, 1L);
+    setOption(transfer_.get(), CURLOPT_SOCKOPTFUNCTION, &noteSocket);
+    setOption(transfer_.get(), CURLOPT_SOCKOPTDATA, this);
+    setOption(transfer_.get(), CURLOPT_PREREQFUNCTION, &beforeRequest);
+    setOption(transfer_.get(), CURLOPT_PREREQDATA, this);
     setOption(transfer_.get(), CURLOPT_SUPPRESS_CONNECT_HEADERS, 1L);
 }
 
@@ -75,6 +88,8 @@ void CurlExchange::setReceivers()
 
 void CurlExchange::ended(CURLcode result)
 {
+    // Nothing has been sent.
+    if (result == CURLE_ABORTED_BY_CALLBACK) return send();
     if (result == CURLE_OK && isWhole() && followRedirect()) return;
     finish(outcome(result));
 }
@@ -107,11 +122,19 @@ bool CurlExchange::followRedirect()
     if (!location || redirects_ == mostRedirects) return false;
 
     auto next = afterRedirect(request_, static_cast<int>(status), location);
-    if (!next) return false;
+    if (!next || !isFirstWriteTo(*next)) return false;
     ++redirects_;
     request_ = std::move(*next);
     send();
     return true;
+}
+
+/// The service may have carried out a write that it redirects to where it was.
+bool CurlExchange::isFirstWriteTo(const platform::HttpRequest& next)
+{
+    if (isRead(next)) return true;
+    writtenTo_.emplace(pathOf(request_.url));
+    return writtenTo_.emplace(pathOf(next.url)).second;
 }
 
 void CurlExchange::finish(Result result)
@@ -127,6 +150,25 @@ void CurlExchange::watchForSilence()
     const auto end = lastByte_ + settings_.idleTimeout;
     if (end <= ClientLoop::Clock::now()) return finish(Code::timedOut);
     silence_ = loop_.at(end, [this] { watchForSilence(); });
+}
+
+int CurlExchange::noteSocket(void* exchange, curl_socket_t socket, curlsocktype)
+{
+    static_cast<CurlExchange*>(exchange)->loop_.sockets().add(socket);
+    return CURL_SOCKOPT_OK;
+}
+
+// What has come on a kept connection since its last answer was asked for by nobody. It would be taken for the answer to
+// this request, and the answer to this one for that to the next.
+int CurlExchange::beforeRequest(void* exchange, char*, char*, int, int localPort)
+{
+    auto& self = *static_cast<CurlExchange*>(exchange);
+    long made = 0;
+    curl_easy_getinfo(self.transfer_.get(), CURLINFO_NUM_CONNECTS, &made);
+    if (made > 0 || self.needsFreshConnection_) return CURL_PREREQFUNC_OK;
+    self.needsFreshConnection_
+        = TlsSession::hasSomethingUnread(self.transfer_.get()) || self.loop_.sockets().hasSomethingUnread(localPort);
+    return self.needsFreshConnection_ ? CURL_PREREQFUNC_ABORT : CURL_PREREQFUNC_OK;
 }
 
 std::size_t CurlExchange::receiveHeader(char* bytes, std::size_t, std::size_t size, void* exchange)

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
 
 #include "adapters/http/ClientLoop.h"
@@ -39,10 +40,13 @@ private:
     Result outcome(CURLcode result);
     bool isWhole() const;
     bool followRedirect();
+    bool isFirstWriteTo(const platform::HttpRequest& next);
     void finish(Result result);
 
     void watchForSilence();
 
+    static int noteSocket(void* exchange, curl_socket_t socket, curlsocktype purpose);
+    static int beforeRequest(void* exchange, char* peerAddress, char* localAddress, int peerPort, int localPort);
     static std::size_t receiveHeader(char* bytes, std::size_t, std::size_t size, void* exchange);
     static std::size_t receiveBody(char* bytes, std::size_t, std::size_t size, void* exchange);
     static int observeProgress(void* exchange, curl_off_t, curl_off_t, curl_off_t, curl_off_t);
@@ -56,6 +60,9 @@ private:
     HeaderList headers_;
     TransferHandle transfer_;
     int redirects_ = 0;
+    /// The paths to which a write has been sent.
+    std::set<std::string, std::less<>> writtenTo_;
+    bool needsFreshConnection_ = false;
     ResponseHead head_;
     TlsSession session_;
     std::string body_;

@@ -41,6 +41,12 @@ std::uint64_t TlsSession::bytesMoved(CURL* transfer)
     return wire ? BIO_number_read(wire) + BIO_number_written(wire) : 0;
 }
 
+bool TlsSession::hasSomethingUnread(CURL* transfer)
+{
+    const auto* session = sessionOf(transfer);
+    return session && SSL_has_pending(session) == 1;
+}
+
 bool TlsSession::isClosedByPeer() const
 {
     return session_ && SSL_get_ex_data(session_.get(), noteIndex()) != nullptr;

@@ -19,6 +19,9 @@ public:
     /// The number of bytes received and sent on the connection of `transfer`, including the handshake.
     static std::uint64_t bytesMoved(CURL* transfer);
 
+    /// Whether bytes that have been received on the connection of `transfer` have not been read.
+    static bool hasSomethingUnread(CURL* transfer);
+
     /// Whether the peer has announced the end of the session. libcurl accepts the plain end of the stream instead, with
     /// which anyone on the way could cut an answer short.
     bool isClosedByPeer() const;

@@ -36,6 +36,9 @@ Code lossOfConnection(CURL* transfer)
 
 Code transferFailure(CURL* transfer, CURLcode result)
 {
+    // For the same, libcurl 8.6 and later say CURLE_TOO_LARGE, which earlier ones do not know.
+    constexpr auto tooLarge = 100;
+    if (static_cast<int>(result) == tooLarge) result = CURLE_OUT_OF_MEMORY;
     switch (result) {
     case CURLE_COULDNT_RESOLVE_HOST: return hasNetwork() ? Code::cannotFindHost : Code::notConnectedToInternet;
     case CURLE_COULDNT_RESOLVE_PROXY: return hasNetwork() ? Code::dnsLookupFailed : Code::notConnectedToInternet;
@@ -53,6 +56,8 @@ Code transferFailure(CURL* transfer, CURLcode result)
     case CURLE_GOT_NOTHING:
     case CURLE_PARTIAL_FILE: return Code::networkConnectionLost;
     // The URL's scheme was checked before, so the unsupported protocol is the answer's: HTTP/0.9, or none.
+    // A line of the head is longer than libcurl takes.
+    case CURLE_OUT_OF_MEMORY:
     case CURLE_UNSUPPORTED_PROTOCOL:
     case CURLE_WEIRD_SERVER_REPLY:
     case CURLE_BAD_CONTENT_ENCODING: return Code::badServerResponse;

@@ -116,6 +116,20 @@ TEST_F(Transport, GivesUpOnHeadersWithoutEnd)
     EXPECT_THAT(send(get(server.url())), fails(Code::badServerResponse));
 }
 
+class EndlessLine : public Transport, public testing::WithParamInterface<const char*> {};
+
+TEST_P(EndlessLine, OfAHeadIsAnAnswerThatCannotBeUnderstood)
+{
+    FaultServer server(identity(), [](Conversation& peer, const auto&) {
+        peer.write(GetParam());
+        while (peer.write(std::string(8'000, 'x'))) {}
+    });
+    EXPECT_THAT(send(get(server.url())), fails(Code::badServerResponse));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Beginning, EndlessLine, testing::Values("HTTP/1.1 200 ", "HTTP/1.1 200 OK\r\nX-Long: ", "HTTP/1.1 200 OK\r\n"));
+
 TEST_F(Transport, GivesUpOnInterimAnswersWithoutEnd)
 {
     FaultServer server(identity(), [](Conversation& peer, const auto&) {

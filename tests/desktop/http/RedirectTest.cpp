@@ -122,6 +122,21 @@ TEST_F(Transport, SendsAWriteOnceToThePlaceThatA308Names)
     EXPECT_EQ(server.handshakes(), 2);
 }
 
+TEST_F(Transport, SendsAWriteToNoPlaceTwice)
+{
+    FaultServer server(identity(), redirects("/again?x", "307 Temporary Redirect"));
+    EXPECT_THAT(send(request("POST", server.url("/start"), "body")), answers(307));
+    ASSERT_EQ(server.requests().size(), 2);
+    EXPECT_EQ(server.requests()[1].line, "POST /again?x HTTP/1.1");
+}
+
+TEST_F(Transport, SendsAWriteNotBackToWhereItBegan)
+{
+    FaultServer server(identity(), redirects("/start", "308 Permanent Redirect"));
+    EXPECT_THAT(send(request("PUT", server.url("/start"), "body")), answers(308));
+    EXPECT_EQ(server.requests().size(), 1);
+}
+
 TEST_F(Transport, SendsAWriteNoFurtherOnA302)
 {
     FaultServer server(identity(), redirects("/end"));

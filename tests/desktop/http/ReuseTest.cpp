@@ -69,6 +69,31 @@ TEST_F(Transport, RecoversAReadWhoseKeptConnectionDiesAsItArrives)
     EXPECT_THAT(connectionsOf(server), ElementsAre(1, 1, 2));
 }
 
+TEST_F(Transport, TakesNoAnswerThatCameUnaskedForThatToTheNextRead)
+{
+    FaultServer server(identity(), [](Conversation& peer, const ReceivedRequest& request) {
+        peer.answer("200 OK", "the answer to " + request.line.substr(0, 6));
+        if (request.connection > 1) return;
+        std::this_thread::sleep_for(10ms);
+        peer.answer("200 OK", "forged");
+    });
+    EXPECT_THAT(send(get(server.url("/1"))), answers(200, "the answer to GET /1"));
+    std::this_thread::sleep_for(100ms);
+    EXPECT_THAT(send(get(server.url("/2"))), answers(200, "the answer to GET /2"));
+    EXPECT_THAT(send(get(server.url("/3"))), answers(200, "the answer to GET /3"));
+    EXPECT_THAT(connectionsOf(server), ElementsAre(1, 2, 2));
+}
+
+TEST_F(Transport, TakesTheBodyOfAnAnswerThatMayHaveNoneForNoAnswer)
+{
+    FaultServer server(identity(), [](Conversation& peer, const ReceivedRequest& request) {
+        if (request.line.starts_with("GET")) return peer.answer("200 OK", "pages");
+        peer.answer("204 No Content", "more");
+    });
+    EXPECT_THAT(send(request("DELETE", server.url())), answers(204, ""));
+    EXPECT_THAT(send(get(server.url())), answers(200, "pages"));
+}
+
 class EachWrite : public Transport, public testing::WithParamInterface<const char*> {
 protected:
     HttpRequest write(const FaultServer& server) const { return request(GetParam(), server.url("/write"), "{}"); }
