@@ -100,6 +100,11 @@ std::optional<ReceivedRequest> Conversation::read()
     return request;
 }
 
+void Conversation::writeWithoutTls(std::string_view bytes)
+{
+    send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+}
+
 void Conversation::ignore()
 {
     std::array<char, 4096> bytes;

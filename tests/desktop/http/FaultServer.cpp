@@ -6,6 +6,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <csignal>
 #include <utility>
 
@@ -70,12 +71,18 @@ void FaultServer::accept()
 {
     while (!isEnding_) {
         const int socket = ::accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC);
-        if (socket < 0) continue;
+        if (socket < 0) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            continue;
+        }
         const int atOnce = 1;
         setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &atOnce, sizeof atOnce);
         const int number = ++connections_;
         auto& peer = peers_.emplace_back();
-        peer.conversation = std::make_unique<Conversation>(socket, SSL_new(context_.get()));
+        {
+            const std::scoped_lock lock(contextMutex_);
+            peer.conversation = std::make_unique<Conversation>(socket, SSL_new(context_.get()));
+        }
         peer.thread = std::jthread([this, &peer, number] { serve(peer, number); });
     }
 }
@@ -84,8 +91,7 @@ void FaultServer::serve(Peer& peer, int number)
 {
     ignoreBrokenPipes();
     auto& conversation = *peer.conversation;
-    if (isMute_) return conversation.ignore();
-    if (!conversation.shakeHands()) return conversation.cut();
+    if (!shakeHands(conversation)) return;
     ++handshakes_;
     while (auto request = conversation.read()) {
         request->connection = number;
@@ -93,6 +99,42 @@ void FaultServer::serve(Peer& peer, int number)
         script_(conversation, *request);
     }
     conversation.close();
+}
+
+bool FaultServer::shakeHands(Conversation& conversation)
+{
+    switch (greeting_) {
+    case Greeting::silence: conversation.ignore(); return false;
+    case Greeting::close: conversation.cut(); return false;
+    case Greeting::reset: conversation.reset(); return false;
+    case Greeting::plainText:
+        conversation.writeWithoutTls("HTTP/1.1 400 Bad Request\r\nContent-Length: 0\r\n\r\n");
+        conversation.cut();
+        return false;
+    case Greeting::handshake: break;
+    }
+    if (conversation.shakeHands()) return true;
+    conversation.cut();
+    return false;
+}
+
+void FaultServer::stopListening()
+{
+    shutdown(listener_, SHUT_RDWR);
+}
+
+void FaultServer::listenAgain()
+{
+    const int again = listenOnLoopback(port_);
+    // The acceptor goes on with the same descriptor.
+    dup2(again, listener_);
+    ::close(again);
+}
+
+void FaultServer::present(const Identity& identity, TlsVersions versions)
+{
+    const std::scoped_lock lock(contextMutex_);
+    context_.reset(newContext(identity, versions));
 }
 
 void FaultServer::record(const ReceivedRequest& request)

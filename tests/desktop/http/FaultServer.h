@@ -55,6 +55,7 @@ public:
 
     // For the server.
     bool shakeHands() { return SSL_accept(tls_.get()) == 1; }
+    void writeWithoutTls(std::string_view bytes);
     void ignore();
     std::optional<ReceivedRequest> read();
     void interrupt();
@@ -85,8 +86,16 @@ public:
     FaultServer(const FaultServer&) = delete;
     FaultServer& operator=(const FaultServer&) = delete;
 
-    /// From now on accepts connections and sends nothing on them.
-    void stopShakingHands() { isMute_ = true; }
+    /// What new connections meet in place of the handshake of TLS.
+    enum class Greeting { handshake, silence, close, reset, plainText };
+    void greet(Greeting greeting) { greeting_ = greeting; }
+
+    /// What new connections are shown from now on. `identity` need not outlive the call.
+    void present(const Identity& identity, TlsVersions versions);
+
+    /// Refuses connections until `listenAgain`, which keeps the port.
+    void stopListening();
+    void listenAgain();
 
     int port() const { return port_; }
     std::string url(const std::string& target = "/") const;
@@ -108,15 +117,18 @@ private:
 
     void accept();
     void serve(Peer& peer, int number);
+    bool shakeHands(Conversation& conversation);
     void record(const ReceivedRequest& request);
 
     Script script_;
+    // The acceptor and `present` take turns on it.
+    std::mutex contextMutex_;
     std::unique_ptr<SSL_CTX, decltype(&SSL_CTX_free)> context_;
     int listener_;
     int port_ = 0;
     std::atomic<int> connections_{0};
     std::atomic<int> handshakes_{0};
-    std::atomic<bool> isMute_{false};
+    std::atomic<Greeting> greeting_{Greeting::handshake};
     std::atomic<bool> isEnding_{false};
     mutable std::mutex mutex_;
     std::vector<ReceivedRequest> requests_;

@@ -22,10 +22,12 @@ sockaddr_in loopback(int port)
 
 }  // namespace
 
-int listenOnLoopback()
+int listenOnLoopback(int port)
 {
     const int listener = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    const auto address = loopback(0);
+    const int reuse = 1;
+    setsockopt(listener, SOL_SOCKET, SO_REUSEADDR, &reuse, sizeof reuse);
+    const auto address = loopback(port);
     const bool isListening = bind(listener, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0
         && listen(listener, SOMAXCONN) == 0;
     if (!isListening) throw std::runtime_error("no port on loopback");

@@ -2,8 +2,8 @@
 
 namespace larkspan::adapters {
 
-/// Returns a socket that listens on a free port of 127.0.0.1.
-int listenOnLoopback();
+/// Returns a socket that listens on a port of 127.0.0.1, by default any free one.
+int listenOnLoopback(int port = 0);
 
 int portOf(int listener);
 

@@ -76,7 +76,7 @@ TEST_F(TimeLimit, EndsAHandshakeThatHangs)
 {
     settings.idleTimeout = 100ms;
     FaultServer server(identity(), hangs);
-    server.stopShakingHands();
+    server.greet(FaultServer::Greeting::silence);
     expectTimeOut(get(server.url()), 100ms);
 }
 
