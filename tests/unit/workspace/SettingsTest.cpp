@@ -305,6 +305,7 @@ TEST_F(SettingsSheet, DeletingRemovesTheKeyResetsTheScreenAndTellsItsOpener)
     settings->edit("half a key");
     settings->confirmDelete();
     settings->deleteKey();
+    EXPECT_FALSE(*settings->showDeleteConfirmation);
     run();
     EXPECT_TRUE(credentials.items.empty());
     EXPECT_EQ(*settings->apiKey, "");
