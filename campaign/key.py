@@ -1,12 +1,11 @@
 #!/usr/bin/python3
 """The key, while the whole program goes through an hour of faults in a minute: it is where the user has put it, and nowhere else.
 
-usage: campaign/key.py BINARIES all|part [TEXT]
+usage: campaign/key.py BINARIES all|part
 """
 
 import base64
 import ctypes
-import json
 import os
 import signal
 import subprocess
@@ -16,9 +15,7 @@ from contextlib import ExitStack
 from pathlib import Path
 from typing import Callable, Iterator
 
-sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "tests/e2e"))
-
-import world
+import whole
 
 KEY = "campaign-key-8c1f27d05a"
 FORMS = {
@@ -45,10 +42,6 @@ CERTIFICATES = ["expired", "wrong-name", "untrusted"]
 
 def forms_in(content: bytes) -> list[str]:
     return [f"The key stands there {form}." for form, text in FORMS.items() if text in content]
-
-
-def report(cell: str, failures: list[str]) -> None:
-    print(json.dumps({"cell": cell, "failures": failures}), flush=True)
 
 
 class Places:
@@ -164,7 +157,7 @@ def core_failures(process: subprocess.Popen, home: Path) -> list[str]:
     limit = next(line for line in Path("/proc", str(process.pid), "limits").read_text(encoding="utf-8").splitlines()
                  if line.startswith("Max core file size"))
     mappings = int(Path("/proc", str(process.pid), "coredump_filter").read_text(encoding="utf-8"), 16)
-    failures = [] if limit.split()[4:6] == ["0", "0"] else [f"The limit is another: {limit}"]
+    failures = [] if limit.split()[4] == "0" else [f"The limit is another: {limit}"]
     if mappings != 0:
         failures.append(f"A core would have the mappings {mappings:x}.")
     process.send_signal(signal.SIGSEGV)
@@ -172,7 +165,7 @@ def core_failures(process: subprocess.Popen, home: Path) -> list[str]:
     return failures + [f"It left {file}." for file in home.glob("core*")]
 
 
-def play(is_part: bool) -> None:
+def play(is_part: bool, _: str) -> None:
     import display
     import keyring
     import service
@@ -196,36 +189,24 @@ def play(is_part: bool) -> None:
         program = Program(process, BINARY, the_session, the_display)
 
         program.screen.wait_for("API key is missing.")
-        report("the clipboard while the key is typed", [f"{name} is offered." for name in type_the_key(program.screen, the_display)])
+        whole.report("the clipboard while the key is typed", [f"{name} is offered." for name in type_the_key(program.screen, the_display)])
         program.screen.wait_for_rows(service.NAMES)
-        report("the keyring has the key", [] if the_keyring.lookup() == KEY.encode() else ["It has another."])
+        whole.report("the keyring has the key", [] if the_keyring.lookup() == KEY.encode() else ["It has another."])
         faults, certificates = (FAULTS[:1], CERTIFICATES[:1]) if is_part else (FAULTS, CERTIFICATES)
         go_through_faults(program.screen, the_service, faults, certificates)
 
         places = Places(program, the_display, home, outputs).all()
         for name, read in places.items():
-            report(name, forms_in(read()))
+            whole.report(name, forms_in(read()))
         # What finds nothing anywhere must find the key where it is, and have read what was said.
-        report("the search finds a key", [] if forms_in(KEY.encode()) else ["It does not."])
+        whole.report("the search finds a key", [] if forms_in(KEY.encode()) else ["It does not."])
         heard = {"session bus": b"org.freedesktop.secrets", "accessibility bus": b"org.a11y.atspi"}
-        report("the buses were heard", [f"The {name} was not." for name, text in heard.items()
+        whole.report("the buses were heard", [f"The {name} was not." for name, text in heard.items()
                                         if text not in (outputs / name).read_bytes()])
-        report("the clipboard", [f"{name} is offered." for name in owned_selections(the_display.name)])
-        report("a core", core_failures(process, home))
-        report("the user's files after a crash", forms_in(places["the user's files"]()))
-
-
-def main() -> int:
-    if sys.argv[-1] == "--inside":
-        # Some programs of the session talk on the standard output, which is for the cells.
-        sys.stdout = os.fdopen(os.dup(1), "w", encoding="utf-8")
-        os.dup2(2, 1)
-        play(sys.argv[2] == "part")
-        return 0
-    cache = (Path(sys.argv[1]).parent / "CMakeCache.txt").read_text(encoding="utf-8")
-    host = next(line.partition("=")[2] for line in cache.splitlines() if line.startswith("LARKSPAN_SERVICE_HOST:"))
-    return world.run(sys.argv[1], host, [sys.executable, str(Path(__file__).resolve()), *sys.argv[1:3], "--inside"])
+        whole.report("the clipboard", [f"{name} is offered." for name in owned_selections(the_display.name)])
+        whole.report("a core", core_failures(process, home))
+        whole.report("the user's files after a crash", forms_in(places["the user's files"]()))
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(whole.main(play))

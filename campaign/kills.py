@@ -2,10 +2,9 @@
 """The program killed at random moments of saving and of deleting the key: the keyring has the old key, the new one or
 none, never two or a part of one, and the next start is a normal one.
 
-usage: campaign/kills.py BINARIES all|part|COUNT [TEXT]
+usage: campaign/kills.py BINARIES all|part [TEXT]
 """
 
-import json
 import os
 import random
 import signal
@@ -15,9 +14,7 @@ import time
 from contextlib import ExitStack
 from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "tests/e2e"))
-
-import world
+import whole
 
 ALL, PART = 200, 2
 NEW_KEY = "a-new-key-of-the-same-account"
@@ -88,7 +85,7 @@ def play_cell(what: str, seconds: float, session, display, the_keyring) -> tuple
     return {KEY.encode(): "the old key", NEW_KEY.encode(): "the new key", b"": "none"}.get(found, "another"), failures
 
 
-def play(count: int, text: str) -> None:
+def play(is_part: bool, text: str) -> None:
     import display
     import keyring
     import service
@@ -102,7 +99,7 @@ def play(count: int, text: str) -> None:
         the_keyring = started.enter_context(keyring.keyring(the_session))
         # The moments are the same in each run, so that one that fails can be played again.
         moments = random.Random(22)
-        for number in range(count):
+        for number in range(PART if is_part else ALL):
             what, seconds = list(ORDERS)[number % len(ORDERS)], moments.uniform(0, LONGEST_SECONDS)
             cell = f"{number}: {what} for {seconds * 1000:.1f} ms"
             if text not in cell:
@@ -113,19 +110,8 @@ def play(count: int, text: str) -> None:
                 left, failures = play_cell(what, seconds, the_session, the_display, the_keyring)
             except AssertionError as error:
                 left, failures = "unknown", [str(error)]
-            print(json.dumps({"cell": cell, "left": left, "failures": failures}), flush=True)
-
-
-def main() -> int:
-    arguments = [argument for argument in sys.argv[2:] if argument != "--inside"]
-    if sys.argv[-1] == "--inside":
-        count = {"all": ALL, "part": PART}.get(arguments[0]) or int(arguments[0])
-        play(count, "".join(arguments[1:]))
-        return 0
-    cache = (Path(sys.argv[1]).parent / "CMakeCache.txt").read_text(encoding="utf-8")
-    host = next(line.partition("=")[2] for line in cache.splitlines() if line.startswith("LARKSPAN_SERVICE_HOST:"))
-    return world.run(sys.argv[1], host, [sys.executable, str(Path(__file__).resolve()), *sys.argv[1:], "--inside"])
+            whole.report(cell, failures, left=left)
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(whole.main(play))

@@ -5,7 +5,6 @@ throughout, and what comes back is used again.
 usage: campaign/neighbours.py BINARIES all|part [TEXT]
 """
 
-import json
 import os
 import signal
 import sys
@@ -15,9 +14,7 @@ from contextlib import ExitStack
 from pathlib import Path
 from typing import Callable, Iterator, NamedTuple
 
-sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "tests/e2e"))
-
-import world
+import whole
 
 MOST_MILLISECONDS = 100
 WAYS = {"killed": signal.SIGKILL, "stopped": signal.SIGSTOP}
@@ -244,18 +241,8 @@ def play(is_part: bool, text: str) -> None:
                     longest, failures = play_cell(stage, known[name], way, moment, running)
                 except AssertionError as error:
                     longest, failures = 0.0, [str(error)]
-                print(json.dumps({"cell": f"{name} {way} {moment}", "longest_milliseconds": round(longest), "failures": failures}), flush=True)
-
-
-def main() -> int:
-    arguments = [argument for argument in sys.argv[2:] if argument != "--inside"]
-    if sys.argv[-1] == "--inside":
-        play(arguments[0] == "part", "".join(arguments[1:]))
-        return 0
-    cache = (Path(sys.argv[1]).parent / "CMakeCache.txt").read_text(encoding="utf-8")
-    host = next(line.partition("=")[2] for line in cache.splitlines() if line.startswith("LARKSPAN_SERVICE_HOST:"))
-    return world.run(sys.argv[1], host, [sys.executable, str(Path(__file__).resolve()), *sys.argv[1:], "--inside"])
+                whole.report(f"{name} {way} {moment}", failures, longest_milliseconds=round(longest))
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(whole.main(play))
