@@ -4,7 +4,6 @@ if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
     message(FATAL_ERROR "The fuzzers need clang; configure with: cmake --preset fuzz")
 endif()
 
-find_package(simdjson REQUIRED)
 find_package(CURL 7.88 REQUIRED)
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core DBus Gui)
 set(source ${CMAKE_SOURCE_DIR}/src)

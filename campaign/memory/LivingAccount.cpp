@@ -29,12 +29,12 @@ void LivingAccount::refresh()
 {
     using namespace std::chrono_literals;
     clock_.time += 1min;
-    const auto before = state_->lastRefresh;
+    const auto before = *state_->lastRefresh;
     state_->refreshNow();
     executor_.run();
     timers_.advance(1min);
     executor_.run();
-    if (state_->lastRefresh == before) throw std::runtime_error("a cycle failed");
+    if (*state_->lastRefresh == before) throw std::runtime_error("a cycle failed");
     noticeCount_ += notifications_.added.size();
     notifications_.added.clear();
     forgetWhatIsOver();

@@ -18,10 +18,11 @@ namespace larkspan::campaign {
 
 namespace {
 
-constexpr const char* incidents = R"([{"id": 7, "title": "Elevated errors \u00fcber all", "severity": "major",
-    "status": "active", "started_at": "2026-11-20T08:00:00Z", "status_page_id": "page-1", "notify_subscribers": true,
-    "updates": [{"id": "u1", "message": "We look into it.", "created_at": "2026-11-20T08:05:00.123Z"}]},
-    {"id": "8", "title": "Slow checkout", "status": "resolved", "resolved_at": "2026-11-19T08:00:00+01:00"}])";
+constexpr const char* incidents
+    = R"({"data": [{"id": "7", "title": "Elevated errors \u00fcber all", "message": "We look",
+    "created_at": "2026-03-01T09:30:00Z", "ended_at": "2026-03-01T09:32:00.123Z", "acknowledged_at": "x",
+    "incident_state_id": "2", "unknown": {"deep": [1, 2.5, "three", null, true]}},
+    {"id": "8", "title": "Slow checkout", "created_at": "2026-11-19T08:00:00+01:00"}]})";
 
 constexpr const char* message = R"(# Elevated errors on sign-in
 
@@ -42,7 +43,7 @@ void decode()
 {
     const fakes::ManualClock clock;
     const model::JSONDecoder decoder(clock);
-    decoder.decodeList<model::Incident>(incidents);
+    static_cast<void>(decoder.decodeResult<std::vector<model::Incident>>(incidents));
 }
 
 void encode()
