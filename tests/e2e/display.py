@@ -112,6 +112,6 @@ def server(size: str = "1280x960") -> Iterator[Display]:
 
 @contextmanager
 def display() -> Iterator[Display]:
-    with server() as made, running("openbox", env=os.environ | {"DISPLAY": made.name}, stderr=subprocess.DEVNULL):
+    with server() as made, running("openbox", env=os.environ | {"DISPLAY": made.name}, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL):
         eventually(lambda: "window id" in made._ask("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "no window manager came")
         yield made
