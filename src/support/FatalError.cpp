@@ -1,14 +1,39 @@
 #include "support/FatalError.h"
 
-#include <unistd.h>
-
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <new>
 
 #include "support/LegibleOutside.h"
 
 namespace larkspan::support {
+
+namespace {
+
+[[noreturn]] void endWithoutMemory()
+{
+    // Standard error has no buffer, so this needs no memory itself.
+    std::fputs("larkspan: fatal: There is no memory left.\n", stderr);
+    std::abort();
+}
+
+std::terminate_handler terminateBefore = nullptr;
+
+[[noreturn]] void endWithException()
+{
+    try {
+        if (const auto exception = std::current_exception()) std::rethrow_exception(exception);
+    } catch (const std::bad_alloc&) {
+        endWithoutMemory();
+    } catch (...) {
+        // The library's own end names the exception.
+        terminateBefore();
+    }
+    std::abort();
+}
+
+}  // namespace
 
 void fatalError(std::string_view message)
 {
@@ -19,12 +44,9 @@ void fatalError(std::string_view message)
 
 void endWhenMemoryRunsOut()
 {
-    std::set_new_handler([] {
-        // Nothing that needs memory itself.
-        constexpr std::string_view sentence = "larkspan: fatal: There is no memory left.\n";
-        [[maybe_unused]] const auto written = ::write(STDERR_FILENO, sentence.data(), sentence.size());
-        std::abort();
-    });
+    std::set_new_handler(endWithoutMemory);
+    // Libraries ask for memory in other ways, too, and throw.
+    terminateBefore = std::set_terminate(endWithException);
 }
 
 }  // namespace larkspan::support

@@ -4,6 +4,8 @@
 
 #include <limits>
 #include <new>
+#include <stdexcept>
+#include <thread>
 
 namespace larkspan::support {
 
@@ -21,6 +23,24 @@ TEST(FatalErrorDeathTest, AProcessThatGetsNoMemoryEndsWithASentence)
         ::operator delete(::operator new(std::numeric_limits<std::ptrdiff_t>::max()));
     };
     EXPECT_DEATH(takeTooMuch(), "^larkspan: fatal: There is no memory left.\n$");
+}
+
+/// As a library does in a thread of its own.
+template <typename Exception>
+void endInAThreadBy(Exception exception)
+{
+    endWhenMemoryRunsOut();
+    std::thread([&exception] { throw exception; }).join();
+}
+
+TEST(FatalErrorDeathTest, SoDoesOneWhoseLibraryGetsNone)
+{
+    EXPECT_DEATH(endInAThreadBy(std::bad_alloc()), "^larkspan: fatal: There is no memory left.\n$");
+}
+
+TEST(FatalErrorDeathTest, AnotherExceptionIsNotTakenForWantOfMemory)
+{
+    EXPECT_DEATH(endInAThreadBy(std::runtime_error("something else")), "something else");
 }
 
 }  // namespace
