@@ -41,7 +41,9 @@ QVariantMap menuRowProperties(const platform::MenuRow& row)
     if (row.kind == Kind::information) properties.insert("enabled", false);
     if (row.dot != platform::MenuRow::Dot::none) properties.insert("icon-data", dotImage(row.dot));
     if (!row.keyEquivalent.empty()) {
-        const DBusMenuShortcut shortcut{{"Control", QString::fromStdString(row.keyEquivalent)}};
+        // Not by braces, with which Qt would write where it got no memory.
+        DBusMenuShortcut shortcut;
+        shortcut << (QStringList() << "Control" << QString::fromStdString(row.keyEquivalent));
         properties.insert("shortcut", QVariant::fromValue(shortcut));
     }
     // Not part of the protocol, but some hosts read it.
