@@ -6,6 +6,8 @@
 #include <csignal>
 #include <utility>
 
+#include "adapters/http/TlsPolicy.h"
+#include "adapters/http/WipedCurlMemory.h"
 #include "support/FatalError.h"
 
 namespace larkspan::adapters {
@@ -18,6 +20,12 @@ void blockSignals()
     sigset_t all;
     sigfillset(&all);
     pthread_sigmask(SIG_BLOCK, &all, nullptr);
+}
+
+CURLcode startLibraries()
+{
+    ignoreTlsConfiguration();
+    return initialiseCurlWithWipedMemory();
 }
 
 }  // namespace
@@ -79,7 +87,7 @@ void ClientLoop::run()
 void ClientLoop::open()
 {
     // Here and not in the constructor: initialising OpenSSL takes milliseconds that would delay the first frame.
-    static const CURLcode initialised = curl_global_init(CURL_GLOBAL_DEFAULT);
+    static const CURLcode initialised = startLibraries();
     auto* multi = initialised == CURLE_OK ? curl_multi_init() : nullptr;
     if (!multi) support::fatalError("libcurl cannot be started");
 

@@ -1,5 +1,6 @@
 #include "adapters/http/TlsPolicy.h"
 
+#include <openssl/crypto.h>
 #include <openssl/ssl.h>
 
 #include <algorithm>
@@ -7,6 +8,7 @@
 
 #include "adapters/http/CurlHandles.h"
 #include "adapters/http/TlsSession.h"
+#include "support/FatalError.h"
 
 namespace larkspan::adapters {
 
@@ -17,8 +19,8 @@ constexpr int lowestSecurityLevel = 2;
 CURLcode prepareContext(CURL*, void* tls, void*)
 {
     auto* context = static_cast<SSL_CTX*>(tls);
-    // The file that OPENSSL_CONF names may allow weak keys and ciphers; SSLKEYLOGFILE makes OpenSSL write the secrets
-    // of each session to a file.
+    // A process that used OpenSSL before has read its configuration, which may allow weak keys; SSLKEYLOGFILE makes
+    // OpenSSL write the secrets of each session to a file.
     SSL_CTX_set_security_level(context, std::max(SSL_CTX_get_security_level(context), lowestSecurityLevel));
     SSL_CTX_clear_options(context, SSL_OP_LEGACY_SERVER_CONNECT | SSL_OP_ALLOW_UNSAFE_LEGACY_RENEGOTIATION);
     SSL_CTX_set_keylog_callback(context, nullptr);
@@ -32,6 +34,12 @@ std::string systemCertificateBundle()
 {
     const auto* bundle = curl_version_info(CURLVERSION_NOW)->cainfo;
     return bundle ? bundle : "/etc/ssl/certs/ca-certificates.crt";
+}
+
+void ignoreTlsConfiguration()
+{
+    if (OPENSSL_init_crypto(OPENSSL_INIT_NO_LOAD_CONFIG, nullptr) != 1)
+        support::fatalError("OpenSSL cannot be started");
 }
 
 void requireVerifiedTls(CURL* transfer, const std::string& bundle)
