@@ -16,6 +16,14 @@ SettingsView::ValidationState invalid(std::string message)
     return {SettingsView::ValidationState::Kind::invalid, std::move(message)};
 }
 
+/// With a buffer of its own, so that the one that has held the key is released and not kept for later texts.
+std::string emptyText()
+{
+    std::string empty;
+    empty.reserve(SettingsView::longestKey);
+    return empty;
+}
+
 std::string failureText(APIKeyVerificationResult result)
 {
     switch (result) {
@@ -125,7 +133,7 @@ Task<void> SettingsView::verify(std::shared_ptr<SettingsView> self, std::string 
         co_return;
     }
     self->hasExistingKey = true;
-    self->apiKey = {};
+    self->apiKey = emptyText();
     self->validationState = {ValidationState::Kind::valid};
 }
 
@@ -144,7 +152,7 @@ Task<void> SettingsView::removeKey(std::shared_ptr<SettingsView> self)
 {
     auto removing = self->ports_.keys.deleteAPIKey();
     co_await std::move(removing);
-    self->apiKey = {};
+    self->apiKey = emptyText();
     self->hasExistingKey = false;
     self->validationState = {};
     if (self->onApiKeyDeleted_) self->onApiKeyDeleted_();

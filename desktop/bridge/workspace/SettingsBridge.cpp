@@ -1,5 +1,6 @@
 #include "bridge/workspace/SettingsBridge.h"
 
+#include <cstring>
 #include <utility>
 
 namespace larkspan::bridge {
@@ -10,6 +11,14 @@ SettingsBridge::SettingsBridge(
     , settings_(std::move(settings))
 {
     followChangesOf(*settings_);
+}
+
+void SettingsBridge::edit(const QString& text)
+{
+    // Qt does not overwrite what it releases.
+    auto typed = text.toUtf8();
+    settings_->edit(typed.toStdString());
+    explicit_bzero(typed.data(), static_cast<std::size_t>(typed.size()));
 }
 
 }  // namespace larkspan::bridge

@@ -52,7 +52,7 @@ public:
     MarkerValue demoHint() const { return MarkerValue::of(settings_->demoHint()); }
     MarkerValue search() const { return MarkerValue::of(settings_->search()); }
 
-    Q_INVOKABLE void edit(const QString& text) { settings_->edit(text.toStdString()); }
+    Q_INVOKABLE void edit(const QString& text);
     Q_INVOKABLE void saveAndVerify() { settings_->saveAndVerify(); }
     Q_INVOKABLE void confirmDelete() { settings_->confirmDelete(); }
     Q_INVOKABLE void cancelDelete() { settings_->cancelDelete(); }
