@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "presentation/text/InPart.h"
 #include "support/Capitalized.h"
 #include "support/IgnoringCase.h"
 
@@ -53,7 +54,8 @@ Tone componentStatusColor(std::string_view status)
 
 Pill componentStatusPill(std::string_view status)
 {
-    return {.text = support::capitalized(status), .tone = componentStatusColor(status)};
+    return {.text = support::capitalized(presentation::inPart(status, presentation::mostOfAWord)),
+        .tone = componentStatusColor(status)};
 }
 
 }  // namespace larkspan::components

@@ -6,6 +6,8 @@
 
 #include "presentation/text/NameText.h"
 #include "presentation/time/CompactRelativeTimeFormatter.h"
+#include "support/LegibleOutside.h"
+#include "support/Utf8.h"
 
 namespace larkspan::core {
 
@@ -18,6 +20,12 @@ using presentation::CompactRelativeTimeFormatter;
 namespace {
 
 constexpr std::ptrdiff_t shownIncidents = 5;
+
+/// No panel shows more of it, and the menu of the largest account is built within a turn.
+std::string rowTitle(std::string_view name)
+{
+    return presentation::nameText(name, support::bytesOf(name, support::longestOutside));
+}
 
 MenuRow information(std::string title)
 {
@@ -47,7 +55,7 @@ MenuRow::Dot statusDotColor(StatusPageStatus status)
 MenuRow pageRow(const StatusPage& page)
 {
     return {.kind = MenuRow::Kind::command,
-        .title = presentation::nameText(page.name),
+        .title = rowTitle(page.name),
         .action = MenuRow::Action::openStatusPage,
         .representedObject = page.id,
         .dot = statusDotColor(page.status),
@@ -85,7 +93,7 @@ void addActiveIncidents(std::vector<MenuRow>& rows, const std::vector<Incident>&
         if (!isActive(incident)) continue;
         if (count == 0) rows.push_back(information("Active Incidents"));
         if (++count > shownIncidents) break;
-        rows.push_back(information(presentation::nameText(incident.title)));
+        rows.push_back(information(rowTitle(incident.title)));
     }
     if (count > 0) rows.emplace_back();
 }

@@ -1,12 +1,15 @@
 #include "incidents/IncidentPills.h"
 
 #include "incidents/IncidentColors.h"
+#include "presentation/text/InPart.h"
 #include "support/Capitalized.h"
 
 namespace larkspan::incidents {
 
 using model::Incident;
 using model::IncidentStatus;
+using presentation::inPart;
+using presentation::mostOfAWord;
 using presentation::Pill;
 using presentation::Tone;
 
@@ -33,7 +36,8 @@ Pill statusPill(const Incident& incident)
 std::optional<Pill> severityPill(const Incident& incident)
 {
     if (!incident.severityName) return std::nullopt;
-    return Pill{.text = support::capitalized(*incident.severityName), .tone = severityColor(*incident.severityName)};
+    return Pill{.text = support::capitalized(inPart(*incident.severityName, mostOfAWord)),
+        .tone = severityColor(*incident.severityName)};
 }
 
 std::vector<Pill> headerPills(const Incident& incident)

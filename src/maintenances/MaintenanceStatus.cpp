@@ -1,5 +1,6 @@
 #include "maintenances/MaintenanceStatus.h"
 
+#include "presentation/text/InPart.h"
 #include "support/Capitalized.h"
 
 namespace larkspan::maintenances {
@@ -11,7 +12,7 @@ std::string maintenanceStatusLabel(std::string_view status)
     if (status == scheduled) return "Scheduled";
     if (status == inProgress) return "In Progress";
     if (status == completed) return "Completed";
-    return support::capitalized(status);
+    return support::capitalized(presentation::inPart(status, presentation::mostOfAWord));
 }
 
 Tone maintenanceStatusColor(std::string_view status)

@@ -1,5 +1,8 @@
 #include "support/Trimming.h"
 
+#include <cstddef>
+#include <utility>
+
 #include "support/Utf8.h"
 
 namespace larkspan::support {
@@ -10,6 +13,20 @@ namespace {
 bool isWhiteSpace(char32_t character)
 {
     return isBlank(character) || isLineEnd(character) || character == U'\u200B';
+}
+
+/// Whether a line end may begin with this byte.
+constexpr bool mayEndLine(char byte)
+{
+    return (byte >= '\n' && byte <= '\r') || byte == '\xC2' || byte == '\xE2';
+}
+
+/// Without a branch, for all bytes at once.
+bool anyMayEndLine(std::string_view bytes)
+{
+    bool may = false;
+    for (const char byte : bytes) may |= mayEndLine(byte);
+    return may;
 }
 
 template <typename IsUnwanted>
@@ -48,6 +65,37 @@ bool isLineEnd(char32_t character)
 {
     return (character >= U'\n' && character <= U'\r') || character == 0x85 || character == U'\u2028'
         || character == U'\u2029';
+}
+
+std::string inOneLine(std::string_view text)
+{
+    constexpr std::size_t atOnce = 64;
+
+    std::string line;
+    line.reserve(text.size());
+    bool isBetweenLines = false;
+    const auto add = [&](std::string_view piece) {
+        if (std::exchange(isBetweenLines, false)) line += ' ';
+        line += piece;
+    };
+    for (std::size_t at = 0; at < text.size();) {
+        const auto bytes = text.substr(at, atOnce);
+        if (!anyMayEndLine(bytes)) {
+            add(bytes);
+            at += bytes.size();
+            continue;
+        }
+        for (const auto end = at + bytes.size(); at < end;) {
+            const auto character = mayEndLine(text[at]) ? firstCharacter(text.substr(at)) : Utf8Character{U'x', 1};
+            if (isLineEnd(character.code)) {
+                isBetweenLines = !line.empty();
+            } else {
+                add(text.substr(at, character.length));
+            }
+            at += character.length;
+        }
+    }
+    return line;
 }
 
 std::string_view withoutBlanksAround(std::string_view text)

@@ -81,6 +81,15 @@ std::string_view beginningOf(std::string_view text, std::size_t most)
     return text.substr(0, most);
 }
 
+std::size_t bytesOf(std::string_view text, std::size_t characters)
+{
+    std::size_t begun = 0;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (!isContinuation(text[at]) && ++begun > characters) return at;
+    }
+    return text.size();
+}
+
 void appendCharacter(std::string& text, char32_t code)
 {
     const std::uint32_t bits = isScalarValue(code) ? code : U'\uFFFD';

@@ -27,6 +27,10 @@ Utf8Character lastCharacter(std::string_view bytes);
 /// valid.
 std::string_view beginningOf(std::string_view text, std::size_t most);
 
+/// The number of bytes of the first `characters` characters of `text`; of all of them if it has no more. `text` must be
+/// valid.
+std::size_t bytesOf(std::string_view text, std::size_t characters);
+
 /// Appends `code` to `text`; a surrogate or a code above U+10FFFF becomes U+FFFD.
 void appendCharacter(std::string& text, char32_t code);
 

@@ -66,7 +66,7 @@ template <typename Records>
 void addRows(const Records& records, std::vector<ActivityRow>& rows)
 {
     std::ranges::transform(
-        records, std::back_inserter(rows), [](const auto& record) { return ActivityRow::of(record); });
+        records, std::back_inserter(rows), [](const auto* record) { return ActivityRow::of(*record); });
 }
 
 }  // namespace
@@ -79,20 +79,23 @@ std::string_view periodLabel(std::string_view period)
     return found == labels.end() ? period : found->second;
 }
 
-std::vector<model::Incident> activeIncidents(const model::StatusPage& page, const core::AppStateManager& state)
+std::vector<const model::Incident*> activeIncidents(const model::StatusPage& page, const core::AppStateManager& state)
 {
-    std::vector<model::Incident> active;
-    std::ranges::copy_if(*state.incidents, std::back_inserter(active),
-        [&page](const auto& incident) { return incident.statusPageId == page.id && core::isActive(incident); });
+    std::vector<const model::Incident*> active;
+    for (const auto& incident : *state.incidents) {
+        if (incident.statusPageId == page.id && core::isActive(incident)) active.push_back(&incident);
+    }
     return active;
 }
 
-std::vector<model::Maintenance> activeMaintenances(const model::StatusPage& page, const core::AppStateManager& state)
+std::vector<const model::Maintenance*> activeMaintenances(
+    const model::StatusPage& page, const core::AppStateManager& state)
 {
-    std::vector<model::Maintenance> active;
-    std::ranges::copy_if(*state.maintenances, std::back_inserter(active), [&page](const auto& maintenance) {
-        return maintenance.statusPageId == page.id && core::hasStatus(maintenance, "in_progress");
-    });
+    std::vector<const model::Maintenance*> active;
+    for (const auto& maintenance : *state.maintenances) {
+        if (maintenance.statusPageId == page.id && core::hasStatus(maintenance, "in_progress"))
+            active.push_back(&maintenance);
+    }
     return active;
 }
 

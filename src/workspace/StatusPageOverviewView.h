@@ -39,10 +39,12 @@ struct StatusPageOverviewView {
 /// The name of a period of figures, such as "Last 24 Hours"; a period without one is its own name.
 std::string_view periodLabel(std::string_view period);
 
-/// The page's open incidents, acknowledged or not, in the order of the account.
-std::vector<model::Incident> activeIncidents(const model::StatusPage& page, const core::AppStateManager& state);
+/// The page's open incidents, acknowledged or not, in the order of the account, valid until its
+/// next change.
+std::vector<const model::Incident*> activeIncidents(const model::StatusPage& page, const core::AppStateManager& state);
 
-/// The page's maintenances in progress, in the order of the account.
-std::vector<model::Maintenance> activeMaintenances(const model::StatusPage& page, const core::AppStateManager& state);
+/// The page's maintenances in progress, in the order of the account, valid until its next change.
+std::vector<const model::Maintenance*> activeMaintenances(
+    const model::StatusPage& page, const core::AppStateManager& state);
 
 }  // namespace larkspan::workspace

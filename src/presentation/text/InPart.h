@@ -17,6 +17,9 @@ std::string moreText(std::size_t count);
 inline constexpr std::size_t mostOfARowsText = 2'000;
 inline constexpr std::size_t mostOfAText = 20'000;
 
+/// In bytes, for a word in a pill, which is one line at the end of a row.
+inline constexpr std::size_t mostOfAWord = 200;
+
 /// In bytes, for a message, which is laid out paragraph by paragraph.
 inline constexpr std::size_t mostOfAMessage = 128 * 1024;
 

@@ -21,6 +21,9 @@ constexpr std::array<CodeRange, 16> invisible{{{0x00, 0x1F}, {0x7F, 0x9F}, {0xAD
     {0x2800, 0x2800}, {0x3164, 0x3164}, {0xFE00, 0xFE0F}, {0xFEFF, 0xFEFF}, {0xFFA0, 0xFFA0}}};
 constexpr CodeRange tags{0xE0000, 0xE0FFF};
 
+/// In bytes: what begins with more characters that are drawn as nothing is no name that anybody gave.
+constexpr std::size_t mostBeforeAName = 1'000;
+
 bool isWithin(CodeRange range, char32_t code)
 {
     return range.first <= code && code <= range.second;
@@ -32,26 +35,22 @@ bool isVisible(char32_t code)
         && std::ranges::none_of(invisible, [code](CodeRange range) { return isWithin(range, code); });
 }
 
+bool hasVisibleCharacter(std::string_view text)
+{
+    while (!text.empty()) {
+        const auto character = support::firstCharacter(text);
+        if (isVisible(character.code)) return true;
+        text.remove_prefix(character.length);
+    }
+    return false;
+}
+
 }  // namespace
 
-std::string nameText(std::string_view name)
+std::string nameText(std::string_view name, std::size_t most)
 {
-    std::string line;
-    bool isSeen = name.size() > mostOfAText;
-    bool isBetweenLines = false;
-    const std::string shown = inPart(name, mostOfAText);
-    for (std::string_view rest = shown; !rest.empty();) {
-        const auto character = support::firstCharacter(rest);
-        if (support::isLineEnd(character.code)) {
-            isBetweenLines = !line.empty();
-        } else {
-            if (std::exchange(isBetweenLines, false)) line += ' ';
-            line += rest.substr(0, character.length);
-            isSeen = isSeen || isVisible(character.code);
-        }
-        rest.remove_prefix(character.length);
-    }
-    return isSeen ? line : "Unnamed";
+    if (!hasVisibleCharacter(support::beginningOf(name, mostBeforeAName))) return "Unnamed";
+    return support::inOneLine(inPart(name, most));
 }
 
 }  // namespace larkspan::presentation

@@ -208,6 +208,20 @@ TEST_F(StatusMenu, ListsAThousandPagesAllInTheirOrder)
     EXPECT_EQ(rows[1'002], separator);
 }
 
+TEST_F(StatusMenu, OfALongNameShowsTwoHundredCharacters)
+{
+    std::string name;
+    for (int count = 0; count < 300; ++count) name += "é";
+    const std::string shown = name.substr(0, 400) + "…";
+    pages = {page("p", name, StatusPageStatus::operational)};
+    EXPECT_EQ(menuRows(state())[2].title, shown);
+
+    pages[0].name = name.substr(0, 400);
+    incidents = {incident(name, IncidentStatus::active)};
+    EXPECT_EQ(menuRows(state())[2].title, name.substr(0, 400));
+    EXPECT_EQ(incidentTitles()[1], shown);
+}
+
 TEST_F(StatusMenu, OfSixActiveIncidentsShowsFiveAndTheSixthOnceOneOfThemIsResolved)
 {
     for (const auto* const title : {"1", "2", "3", "4", "5", "6"}) {

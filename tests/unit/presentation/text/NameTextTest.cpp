@@ -42,7 +42,25 @@ TEST(NameText, OfInvisibleCharactersAroundAVisibleOneIsTheNameAsItStands)
 TEST(NameText, OfAnExtremelyLongNameIsItsBeginning)
 {
     EXPECT_EQ(nameText(std::string(30'000, 'a')), std::string(20'000, 'a') + "…");
-    EXPECT_EQ(nameText(std::string(30'000, '\n')), "…");
+    EXPECT_EQ(nameText("Payment API", 7), "Payment…");
+}
+
+TEST(NameText, OfANameThatBeginsWithNothingVisibleForLongIsTheWordForARecordWithoutAName)
+{
+    EXPECT_EQ(nameText(std::string(30'000, '\n')), "Unnamed");
+    EXPECT_EQ(nameText(std::string(900, '\n') + "API"), "API");
+}
+
+TEST(NameText, FindsALineEndWhereverItStands)
+{
+    for (const std::string end : {"\n", "\r", "\v", "\u0085", "\u2028", "\u2029"}) {
+        for (std::size_t before = 1; before < 200; ++before) {
+            const std::string line(before, 'x');
+            EXPECT_EQ(nameText(line + end + "y"), line + " y") << before;
+            EXPECT_EQ(nameText(line + end), line) << before;
+        }
+    }
+    EXPECT_EQ(nameText("… “a” ©"), "… “a” ©");
 }
 
 }  // namespace
