@@ -11,6 +11,9 @@ namespace {
 
 const auto workPosted = static_cast<QEvent::Type>(QEvent::registerEventType());
 
+/// Half a frame of a usual display.
+constexpr std::chrono::milliseconds longestWhile{8};
+
 }  // namespace
 
 MainExecutor::~MainExecutor()
@@ -38,9 +41,40 @@ bool MainExecutor::drop()
 
 bool MainExecutor::event(QEvent* event) noexcept
 {
+    if (event->type() == QEvent::Timer) {
+        pause_.stop();
+        runForAWhile();
+        return true;
+    }
     if (event->type() != workPosted) return QObject::event(event);
+    if (!pause_.isActive()) startWhile();
+    if (isWhileOver()) return true;
     if (auto work = next()) (*work)();
     return true;
+}
+
+void MainExecutor::runForAWhile()
+{
+    auto work = next();
+    if (!work) return;
+    // First, so that a nested loop in the work goes on with what is queued.
+    startWhile();
+    while (work) {
+        (*work)();
+        if (isWhileOver()) return;
+        work = next();
+    }
+}
+
+void MainExecutor::startWhile()
+{
+    whileStart_ = std::chrono::steady_clock::now();
+    pause_.start(0, this);
+}
+
+bool MainExecutor::isWhileOver() const
+{
+    return std::chrono::steady_clock::now() - whileStart_ > longestWhile;
 }
 
 std::optional<support::UniqueFunction<void()>> MainExecutor::next()

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QBasicTimer>
 #include <QObject>
 
+#include <chrono>
 #include <deque>
 #include <mutex>
 #include <optional>
@@ -11,7 +13,9 @@
 namespace larkspan::adapters {
 
 /// The thread of Qt's event loop as an executor. Constructed and destroyed on that thread.
-/// Work that is queued on destruction is destroyed without being run, and so is the work which that posts.
+/// After some milliseconds of work, everything else that waits in the event loop, such as input, has its turn: Qt
+/// itself handles all posted events at once, also those that are posted meanwhile. Work that is queued on destruction
+/// is destroyed without being run, and so is the work which that posts.
 class MainExecutor final : public QObject, public platform::Executor {
 public:
     MainExecutor() = default;
@@ -28,10 +32,16 @@ protected:
     bool event(QEvent* event) noexcept override;
 
 private:
+    void runForAWhile();
+    void startWhile();
+    bool isWhileOver() const;
     std::optional<support::UniqueFunction<void()>> next();
 
     std::mutex mutex_;
     std::deque<support::UniqueFunction<void()>> queue_;
+    /// Runs as long as work does without a pause, and fires after everything else in the loop.
+    QBasicTimer pause_;
+    std::chrono::steady_clock::time_point whileStart_;
 };
 
 }  // namespace larkspan::adapters

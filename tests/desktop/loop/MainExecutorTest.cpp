@@ -121,6 +121,49 @@ TEST(MainExecutor, WorkThatPostsItselfOnAndOnLeavesRoomForOtherEvents)
     turnFor(10ms);
 }
 
+TEST(MainExecutor, PiecesOfLongWorkLeaveRoomForOtherEventsBetweenThem)
+{
+    MainExecutor executor;
+    int turns = 0;
+    QTimer other;
+    QObject::connect(&other, &QTimer::timeout, [&] { ++turns; });
+    other.start(0);
+    std::vector<int> turnsBefore;
+    const std::function<void()> piece = [&] {
+        turnsBefore.push_back(turns);
+        if (turnsBefore.size() < 5) executor.post(piece);
+        std::this_thread::sleep_for(10ms);
+    };
+
+    executor.post(piece);
+
+    ASSERT_TRUE(turnUntil([&] { return turnsBefore.size() == 5; }));
+    for (std::size_t at = 1; at < turnsBefore.size(); ++at) EXPECT_GT(turnsBefore[at], turnsBefore[at - 1]) << at;
+}
+
+TEST(MainExecutor, ANestedEventLoopInLongWorkGoesOnWithTheRest)
+{
+    MainExecutor executor;
+    QEventLoop nested;
+    std::vector<int> order;
+    executor.post([&] {
+        std::this_thread::sleep_for(10ms);
+        order.push_back(1);
+    });
+    executor.post([&] {
+        std::this_thread::sleep_for(10ms);
+        nested.exec();
+        order.push_back(3);
+    });
+    executor.post([&] {
+        order.push_back(2);
+        nested.quit();
+    });
+
+    ASSERT_TRUE(turnUntil([&] { return order.size() == 3; }));
+    EXPECT_EQ(order, (std::vector{1, 2, 3}));
+}
+
 TEST(MainExecutor, DestroysWorkLeftAtItsEndAndWhatThatPosts)
 {
     int destroyed = 0;
