@@ -26,13 +26,14 @@ class Client {
 public:
     static constexpr const char* key = "bench";
 
-    /// `main` and `worker` must outlive this object, and may be the same.
-    Client(simulator::Account account, platform::Executor& main, platform::Executor& worker)
+    /// `main` and `worker` must outlive this object, and may be the same; so must the panel's item, if there is one.
+    Client(simulator::Account account, platform::Executor& main, platform::Executor& worker,
+        platform::StatusItem* item = nullptr)
         : service_(withKey(std::move(account)))
         , transport_(service_, worker)
         , api_({worker, transport_, store_, clock_}, "kestrune.example")
-        , state_(core::AppStateManager::make(
-              {main, timers_, clock_, notifications_, networkMonitor_, statusItem_, updates_, windows_, store_, api_}))
+        , state_(core::AppStateManager::make({main, timers_, clock_, notifications_, networkMonitor_,
+              item ? *item : statusItem_, updates_, windows_, store_, api_}))
     {
         api::KeychainHelper::saveAPIKey(store_, key);
         state_->setupStatusItem({});
@@ -44,8 +45,6 @@ public:
         transport_.prepare("https://kestrune.example/user/api/" + path, std::move(body));
     }
 
-    /// The last rows of the panel's menu.
-    const std::vector<platform::MenuRow>& menu() const { return statusItem_.rows; }
     core::AppStateManager& state() { return *state_; }
     api::KestruneAPI& api() { return api_; }
     const std::shared_ptr<core::AppStateManager>& sharedState() const { return state_; }
