@@ -3,6 +3,8 @@
 #include <QDateTime>
 #include <QRegularExpression>
 
+#include <ctime>
+
 namespace larkspan::adapters {
 
 namespace {
@@ -75,7 +77,30 @@ QtLocaleText::QtLocaleText(const QLocale& locale)
 
 std::string QtLocaleText::dateOnly(support::Time moment) const
 {
-    return locale_.toString(inTheZone(moment).date(), dateFormat_).toStdString();
+    constexpr std::size_t mostRemembered = 5'000;
+
+    const auto day = dayInTheZone(moment);
+    const auto known = dates_.find(day);
+    if (known != dates_.end()) return known->second;
+    if (dates_.size() == mostRemembered) dates_.clear();
+    return dates_[day] = locale_.toString(day, dateFormat_).toStdString();
+}
+
+QDate QtLocaleText::dayInTheZone(support::Time moment) const
+{
+    constexpr std::chrono::milliseconds between{50};
+
+    // Looking for a change of the zone asks for the state of a file, which takes most of the time for the dates of a
+    // long list.
+    const auto now = std::chrono::steady_clock::now();
+    if (now >= nextLookForTheZone_) {
+        ::tzset();
+        nextLookForTheZone_ = now + between;
+    }
+    const std::time_t seconds = std::chrono::floor<std::chrono::seconds>(moment).time_since_epoch().count();
+    std::tm local{};
+    if (!::localtime_r(&seconds, &local)) return {};
+    return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday};
 }
 
 std::string QtLocaleText::timeOnly(support::Time moment) const

@@ -1,14 +1,20 @@
 #pragma once
 
 #include <QCollator>
+#include <QDate>
 #include <QLocale>
 #include <QString>
+
+#include <chrono>
+#include <map>
+#include <string>
 
 #include "platform/LocaleText.h"
 
 namespace larkspan::adapters {
 
-/// Texts in the given locale, by default the desktop's, and in the desktop's time zone at the time of the call.
+/// Texts in the given locale, by default the desktop's, and in the desktop's time zone at the time of the call; of
+/// dates alone, in its zone a moment ago.
 class QtLocaleText final : public platform::LocaleText {
 public:
     explicit QtLocaleText(const QLocale& locale = QLocale::system());
@@ -25,10 +31,15 @@ public:
     std::weak_ordering compareIgnoringCase(std::string_view left, std::string_view right) const override;
 
 private:
+    QDate dayInTheZone(support::Time moment) const;
+
     const QLocale locale_;
     const QString dateFormat_;
     const QString dayAndTimeFormat_;
     QCollator collator_;
+    /// The texts of the last dates; records of one list have many in common.
+    mutable std::map<QDate, std::string> dates_;
+    mutable std::chrono::steady_clock::time_point nextLookForTheZone_;
 };
 
 }  // namespace larkspan::adapters
