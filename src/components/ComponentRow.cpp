@@ -62,7 +62,7 @@ private:
 ComponentRow ComponentRow::of(const Component& component)
 {
     return {.id = component.id,
-        .title = presentation::nameText(component.name),
+        .title = presentation::rowTitle(component.name),
         .symbol = std::string(componentStatusIcon(component.status)),
         .tone = componentStatusColor(component.status),
         .description = presentation::inPart(component.description.value_or(""), presentation::mostOfARowsText),
@@ -91,7 +91,7 @@ std::vector<ComponentRow> componentRows(
     Sections sections(components.size() + groups.size() + 2);
     for (const auto& group : groups) {
         // Each id has one section: if the service repeats a group, its components are still shown once.
-        sections.add("group:" + group.id, presentation::nameText(group.name), std::exchange(grouped[group.id], {}));
+        sections.add("group:" + group.id, presentation::rowTitle(group.name), std::exchange(grouped[group.id], {}));
     }
     sections.addUnlessEmpty("ungrouped", "Ungrouped", ungrouped);
     sections.addUnlessEmpty("other", "Other Components", others);

@@ -9,7 +9,7 @@ namespace larkspan::incidents {
 IncidentRow IncidentRow::of(const model::Incident& incident, const platform::LocaleText& locale)
 {
     return {.id = incident.id,
-        .title = presentation::nameText(incident.title),
+        .title = presentation::rowTitle(incident.title),
         .tone = incidentStatusColor(incident.status),
         .severity = severityPill(incident),
         .date = locale.dateOnly(incident.createdAt),

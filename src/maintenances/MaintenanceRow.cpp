@@ -8,7 +8,7 @@ namespace larkspan::maintenances {
 MaintenanceRow MaintenanceRow::of(const model::Maintenance& maintenance, const platform::LocaleText& locale)
 {
     return {.id = maintenance.id,
-        .title = presentation::nameText(maintenance.title),
+        .title = presentation::rowTitle(maintenance.title),
         .status = statusPill(maintenance.status),
         .date = maintenance.scheduledFor ? locale.dateOnly(*maintenance.scheduledFor) : ""};
 }

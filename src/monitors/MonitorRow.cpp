@@ -31,7 +31,7 @@ MonitorRow MonitorRow::of(const Monitor& monitor, const MonitorRowView* view, bo
 {
     const bool isOpen = view && *view->showingMetrics;
     MonitorRow row{.id = monitor.id,
-        .title = presentation::nameText(monitor.name),
+        .title = presentation::rowTitle(monitor.name),
         .statusIcon = std::string(monitorStatusIcon(monitor.status)),
         .status = statusWord(monitor),
         .tone = monitorStatusColor(monitor.status),

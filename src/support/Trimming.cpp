@@ -1,6 +1,8 @@
 #include "support/Trimming.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <span>
 #include <utility>
 
 #include "support/Utf8.h"
@@ -15,18 +17,22 @@ bool isWhiteSpace(char32_t character)
     return isBlank(character) || isLineEnd(character) || character == U'\u200B';
 }
 
-/// Whether a line end may begin with this byte.
-constexpr bool mayEndLine(char byte)
+/// Whether a line end may begin with this byte, without a branch.
+constexpr std::uint8_t mayEndLine(char character)
 {
-    return (byte >= '\n' && byte <= '\r') || byte == '\xC2' || byte == '\xE2';
+    const auto byte = static_cast<std::uint8_t>(character);
+    const auto fromLineFeed = static_cast<std::uint8_t>(byte - '\n');
+    return (fromLineFeed <= '\r' - '\n') | (byte == 0xC2) | (byte == 0xE2);
 }
 
-/// Without a branch, for all bytes at once.
-bool anyMayEndLine(std::string_view bytes)
+constexpr std::size_t blockSize = 64;
+
+/// Of a fixed number of bytes, so that the compiler looks at many at once.
+bool anyMayEndLine(std::span<const char, blockSize> bytes)
 {
-    bool may = false;
+    std::uint8_t may = 0;
     for (const char byte : bytes) may |= mayEndLine(byte);
-    return may;
+    return may != 0;
 }
 
 template <typename IsUnwanted>
@@ -69,8 +75,6 @@ bool isLineEnd(char32_t character)
 
 std::string inOneLine(std::string_view text)
 {
-    constexpr std::size_t atOnce = 64;
-
     std::string line;
     line.reserve(text.size());
     bool isBetweenLines = false;
@@ -78,21 +82,21 @@ std::string inOneLine(std::string_view text)
         if (std::exchange(isBetweenLines, false)) line += ' ';
         line += piece;
     };
-    for (std::size_t at = 0; at < text.size();) {
-        const auto bytes = text.substr(at, atOnce);
-        if (!anyMayEndLine(bytes)) {
+    while (!text.empty()) {
+        auto bytes = text.substr(0, blockSize);
+        if (bytes.size() == blockSize && !anyMayEndLine(std::span<const char, blockSize>(bytes))) {
             add(bytes);
-            at += bytes.size();
+            text.remove_prefix(blockSize);
             continue;
         }
-        for (const auto end = at + bytes.size(); at < end;) {
-            const auto character = mayEndLine(text[at]) ? firstCharacter(text.substr(at)) : Utf8Character{U'x', 1};
+        for (const auto rest = text.size() - bytes.size(); text.size() > rest;) {
+            const auto character = mayEndLine(text.front()) != 0 ? firstCharacter(text) : Utf8Character{U'x', 1};
             if (isLineEnd(character.code)) {
                 isBetweenLines = !line.empty();
             } else {
-                add(text.substr(at, character.length));
+                add(text.substr(0, character.length));
             }
-            at += character.length;
+            text.remove_prefix(character.length);
         }
     }
     return line;

@@ -12,7 +12,7 @@ ActivityRow ActivityRow::of(const model::Incident& incident)
     return {.id = "incident-" + incident.id,
         .symbol = isUpdate ? "eye.fill" : "exclamationmark.triangle.fill",
         .tone = isUpdate ? Tone::orange : Tone::red,
-        .title = presentation::nameText(incident.title),
+        .title = presentation::rowTitle(incident.title),
         .caption = isUpdate ? "Incident Update" : "Active Incident"};
 }
 
@@ -21,7 +21,7 @@ ActivityRow ActivityRow::of(const model::Maintenance& maintenance)
     return {.id = "maintenance-" + maintenance.id,
         .symbol = "wrench.and.screwdriver.fill",
         .tone = Tone::blue,
-        .title = presentation::nameText(maintenance.title),
+        .title = presentation::rowTitle(maintenance.title),
         .caption = "Maintenance in Progress"};
 }
 

@@ -9,7 +9,7 @@ StatusPageRow StatusPageRow::of(const model::StatusPage& page)
 {
     const auto shown = presentation::StatusPagePresentation::of(page.status);
     return {.id = page.id,
-        .title = presentation::nameText(page.name),
+        .title = presentation::rowTitle(page.name),
         .symbol = std::string(shown.symbol),
         .tone = shown.tone,
         .status = {.text = std::string(shown.label), .tone = shown.tone}};

@@ -22,7 +22,7 @@ std::vector<Choice> choicesOf(std::string nameOfNone, const std::vector<Record>&
 {
     std::vector<Choice> entries{{.id = "", .name = std::move(nameOfNone)}};
     entries.reserve(records.size() + 1);
-    for (const auto& record : records) entries.push_back({.id = record.id, .name = nameText(record.name)});
+    for (const auto& record : records) entries.push_back({.id = record.id, .name = rowTitle(record.name)});
     return entries;
 }
 

@@ -12,6 +12,9 @@ inline constexpr std::size_t mostLines = 100;
 /// The text below the shown lines of `count`: how many more there are; empty for none.
 std::string moreText(std::size_t count);
 
+/// In bytes, for the title of a row: more than the widest window has room for in one line.
+inline constexpr std::size_t mostOfARowsTitle = 600;
+
 /// In bytes, for a text under a title in a list, and for a separate text: far more than anybody writes there, and short
 /// enough to be laid out at once. Layout takes quadratic time for a text without a place to break.
 inline constexpr std::size_t mostOfARowsText = 2'000;

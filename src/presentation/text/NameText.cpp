@@ -50,7 +50,13 @@ bool hasVisibleCharacter(std::string_view text)
 std::string nameText(std::string_view name, std::size_t most)
 {
     if (!hasVisibleCharacter(support::beginningOf(name, mostBeforeAName))) return "Unnamed";
-    return support::inOneLine(inPart(name, most));
+    if (name.size() <= most) return support::inOneLine(name);
+    return support::inOneLine(support::beginningOf(name, most)) + "…";
+}
+
+std::string rowTitle(std::string_view name)
+{
+    return nameText(name, mostOfARowsTitle);
 }
 
 }  // namespace larkspan::presentation

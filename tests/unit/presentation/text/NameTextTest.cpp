@@ -45,6 +45,13 @@ TEST(NameText, OfAnExtremelyLongNameIsItsBeginning)
     EXPECT_EQ(nameText("Payment API", 7), "Payment…");
 }
 
+TEST(RowTitle, OfALongNameIsAsMuchAsOneLineOfTheWidestWindowHas)
+{
+    EXPECT_EQ(rowTitle(std::string(600, 'a')), std::string(600, 'a'));
+    EXPECT_EQ(rowTitle(std::string(601, 'a')), std::string(600, 'a') + "…");
+    EXPECT_EQ(rowTitle(" \n"), "Unnamed");
+}
+
 TEST(NameText, OfANameThatBeginsWithNothingVisibleForLongIsTheWordForARecordWithoutAName)
 {
     EXPECT_EQ(nameText(std::string(30'000, '\n')), "Unnamed");
