@@ -10,7 +10,7 @@
 namespace larkspan::adapters {
 
 /// The largest body that the program accepts, in bytes.
-inline constexpr std::size_t largestAcceptedBody = 16 * 1024 * 1024;
+inline constexpr std::size_t largestAcceptedBody = 32 * 1024 * 1024;
 
 /// The limits and the trust of a transport; the defaults are the program's.
 struct TransportSettings {
