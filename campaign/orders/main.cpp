@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "Interruptions.h"
-#include "stage/StandardError.h"
+#include "stage/Row.h"
 
 namespace larkspan::campaign {
 
@@ -83,10 +83,5 @@ std::vector<Cell> cells()
 int main(int count, char** arguments)
 {
     using namespace larkspan::campaign;
-    useNoProxy();
-    const StandardError standardError;
-    Report report;
-    play(cells(), Selection(count, arguments, 61), report);
-    report.add("the standard error holds no key", standardError.linesWith(key));
-    return 0;
+    return playRow(cells(), Selection(count, arguments, 61));
 }

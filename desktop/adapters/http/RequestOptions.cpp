@@ -87,9 +87,14 @@ HeaderList setRequest(CURL* transfer, const platform::HttpRequest& request)
     }
     setOption(transfer, CURLOPT_CUSTOMREQUEST, request.method.c_str());
 
-    // An open connection may be about to close, and libcurl then sends the request again on another one. That is right
-    // for reads only.
-    if (!isRead(request)) setOption(transfer, CURLOPT_FRESH_CONNECT, 1L);
+    if (!isRead(request)) {
+        // An open connection may be about to close, and libcurl then sends the request again on another one. That is
+        // right for reads only.
+        setOption(transfer, CURLOPT_FRESH_CONNECT, 1L);
+        // Answers to writes have no content more often than others, and what comes late as one all the same would be
+        // taken for the next read's answer.
+        setOption(transfer, CURLOPT_FORBID_REUSE, 1L);
+    }
 
     auto lines = headerLines(request);
     setOption(transfer, CURLOPT_HTTPHEADER, lines.get());

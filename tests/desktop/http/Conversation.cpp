@@ -105,6 +105,12 @@ void Conversation::writeWithoutTls(std::string_view bytes)
     send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
 }
 
+void Conversation::awaitFirstBytes()
+{
+    char first = 0;
+    recv(socket_, &first, 1, MSG_PEEK);
+}
+
 void Conversation::ignore()
 {
     std::array<char, 4096> bytes;

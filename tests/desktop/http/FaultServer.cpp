@@ -106,7 +106,11 @@ bool FaultServer::shakeHands(Conversation& conversation)
     switch (greeting_) {
     case Greeting::silence: conversation.ignore(); return false;
     case Greeting::close: conversation.cut(); return false;
-    case Greeting::reset: conversation.reset(); return false;
+    case Greeting::reset:
+        // At once, it may come before the client has noticed that it is connected, which is another fault.
+        conversation.awaitFirstBytes();
+        conversation.reset();
+        return false;
     case Greeting::plainText:
         conversation.writeWithoutTls("HTTP/1.1 400 Bad Request\r\nContent-Length: 0\r\n\r\n");
         conversation.cut();

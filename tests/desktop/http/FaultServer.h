@@ -56,6 +56,7 @@ public:
     // For the server.
     bool shakeHands() { return SSL_accept(tls_.get()) == 1; }
     void writeWithoutTls(std::string_view bytes);
+    void awaitFirstBytes();
     void ignore();
     std::optional<ReceivedRequest> read();
     void interrupt();

@@ -116,6 +116,14 @@ TEST_P(EachWrite, GoesOverAFreshConnectionThoughOneIsAtHand)
     EXPECT_THAT(connectionsOf(server), ElementsAre(1, 2, 3));
 }
 
+TEST_P(EachWrite, LeavesItsConnectionToNoRead)
+{
+    FaultServer server(identity(), welcome);
+    EXPECT_THAT(send(write(server)), answers(200));
+    EXPECT_THAT(send(get(server.url())), answers(200));
+    EXPECT_THAT(connectionsOf(server), ElementsAre(1, 2));
+}
+
 TEST_P(EachWrite, ArrivesOnceWhereItsConnectionIsClosedBeforeTheFirstByteOfAnAnswer)
 {
     FaultServer server(identity(), [](Conversation& peer, const auto&) { peer.close(); });
