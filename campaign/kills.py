@@ -1,6 +1,7 @@
 #!/usr/bin/python3
-"""The program killed at random moments of saving and of deleting the key: the keyring has the old key, the new one or
-none, never two or a part of one, and the next start is a normal one.
+"""The program killed at random moments of saving and deleting the key, of posting and of refreshing: the keyring has the
+old key, the new one or none, never two or a part of one, the service has seen an order once or not at all, and the next
+start is a normal one.
 
 usage: campaign/kills.py BINARIES all|part [TEXT]
 """
@@ -12,11 +13,13 @@ import subprocess
 import sys
 import time
 from contextlib import ExitStack
+from dataclasses import dataclass
 from pathlib import Path
+from typing import Callable
 
 import whole
 
-ALL, PART = 200, 2
+ALL, PART = 1000, 4
 NEW_KEY = "a-new-key-of-the-same-account"
 # Saving includes a request to the service; afterwards nothing happens that a kill could interrupt.
 LONGEST_SECONDS = 0.6
@@ -30,59 +33,102 @@ def keys_in(session) -> int:
     return found.stdout.count("label = ")
 
 
-def save(program, display, keyring) -> None:
+def save(killed, world) -> None:
     """Saves another key than the one that the keyring has got since the settings were opened."""
     from service import KEY
-    screen = program.screen
+    screen = killed.screen
     screen.press("Open Settings")
     screen.wait_for_focus("API key")
-    display.type_text(NEW_KEY)
-    display.press_key("Tab")
+    world.display.type_text(NEW_KEY)
+    world.display.press_key("Tab")
     screen.wait_for_focus("Save & Verify")
-    keyring.store(KEY.encode())
-    display.press_key("Return")
+    world.keyring.store(KEY.encode())
+    world.display.press_key("Return")
 
 
-def delete(program, _display, _keyring) -> None:
-    program.screen.press("Settings")
-    program.screen.press("Delete API Key")
-    program.screen.wait_for_focus("Cancel")
-    program.screen.press("Delete")
+def delete(killed, _world) -> None:
+    killed.screen.press("Settings")
+    killed.screen.press("Delete API Key")
+    killed.screen.wait_for_focus("Cancel")
+    killed.screen.press("Delete")
 
 
-ORDERS = {"saving": save, "deleting": delete}
+def post(killed, world) -> None:
+    import opening
+    opening.first_page_of(killed.screen, world.display)
+    opening.tab(killed.screen, world.display, 2, ["Login errors"])
+    opening.first_event(killed.screen, world.display, "Login errors")
+    killed.screen.press("Escalate")
 
 
-def play_cell(what: str, seconds: float, session, display, the_keyring) -> tuple[str, list[str]]:
+def refresh(killed, _world) -> None:
+    killed.screen.press("Refresh Now")
+
+
+@dataclass(frozen=True)
+class Order:
+    begin: Callable
+    has_key: bool
+    may_leave: set[str]
+
+
+ORDERS = {
+    "saving": Order(save, False, {"the old key", "the new key", "no key"}),
+    "deleting": Order(delete, True, {"the old key", "no key"}),
+    "posting": Order(post, True, {"the old key"}),
+    "refreshing": Order(refresh, True, {"the old key"}),
+}
+
+
+@dataclass(frozen=True)
+class World:
+    """The peers of the program."""
+    display: object
+    service: object
+    session: object
+    keyring: object
+
+    def key_left(self) -> str:
+        from service import KEY
+        found = self.keyring.lookup()
+        return {KEY.encode(): "the old key", NEW_KEY.encode(): "the new key", b"": "no key"}.get(
+            found, f"another key of {len(found)} bytes")
+
+    def orders_seen(self) -> int:
+        return sum(request["method"] != "GET" for request in self.service.requests())
+
+
+def play_cell(order: Order, seconds: float, world: World) -> tuple[str, list[str]]:
     """Returns which key was left, and what was wrong."""
     import program
     from service import KEY, NAMES
     from test_key import MISSING
-    the_keyring.remove()
-    if what == "deleting":
-        the_keyring.store(KEY.encode())
-    with program.program(session, display) as killed:
-        killed.screen.wait_for(NAMES[0] if what == "deleting" else MISSING)
-        ORDERS[what](killed, display, the_keyring)
+    world.keyring.remove()
+    if order.has_key:
+        world.keyring.store(KEY.encode())
+    with program.program(world.session, world.display) as killed:
+        killed.screen.wait_for(NAMES[0] if order.has_key else MISSING)
+        order.begin(killed, world)
         time.sleep(seconds)
         killed.process.send_signal(signal.SIGKILL)
         killed.process.wait(10)
 
-    allowed = {KEY.encode(), NEW_KEY.encode(), b""} if what == "saving" else {KEY.encode(), b""}
-    found, count = the_keyring.lookup(), keys_in(session)
+    left, count = world.key_left(), keys_in(world.session)
     failures = []
-    if found not in allowed:
-        failures.append(f"The keyring has another key of {len(found)} bytes.")
-    if count != (1 if found else 0):
+    if left not in order.may_leave:
+        failures.append(f"The keyring has {left}.")
+    if count != (0 if left == "no key" else 1):
         failures.append(f"The keyring has {count} keys.")
-    with program.program(session, display) as again:
-        if found:
-            again.screen.wait_for_rows(NAMES)
-        else:
+    with program.program(world.session, world.display) as again:
+        if left == "no key":
             again.screen.wait_for(MISSING)
+        else:
+            again.screen.wait_for_rows(NAMES)
         if again.terminate() != 0:
             failures.append("The next start does not end well.")
-    return {KEY.encode(): "the old key", NEW_KEY.encode(): "the new key", b"": "none"}.get(found, "another"), failures
+    if world.orders_seen() > (1 if order.begin is post else 0):
+        failures.append(f"The service has seen {world.orders_seen()} orders.")
+    return left, failures
 
 
 def play(is_part: bool, text: str) -> None:
@@ -97,6 +143,7 @@ def play(is_part: bool, text: str) -> None:
         the_service = started.enter_context(service.simulator())
         the_session = started.enter_context(session.session(the_display, home))
         the_keyring = started.enter_context(keyring.keyring(the_session))
+        the_world = World(the_display, the_service, the_session, the_keyring)
         # The moments are the same in each run, so that one that fails can be played again.
         moments = random.Random(22)
         for number in range(PART if is_part else ALL):
@@ -106,8 +153,10 @@ def play(is_part: bool, text: str) -> None:
                 continue
             the_service.reset()
             the_service.accept(service.KEY, NEW_KEY)
+            the_service.open_incident("Login errors", page=service.PAGES[0]["id"])
+            the_service.forget()
             try:
-                left, failures = play_cell(what, seconds, the_session, the_display, the_keyring)
+                left, failures = play_cell(ORDERS[what], seconds, the_world)
             except AssertionError as error:
                 left, failures = "unknown", [str(error)]
             whole.report(cell, failures, left=left)

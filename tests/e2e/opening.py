@@ -8,10 +8,15 @@ from service import NAMES
 def first_page(start, display: Display, pages: list[str] = NAMES) -> Screen:
     """Starts the program and opens the first page of its list."""
     screen = start().screen
+    first_page_of(screen, display, pages)
+    return screen
+
+
+def first_page_of(screen: Screen, display: Display, pages: list[str] = NAMES) -> None:
+    """Opens the first page of the list."""
     screen.wait_for_rows(pages)
     display.press_key("Return")
     screen.wait_for("Current Status")
-    return screen
 
 
 def tab(screen: Screen, display: Display, number: int, rows: list[str]) -> None:
