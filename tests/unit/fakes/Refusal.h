@@ -16,10 +16,12 @@ struct Refusal {
 inline std::vector<Refusal> refusals()
 {
     using platform::HttpResponse;
-    return {{HttpResponse{409, ""}, "Server returned HTTP status code 409."},
+    return {{HttpResponse{403, ""}, "Server returned HTTP status code 403."},
+        {HttpResponse{409, ""}, "Server returned HTTP status code 409."},
         {HttpResponse{422, R"({"message": "No."})"}, "Server returned HTTP status code 422."},
         {HttpResponse{500, ""}, "Server returned HTTP status code 500."},
-        {platform::URLError::Code::timedOut, "The request timed out."}};
+        {platform::URLError::Code::timedOut, "The request timed out."},
+        {platform::URLError::Code::cancelled, "The request was cancelled."}};
 }
 
 }  // namespace larkspan::fakes

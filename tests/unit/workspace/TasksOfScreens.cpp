@@ -28,14 +28,34 @@ Started started(Program& program, const std::shared_ptr<Screen>& screen, std::fu
     return {.screen = screen, .leave = std::move(leave), .look = std::make_unique<Look>(program.main, screen, looks)};
 }
 
-/// Does `leave` if `behind` still exists.
-template <typename Behind>
-std::function<void()> leaving(
-    const std::shared_ptr<Behind>& behind, std::type_identity_t<void (*)(Behind& behind)> leave)
+/// Does `act` with the screen if it still exists.
+template <typename Screen>
+std::function<void()> doing(
+    const std::shared_ptr<Screen>& screen, std::type_identity_t<std::function<void(Screen& screen)>> act)
 {
-    return [weak = std::weak_ptr(behind), leave] {
-        if (const auto alive = weak.lock()) leave(*alive);
+    return [weak = std::weak_ptr(screen), act = std::move(act)] {
+        if (const auto alive = weak.lock()) act(*alive);
     };
+}
+
+/// Gives the order for the first time.
+template <typename Screen>
+Started ordered(Started opened, const std::shared_ptr<Screen>& screen,
+    std::type_identity_t<std::function<void(Screen& screen)>> give)
+{
+    opened.again = doing(screen, std::move(give));
+    if constexpr (requires { screen->action; }) {
+        opened.words = [weak = std::weak_ptr(screen->action)] {
+            const auto action = weak.lock();
+            return action ? action->alert.words() : "";
+        };
+        opened.isBusy = [weak = std::weak_ptr(screen->action)] {
+            const auto action = weak.lock();
+            return action && *action->isInProgress;
+        };
+    }
+    opened.again();
+    return opened;
 }
 
 void toTheOverview(StatusPageDetailView& page)
@@ -48,7 +68,7 @@ Started listAppears(Program& program, int& looks)
 {
     const auto page = program.page();
     page->select(tab);
-    const auto leave = leaving(page, toTheOverview);
+    const auto leave = doing(page, toTheOverview);
     if constexpr (tab == Tab::incidents) return started(program, page->incidents(), leave, looks);
     if constexpr (tab == Tab::monitors) return started(program, page->monitors(), leave, looks);
     if constexpr (tab == Tab::components) return started(program, page->components(), leave, looks);
@@ -59,7 +79,7 @@ Started openedIncident(Program& program, int& looks)
 {
     const auto list = program.loaded(Tab::incidents)->incidents();
     list->openIncident("7");
-    return started(program, list->detail(), leaving(list, [](auto& shown) { shown.closeIncident(); }), looks);
+    return started(program, list->detail(), doing(list, [](auto& shown) { shown.closeIncident(); }), looks);
 }
 
 template <incidents::IncidentDetailView::DetailAction action>
@@ -70,19 +90,18 @@ Started incidentAction(Program& program, int& looks)
     if constexpr (action == incidents::IncidentDetailView::DetailAction::resolve
         || action == incidents::IncidentDetailView::DetailAction::delete_)
         program.order("v1/incidents/7", Program::incidentRecord);
-    program.page()->incidents()->detail()->performAction(action);
-    return opened;
+    return ordered(
+        std::move(opened), program.page()->incidents()->detail(), [](auto& detail) { detail.performAction(action); });
 }
 
 Started incidentUpdate(Program& program, int& looks)
 {
     auto opened = openedIncident(program, looks);
     program.order("v1/incidents/7", Program::incidentRecord);
-    auto& detail = *program.page()->incidents()->detail();
-    detail.beginEditing();
-    detail.editMessage = "We look into it.";
-    detail.saveUpdate();
-    return opened;
+    const auto detail = program.page()->incidents()->detail();
+    detail->beginEditing();
+    detail->editMessage = "We look into it.";
+    return ordered(std::move(opened), detail, [](auto& shown) { shown.saveUpdate(); });
 }
 
 Started incidentFormAppears(Program& program, int& looks)
@@ -90,7 +109,7 @@ Started incidentFormAppears(Program& program, int& looks)
     const auto list = program.loaded(Tab::incidents)->incidents();
     program.order("components?status_page_id=p", Components::componentsBody);
     list->openCreateIncident();
-    return started(program, list->form(), leaving(list, [](auto& shown) { shown.showCreateIncident.close(); }), looks);
+    return started(program, list->form(), doing(list, [](auto& shown) { shown.showCreateIncident.close(); }), looks);
 }
 
 Started maintenanceFormAppears(Program& program, int& looks)
@@ -98,7 +117,7 @@ Started maintenanceFormAppears(Program& program, int& looks)
     const auto list = program.loaded(Tab::maintenances)->maintenances();
     program.order("components?status_page_id=p", Components::componentsBody);
     list->openCreateMaintenance();
-    return started(program, list->form(), leaving(list, [](auto& shown) { shown.showCreateSheet.close(); }), looks);
+    return started(program, list->form(), doing(list, [](auto& shown) { shown.showCreateSheet.close(); }), looks);
 }
 
 /// While its monitors are being fetched, the form of an incident is not complete.
@@ -118,10 +137,9 @@ Started incidentCreated(Program& program, int& looks)
     list->openCreateIncident();
     fill(program, *list->form());
     auto opened
-        = started(program, list->form(), leaving(list, [](auto& shown) { shown.showCreateIncident.close(); }), looks);
+        = started(program, list->form(), doing(list, [](auto& shown) { shown.showCreateIncident.close(); }), looks);
     program.order("v1/incidents", Program::incidentRecord);
-    list->form()->save();
-    return opened;
+    return ordered(std::move(opened), list->form(), [](auto& form) { form.save(); });
 }
 
 Started maintenanceCreated(Program& program, int& looks)
@@ -130,21 +148,21 @@ Started maintenanceCreated(Program& program, int& looks)
     list->openCreateMaintenance();
     fill(program, *list->form());
     auto opened
-        = started(program, list->form(), leaving(list, [](auto& shown) { shown.showCreateSheet.close(); }), looks);
+        = started(program, list->form(), doing(list, [](auto& shown) { shown.showCreateSheet.close(); }), looks);
     program.order("v1/maintenances", Program::workRecord);
-    list->form()->save();
-    return opened;
+    return ordered(std::move(opened), list->form(), [](auto& form) { form.save(); });
 }
 
-template <void (*act)(maintenances::MaintenanceDetailView& detail)>
+template <void (*act)(maintenances::MaintenanceDetailView& detail),
+    void (*prepare)(maintenances::MaintenanceDetailView& detail) = nullptr>
 Started maintenanceAction(Program& program, int& looks)
 {
     const auto list = program.loaded(Tab::maintenances)->maintenances();
     list->openMaintenance("7");
-    auto opened = started(program, list->detail(), leaving(list, [](auto& shown) { shown.closeMaintenance(); }), looks);
+    auto opened = started(program, list->detail(), doing(list, [](auto& shown) { shown.closeMaintenance(); }), looks);
     program.order("v1/maintenances/7", Program::workRecord);
-    act(*list->detail());
-    return opened;
+    if constexpr (prepare != nullptr) prepare(*list->detail());
+    return ordered(std::move(opened), list->detail(), [](auto& detail) { act(detail); });
 }
 
 using Work = maintenances::MaintenanceDetailView;
@@ -164,10 +182,14 @@ void deleteWork(Work& detail)
     detail.deleteRecord();
 }
 
-void saveEdits(Work& detail)
+void editWork(Work& detail)
 {
     detail.beginEditing();
     detail.editedTitle = "Upgrade of all";
+}
+
+void saveEdits(Work& detail)
+{
     detail.saveEdits();
 }
 
@@ -176,9 +198,16 @@ Started monitorRow(Program& program, int& looks)
 {
     const auto page = program.loaded(Tab::monitors);
     for (const auto* const path : {"monitors/1/run", "monitors/1/pause"}) program.order(path, "{}");
-    const bool checks = action == monitors::MonitorAction::checkNow;
-    page->monitors()->press("1", checks ? monitors::checkNowButton : monitors::pauseResumeButton);
-    return started(program, page->monitors(), leaving(page, toTheOverview), looks);
+    const auto list = page->monitors();
+    auto opened = started(program, list, doing(page, toTheOverview), looks);
+    opened.words = [weak = std::weak_ptr(list)] { return weak.expired() ? "" : weak.lock()->alert()->words(); };
+    opened.isBusy = [weak = std::weak_ptr(list)] { return !weak.expired() && weak.lock()->rows()[0].isBusy; };
+    return ordered(std::move(opened), list, [](auto& shown) {
+        const bool checks = action == monitors::MonitorAction::checkNow;
+        // An alert stands in front of the rows.
+        shown.alert()->dismiss();
+        shown.press("1", checks ? monitors::checkNowButton : monitors::pauseResumeButton);
+    });
 }
 
 Started metricsOpened(Program& program, int& looks)
@@ -187,7 +216,7 @@ Started metricsOpened(Program& program, int& looks)
     program.order("monitors/metrics?ids=1&range=24h", R"({"metrics": {"1": {"latency": [1, 2, 3]}}})");
     page->monitors()->toggleMetrics("1");
     const auto& row = page->monitors()->rowViews().at("1");
-    return started(program, row, leaving(page, toTheOverview), looks);
+    return started(program, row, doing(page, toTheOverview), looks);
 }
 
 template <monitors::MonitorAction action>
@@ -195,10 +224,9 @@ Started openedMonitor(Program& program, int& looks)
 {
     const auto list = program.loaded(Tab::monitors)->monitors();
     list->openMonitor("1");
-    auto opened = started(program, list->detail(), leaving(list, [](auto& shown) { shown.closeMonitor(); }), looks);
+    auto opened = started(program, list->detail(), doing(list, [](auto& shown) { shown.closeMonitor(); }), looks);
     for (const auto* const path : {"monitors/1/run", "monitors/1/pause"}) program.order(path, "{}");
-    list->detail()->perform(action);
-    return opened;
+    return ordered(std::move(opened), list->detail(), [](auto& detail) { detail.perform(action); });
 }
 
 Started componentAppears(Program& program, int& looks)
@@ -206,19 +234,20 @@ Started componentAppears(Program& program, int& looks)
     const auto list = program.loaded(Tab::components)->components();
     program.order("component-groups?status_page_id=p", Components::groupsBody);
     list->openComponent("api");
-    return started(program, list->detail(), leaving(list, [](auto& shown) { shown.closeComponent(); }), looks);
+    return started(program, list->detail(), doing(list, [](auto& shown) { shown.closeComponent(); }), looks);
 }
 
-template <void (*act)(components::ComponentDetailView& detail)>
+template <void (*act)(components::ComponentDetailView& detail),
+    void (*prepare)(components::ComponentDetailView& detail) = nullptr>
 Started componentAction(Program& program, int& looks)
 {
     const auto list = program.loaded(Tab::components)->components();
     list->openComponent("api");
     program.run();
-    auto opened = started(program, list->detail(), leaving(list, [](auto& shown) { shown.closeComponent(); }), looks);
+    auto opened = started(program, list->detail(), doing(list, [](auto& shown) { shown.closeComponent(); }), looks);
     program.order("components/api", Program::componentRecord);
-    act(*list->detail());
-    return opened;
+    if constexpr (prepare != nullptr) prepare(*list->detail());
+    return ordered(std::move(opened), list->detail(), [](auto& detail) { act(detail); });
 }
 
 using Part = components::ComponentDetailView;
@@ -228,10 +257,14 @@ void deletePart(Part& detail)
     detail.deleteRecord();
 }
 
-void saveChanges(Part& detail)
+void editPart(Part& detail)
 {
     detail.beginEditing();
     detail.editedName = "The API";
+}
+
+void saveChanges(Part& detail)
+{
     detail.saveChanges();
 }
 
@@ -277,39 +310,40 @@ Started keyDeleted(Program& program, int& looks)
 }
 
 using IncidentAction = incidents::IncidentDetailView::DetailAction;
+using Kind = TaskOfAScreen::Kind;
 using monitors::MonitorAction;
 
 constexpr TaskOfAScreen tasks[] = {
-    {"TheDashboardRefreshes", false, &dashboardRefreshes},
-    {"TheSettingsLookForTheKey", false, &openedSettings},
-    {"TheSettingsSaveAKey", false, &keySaved},
-    {"TheSettingsDeleteTheKey", false, &keyDeleted},
-    {"APageRefreshes", false, &overviewRefreshes},
-    {"IncidentsAppear", true, &listAppears<Tab::incidents>},
-    {"AnIncidentIsAcknowledged", true, &incidentAction<IncidentAction::acknowledge>},
-    {"AnIncidentIsResolved", true, &incidentAction<IncidentAction::resolve>},
-    {"AnIncidentIsEscalated", true, &incidentAction<IncidentAction::escalate>},
-    {"AnIncidentIsDeleted", true, &incidentAction<IncidentAction::delete_>},
-    {"AnIncidentIsUpdated", true, &incidentUpdate},
-    {"TheFormOfAnIncidentAppears", true, &incidentFormAppears},
-    {"AnIncidentIsCreated", true, &incidentCreated},
-    {"MaintenancesAppear", true, &listAppears<Tab::maintenances>},
-    {"AMaintenanceIsStarted", true, &maintenanceAction<&startWork>},
-    {"AMaintenanceIsCompleted", true, &maintenanceAction<&completeWork>},
-    {"AMaintenanceIsEdited", true, &maintenanceAction<&saveEdits>},
-    {"AMaintenanceIsDeleted", true, &maintenanceAction<&deleteWork>},
-    {"TheFormOfAMaintenanceAppears", true, &maintenanceFormAppears},
-    {"AMaintenanceIsCreated", true, &maintenanceCreated},
-    {"MonitorsAppear", true, &listAppears<Tab::monitors>},
-    {"AMonitorIsPausedInItsRow", true, &monitorRow<MonitorAction::pauseResume>},
-    {"AMonitorIsCheckedInItsRow", true, &monitorRow<MonitorAction::checkNow>},
-    {"TheMetricsOfAMonitorAreOpened", true, &metricsOpened},
-    {"AnOpenedMonitorIsPaused", true, &openedMonitor<MonitorAction::pauseResume>},
-    {"AnOpenedMonitorIsChecked", true, &openedMonitor<MonitorAction::checkNow>},
-    {"ComponentsAppear", true, &listAppears<Tab::components>},
-    {"AComponentAppears", true, &componentAppears},
-    {"AComponentIsEdited", true, &componentAction<&saveChanges>},
-    {"AComponentIsDeleted", true, &componentAction<&deletePart>},
+    {"TheDashboardRefreshes", Kind::look, false, &dashboardRefreshes},
+    {"TheSettingsLookForTheKey", Kind::look, false, &openedSettings},
+    {"TheSettingsSaveAKey", Kind::look, false, &keySaved},
+    {"TheSettingsDeleteTheKey", Kind::look, false, &keyDeleted},
+    {"APageRefreshes", Kind::look, false, &overviewRefreshes},
+    {"IncidentsAppear", Kind::look, true, &listAppears<Tab::incidents>},
+    {"AnIncidentIsAcknowledged", Kind::orderAndLook, true, &incidentAction<IncidentAction::acknowledge>},
+    {"AnIncidentIsResolved", Kind::order, true, &incidentAction<IncidentAction::resolve>},
+    {"AnIncidentIsEscalated", Kind::orderAndLook, true, &incidentAction<IncidentAction::escalate>},
+    {"AnIncidentIsDeleted", Kind::order, true, &incidentAction<IncidentAction::delete_>},
+    {"AnIncidentIsUpdated", Kind::order, true, &incidentUpdate},
+    {"TheFormOfAnIncidentAppears", Kind::look, true, &incidentFormAppears},
+    {"AnIncidentIsCreated", Kind::order, true, &incidentCreated},
+    {"MaintenancesAppear", Kind::look, true, &listAppears<Tab::maintenances>},
+    {"AMaintenanceIsStarted", Kind::order, true, &maintenanceAction<&startWork>},
+    {"AMaintenanceIsCompleted", Kind::order, true, &maintenanceAction<&completeWork>},
+    {"AMaintenanceIsEdited", Kind::order, true, &maintenanceAction<&saveEdits, &editWork>},
+    {"AMaintenanceIsDeleted", Kind::order, true, &maintenanceAction<&deleteWork>},
+    {"TheFormOfAMaintenanceAppears", Kind::look, true, &maintenanceFormAppears},
+    {"AMaintenanceIsCreated", Kind::order, true, &maintenanceCreated},
+    {"MonitorsAppear", Kind::look, true, &listAppears<Tab::monitors>},
+    {"AMonitorIsPausedInItsRow", Kind::order, true, &monitorRow<MonitorAction::pauseResume>},
+    {"AMonitorIsCheckedInItsRow", Kind::order, true, &monitorRow<MonitorAction::checkNow>},
+    {"TheMetricsOfAMonitorAreOpened", Kind::look, true, &metricsOpened},
+    {"AnOpenedMonitorIsPaused", Kind::orderAndLook, true, &openedMonitor<MonitorAction::pauseResume>},
+    {"AnOpenedMonitorIsChecked", Kind::orderAndLook, true, &openedMonitor<MonitorAction::checkNow>},
+    {"ComponentsAppear", Kind::look, true, &listAppears<Tab::components>},
+    {"AComponentAppears", Kind::look, true, &componentAppears},
+    {"AComponentIsEdited", Kind::order, true, &componentAction<&saveChanges, &editPart>},
+    {"AComponentIsDeleted", Kind::order, true, &componentAction<&deletePart>},
 };
 
 }  // namespace

@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <cstddef>
 #include <functional>
+#include <map>
 #include <memory>
+#include <optional>
+#include <set>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -24,8 +27,8 @@ using Tab = StatusPageDetailView::Tab;
 
 inline const std::string serviceURL = "https://service.example/user/api/";
 
-/// What becomes of the request that the task is about.
-enum class Answer { succeeds, fails, isLost };
+/// The failure of the request that a task is about; none if it succeeds.
+using Failure = std::optional<platform::HttpTransport::Result>;
 
 /// Looks at a screen as a bridge does: after its changes, for as long as it is shown.
 class Look {
@@ -54,8 +57,8 @@ private:
 /// A program whose account has the page "p" with one record of each kind.
 class Program : public fakes::PolledAccount {
 public:
-    explicit Program(Answer answer)
-        : answer_(answer)
+    explicit Program(Failure failure)
+        : failure_(std::move(failure))
     {
         servePages({"p"}, {{"p", "operational"}});
         serve("v1/incidents?status_page_id=p", "[" + incidentRecord + "]");
@@ -70,16 +73,30 @@ public:
         refresh();
     }
 
-    void serve(const std::string& path, const std::string& body) { transport.script(serviceURL + path, 200, body); }
+    void serve(const std::string& path, const std::string& body)
+    {
+        transport.script(serviceURL + path, 200, body);
+        served_.insert(path);
+    }
 
     /// The request for `path` gets the answer that the test is about, with this body if it succeeds.
     void order(const std::string& path, const std::string& body)
     {
-        switch (answer_) {
-        case Answer::succeeds: return serve(path, body);
-        case Answer::fails: return transport.script(serviceURL + path, 500, "");
-        case Answer::isLost: return transport.script(serviceURL + path, URLError::Code::networkConnectionLost);
-        }
+        serve(path, body);
+        ordered_[path] = body;
+        if (failure_) transport.script(serviceURL + path, *failure_);
+    }
+
+    /// From now on the request that the test is about succeeds.
+    void mend()
+    {
+        for (const auto& [path, body] : ordered_) serve(path, body);
+    }
+
+    /// From now on each request fails.
+    void failAll()
+    {
+        for (const auto& path : served_) transport.script(serviceURL + path, 500, "");
     }
 
     std::shared_ptr<StatusPageDetailView> page()
@@ -121,7 +138,9 @@ public:
         DashboardView::Ports{main, timers, clock, credentials, keys, state, locale, links, api});
 
 private:
-    const Answer answer_;
+    const Failure failure_;
+    std::set<std::string> served_;
+    std::map<std::string, std::string> ordered_;
 };
 
 }  // namespace larkspan::workspace
