@@ -9,15 +9,9 @@
 #include "account/Account.h"
 #include "api/KestruneAPI.h"
 #include "api/KeychainHelper.h"
-#include "core/AppStateManager.h"
 #include "demo/MemoryCredentialStore.h"
-#include "fakes/FakeNetworkPathMonitor.h"
-#include "fakes/FakeNotificationCenter.h"
-#include "fakes/FakeStatusItem.h"
-#include "fakes/FakeUpdater.h"
-#include "fakes/FakeWindowSystem.h"
+#include "fakes/FakeDesktop.h"
 #include "fakes/ManualClock.h"
-#include "fakes/ManualTimers.h"
 
 namespace larkspan::bench {
 
@@ -32,8 +26,7 @@ public:
         : service_(withKey(std::move(account)))
         , transport_(service_, worker)
         , api_({worker, transport_, store_, clock_}, "kestrune.example")
-        , state_(core::AppStateManager::make({main, timers_, clock_, notifications_, networkMonitor_,
-              item ? *item : statusItem_, updates_, windows_, store_, api_}))
+        , state_(core::AppStateManager::make(desktop_.ports(main, clock_, store_, api_, item)))
     {
         api::KeychainHelper::saveAPIKey(store_, key);
         state_->setupStatusItem({});
@@ -48,7 +41,7 @@ public:
     core::AppStateManager& state() { return *state_; }
     api::KestruneAPI& api() { return api_; }
     const std::shared_ptr<core::AppStateManager>& sharedState() const { return state_; }
-    platform::Timers& timers() { return timers_; }
+    platform::Timers& timers() { return desktop_.timers; }
     const platform::Clock& clock() const { return clock_; }
     platform::CredentialStore& store() { return store_; }
 
@@ -59,14 +52,8 @@ private:
         return account;
     }
 
-    fakes::ManualTimers timers_;
+    fakes::FakeDesktop desktop_;
     fakes::ManualClock clock_;
-    fakes::FakeNotificationCenter notifications_;
-    fakes::FakeNetworkPathMonitor networkMonitor_;
-    fakes::FakeStatusItem statusItem_;
-    fakes::FakeUpdater updater_;
-    std::shared_ptr<core::UpdaterController> updates_ = std::make_shared<core::UpdaterController>(updater_);
-    fakes::FakeWindowSystem windows_;
     simulator::MemoryCredentialStore store_;
     simulator::Service service_;
     PreparedTransport transport_;

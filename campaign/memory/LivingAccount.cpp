@@ -32,11 +32,11 @@ void LivingAccount::refresh()
     const auto before = *state_->lastRefresh;
     state_->refreshNow();
     executor_.run();
-    timers_.advance(1min);
+    desktop_.timers.advance(1min);
     executor_.run();
     if (*state_->lastRefresh == before) throw std::runtime_error("a cycle failed");
-    noticeCount_ += notifications_.added.size();
-    notifications_.added.clear();
+    noticeCount_ += desktop_.notifications.added.size();
+    desktop_.notifications.added.clear();
     forgetWhatIsOver();
 }
 

@@ -7,16 +7,10 @@
 #include <vector>
 
 #include "api/KestruneAPI.h"
-#include "core/AppStateManager.h"
 #include "demo/MemoryCredentialStore.h"
-#include "fakes/FakeNetworkPathMonitor.h"
-#include "fakes/FakeNotificationCenter.h"
-#include "fakes/FakeStatusItem.h"
-#include "fakes/FakeUpdater.h"
-#include "fakes/FakeWindowSystem.h"
+#include "fakes/FakeDesktop.h"
 #include "fakes/ManualClock.h"
 #include "fakes/ManualExecutor.h"
-#include "fakes/ManualTimers.h"
 #include "inprocess/InProcessTransport.h"
 #include "service/Service.h"
 
@@ -32,7 +26,7 @@ public:
 
     /// How often an incident or a maintenance was announced.
     std::size_t noticeCount() const { return noticeCount_; }
-    const std::vector<platform::MenuRow>& menu() const { return statusItem_.rows; }
+    const std::vector<platform::MenuRow>& menu() const { return desktop_.statusItem.rows; }
 
 private:
     class NoDelays final : public simulator::Delays {
@@ -54,20 +48,14 @@ private:
 
     fakes::ManualClock clock_;
     fakes::ManualExecutor executor_;
-    fakes::ManualTimers timers_;
-    fakes::FakeNotificationCenter notifications_;
-    fakes::FakeNetworkPathMonitor networkMonitor_;
-    fakes::FakeStatusItem statusItem_;
-    fakes::FakeUpdater updater_;
-    std::shared_ptr<core::UpdaterController> updates_ = std::make_shared<core::UpdaterController>(updater_);
-    fakes::FakeWindowSystem windows_;
+    fakes::FakeDesktop desktop_;
     simulator::MemoryCredentialStore store_;
     simulator::Service service_;
     NoDelays delays_{executor_};
     simulator::InProcessTransport transport_{service_, executor_, delays_};
     api::KestruneAPI api_{{executor_, transport_, store_, clock_}, "kestrune.example"};
-    std::shared_ptr<core::AppStateManager> state_ = core::AppStateManager::make(
-        {executor_, timers_, clock_, notifications_, networkMonitor_, statusItem_, updates_, windows_, store_, api_});
+    std::shared_ptr<core::AppStateManager> state_
+        = core::AppStateManager::make(desktop_.ports(executor_, clock_, store_, api_));
     std::size_t noticeCount_ = 0;
 };
 

@@ -7,19 +7,14 @@
 
 #include "core/AppStateManager.h"
 #include "core/OverallStatus.h"
-#include "fakes/FakeNetworkPathMonitor.h"
-#include "fakes/FakeNotificationCenter.h"
-#include "fakes/FakeStatusItem.h"
-#include "fakes/FakeUpdater.h"
-#include "fakes/FakeWindowSystem.h"
-#include "fakes/ManualTimers.h"
+#include "fakes/FakeDesktop.h"
 #include "fakes/ScriptedService.h"
 #include "support/LocalizedError.h"
 
 namespace larkspan::fakes {
 
 /// The application's state over a fake service, with a key stored.
-struct PolledAccount : ScriptedService {
+struct PolledAccount : ScriptedService, FakeDesktop {
     using Codes = std::vector<std::pair<std::string, std::string>>;
 
     /// An account without incidents and maintenances, until the test adds some.
@@ -41,10 +36,7 @@ struct PolledAccount : ScriptedService {
         return R"({"id": ")" + id + R"(", "title": ")" + title + R"(")" + rest + "}";
     }
 
-    core::AppStateManager::Ports ports()
-    {
-        return {main, timers, clock, notifications, network, statusItem, updates, windows, credentials, api};
-    }
+    core::AppStateManager::Ports ports() { return FakeDesktop::ports(main, clock, credentials, api); }
 
     std::shared_ptr<core::AppStateManager> remade() { return core::AppStateManager::make(ports()); }
 
@@ -103,13 +95,6 @@ struct PolledAccount : ScriptedService {
             + (*state->lastRefresh ? ", refreshed" : ", never") + (*state->hasCompletedInitialFetch ? ", seeded" : "");
     }
 
-    ManualTimers timers;
-    FakeNotificationCenter notifications;
-    FakeNetworkPathMonitor network;
-    FakeStatusItem statusItem;
-    FakeUpdater updater;
-    std::shared_ptr<core::UpdaterController> updates = std::make_shared<core::UpdaterController>(updater);
-    FakeWindowSystem windows;
     std::shared_ptr<core::AppStateManager> state = core::AppStateManager::make(ports());
 
 private:
