@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "BuildSettings.h"
+#include "adapters/ImmediateExit.h"
 #include "adapters/StatusService.h"
 #include "adapters/TerminationSignals.h"
 #include "qml/MainWindow.h"
@@ -92,6 +93,7 @@ int Application::run(adapters::SingleInstance& instance, bool isMinimized)
         window_->window().show();
         rules.applicationDidFinishLaunching();
     }
+    const adapters::ImmediateExit whileTheLoopRuns;
     return QGuiApplication::exec();
 }
 

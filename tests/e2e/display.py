@@ -23,8 +23,9 @@ class Place(NamedTuple):
 
 
 class Display:
-    def __init__(self, name: str, memory: Path) -> None:
+    def __init__(self, name: str, memory: Path, server: subprocess.Popen) -> None:
         self.name = name
+        self.server = server
         self._memory = memory
         self.surroundings = {"DISPLAY": name, "QT_QPA_PLATFORM": "xcb"}
 
@@ -103,10 +104,10 @@ def server(size: str = "1280x960") -> Iterator[Display]:
     reading, writing = os.pipe()
     with (tempfile.TemporaryDirectory(prefix="larkspan-display-") as memory,
           running("Xvfb", "-displayfd", str(writing), "-screen", "0", f"{size}x24", "-nolisten", "tcp", "-noreset",
-                  "-fbdir", memory, pass_fds=[writing], stderr=subprocess.DEVNULL)):
+                  "-fbdir", memory, pass_fds=[writing], stderr=subprocess.DEVNULL) as process):
         os.close(writing)
         with os.fdopen(reading) as announced:
-            made = Display(f":{announced.readline().strip()}", Path(memory, "Xvfb_screen0"))
+            made = Display(f":{announced.readline().strip()}", Path(memory, "Xvfb_screen0"), process)
         yield made
 
 

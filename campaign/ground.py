@@ -1,0 +1,139 @@
+#!/usr/bin/python3
+"""What the program stands on, taken away: the display and the accessibility bus, stopped and killed, and a session
+without either afterwards.
+
+usage: campaign/ground.py BINARIES all|part [TEXT]
+"""
+
+import os
+import signal
+import subprocess
+import sys
+import time
+from contextlib import ExitStack
+from pathlib import Path
+from typing import Callable, NamedTuple
+
+import whole
+
+SECONDS = 3
+
+
+class Ground(NamedTuple):
+    service: object
+    session: object
+    display: object
+    program: object
+    output: Path
+
+    def accessibility(self) -> list[int]:
+        """The processes of the accessibility bus: the one that starts it, and the bus."""
+        bus = self.session.bus.get_object("org.freedesktop.DBus", "/", introspect=False)
+        starter = int(bus.GetConnectionUnixProcessID("org.a11y.Bus", dbus_interface="org.freedesktop.DBus"))
+        started = subprocess.run(["pgrep", "--parent", str(starter)], capture_output=True, text=True, check=True).stdout.split()
+        return [starter, *map(int, started)]
+
+    def expect_refresh(self, by: Callable[[], None]) -> list[str]:
+        from patience import eventually
+        self.service.forget()
+        by()
+        try:
+            eventually(self.service.requests, "the program fetches nothing", 15)
+        except AssertionError as error:
+            return [str(error)]
+        return []
+
+    def by_button(self) -> None:
+        self.program.screen.press("Refresh Now")
+
+    def by_key(self) -> None:
+        self.display.press_key("F5")
+
+
+def display_stops(ground: Ground) -> list[str]:
+    ground.by_button()
+    ground.display.server.send_signal(signal.SIGSTOP)
+    time.sleep(SECONDS)
+    ground.display.server.send_signal(signal.SIGCONT)
+    return ground.expect_refresh(ground.by_button)
+
+
+def display_dies(ground: Ground) -> list[str]:
+    ground.by_button()
+    ground.display.server.send_signal(signal.SIGKILL)
+    code = ground.program.process.wait(10)
+    said = ground.output.read_text(encoding="utf-8")
+    return [f"It ended with {code} and said \"{said}\"."] if code != 1 or "X11" not in said else []
+
+
+def accessibility_stops(ground: Ground) -> list[str]:
+    processes = ground.accessibility()
+    for process in processes:
+        os.kill(process, signal.SIGSTOP)
+    failures = ground.expect_refresh(ground.by_key)
+    for process in processes:
+        os.kill(process, signal.SIGCONT)
+    return failures + ground.expect_refresh(ground.by_button)
+
+
+def accessibility_dies(ground: Ground) -> list[str]:
+    for process in ground.accessibility():
+        os.kill(process, signal.SIGKILL)
+    time.sleep(1)
+    failures = ground.expect_refresh(ground.by_key)
+    return failures if ground.program.terminate() == 0 else [*failures, "It does not end well."]
+
+
+CELLS = {
+    "the display stops": display_stops,
+    "the accessibility bus stops": accessibility_stops,
+    "the accessibility bus dies": accessibility_dies,
+    "the display dies": display_dies,
+}
+
+
+def play_cell(cell: Callable[[Ground], list[str]], service, home: Path) -> list[str]:
+    import display
+    import keyring
+    import program
+    import session
+    from processes import running
+    from service import KEY, NAMES
+    home.mkdir()
+    output = home / "output"
+    with ExitStack() as started:
+        the_display = started.enter_context(display.display())
+        the_session = started.enter_context(session.session(the_display, home))
+        started.enter_context(keyring.keyring(the_session)).store(KEY.encode())
+        file = started.enter_context(output.open("wb"))
+        process = started.enter_context(running(str(program.BINARY), env=program.surroundings(the_session), stdout=file, stderr=file))
+        the_program = program.Program(process, program.BINARY, the_session, the_display)
+        the_program.screen.wait_for_rows(NAMES)
+        failures = cell(Ground(service, the_session, the_display, the_program, output))
+    home = home.with_name(f"{home.name}-again")
+    home.mkdir()
+    with ExitStack() as started:
+        the_display = started.enter_context(display.display())
+        the_session = started.enter_context(session.session(the_display, home))
+        started.enter_context(keyring.keyring(the_session)).store(KEY.encode())
+        started.enter_context(program.program(the_session, the_display)).screen.wait_for_rows(NAMES)
+    return failures
+
+
+def play(is_part: bool, text: str) -> None:
+    import service
+    with service.simulator() as the_service:
+        for number, (name, cell) in enumerate(CELLS.items()):
+            if text not in name or (is_part and number != 0):
+                continue
+            the_service.reset()
+            home = Path(os.environ["LARKSPAN_E2E_WORLD"], f"home-{number}")
+            try:
+                failures = play_cell(cell, the_service, home)
+            except AssertionError as error:
+                failures = [str(error)]
+            whole.report(name, failures)
+
+
+if __name__ == "__main__":
+    sys.exit(whole.main(play))
