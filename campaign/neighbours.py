@@ -1,23 +1,24 @@
 #!/usr/bin/python3
-"""The programs beside this one, each killed or stopped at each stage, and back again: the window answers at once
-throughout, and what comes back is used again.
+"""The programs beside this one, each killed, stopped, slow or replaced by one that lies, at each stage, and as it was
+again: the window answers at once throughout, and what comes back is used again.
 
 usage: campaign/neighbours.py BINARIES all|part [TEXT]
 """
 
 import os
 import signal
+import subprocess
 import sys
 import threading
 import time
-from contextlib import ExitStack
+from contextlib import ExitStack, contextmanager
 from pathlib import Path
 from typing import Callable, Iterator, NamedTuple
 
 import whole
 
 MOST_MILLISECONDS = 100
-WAYS = {"killed": signal.SIGKILL, "stopped": signal.SIGSTOP}
+LIAR = Path(__file__).with_name("liar.py")
 STAGES = ("at rest", "in the middle of a refresh", "under open settings")
 
 
@@ -160,18 +161,88 @@ class Watch:
         return time.monotonic() - began
 
 
-def process_of(stage: Stage, bus_name: str) -> int:
-    return int(stage.session.bus.get_object("org.freedesktop.DBus", "/", introspect=False).GetConnectionUnixProcessID(
-        bus_name, dbus_interface="org.freedesktop.DBus"))
+class Standing:
+    """A neighbour that runs, and runs again."""
+
+    def __init__(self, stage: Stage, neighbour: Neighbour, running: ExitStack) -> None:
+        self._stage, self._neighbour, self._running = stage, neighbour, running
+        self.start()
+
+    def start(self) -> None:
+        self._peer = self._running.enter_context(self._neighbour.start(self._stage.session))
+
+    def end(self) -> None:
+        from patience import eventually
+        self._running.close()
+        eventually(lambda: not self._stage.session.has(self._neighbour.bus_name), "it does not end")
+
+    def process(self) -> int:
+        bus = self._stage.session.bus.get_object("org.freedesktop.DBus", "/", introspect=False)
+        return int(bus.GetConnectionUnixProcessID(self._neighbour.bus_name, dbus_interface="org.freedesktop.DBus"))
+
+    def be_used(self) -> None:
+        self._neighbour.use(self._stage, self._peer)
+
+    @contextmanager
+    def liar(self) -> Iterator[None]:
+        from processes import running
+        with running(sys.executable, str(LIAR), self._neighbour.bus_name, env=self._stage.session.surroundings,
+                     stdout=subprocess.PIPE, text=True) as liar:
+            assert liar.stdout.readline() == "ready\n"
+            yield
 
 
-def play_cell(stage: Stage, neighbour: Neighbour, way: str, moment: str, running: ExitStack) -> tuple[float, list[str]]:
+@contextmanager
+def killed(neighbour: Standing) -> Iterator[None]:
+    os.kill(neighbour.process(), signal.SIGKILL)
+    yield
+    neighbour.end()
+    neighbour.start()
+
+
+@contextmanager
+def stopped(neighbour: Standing) -> Iterator[None]:
+    process = neighbour.process()
+    os.kill(process, signal.SIGSTOP)
+    yield
+    os.kill(process, signal.SIGCONT)
+
+
+@contextmanager
+def slow(neighbour: Standing) -> Iterator[None]:
+    """It runs for a twentieth of the time."""
+    process, is_over = neighbour.process(), threading.Event()
+
+    def crawl() -> None:
+        while not is_over.is_set():
+            os.kill(process, signal.SIGSTOP)
+            is_over.wait(0.38)
+            os.kill(process, signal.SIGCONT)
+            time.sleep(0.02)
+
+    crawling = threading.Thread(target=crawl)
+    crawling.start()
+    try:
+        yield
+    finally:
+        is_over.set()
+        crawling.join()
+
+
+@contextmanager
+def lying(neighbour: Standing) -> Iterator[None]:
+    neighbour.end()
+    with neighbour.liar():
+        yield
+    neighbour.start()
+
+
+WAYS = {"killed": killed, "stopped": stopped, "slow": slow, "lying": lying}
+
+
+def play_cell(stage: Stage, neighbour: Standing, way: str, moment: str) -> tuple[float, list[str]]:
     """Returns the longest time that the window took to answer, in milliseconds, and what was wrong."""
-    from patience import eventually
-    made = running.enter_context(neighbour.start(stage.session))
-    process = process_of(stage, neighbour.bus_name)
-    neighbour.use(stage, made)
-
+    neighbour.be_used()
     if moment == "under open settings":
         # Loading them for the first time takes a while, whoever is there.
         stage.program.screen.press("Settings")
@@ -179,19 +250,13 @@ def play_cell(stage: Stage, neighbour: Neighbour, way: str, moment: str, running
     with Watch(stage) as watch:
         if moment == "in the middle of a refresh":
             stage.refresh()
-        os.kill(process, WAYS[way])
-        stage.service.open_incident("Seen by nobody")
-        if moment == "under open settings":
-            time.sleep(0.5)
-            stage.display.press_key("Escape")
-        stage.refresh()
-        time.sleep(2)
-        if way == "stopped":
-            os.kill(process, signal.SIGCONT)
-        else:
-            running.close()
-            eventually(lambda: not stage.session.has(neighbour.bus_name), "it does not end")
-            made = running.enter_context(neighbour.start(stage.session))
+        with WAYS[way](neighbour):
+            stage.service.open_incident("Seen by nobody")
+            if moment == "under open settings":
+                time.sleep(0.5)
+                stage.display.press_key("Escape")
+            stage.refresh()
+            time.sleep(2)
         time.sleep(0.5)
     failures = []
     longest = watch.longest * 1000
@@ -200,7 +265,7 @@ def play_cell(stage: Stage, neighbour: Neighbour, way: str, moment: str, running
     if watch.answers < 20:
         failures.append(f"The window answered only {watch.answers} times.")
     try:
-        neighbour.use(stage, made)
+        neighbour.be_used()
     except AssertionError as error:
         failures.append(f"What came back is not used: {error}")
     return longest, failures
@@ -238,7 +303,7 @@ def play(is_part: bool, text: str) -> None:
                     running.close()
                 stage = Stage(the_service, the_session, the_display, the_program)
                 try:
-                    longest, failures = play_cell(stage, known[name], way, moment, running)
+                    longest, failures = play_cell(stage, Standing(stage, known[name], running), way, moment)
                 except AssertionError as error:
                     longest, failures = 0.0, [str(error)]
                 whole.report(f"{name} {way} {moment}", failures, longest_milliseconds=round(longest))
