@@ -124,7 +124,7 @@ def play(is_part: bool, text: str) -> None:
     import service
     with service.simulator() as the_service:
         for number, (name, cell) in enumerate(CELLS.items()):
-            if text not in name or (is_part and cell is not display_dies):
+            if text not in name or (is_part and cell is not display_stops):
                 continue
             the_service.reset()
             home = Path(os.environ["LARKSPAN_E2E_WORLD"], f"home-{number}")

@@ -1,12 +1,16 @@
 #include "adapters/ImmediateExit.h"
 
+#include <QtGlobal>
+
+#include <atomic>
 #include <cstdlib>
 
 namespace larkspan::adapters {
 
 namespace {
 
-bool isImmediate = false;
+std::atomic<bool> isImmediate = false;
+std::atomic<QtMessageHandler> usualHandler = nullptr;
 
 void endAtOnce()
 {
@@ -14,18 +18,28 @@ void endAtOnce()
     if (isImmediate) std::_Exit(EXIT_FAILURE);
 }
 
+/// Qt warns before it calls `exit`. What is registered last is called first, before anything is destroyed that was
+/// made meanwhile.
+void registerAtEachWarning(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    constexpr int mostRegistrations = 1'000;
+    static std::atomic<int> registrations = 0;
+    if (type == QtWarningMsg && registrations++ < mostRegistrations) std::atexit(&endAtOnce);
+    usualHandler.load()(type, context, text);
+}
+
 }  // namespace
 
 ImmediateExit::ImmediateExit()
 {
-    // Called before whatever was registered, or constructed, earlier is destroyed.
-    std::atexit(&endAtOnce);
+    usualHandler = qInstallMessageHandler(&registerAtEachWarning);
     isImmediate = true;
 }
 
 ImmediateExit::~ImmediateExit()
 {
     isImmediate = false;
+    qInstallMessageHandler(usualHandler);
 }
 
 }  // namespace larkspan::adapters
