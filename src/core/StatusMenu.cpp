@@ -62,15 +62,15 @@ MenuRow pageRow(const StatusPage& page)
         .toolTip = std::string(displayName(page.status))};
 }
 
-std::string updatedText(const StatusMenuState& state)
+std::string updatedText(support::Time lastRefresh, support::Time now)
 {
-    return "Updated " + CompactRelativeTimeFormatter::relativeText(*state.lastRefresh, state.now);
+    return "Updated " + CompactRelativeTimeFormatter::relativeText(lastRefresh, now);
 }
 
 void addSummary(std::vector<MenuRow>& rows, const StatusMenuState& state)
 {
     rows.push_back(information(std::string(rawValue(state.overallStatus))));
-    if (state.lastRefresh) rows.push_back(information(updatedText(state)));
+    if (state.lastRefresh) rows.push_back(information(updatedText(*state.lastRefresh, state.now)));
     if (!state.isReachable) {
         rows.push_back(information("Network Offline"));
     } else if (state.hasRefreshError) {
@@ -123,7 +123,7 @@ std::vector<MenuRow> menuRows(const StatusMenuState& state)
 std::string statusTooltip(const StatusMenuState& state)
 {
     std::string text(statusSummaryText(state.overallStatus));
-    if (state.lastRefresh) text += " • " + updatedText(state);
+    if (state.lastRefresh) text += " • " + updatedText(*state.lastRefresh, state.now);
     if (!state.isReachable) {
         text += " • Network offline";
     } else if (state.hasRefreshError) {

@@ -27,8 +27,7 @@ void append(HeaderList& list, const std::string& line)
 {
     auto* grown = curl_slist_append(list.get(), line.c_str());
     if (!grown) support::fatalError("out of memory");
-    static_cast<void>(list.release());
-    list.reset(grown);
+    if (!list) list.reset(grown);  // A longer list begins where it began.
 }
 
 HeaderList headerLines(const platform::HttpRequest& request)

@@ -103,7 +103,7 @@ void FaultServer::serve(Peer& peer, int number)
 
 bool FaultServer::shakeHands(Conversation& conversation)
 {
-    switch (greeting_) {
+    switch (greeting_.load()) {
     case Greeting::silence: conversation.ignore(); return false;
     case Greeting::close: conversation.cut(); return false;
     case Greeting::reset:

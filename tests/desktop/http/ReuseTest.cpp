@@ -165,7 +165,7 @@ TEST_P(EachWrite, WaitsForNoRead)
         if (request.line.starts_with("GET")) peer.hang();
         peer.answer("200 OK");
     });
-    auto slow = begin(get(server.url()));
+    [[maybe_unused]] const auto unanswered = begin(get(server.url()));
     EXPECT_THAT(send(write(server)), answers(200));
 }
 
