@@ -153,34 +153,15 @@ Started maintenanceCreated(Program& program, int& looks)
     return ordered(std::move(opened), list->form(), [](auto& form) { form.save(); });
 }
 
-template <void (*act)(maintenances::MaintenanceDetailView& detail),
-    void (*prepare)(maintenances::MaintenanceDetailView& detail) = nullptr>
-Started maintenanceAction(Program& program, int& looks)
+/// Gives the order `act` after `prepare`.
+template <auto act, auto prepare = nullptr, typename Detail>
+Started detailAction(Started opened, const std::shared_ptr<Detail>& detail)
 {
-    const auto list = program.loaded(Tab::maintenances)->maintenances();
-    list->openMaintenance("7");
-    auto opened = started(program, list->detail(), doing(list, [](auto& shown) { shown.closeMaintenance(); }), looks);
-    program.order("v1/maintenances/7", Program::workRecord);
-    if constexpr (prepare != nullptr) prepare(*list->detail());
-    return ordered(std::move(opened), list->detail(), [](auto& detail) { act(detail); });
+    if constexpr (prepare != nullptr) prepare(*detail);
+    return ordered(std::move(opened), detail, [](auto& shown) { std::invoke(act, shown); });
 }
 
 using Work = maintenances::MaintenanceDetailView;
-
-void startWork(Work& detail)
-{
-    detail.startMaintenance();
-}
-
-void completeWork(Work& detail)
-{
-    detail.completeMaintenance();
-}
-
-void deleteWork(Work& detail)
-{
-    detail.deleteRecord();
-}
 
 void editWork(Work& detail)
 {
@@ -188,9 +169,14 @@ void editWork(Work& detail)
     detail.editedTitle = "Upgrade of all";
 }
 
-void saveEdits(Work& detail)
+template <auto... actions>
+Started maintenanceAction(Program& program, int& looks)
 {
-    detail.saveEdits();
+    const auto list = program.loaded(Tab::maintenances)->maintenances();
+    list->openMaintenance("7");
+    auto opened = started(program, list->detail(), doing(list, [](auto& shown) { shown.closeMaintenance(); }), looks);
+    program.order("v1/maintenances/7", Program::workRecord);
+    return detailAction<actions...>(std::move(opened), list->detail());
 }
 
 template <monitors::MonitorAction action>
@@ -237,25 +223,7 @@ Started componentAppears(Program& program, int& looks)
     return started(program, list->detail(), doing(list, [](auto& shown) { shown.closeComponent(); }), looks);
 }
 
-template <void (*act)(components::ComponentDetailView& detail),
-    void (*prepare)(components::ComponentDetailView& detail) = nullptr>
-Started componentAction(Program& program, int& looks)
-{
-    const auto list = program.loaded(Tab::components)->components();
-    list->openComponent("api");
-    program.run();
-    auto opened = started(program, list->detail(), doing(list, [](auto& shown) { shown.closeComponent(); }), looks);
-    program.order("components/api", Program::componentRecord);
-    if constexpr (prepare != nullptr) prepare(*list->detail());
-    return ordered(std::move(opened), list->detail(), [](auto& detail) { act(detail); });
-}
-
 using Part = components::ComponentDetailView;
-
-void deletePart(Part& detail)
-{
-    detail.deleteRecord();
-}
 
 void editPart(Part& detail)
 {
@@ -263,9 +231,15 @@ void editPart(Part& detail)
     detail.editedName = "The API";
 }
 
-void saveChanges(Part& detail)
+template <auto... actions>
+Started componentAction(Program& program, int& looks)
 {
-    detail.saveChanges();
+    const auto list = program.loaded(Tab::components)->components();
+    list->openComponent("api");
+    program.run();
+    auto opened = started(program, list->detail(), doing(list, [](auto& shown) { shown.closeComponent(); }), looks);
+    program.order("components/api", Program::componentRecord);
+    return detailAction<actions...>(std::move(opened), list->detail());
 }
 
 Started dashboardRefreshes(Program& program, int& looks)
@@ -328,10 +302,10 @@ constexpr TaskOfAScreen tasks[] = {
     {"TheFormOfAnIncidentAppears", Kind::look, true, &incidentFormAppears},
     {"AnIncidentIsCreated", Kind::order, true, &incidentCreated},
     {"MaintenancesAppear", Kind::look, true, &listAppears<Tab::maintenances>},
-    {"AMaintenanceIsStarted", Kind::order, true, &maintenanceAction<&startWork>},
-    {"AMaintenanceIsCompleted", Kind::order, true, &maintenanceAction<&completeWork>},
-    {"AMaintenanceIsEdited", Kind::order, true, &maintenanceAction<&saveEdits, &editWork>},
-    {"AMaintenanceIsDeleted", Kind::order, true, &maintenanceAction<&deleteWork>},
+    {"AMaintenanceIsStarted", Kind::order, true, &maintenanceAction<&Work::startMaintenance>},
+    {"AMaintenanceIsCompleted", Kind::order, true, &maintenanceAction<&Work::completeMaintenance>},
+    {"AMaintenanceIsEdited", Kind::order, true, &maintenanceAction<&Work::saveEdits, &editWork>},
+    {"AMaintenanceIsDeleted", Kind::order, true, &maintenanceAction<&Work::deleteRecord>},
     {"TheFormOfAMaintenanceAppears", Kind::look, true, &maintenanceFormAppears},
     {"AMaintenanceIsCreated", Kind::order, true, &maintenanceCreated},
     {"MonitorsAppear", Kind::look, true, &listAppears<Tab::monitors>},
@@ -342,8 +316,8 @@ constexpr TaskOfAScreen tasks[] = {
     {"AnOpenedMonitorIsChecked", Kind::orderAndLook, true, &openedMonitor<MonitorAction::checkNow>},
     {"ComponentsAppear", Kind::look, true, &listAppears<Tab::components>},
     {"AComponentAppears", Kind::look, true, &componentAppears},
-    {"AComponentIsEdited", Kind::order, true, &componentAction<&saveChanges, &editPart>},
-    {"AComponentIsDeleted", Kind::order, true, &componentAction<&deletePart>},
+    {"AComponentIsEdited", Kind::order, true, &componentAction<&Part::saveChanges, &editPart>},
+    {"AComponentIsDeleted", Kind::order, true, &componentAction<&Part::deleteRecord>},
 };
 
 }  // namespace
