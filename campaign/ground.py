@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""What the program stands on, taken away: the display and the accessibility bus, stopped and killed, and a session
-without either afterwards.
+"""What the program stands on, taken away: the display, the compositor and the accessibility bus, stopped and killed;
+and the next start afterwards.
 
 usage: campaign/ground.py BINARIES all|part [TEXT]
 """
@@ -50,7 +50,7 @@ class Ground(NamedTuple):
         self.display.press_key("F5")
 
 
-def display_stops(ground: Ground) -> list[str]:
+def server_stops(ground: Ground) -> list[str]:
     ground.by_button()
     ground.display.server.send_signal(signal.SIGSTOP)
     time.sleep(SECONDS)
@@ -58,12 +58,13 @@ def display_stops(ground: Ground) -> list[str]:
     return ground.expect_refresh(ground.by_button)
 
 
-def display_dies(ground: Ground) -> list[str]:
+def server_dies(ground: Ground) -> list[str]:
     ground.by_button()
     ground.display.server.send_signal(signal.SIGKILL)
     code = ground.program.process.wait(10)
     said = ground.output.read_text(encoding="utf-8")
-    return [f"It ended with {code} and said \"{said}\"."] if code != 1 or "X11" not in said else []
+    names_it = "X11" in said or "Wayland" in said
+    return [f"It ended with {code} and said \"{said}\"."] if code != 1 or not names_it else []
 
 
 def accessibility_stops(ground: Ground) -> list[str]:
@@ -84,37 +85,59 @@ def accessibility_dies(ground: Ground) -> list[str]:
     return failures if ground.program.terminate() == 0 else [*failures, "It does not end well."]
 
 
-CELLS = {
-    "the display stops": display_stops,
-    "the accessibility bus stops": accessibility_stops,
-    "the accessibility bus dies": accessibility_dies,
-    "the display dies": display_dies,
-}
+@contextmanager
+def on_x11(home: Path) -> Iterator[tuple]:
+    import display
+    import session
+    with display.display() as the_display, session.session(the_display, home) as the_session:
+        yield the_display, the_session
 
 
 @contextmanager
-def desktop(home: Path) -> Iterator[tuple]:
-    """A display and a session whose keyring has the key."""
-    import display
-    import keyring
+def on_wayland(home: Path) -> Iterator[tuple]:
     import session
+    import sway
+    with session.session(None, home) as the_session, sway.sway(the_session) as the_display:
+        yield the_display, the_session
+
+
+class Cell(NamedTuple):
+    desktop: Callable
+    take_away: Callable[[Ground], list[str]]
+
+
+CELLS = {
+    "the display stops": Cell(on_x11, server_stops),
+    "the accessibility bus stops": Cell(on_x11, accessibility_stops),
+    "the accessibility bus dies": Cell(on_x11, accessibility_dies),
+    "the display dies": Cell(on_x11, server_dies),
+    "the compositor stops": Cell(on_wayland, server_stops),
+    "the compositor dies": Cell(on_wayland, server_dies),
+}
+PART = ("the display stops", "the display dies")
+
+
+@contextmanager
+def desktop(cell: Cell, home: Path) -> Iterator[tuple]:
+    """A display and a session whose keyring has the key."""
+    import keyring
     from service import KEY
     home.mkdir()
-    with display.display() as the_display, session.session(the_display, home) as the_session, keyring.keyring(the_session) as the_keyring:
+    with cell.desktop(home) as (the_display, the_session), keyring.keyring(the_session) as the_keyring:
         the_keyring.store(KEY.encode())
         yield the_display, the_session
 
 
-def play_cell(cell: Callable[[Ground], list[str]], service, home: Path) -> list[str]:
+def play_cell(cell: Cell, service, home: Path) -> list[str]:
     import program
     from processes import running
     from service import NAMES
-    with desktop(home) as (the_display, the_session), (home / "output").open("wb") as output:
+    with desktop(cell, home) as (the_display, the_session), (home / "output").open("wb") as output:
         with running(str(program.BINARY), env=program.surroundings(the_session), stdout=output, stderr=output) as process:
             the_program = program.Program(process, program.BINARY, the_session, the_display)
             the_program.screen.wait_for_rows(NAMES)
-            failures = cell(Ground(service, the_session, the_display, the_program, home / "output"))
-    with desktop(home.with_name(f"{home.name}-again")) as (the_display, the_session):
+            failures = cell.take_away(Ground(service, the_session, the_display, the_program, home / "output"))
+    with desktop(cell, home.with_name(f"{home.name}-again")) as (the_display, the_session):
         with program.program(the_session, the_display) as again:
             again.screen.wait_for_rows(NAMES)
     return failures
@@ -124,7 +147,7 @@ def play(is_part: bool, text: str) -> None:
     import service
     with service.simulator() as the_service:
         for number, (name, cell) in enumerate(CELLS.items()):
-            if text not in name or (is_part and cell is not display_stops):
+            if text not in name or (is_part and name not in PART):
                 continue
             the_service.reset()
             home = Path(os.environ["LARKSPAN_E2E_WORLD"], f"home-{number}")

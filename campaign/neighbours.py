@@ -81,6 +81,14 @@ def use_portal(stage: Stage, portal) -> None:
         eventually(lambda is_dark=is_dark: (lightness() < 128) == is_dark, "the window does not follow the portal")
 
 
+def use_network(stage: Stage, network) -> None:
+    stale = "Status may be stale"
+    network.set_online(False)
+    stage.program.screen.wait_for(stale)
+    network.set_online(True)
+    stage.program.screen.wait_until_gone(stale)
+
+
 def neighbours() -> dict[str, Neighbour]:
     import keyring
     import peers
@@ -95,6 +103,7 @@ def neighbours() -> dict[str, Neighbour]:
         "keyring": Neighbour("org.freedesktop.secrets", with_key, use_keyring),
         "panel": Neighbour("org.kde.StatusNotifierWatcher", peers.panel, use_panel),
         "portal": Neighbour("org.freedesktop.portal.Desktop", peers.portal, use_portal),
+        "network": Neighbour(peers.Network.NAME, peers.network, use_network),
     }
 
 
@@ -210,7 +219,7 @@ def stopped(neighbour: Standing) -> Iterator[None]:
 
 @contextmanager
 def slow(neighbour: Standing) -> Iterator[None]:
-    """It runs for a twentieth of the time."""
+    """It is stopped most of the time."""
     process, is_over = neighbour.process(), threading.Event()
 
     def crawl() -> None:
@@ -294,6 +303,7 @@ def play(is_part: bool, text: str) -> None:
             the_service.reset()
             with ExitStack() as cell:
                 the_session = cell.enter_context(session.session(the_display, home))
+                the_session.surroundings["DBUS_SYSTEM_BUS_ADDRESS"] = the_session.surroundings["DBUS_SESSION_BUS_ADDRESS"]
                 running = cell.enter_context(ExitStack())
                 # The keyring that a cell is about is another one, which comes when the program runs.
                 (running if name == "keyring" else cell).enter_context(known["keyring"].start(the_session))

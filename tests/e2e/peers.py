@@ -87,6 +87,28 @@ class Portal:
         assert self._process.stdout.readline() == line
 
 
+class Network:
+    """What the desktop knows of the way out."""
+
+    NAME = "org.freedesktop.NetworkManager"
+    DISCONNECTED, CONNECTED = 20, 70
+
+    def __init__(self, session: Session) -> None:
+        self._bus = session.bus
+
+    def set_online(self, is_online: bool) -> None:
+        self._bus.call_blocking(self.NAME, "/org/freedesktop/NetworkManager", "org.freedesktop.DBus.Mock", "SetGlobalConnectionState",
+                                "u", (self.CONNECTED if is_online else self.DISCONNECTED,))
+
+
+@contextmanager
+def network(session: Session) -> Iterator[Network]:
+    """For programs whose system bus is that of the session."""
+    with running(sys.executable, "-m", "dbusmock", "--template", "networkmanager", env=session.surroundings, stdout=subprocess.DEVNULL):
+        eventually(lambda: session.has(Network.NAME), "no NetworkManager came")
+        yield Network(session)
+
+
 @contextmanager
 def portal(session: Session) -> Iterator[Portal]:
     with _peer(session, "appearance/settings_portal.py") as process:

@@ -21,8 +21,9 @@ output HEADLESS-1 resolution {WIDTH}x{HEIGHT} position 0 0 scale_filter linear
 
 
 class Sway:
-    def __init__(self, on: session.Session, hands: Hands) -> None:
+    def __init__(self, on: session.Session, server: subprocess.Popen, hands: Hands) -> None:
         self._session = on
+        self.server = server
         self._hands = hands
         self.scale = 1.0
 
@@ -105,14 +106,14 @@ def sway(on: session.Session) -> Iterator[Sway]:
                         "XDG_SESSION_TYPE": "wayland", "XDG_CURRENT_DESKTOP": "sway"}
     in_memory = {"WLR_BACKENDS": "headless", "WLR_RENDERER": "pixman", "WLR_LIBINPUT_NO_DEVICES": "1"}
     with log.open("w") as words, running("sway", "--config", str(settings), env=on.surroundings | in_memory,
-                                         stdout=words, stderr=words):
+                                         stdout=words, stderr=words) as server:
         listening = eventually(lambda: [path for path in runtime.glob("wayland-*") if path.is_socket()],
                                lambda: f"no compositor came; it says: {log.read_text()}")
         on.surroundings["WAYLAND_DISPLAY"] = listening[0].name
         eventually(lambda: (runtime / "sway").is_socket(), "the compositor takes no commands")
         hands = Hands(listening[0])
         try:
-            yield Sway(on, hands)
+            yield Sway(on, server, hands)
         finally:
             hands.close()
 
