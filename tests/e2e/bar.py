@@ -19,13 +19,15 @@ LOOK = "window { background: #e8e8e8; }"
 class Bar:
     """The panel as its user sees it, with screen reader and mouse."""
 
-    def __init__(self, screen: Screen, sway: Sway) -> None:
+    def __init__(self, screen: Screen, sway: Sway, log: Path) -> None:
         self._screen = screen
+        self._log = log
         self._sway = sway
 
     def wait_for_icon(self) -> tuple[int, int, int, int]:
         """Returns its place."""
-        return eventually(self._place_of_icon, "no icon is in the panel")
+        return eventually(self._place_of_icon, lambda: f"no icon is in the panel: it has {self._screen.things()} and says: "
+                          f"{self._log.read_text(encoding='utf-8')}")
 
     def icon(self) -> Picture:
         """The part of the panel in which the icon stands."""
@@ -92,10 +94,10 @@ def _difference(before: Picture, after: Picture) -> tuple[int, int, int, int] | 
 @contextmanager
 def bar(session: Session, sway: Sway) -> Iterator[Bar]:
     home = Path(session.surroundings["HOME"])
-    settings, look = home / "bar.json", home / "bar.css"
+    settings, look, log = home / "bar.json", home / "bar.css", home / "bar.log"
     settings.write_text(json.dumps(SETTINGS), encoding="utf-8")
     look.write_text(LOOK, encoding="utf-8")
-    with (home / "bar.log").open("w") as words, running(
+    with log.open("w") as words, running(
             "waybar", "--config", str(settings), "--style", str(look), env=session.surroundings, stdout=words, stderr=words) as process:
         eventually(lambda: session.has("org.kde.StatusNotifierWatcher"), "no panel came")
-        yield Bar(Screen(session, process.pid), sway)
+        yield Bar(Screen(session, process.pid), sway, log)
