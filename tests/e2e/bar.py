@@ -65,7 +65,8 @@ class Bar:
         eventually(lambda: not self._rows(), "the menu stays open")
 
     def _place_of_icon(self) -> tuple[int, int, int, int] | None:
-        icons = [thing for thing in self._screen.things() if thing.role == "panel" and thing.description]
+        # Its tool tip is no sign of it: the toolkit tells that only where nobody has asked before the panel knew it.
+        icons = [thing for thing in self._screen.things() if thing.role == "icon"]
         place = self._screen.extents(icons[0]) if icons else (0, 0, 0, 0)
         # It has a place of one pixel until the panel has made room for it.
         return place if place[2] > 1 else None

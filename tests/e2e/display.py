@@ -32,6 +32,11 @@ class Display:
     def _ask(self, *command: str) -> str:
         return subprocess.run(command, env=os.environ | {"DISPLAY": self.name}, capture_output=True, text=True, check=False).stdout
 
+    def has_window_manager(self) -> bool:
+        """Whether one does what it is asked for."""
+        self._ask("wmctrl", "-n", "1")
+        return self._ask("xprop", "-root", "_NET_NUMBER_OF_DESKTOPS").strip().endswith("= 1")
+
     def windows(self, process_id: int) -> list[str]:
         return self._ask("xdotool", "search", "--all", "--onlyvisible", "--pid", str(process_id), "--name", ".+").split()
 
@@ -114,5 +119,6 @@ def server(size: str = "1280x960") -> Iterator[Display]:
 @contextmanager
 def display() -> Iterator[Display]:
     with server() as made, running("openbox", env=os.environ | {"DISPLAY": made.name}, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL):
-        eventually(lambda: "window id" in made._ask("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "no window manager came")
+        # One that is about to come has its name already, and may leave a window that comes now unseen until something else happens.
+        eventually(made.has_window_manager, "no window manager came")
         yield made
