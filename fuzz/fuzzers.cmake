@@ -12,7 +12,7 @@ set(adapters ${CMAKE_SOURCE_DIR}/desktop/adapters)
 file(GLOB fuzzed_sources CONFIGURE_DEPENDS ${source}/model/*/*.cpp ${source}/messages/markdown/*.cpp)
 add_library(larkspan_fuzzed STATIC Fuzzer.cpp Target.cpp ${fuzzed_sources} $<TARGET_OBJECTS:larkspan_character_tables>
     ${source}/api/APIError.cpp ${source}/api/APIKey.cpp ${source}/api/RequestURL.cpp
-    ${source}/presentation/text/WebAddress.cpp
+    ${source}/platform/BoundedMenu.cpp ${source}/presentation/text/WebAddress.cpp
     ${source}/support/FatalError.cpp ${source}/support/IgnoringCase.cpp ${source}/support/LegibleOutside.cpp
     ${source}/support/LocalizedError.cpp ${source}/support/Trimming.cpp ${source}/support/Utf8.cpp
     ${adapters}/http/Redirect.cpp ${adapters}/http/RequestOptions.cpp ${adapters}/http/ResponseHead.cpp
