@@ -82,11 +82,17 @@ def use_portal(stage: Stage, portal) -> None:
 
 
 def use_network(stage: Stage, network) -> None:
-    stale = "Status may be stale"
-    network.set_online(False)
-    stage.program.screen.wait_for(stale)
+    from patience import eventually
+    screen, stale = stage.program.screen, "Status may be stale"
+
+    def goes() -> bool:
+        # Told again and again, since Qt does not hear what changes between its first question and the end of its start.
+        network.set_online(False)
+        return screen.shows(stale)
+
+    eventually(goes, "the window does not notice that the network has gone")
     network.set_online(True)
-    stage.program.screen.wait_until_gone(stale)
+    screen.wait_until_gone(stale)
 
 
 def neighbours() -> dict[str, Neighbour]:
