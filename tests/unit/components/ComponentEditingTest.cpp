@@ -231,6 +231,14 @@ TEST_F(DetailOfAComponent, LeftByEscapeWithoutAChangeClosesTheEditorFirstAndThen
     EXPECT_EQ(effects, Words{"dismiss Component 7"});
 }
 
+TEST_F(DetailOfAComponent, WithoutADescriptionIsLeftWithoutAQuestionWhereNothingIsTyped)
+{
+    editing();
+    EXPECT_FALSE(view->hasUnsavedText());
+    view->requestClose();
+    EXPECT_FALSE(*view->isEditing);
+}
+
 TEST_F(DetailOfAComponent, LeftByEscapeWithAnyChangeAsksFirst)
 {
     const std::vector<void (*)(ComponentDetailView&)> changes{[](auto& each) { each.editedName = "Typed"; },

@@ -32,7 +32,7 @@ INSTANTIATE_TEST_SUITE_P(Each, DomainOfALatencyGraph,
         DomainRow{"One", {37}, {0, 40}}, DomainRow{"RoundAlready", {100}, {0, 100}},
         DomainRow{"Constant", {312, 312}, {0, 350}}, DomainRow{"FarAboveZero", {9'001, 9'004}, {0, 10'000}},
         DomainRow{"Small", {1, 3}, {0, 3}}, DomainRow{"Negative", {-37, -1}, {-40, 0}},
-        DomainRow{"AcrossZero", {-120, 480}, {-200, 500}}),
+        DomainRow{"AcrossZero", {-120, 480}, {-200, 500}}, DomainRow{"NearerToTheLongerStep", {-10, 345}, {-100, 400}}),
     [](const auto& row) { return row.param.name; });
 
 TEST(DomainOfALatencyGraph, HoldsTheMostExtremeSamples)

@@ -158,6 +158,7 @@ TEST_F(RowOfAMonitor, AFailureStaysInTheRowAndRetryFetchesAgain)
 
     serve(fullWindow);
     row->retry();
+    EXPECT_EQ(*row->metricsLoadError, std::nullopt);
     EXPECT_EQ(row->instead().text, "Loading monitor metrics…");
     run();
     EXPECT_TRUE(row->showsPanel());

@@ -35,6 +35,7 @@ INSTANTIATE_TEST_SUITE_P(OtherAlphabets, Capitalized,
         CapitalizedRow{"КРИТИЧНО ёлка", "Критично Ёлка"}, CapitalizedRow{"ӘДІЛ", "Әділ"},
         CapitalizedRow{"ՓՈՔՐ", "Փոքր"}, CapitalizedRow{"重大 ALERT", "重大 Alert"}, CapitalizedRow{"×a", "×A"},
         CapitalizedRow{"«a» \u2014b", "«A» \u2014B"}, CapitalizedRow{"m\u2070A", "M\u2070a"},
+        CapitalizedRow{"a\u2000b", "A\u2000B"}, CapitalizedRow{"a\u3000b", "A\u3000B"},
         CapitalizedRow{"\u3003a", "\u3003A"}, CapitalizedRow{"\u3004A", "\u3004a"}));
 
 TEST(CapitalizedText, KeepsBytesThatAreNoText)

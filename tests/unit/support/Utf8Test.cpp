@@ -84,6 +84,17 @@ TEST(Character, IsAppendedInAsManyBytesAsItTakes)
     EXPECT_EQ(text, "a\u00e9\u2019\U0001F426");
 }
 
+TEST(Character, AtTheEndsOfEachLengthIsReadBackAsItWasAppended)
+{
+    for (const char32_t code : {U'\x7F', U'\u0080', U'\u07FF', U'\u0800', U'\uFFFF', U'\U00010000', U'\U0010FFFF'}) {
+        std::string text;
+        appendCharacter(text, code);
+        EXPECT_TRUE(isValidUtf8(text)) << static_cast<std::uint32_t>(code);
+        EXPECT_EQ(firstCharacter(text).code, code);
+        EXPECT_EQ(firstCharacter(text).length, text.size());
+    }
+}
+
 TEST(Character, ThatIsNoneIsAppendedAsAReplacement)
 {
     std::string text;

@@ -66,6 +66,9 @@ INSTANTIATE_TEST_SUITE_P(MailWithoutOneAddress, NotOpenable,
         "mailto:a@b.example,c@d.example", "mailto:a@b@c.example", "mailto:a%40b@c.example", "mailto:a b@c.example",
         "mailto:\u0430@c.example", "mailto:\"a\"@c.example", "mailto:A<a@c.example>", "mailto:a;b@c.example"));
 
+INSTANTIATE_TEST_SUITE_P(MailWithAControlCharacterInWhatIsLeftOut, NotOpenable,
+    testing::Values("mailto:a@b.example?subject=\n", "mailto:a@b.example?subject=\x7F"));
+
 TEST(Openable, MayBeAsLongAsBrowsersTake)
 {
     const auto text = "https://a.example/" + std::string(1'982, 'b');

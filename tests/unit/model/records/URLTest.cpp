@@ -74,8 +74,8 @@ INSTANTIATE_TEST_SUITE_P(InItsEscapes, InvalidURL,
         "https://example.com/%g2", "https://exam%ple.com/"));
 
 INSTANTIATE_TEST_SUITE_P(InItsParts, InvalidURL,
-    testing::Values("://example.com", ":", "1https://example.com", "ht!tp://example.com", "ht_tp:x", "https://a@b@c/",
-        "https://a:b:c/", "https://example.com:port/", "https://example.com:65536/",
+    testing::Values("://example.com", ":", "1https://example.com", "ht!tp://example.com", "ht_tp:x", "ht~tp:x",
+        "https://a@b@c/", "https://a:b:c/", "https://example.com:port/", "https://example.com:65536/",
         "https://example.com:99999999999999999999/", "https://[::1/", "https://[]/", "https://[::g]/",
         "https://[::1]x/", "https://[::1]:x/", "https://::1/", "https://u]@example.com/", "https://exam]ple.com/"));
 
