@@ -16,7 +16,7 @@ namespace larkspan::support {
 template <typename T>
 class Child {
 public:
-    Child(platform::Executor& executor, Task<T> task) { start(executor, run(state_, std::move(task))); }
+    Child(platform::Executor& executor, Task<T> task) { start(executor, run(Release{state_}, std::move(task))); }
 
     /// Returns the task's result or throws its exception. Await it once.
     Task<T> result() { return takeResult(state_); }
@@ -31,15 +31,27 @@ private:
     };
     using StatePointer = std::shared_ptr<State>;
 
-    /// Releases the awaiter when the task ends or is destroyed while running, since they hold each other.
+    /// Releases the awaiter when the task ends or is destroyed, perhaps before its first turn, since they hold each
+    /// other.
     struct Release {
+        explicit Release(StatePointer of)
+            : state(std::move(of))
+        {
+        }
+        Release(Release&&) noexcept = default;
+        Release& operator=(Release&&) = delete;
+        ~Release()
+        {
+            if (!state) return;
+            const auto released = std::exchange(state->waiter, std::nullopt);
+        }
+
         StatePointer state;
-        ~Release() { const auto released = std::exchange(state->waiter, std::nullopt); }
     };
 
-    static Task<void> run(StatePointer state, Task<T> task)
+    static Task<void> run(Release release, Task<T> task)
     {
-        const Release release{state};
+        const auto& state = release.state;
         try {
             if constexpr (std::is_void_v<T>) {
                 co_await std::move(task);

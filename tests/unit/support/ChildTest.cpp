@@ -147,6 +147,19 @@ TEST(Child, WhoseWorkIsDroppedLetsGoOfItsAwaiterToo)
     EXPECT_EQ(*witness, 0);
 }
 
+TEST(Child, ThatIsDroppedBeforeItsFirstTurnLetsGoOfItsAwaiterToo)
+{
+    ManualExecutor main;
+    std::optional<Completion<void>> answer;
+    const auto witness = std::make_shared<int>(0);
+    start(main, awaitChild(main, &answer, witness));
+    main.runOne();
+    ASSERT_FALSE(answer) << "the child has begun";
+    ASSERT_EQ(witness.use_count(), 2);
+    main.drop();
+    EXPECT_EQ(witness.use_count(), 1);
+}
+
 }  // namespace
 
 }  // namespace larkspan::support
