@@ -16,7 +16,7 @@ TEST(URLError, EachCodeHasASentenceOfItsOwn)
     for (auto code = 0; code <= static_cast<int>(URLError::Code::unknown); ++code, ++codes) {
         const URLError error(static_cast<URLError::Code>(code));
         EXPECT_EQ(static_cast<int>(error.code()), code);
-        const auto text = error.localizedDescription();
+        const auto& text = error.localizedDescription();
         EXPECT_TRUE(text.front() >= 'A' && text.front() <= 'Z' && text.ends_with('.')) << text;
         texts.insert(text);
     }
